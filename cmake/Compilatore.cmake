@@ -1,0 +1,12 @@
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+if(MSVC)
+  add_compile_options(/W4 /utf-8 $<$<BOOL:${PLAKERA_WERROR}>:/WX>)
+else()
+  add_compile_options(-Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+                      $<$<BOOL:${PLAKERA_WERROR}>:-Werror>)
+endif()
+if(PLAKERA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

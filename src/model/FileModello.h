@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/Modello.h"
+#include "model/Numeri.h"
+
+#include <QByteArray>
+#include <QLocale>
+
+/// The model file: one value a line, Windows-1252, CR LF. The layout is fixed to the line because
+/// Vastrel reads the same file.
+namespace FileModello {
+
+/// Parses byte into modello: the counts start from 0, NomeFile stays. Throws ErroreSistema (62 past
+/// the end, 9 beyond 100 elements, 6 or 380 for a value that cannot be stored); what was read until
+/// then stays in the model.
+void Analizza(const QByteArray &byte, Modello &modello);
+
+/// The whole file. The locale's decimal separator is that of printed and plain numbers.
+QByteArray Componi(const Modello &modello, const QLocale &locale = QLocale());
+
+/// Reads the file. Throws ErroreSistema (53, 75, 76 ... for the file, and those of Analizza).
+void Carica(Modello &modello, const QString &percorso);
+
+/// Replaces the file atomically: after a failure (thrown as ErroreSistema 61, 70, 75, 76, 57) the old
+/// file stands whole and no temporary file is left. Follows a symbolic link and keeps the file's mode.
+void Salva(const Modello &modello, const QString &percorso, const QLocale &locale = QLocale());
+
+/// Carica, reporting a failure through avviso as "impossibile leggere file ", NomeFile, a line feed,
+/// the number, a line feed and the description. True when the model was read to the end.
+bool LeggeModello(Modello &modello, const QString &percorso, const Numeri::Avviso &avviso);
+
+/// The editor's save: writes to percorso; a failure is thrown, not reported.
+void ScriveModello(const Modello &modello, const QString &percorso);
+
+} // namespace FileModello

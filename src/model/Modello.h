@@ -1,0 +1,171 @@
+#pragma once
+
+#include "model/Tabella.h"
+
+#include <QString>
+
+#include <utility>
+
+/// 16-bit booleans, as models keep them.
+inline constexpr qint16 Vero = -1;
+inline constexpr qint16 Falso = 0;
+
+/// A variable datum that Vastrel prints; members in file order. An empty Nome marks an absent
+/// element, which keeps its slot.
+struct Campo
+{
+    QString Nome;
+    QString Testo;           ///< test text, shown on the preview and printed by the test print
+    QString Maschera;        ///< print mask; exactly "No" = not printed
+    double X = 0;            ///< left edge, mm
+    double Y = 0;            ///< top edge, mm
+    QString Font;            ///< family name
+    qint16 Dimensione = 0;   ///< whole points
+    qint16 Grassetto = Falso; ///< Vero or Falso
+    QString MascheraDefault;
+    QString Descrizione;
+
+    bool operator==(const Campo &) const = default;
+};
+
+/// A rectangle, a fixed caption, or both; members in file order.
+struct Cornice
+{
+    QString Nome;
+    QString Testo;
+    double X = 0; ///< left edge, mm
+    double Y = 0; ///< top edge, mm
+    QString Font;
+    qint16 Dimensione = 0;    ///< whole points
+    qint16 Grassetto = Falso; ///< Vero or Falso
+    QString Descrizione;
+    double Altezza = 0;       ///< mm
+    double Larghezza = 0;     ///< mm
+    double Bordo = 0;         ///< whole part: 1 box, 2 top line, else none; fraction: thickness in mm
+    qint16 ColoreCornice = 0; ///< palette index 0..15
+    qint16 ColoreTesto = 0;   ///< palette index 0..15
+
+    bool operator==(const Cornice &) const = default;
+};
+
+/// A picture file of the models folder; members in file order.
+struct Immagine
+{
+    QString Nome; ///< file name without folder
+    double X = 0; ///< left edge, mm
+    double Y = 0; ///< top edge, mm
+    QString Descrizione;
+    double Altezza = 0;   ///< mm
+    double Larghezza = 0; ///< mm
+    double Bordo = 0;     ///< stored and edited, not used when printing
+
+    bool operator==(const Immagine &) const = default;
+};
+
+/// The body-row area, all in mm from the top of the sheet.
+struct ParametriRighe
+{
+    double yInizio = 0;
+    double yFine = 0;
+    double Interlinea = 0;
+    double InterlineaDescr = 0;
+    QString SeguePag;
+
+    bool operator==(const ParametriRighe &) const = default;
+};
+
+/// The scan shown behind the preview. The four measures are kept as the user typed them.
+struct ImmagineSfondo
+{
+    QString File;
+    QString Ximmagine; ///< width, mm
+    QString Yimmagine; ///< height, mm
+    QString XPos;      ///< left edge, mm
+    QString YPos;      ///< top edge, mm
+    qint16 Visualizza = 0; ///< check box value: 0, 1 or 2
+
+    bool operator==(const ImmagineSfondo &) const = default;
+};
+
+/// The three kinds of element; also the order in which the file holds and the printer prints them.
+enum class Genere { Campo, Cornice, Immagine };
+
+/// One print model: a plain value. Elements of a kind occupy slots 1 to their count; slots above
+/// the count keep what they held. The slot number is an element's identity while the model is open.
+struct Modello
+{
+    static constexpr QLatin1String SeguePagPredefinito{"segue su pagina successiva"};
+
+    QString NomeFile; ///< with ".Mod", without folder
+    QString Tipo;
+
+    qint16 NumCampi = 0;
+    qint16 NumCornici = 0;
+    qint16 NumImmagini = 0;
+    Tabella<Campo> Campi;
+    Tabella<Cornice> Cornici;
+    Tabella<Immagine> Immagini;
+
+    ParametriRighe Righe;
+    ImmagineSfondo Sfondo;
+
+    bool operator==(const Modello &) const = default;
+
+    /// Calls azione with the table of the kind, for what the three kinds share.
+    template <typename Azione>
+    decltype(auto) Con(Genere genere, Azione &&azione);
+    template <typename Azione>
+    decltype(auto) Con(Genere genere, Azione &&azione) const;
+
+    qint16 &Numero(Genere genere);
+    qint16 Numero(Genere genere) const;
+    /// The last slot that a walk over the elements visits: the count, but never beyond the table
+    /// (a refused 101st addition leaves the count at 101).
+    int UltimoSlot(Genere genere) const;
+    QString &Nome(Genere genere, int indice);
+    const QString &Nome(Genere genere, int indice) const;
+    double &X(Genere genere, int indice); ///< mm
+    double &Y(Genere genere, int indice); ///< mm
+    QString &Descrizione(Genere genere, int indice);
+    /// False when the element is deleted (empty Nome). A new image has no Nome yet and is absent
+    /// until it is given a picture.
+    bool Presente(Genere genere, int indice) const;
+
+    /// Raises the count of the kind, then fills the new slot with the values of a new element at
+    /// (x, y) mm and returns its number. minuto and secondo of the clock name a new frame. The
+    /// 101st addition throws ErroreSistema 9 with the count already raised.
+    int AggiungeCampo(double x, double y);
+    int AggiungeCornice(double x, double y, int minuto, int secondo);
+    int AggiungeImmagine(double x, double y);
+};
+
+template <typename Azione>
+decltype(auto) Modello::Con(Genere genere, Azione &&azione)
+{
+    switch (genere) {
+    case Genere::Campo:
+        return azione(Campi);
+    case Genere::Cornice:
+        return azione(Cornici);
+    case Genere::Immagine:
+        break;
+    }
+    return azione(Immagini);
+}
+
+template <typename Azione>
+decltype(auto) Modello::Con(Genere genere, Azione &&azione) const
+{
+    switch (genere) {
+    case Genere::Campo:
+        return azione(Campi);
+    case Genere::Cornice:
+        return azione(Cornici);
+    case Genere::Immagine:
+        break;
+    }
+    return azione(Immagini);
+}
+
+/// True for a body-row field: the name begins with "R_", upper case.
+bool CampoDiRiga(const Campo &campo);

@@ -1,0 +1,183 @@
+#include "model/Numeri.h"
+
+#include "base/ErroreSistema.h"
+
+#include <cmath>
+
+namespace {
+
+bool Ignorato(QChar c)
+{
+    return c == u' ' || c == u'\t' || c == u'\n';
+}
+
+bool Cifra(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+/// The characters of the leading number of testo, in the notation of the C locale.
+class NumeroIniziale
+{
+public:
+    NumeroIniziale(QStringView testo, bool puntoIniziale)
+    {
+        for (const QChar c : testo) {
+            if (!Ignorato(c) && !Accetta(c, puntoIniziale)) {
+                break;
+            }
+        }
+        if (!cifre_) {
+            accettato_.clear();
+        } else if (esponente_ && !cifreEsponente_) {
+            accettato_.truncate(accettato_.indexOf('e'));
+        }
+    }
+
+    double Valore() const
+    {
+        if (accettato_.isEmpty()) {
+            return 0;
+        }
+        bool valido = false;
+        const double valore = accettato_.toDouble(&valido);
+        // A result below the smallest double is reported as invalid too; it is simply 0.
+        if (!std::isfinite(valore)) {
+            throw ErroreSistema(ErroreSistema::Overflow);
+        }
+        return valore;
+    }
+
+private:
+    bool Accetta(QChar c, bool puntoIniziale)
+    {
+        if (Cifra(c)) {
+            (esponente_ ? cifreEsponente_ : cifre_) = true;
+        } else if (c == u'+' || c == u'-') {
+            if (!accettato_.isEmpty() && !accettato_.endsWith('e')) {
+                return false;
+            }
+        } else if (c == u'.') {
+            if (punto_ || esponente_ || (!cifre_ && !puntoIniziale)) {
+                return false;
+            }
+            punto_ = true;
+        } else if (c == u'E' || c == u'e' || c == u'D' || c == u'd') {
+            if (esponente_ || !cifre_) {
+                return false;
+            }
+            esponente_ = true;
+            accettato_.append('e');
+            return true;
+        } else {
+            return false;
+        }
+        accettato_.append(c.toLatin1());
+        return true;
+    }
+
+    QByteArray accettato_;
+    bool cifre_ = false;
+    bool punto_ = false;
+    bool esponente_ = false;
+    bool cifreEsponente_ = false;
+};
+
+} // namespace
+
+double Numeri::Val(QStringView testo)
+{
+    return NumeroIniziale(testo, true).Valore();
+}
+
+double Numeri::LeggeNumero(QStringView riga)
+{
+    return NumeroIniziale(riga, false).Valore();
+}
+
+std::optional<double> Numeri::Numerico(const QString &testo, const QLocale &locale)
+{
+    QString neutro = testo.trimmed();
+    const QString separatore = locale.decimalPoint();
+    if (separatore != QLatin1String(".") && !neutro.contains(u'.')) {
+        neutro.replace(separatore, QLatin1String("."));
+    }
+    bool valido = false;
+    const double valore = QLocale::c().toDouble(neutro, &valido);
+    if (!valido || !std::isfinite(valore) || neutro.contains(u',')) {
+        return std::nullopt;
+    }
+    return valore;
+}
+
+double Numeri::Doppio(const QString &testo, const QLocale &locale)
+{
+    const std::optional<double> valore = Numerico(testo, locale);
+    if (!valore) {
+        throw ErroreSistema(ErroreSistema::TipoNonCorrispondente);
+    }
+    return *valore;
+}
+
+qint16 Numeri::Intero16(double valore)
+{
+    const double intero = PariPiuVicino(valore);
+    if (!(intero >= std::numeric_limits<qint16>::min() &&
+          intero <= std::numeric_limits<qint16>::max())) {
+        throw ErroreSistema(ErroreSistema::Overflow);
+    }
+    return static_cast<qint16>(intero);
+}
+
+double Numeri::PariPiuVicino(double valore)
+{
+    const double basso = std::floor(valore);
+    const double resto = valore - basso;
+    if (resto != 0.5) {
+        return resto < 0.5 ? basso : basso + 1;
+    }
+    return std::fmod(basso, 2.0) == 0 ? basso : basso + 1;
+}
+
+double Numeri::Ar(double valore)
+{
+    return std::floor(valore + 0.5);
+}
+
+QString Numeri::NumeroPiano(double valore, const QLocale &locale)
+{
+    // Adding 0 turns a negative zero into the plain one, which is what its text must be.
+    QString testo = QString::number(valore + 0.0, 'g', 15).toUpper();
+    testo.replace(u'.', locale.decimalPoint());
+    return testo;
+}
+
+QString Numeri::NumeroStampato(double valore, const QLocale &locale)
+{
+    const QString piano = NumeroPiano(valore, locale);
+    return (piano.startsWith(u'-') ? piano : u' ' + piano) + u' ';
+}
+
+QString Numeri::CstrX(const QVariant &valore, const Avviso &avviso, const QLocale &locale)
+{
+    switch (valore.typeId()) {
+    case QMetaType::Short:
+    case QMetaType::Int:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        break;
+    default:
+        avviso(QStringLiteral("CstrX: tipo variabile errato"));
+        return {};
+    }
+    QString testo = NumeroPiano(valore.toDouble(), locale);
+    qsizetype separatore = testo.indexOf(u',');
+    if (separatore < 0) {
+        separatore = testo.indexOf(u'.');
+    }
+    if (separatore >= 0) {
+        constexpr qsizetype DecimaliAlMassimo = 100;
+        testo = testo.left(separatore) + u'.' + testo.mid(separatore + 1, DecimaliAlMassimo);
+    }
+    return testo;
+}

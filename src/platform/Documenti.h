@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// Opens a document with the program that the system associates with it. A document that is missing
+/// or has no program does nothing and returns false.
+bool ApreDocumento(const QString &percorso);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QString>
+#include <QWidget>
+
+/// Help topic of every control.
+inline constexpr int ArgomentoGuida = 44;
+
+/// Name of the dynamic property that carries a control's help topic.
+inline constexpr auto ProprietaGuida = "HelpContextID";
+
+/// Places the window (frame included, when the window system tells it) at the centre of its screen.
+void CentraForm(QWidget *finestra);
+
+/// Gives the window and every control of it help topic 44, so that F1 opens that topic.
+void ImpostaHelp(QWidget *finestra);
+
+/// The topic of the control or of its nearest ancestor that has one; 0 when none has.
+int ArgomentoDi(const QWidget *controllo);
+
+/// Italian texts for Qt's own buttons and menus; call once, after the application object exists.
+void ImpostaLingua();
+
+/// Device-independent pixels of one millimetre of screen, from the screen's logical resolution.
+double PixelPerMillimetro(const QWidget *finestra);
+
+/// Shows the busy pointer while it lives.
+class PuntatoreOccupato
+{
+public:
+    PuntatoreOccupato();
+    ~PuntatoreOccupato();
+    PuntatoreOccupato(const PuntatoreOccupato &) = delete;
+    PuntatoreOccupato &operator=(const PuntatoreOccupato &) = delete;
+};
+
+/// Makes every text box below the window refuse characters that a model file cannot hold, typed or
+/// pasted, and lifts the length limit that would cut a long text.
+void LimitaAlCodice(QWidget *finestra);

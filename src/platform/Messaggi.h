@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+/// Message boxes and questions: title = the program's name, Italian buttons on every system. Without
+/// windows (the command-line printing) the texts go to standard error instead.
+namespace Messaggi {
+
+inline constexpr QLatin1String Titolo("Plakera");
+
+enum class Risposta { No, Si };
+
+/// OK button only.
+void Mostra(QWidget *padre, const QString &testo);
+/// OK button only, critical icon.
+void MostraCritico(QWidget *padre, const QString &testo);
+
+/// Yes/No; the window's close box and Escape answer No. Without windows: the default.
+bool Domanda(QWidget *padre, const QString &testo, Risposta predefinita);
+
+/// A text-input box; nothing when the user cancels (always nothing without windows).
+std::optional<QString> ChiedeTesto(QWidget *padre, const QString &titolo, const QString &richiesta,
+                                   const QString &proposta);
+
+/// From now on no box opens: messages go to standard error, one line each.
+void SoloErroreStandard();
+/// How many messages have gone to standard error.
+int Emessi();
+
+} // namespace Messaggi

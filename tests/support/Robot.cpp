@@ -1,0 +1,103 @@
+#include "support/Robot.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+void Preme(QDialog *dialogo, QMessageBox::StandardButton bottone)
+{
+    auto *riquadro = qobject_cast<QMessageBox *>(dialogo);
+    if (riquadro != nullptr && riquadro->button(bottone) != nullptr) {
+        riquadro->button(bottone)->click();
+    } else {
+        dialogo->reject();
+    }
+}
+
+} // namespace
+
+Robot::Robot()
+{
+    timer_.setInterval(1);
+    connect(&timer_, &QTimer::timeout, this, &Robot::Guarda);
+    timer_.start();
+}
+
+Robot &Robot::Ok()
+{
+    return Agisce([](QDialog *d) { Preme(d, QMessageBox::Ok); });
+}
+
+Robot &Robot::Si()
+{
+    return Agisce([](QDialog *d) { Preme(d, QMessageBox::Yes); });
+}
+
+Robot &Robot::No()
+{
+    return Agisce([](QDialog *d) { Preme(d, QMessageBox::No); });
+}
+
+Robot &Robot::Digita(const QString &testo)
+{
+    return Agisce([testo](QDialog *d) {
+        if (auto *ingresso = qobject_cast<QInputDialog *>(d)) {
+            ingresso->setTextValue(testo);
+            ingresso->accept();
+        } else {
+            d->reject();
+        }
+    });
+}
+
+Robot &Robot::Annulla()
+{
+    return Agisce([](QDialog *d) { d->reject(); });
+}
+
+Robot &Robot::Agisce(std::function<void(QDialog *)> azione)
+{
+    risposte_.append(std::move(azione));
+    return *this;
+}
+
+void Robot::Guarda()
+{
+    auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (dialogo == nullptr || !dialogo->isVisible()) {
+        ultimo_ = nullptr;
+        return;
+    }
+    if (dialogo == ultimo_) {
+        return;
+    }
+    ultimo_ = dialogo;
+    titoli_.append(dialogo->windowTitle());
+    if (const auto *riquadro = qobject_cast<QMessageBox *>(dialogo)) {
+        testi_.append(riquadro->text());
+        predefiniti_.append(
+            riquadro->defaultButton() != nullptr ? riquadro->defaultButton()->text() : QString());
+    } else if (const auto *ingresso = qobject_cast<QInputDialog *>(dialogo)) {
+        testi_.append(ingresso->labelText());
+        predefiniti_.append(ingresso->textValue());
+    } else {
+        testi_.append(dialogo->objectName());
+        predefiniti_.append(QString());
+    }
+    if (risposte_.isEmpty()) {
+        ++inattesi_;
+        dialogo->reject();
+        return;
+    }
+    const auto risposta = risposte_.takeFirst();
+    // An answer may open a further box and run its own event loop: a box opened in the same place
+    // of memory must count as new.
+    risposta(dialogo);
+    if (QApplication::activeModalWidget() != dialogo) {
+        ultimo_ = nullptr;
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+#include <functional>
+
+class QDialog;
+
+/// Answers the modal boxes that an action opens, in order, with the real buttons, and keeps what
+/// they said. A box that no answer waits for is closed and counted as unexpected.
+class Robot : public QObject
+{
+    Q_OBJECT
+public:
+    Robot();
+
+    Robot &Ok();
+    Robot &Si();
+    Robot &No();
+    /// Types testo into an input box and accepts it.
+    Robot &Digita(const QString &testo);
+    /// Cancels an input box, or closes a box with Escape.
+    Robot &Annulla();
+    /// Hands the next modal dialog of any class to azione, which must end it.
+    Robot &Agisce(std::function<void(QDialog *)> azione);
+
+    /// Texts of the boxes seen so far (label text for an input box, object name for other dialogs).
+    const QStringList &Testi() const { return testi_; }
+    /// Titles of the boxes, in the same order.
+    const QStringList &Titoli() const { return titoli_; }
+    /// Text of each box's default button ("" when it has none); for an input box, its proposal.
+    const QStringList &Predefiniti() const { return predefiniti_; }
+    /// True when every answer was used and no box came unexpected.
+    bool Soddisfatto() const { return risposte_.isEmpty() && inattesi_ == 0; }
+
+private:
+    void Guarda();
+
+    QTimer timer_;
+    QList<std::function<void(QDialog *)>> risposte_;
+    QStringList testi_;
+    QStringList titoli_;
+    QStringList predefiniti_;
+    QDialog *ultimo_ = nullptr;
+    int inattesi_ = 0;
+};
