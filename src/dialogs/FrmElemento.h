@@ -1,0 +1,101 @@
+#pragma once
+
+#include "dialogs/MemoriaCaselle.h"
+#include "model/StatoProgramma.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QString>
+
+class QAbstractButton;
+
+/// What the property dialogs of the three kinds of element share. A dialog is modal, edits one
+/// record of the open model in place and knows neither the preview nor the editor: it says with its
+/// signals, at the moment it happens, what they have to follow. The caller fills it with Carica and
+/// shows it with exec; the dialog closes itself when its work is done.
+class FrmElemento : public QDialog
+{
+    Q_OBJECT
+public:
+    /// True when the box holds a number of at most 400; otherwise puts "0" into it.
+    static bool Numero(QLineEdit *casella);
+
+signals:
+    /// Record n was written: the preview applies the element's settings, then places it as moved.
+    void Applicato(Genere genere, int n);
+    /// Record n was written, but only the place and size of the element have to follow.
+    void Ricollocato(Genere genere, int n);
+    /// The editor's list entry n takes the name and becomes the selected one.
+    void VoceRinominata(Genere genere, int n, const QString &nome);
+    /// Element n is absent now: its control and the marker of its kind are hidden, and the editor's
+    /// list entry n is relabelled and selected.
+    void Eliminato(Genere genere, int n);
+
+protected:
+    /// The controls that every dialog has; they belong to the dialog.
+    struct Controlli
+    {
+        QLineEdit *Num = nullptr;
+        QLineEdit *Nome = nullptr;
+        QLineEdit *Descrizione = nullptr;
+        QLineEdit *X = nullptr;
+        QLineEdit *Y = nullptr;
+        QAbstractButton *Elimina = nullptr;
+    };
+
+    /// Ends an attempt (see Tenta) with a message to the user; the control gets the focus.
+    struct Rifiuto
+    {
+        QString Messaggio;
+        QWidget *Controllo;
+    };
+
+    FrmElemento(Genere genere, StatoProgramma &stato, QWidget *padre);
+
+    /// Takes over the shared controls; called once, when the derived dialog has built its form.
+    void Prepara(const Controlli &controlli);
+    /// Shows what the records of all kinds have. Throws ErroreSistema 9 for an index outside the
+    /// table, with the dialog untouched.
+    void CaricaElemento(int k);
+
+    Modello &Aperto() const { return stato_.Aperto; }
+    const StatoProgramma &Stato() const { return stato_; }
+    MemoriaCaselle &Caselle() { return caselle_; }
+    const MemoriaCaselle &Caselle() const { return caselle_; }
+    /// The record that Num names. Throws ErroreSistema 6 when the number is no 16-bit one.
+    int Indice() const;
+
+    /// Runs a command whose checks throw Rifiuto: the first one that fails shows its message and
+    /// leaves the dialog open.
+    template <typename Azione>
+    void Tenta(Azione &&azione)
+    {
+        try {
+            azione();
+        } catch (const Rifiuto &rifiuto) {
+            Rifiuta(rifiuto);
+        }
+    }
+    /// Throws Rifiuto when another element has the name, whatever its case.
+    void ControllaNomeUnico(int n, const QString &messaggio) const;
+    /// Throws Rifiuto for an empty name, which would make the element absent unasked.
+    void ControllaNomeScritto() const;
+    /// Strict reading of a box; throws Rifiuto naming the box for a text that is no number.
+    double Doppio(QLineEdit *casella) const;
+    /// Writes name, place and description, which the confirm of every kind stores.
+    void ScriveElemento(int n, double x, double y);
+    /// The end of every confirm: preview, then list, then the dialog closes.
+    void Conclude(int n);
+    /// Makes element n absent and closes the dialog, without asking.
+    void EliminaElemento(int n);
+
+private:
+    void CollegaSegnali();
+    void Elimina_Click();
+    void Rifiuta(const Rifiuto &rifiuto);
+
+    Genere genere_;
+    StatoProgramma &stato_;
+    Controlli controlli_;
+    MemoriaCaselle caselle_;
+};

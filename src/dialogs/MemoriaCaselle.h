@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QHash>
+#include <QLineEdit>
+#include <QLocale>
+#include <QString>
+
+#include <optional>
+
+/// What the text boxes of a dialog were filled with. A box that still shows its filling gives back
+/// the very value it came from: neither the digits that a number's text leaves out nor what a text
+/// box cannot show is lost by opening a dialog and confirming it.
+class MemoriaCaselle
+{
+public:
+    void Mostra(QLineEdit *casella, const QString &testo);
+    void Mostra(QLineEdit *casella, double valore, const QLocale &locale = QLocale());
+
+    QString Testo(const QLineEdit *casella) const;
+    /// Strict reading; nothing when the text is not a number.
+    std::optional<double> Numerico(const QLineEdit *casella) const;
+    /// Lenient reading; a text that is no number gives 0. Throws ErroreSistema 6.
+    double Val(const QLineEdit *casella) const;
+
+private:
+    struct Riempimento
+    {
+        QString Mostrato;
+        QString Testo;
+        std::optional<double> Valore;
+    };
+
+    /// Null when the user has changed the box, or nothing was ever put into it.
+    const Riempimento *Intatto(const QLineEdit *casella) const;
+
+    QHash<const QLineEdit *, Riempimento> riempimenti_;
+};
