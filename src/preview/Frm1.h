@@ -1,0 +1,141 @@
+#pragma once
+
+#include "model/Modello.h"
+
+#include <QList>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+struct StatoProgramma;
+struct Anteprima;
+class ElementiFoglio;
+class ManiSulFoglio;
+
+/// The preview window: the sheet at scale 1:zoom with its rulers, scroll bars and zoom box. It
+/// shows the open model, changes it under the mouse and tells the editor by signals; it keeps no
+/// copy of it. Unless a name says otherwise, positions and sizes are mm of screen (mm of the sheet
+/// / zoom).
+///
+/// Every member that takes an element's number i throws ErroreSistema 9 for a number outside the
+/// table or without a control (CreaElemento makes it).
+class Frm1 : public QWidget
+{
+    Q_OBJECT
+public:
+    /// Lays the sheet out at the zoom of the moment; later zoom changes leave its size and the
+    /// scroll ranges as they are. stato must outlive the window.
+    explicit Frm1(StatoProgramma &stato, QWidget *padre = nullptr);
+    ~Frm1() override;
+
+    /// Makes the control of element i (or shows it again), in front of the others. The caller then
+    /// applies its settings and places it.
+    void CreaElemento(Genere genere, int i);
+    /// Hides the control of element i and the handle of its kind.
+    void NascondiElemento(Genere genere, int i);
+    void NascondiMarcatori();
+    void NascondiMarcatore(Genere genere);
+
+    /// Copies look and texts of element i from the model to its control.
+    void Impostazioni(Genere genere, int i);
+    void ImpostazioniCampo(int i) { Impostazioni(Genere::Campo, i); }
+    void ImpostazioniCornice(int i) { Impostazioni(Genere::Cornice, i); }
+    void ImpostazioniImmagine(int i) { Impostazioni(Genere::Immagine, i); }
+
+    /// Places the control and the handle of its kind; fields and frames are first rounded to whole
+    /// mm in the model, and a row field goes to yInizio. mosso emits Variato.
+    void Posiziona(Genere genere, int i, bool mosso);
+    void PosizionaCampo(int i, bool mosso) { Posiziona(Genere::Campo, i, mosso); }
+    void PosizionaCornice(int i, bool mosso) { Posiziona(Genere::Cornice, i, mosso); }
+    void PosizionaImmagine(int i, bool mosso) { Posiziona(Genere::Immagine, i, mosso); }
+
+    /// Shows the handle of the kind on element i, ready to drag it.
+    void Seleziona(Genere genere, int i);
+    void SelezionaCampo(int i) { Seleziona(Genere::Campo, i); }
+    void SelezionaCornice(int i) { Seleziona(Genere::Cornice, i); }
+    void SelezionaImmagine(int i) { Seleziona(Genere::Immagine, i); }
+
+    /// Restacks the kind in front of everything by area, the smallest on top.
+    void PrimoPiano(Genere genere);
+    void PrimoPianoCampi() { PrimoPiano(Genere::Campo); }
+    void PrimoPianoCornici() { PrimoPiano(Genere::Cornice); }
+    void PrimoPianoImmagini() { PrimoPiano(Genere::Immagine); }
+
+    /// One drag step of element i by the pointer offset (x, y) inside its handle.
+    void Sposta(Genere genere, int i, Qt::MouseButtons bottoni, Qt::KeyboardModifiers tasti,
+                double x, double y);
+    void SpostaCampo(int i, Qt::MouseButtons b, Qt::KeyboardModifiers t, double x, double y)
+    {
+        Sposta(Genere::Campo, i, b, t, x, y);
+    }
+    void SpostaCornice(int i, Qt::MouseButtons b, Qt::KeyboardModifiers t, double x, double y)
+    {
+        Sposta(Genere::Cornice, i, b, t, x, y);
+    }
+    void SpostaImmagine(int i, Qt::MouseButtons b, Qt::KeyboardModifiers t, double x, double y)
+    {
+        Sposta(Genere::Immagine, i, b, t, x, y);
+    }
+
+    /// Clears the selection look of the fields and hides their handle.
+    void Campineri();
+    /// Redraws both rulers for the current zoom.
+    void Righello();
+    int ScorrimentoX() const; ///< value of ScrollX, mm of screen
+    int ScorrimentoY() const; ///< value of ScrollY, mm of screen
+    /// Size of the control of element i; a field's follows its text.
+    QSizeF MisuraControllo(Genere genere, int i) const;
+
+    void PulisceSfondo();
+    /// Paints the picture behind the elements, stretched into a rectangle in mm of the sheet; it
+    /// then follows the zoom by itself. A file already decoded at that size is not read again. An
+    /// empty rectangle shows nothing. Throws ErroreSistema 53 or 481 and leaves no background.
+    void DipingeSfondo(const QString &percorso, const QRectF &millimetri);
+
+    /// A simulated body row: a label for display only, which clips its text and lets the mouse
+    /// through to what lies below it.
+    struct RigaSimulata
+    {
+        QRectF posto; ///< mm of screen
+        QString font;
+        double punti = 0; ///< size on the screen: the model's divided by the zoom
+        bool grassetto = false;
+        QString testo;
+    };
+    void TogliRigheSimulate();
+    /// Shows the rows in front of the elements; those outside the sheet are left out.
+    void AggiungeRigheSimulate(const QList<RigaSimulata> &righe);
+
+signals:
+    void ElementoPuntato(Genere genere, int i);    ///< the editor's combo of the kind goes to i
+    void PaginaRichiesta(Genere genere);           ///< the editor shows the page of the kind
+    void RichiestaProprieta(Genere genere, int i); ///< the property dialog is to open
+    void Variato();                                ///< the model has been changed
+    void SfondoDaRidisegnare();                    ///< the zoom has changed: background scan
+    void RigheDaRidisegnare();                     ///< a field or the zoom has changed: rows
+    void ModificaConclusa();                       ///< a gesture that changed the model has ended
+    void ChiusuraRichiesta(); ///< the user wants the preview closed; it stays until the editor acts
+
+protected:
+    void resizeEvent(QResizeEvent *evento) override;
+    void moveEvent(QMoveEvent *evento) override;
+    void showEvent(QShowEvent *evento) override;
+    void closeEvent(QCloseEvent *evento) override;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
+
+private:
+    void Form_Load();
+    void Form_Resize();
+    void ScrollX_Change();
+    void ScrollY_Change();
+    void TextZoom_KeyUp();
+    void CollegaSegnali();
+
+    StatoProgramma &stato_;
+    std::unique_ptr<Anteprima> parti_;
+    std::unique_ptr<ElementiFoglio> elementi_;
+    std::unique_ptr<ManiSulFoglio> mani_;
+};
