@@ -1,0 +1,76 @@
+#include "platform/Stampanti.h"
+
+#include "base/ErroreSistema.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QPrinterInfo>
+
+namespace {
+
+constexpr QLatin1String Arial("Arial");
+constexpr int RisoluzionePdf = 1200;
+
+/// True when the system sets Arial with a face of its own choosing made to the same widths.
+bool ArialSostituito()
+{
+    const QFontInfo trovato{QFont(Arial)};
+    return trovato.family().contains(QLatin1String("Liberation Sans")) ||
+           trovato.family().contains(QLatin1String("Arimo")) ||
+           trovato.family().contains(QLatin1String("Nimbus Sans"));
+}
+
+} // namespace
+
+QStringList Stampanti::ElencoFont()
+{
+    QStringList famiglie;
+    const QStringList tutte = QFontDatabase::families();
+    for (const QString &famiglia : tutte) {
+        if (!QFontDatabase::isPrivateFamily(famiglia)) {
+            famiglie.append(famiglia);
+        }
+    }
+    if (!famiglie.contains(Arial, Qt::CaseInsensitive) && ArialSostituito()) {
+        famiglie.append(Arial);
+    }
+    famiglie.sort(Qt::CaseInsensitive);
+    // Arial is the font of every new element: the limit must not be what loses it.
+    const bool conArial = famiglie.contains(Arial);
+    if (famiglie.size() > FontAlMassimo) {
+        famiglie.resize(FontAlMassimo);
+        if (conArial && !famiglie.contains(Arial)) {
+            famiglie.last() = Arial;
+        }
+    }
+    return famiglie;
+}
+
+std::unique_ptr<QPrinter> Stampanti::Predefinita()
+{
+    const QPrinterInfo informazioni = QPrinterInfo::defaultPrinter();
+    if (informazioni.isNull()) {
+        throw ErroreSistema(ErroreSistema::Stampante);
+    }
+    auto stampante = std::make_unique<QPrinter>(informazioni, QPrinter::HighResolution);
+    // A name that the system no longer knows silently leaves a PDF writer or another printer.
+    if (!stampante->isValid() || stampante->outputFormat() != QPrinter::NativeFormat ||
+        stampante->printerName() != informazioni.printerName()) {
+        throw ErroreSistema(ErroreSistema::Stampante);
+    }
+    stampante->setFullPage(false);
+    return stampante;
+}
+
+std::unique_ptr<QPrinter> Stampanti::SuPdf(const QString &percorso)
+{
+    auto stampante = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    stampante->setOutputFormat(QPrinter::PdfFormat);
+    stampante->setOutputFileName(percorso);
+    stampante->setResolution(RisoluzionePdf);
+    stampante->setPageSize(QPageSize(QPageSize::A4));
+    stampante->setFullPage(false);
+    stampante->setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+    return stampante;
+}

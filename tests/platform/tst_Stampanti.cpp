@@ -1,0 +1,66 @@
+#include "platform/Stampanti.h"
+
+#include "base/ErroreSistema.h"
+
+#include <QFontDatabase>
+#include <QPrinterInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+class tst_Stampanti : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void elencoFont();
+    void elencoFontSenzaDoppi();
+    void senzaStampantePredefinita();
+    void suPdfInMillimetri();
+};
+
+void tst_Stampanti::elencoFont()
+{
+    const QStringList elenco = Stampanti::ElencoFont();
+    QVERIFY(!elenco.isEmpty());
+    QVERIFY(elenco.size() <= Stampanti::FontAlMassimo);
+    QVERIFY2(elenco.contains(QStringLiteral("Arial")), "a new element's font must be on the list");
+    for (const QString &famiglia : QFontDatabase::families()) {
+        if (!QFontDatabase::isPrivateFamily(famiglia)) {
+            QVERIFY2(elenco.contains(famiglia), qPrintable(famiglia));
+        }
+    }
+}
+
+void tst_Stampanti::elencoFontSenzaDoppi()
+{
+    QStringList elenco = Stampanti::ElencoFont();
+    QCOMPARE(elenco.removeDuplicates(), 0);
+    QStringList ordinato = elenco;
+    ordinato.sort(Qt::CaseInsensitive);
+    QCOMPARE(elenco, ordinato);
+}
+
+void tst_Stampanti::senzaStampantePredefinita()
+{
+    if (!QPrinterInfo::defaultPrinter().isNull()) {
+        QSKIP("this machine has a default printer; the print queue test covers the case");
+    }
+    try {
+        Stampanti::Predefinita();
+        QFAIL("a printer out of nothing");
+    } catch (const ErroreSistema &errore) {
+        QCOMPARE(errore.numero, int(ErroreSistema::Stampante));
+    }
+}
+
+void tst_Stampanti::suPdfInMillimetri()
+{
+    QTemporaryDir dir;
+    const auto stampante = Stampanti::SuPdf(dir.filePath(QStringLiteral("foglio.pdf")));
+    const QRectF pagina = stampante->pageRect(QPrinter::Millimeter);
+    QCOMPARE(pagina.topLeft(), QPointF(0, 0));
+    QVERIFY(qAbs(pagina.width() - 210) < 0.01 && qAbs(pagina.height() - 297) < 0.01);
+}
+
+QTEST_MAIN(tst_Stampanti)
+#include "tst_Stampanti.moc"

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+/// Small picture files for tests, and pictures that Qt itself cannot write.
+namespace ImmaginiDiProva {
+
+/// 4x2 GIF: left half red, right half transparent.
+QByteArray GifTrasparente();
+/// 3x2 animated GIF: a lime frame, then a blue one.
+QByteArray GifAnimata();
+/// 8x8 CMYK JPEG of about rgb(200, 100, 50).
+QByteArray JpegCmyk();
+
+/// A whole-coloured or given picture as a file in a format of QImageWriter, with a resolution
+/// (dots per inch; 0 = none stated).
+QByteArray InFormato(const QImage &immagine, const char *formato, double puntiPerPollice = 0);
+QImage Tinta(const QSize &pixel, QRgb colore);
+
+/// Writes the bytes and returns the path. Ends the test program when the disk refuses.
+QString Scrive(const QString &percorso, const QByteArray &byte);
+
+} // namespace ImmaginiDiProva
