@@ -24,7 +24,7 @@ int ByteDi(char16_t c)
 
 } // namespace
 
-QString Ansi::DaByte(const QByteArray &byte)
+QString Ansi::DaByte(QByteArrayView byte)
 {
     QString testo(byte.size(), Qt::Uninitialized);
     std::transform(byte.begin(), byte.end(), testo.begin(), [](char b) {
@@ -34,10 +34,16 @@ QString Ansi::DaByte(const QByteArray &byte)
     return testo;
 }
 
-QByteArray Ansi::InByte(const QString &testo)
+QByteArray Ansi::InByte(QStringView testo)
 {
     QByteArray byte;
     byte.reserve(testo.size());
+    Aggiunge(byte, testo);
+    return byte;
+}
+
+void Ansi::Aggiunge(QByteArray &byte, QStringView testo)
+{
     for (qsizetype i = 0; i < testo.size(); ++i) {
         const int valore = ByteDi(testo[i].unicode());
         byte.append(valore == Assente ? '?' : static_cast<char>(valore));
@@ -46,7 +52,6 @@ QByteArray Ansi::InByte(const QString &testo)
             ++i;
         }
     }
-    return byte;
 }
 
 bool Ansi::Rappresentabile(QChar carattere)

@@ -40,12 +40,15 @@ QString DescrizioneErrore(int numero)
                                      : QString::fromUtf8(voce->descrizione);
 }
 
-ErroreSistema::ErroreSistema(int n) : ErroreSistema(n, DescrizioneErrore(n))
+ErroreSistema::ErroreSistema(int n)
+    : ErroreSistema(n, DescrizioneErrore(n))
 {
 }
 
 ErroreSistema::ErroreSistema(int n, QString testo)
-    : numero(n), descrizione(std::move(testo)), what_(Messaggio().toUtf8())
+    : numero(n)
+    , descrizione(std::move(testo))
+    , what_(Messaggio().toUtf8())
 {
 }
 

@@ -10,23 +10,29 @@
 /// Vastrel reads the same file.
 namespace FileModello {
 
+/// In bytes. More than a model can hold whose every text fills its text box; what is larger is no
+/// model and is not read into memory.
+inline constexpr qint64 DimensioneMassima = 64 * 1024 * 1024;
+
 /// Parses byte into modello: the counts start from 0, NomeFile stays. Throws ErroreSistema (62 past
 /// the end, 9 beyond 100 elements, 6 or 380 for a value that cannot be stored); what was read until
 /// then stays in the model.
 void Analizza(const QByteArray &byte, Modello &modello);
 
-/// The whole file. The locale's decimal separator is that of printed and plain numbers.
+/// The whole file, without the absent elements. The locale's decimal separator is that of printed
+/// and plain numbers; a frame's border always has a point. A CR inside a text becomes a blank.
 QByteArray Componi(const Modello &modello, const QLocale &locale = QLocale());
 
-/// Reads the file. Throws ErroreSistema (53, 75, 76 ... for the file, and those of Analizza).
+/// Reads the file. Throws ErroreSistema (53, 57, 75, 76 for the file, 7 when it is larger than
+/// DimensioneMassima, and those of Analizza).
 void Carica(Modello &modello, const QString &percorso);
 
-/// Replaces the file atomically: after a failure (thrown as ErroreSistema 61, 70, 75, 76, 57) the old
-/// file stands whole and no temporary file is left. Follows a symbolic link and keeps the file's mode.
+/// Replaces the file by Disco::Sostituisce: after a failure (thrown as ErroreSistema 61, 70, 75,
+/// 76, 57) the old file stands whole.
 void Salva(const Modello &modello, const QString &percorso, const QLocale &locale = QLocale());
 
-/// Carica, reporting a failure through avviso as "impossibile leggere file ", NomeFile, a line feed,
-/// the number, a line feed and the description. True when the model was read to the end.
+/// Carica, reporting a failure through avviso as "impossibile leggere file ", NomeFile, a line
+/// feed, the number, a line feed and the description. True when the model was read to the end.
 bool LeggeModello(Modello &modello, const QString &percorso, const Numeri::Avviso &avviso);
 
 /// The editor's save: writes to percorso; a failure is thrown, not reported.

@@ -15,12 +15,12 @@ inline constexpr qint16 Falso = 0;
 struct Campo
 {
     QString Nome;
-    QString Testo;           ///< test text, shown on the preview and printed by the test print
-    QString Maschera;        ///< print mask; exactly "No" = not printed
-    double X = 0;            ///< left edge, mm
-    double Y = 0;            ///< top edge, mm
-    QString Font;            ///< family name
-    qint16 Dimensione = 0;   ///< whole points
+    QString Testo;            ///< test text, shown on the preview and printed by the test print
+    QString Maschera;         ///< print mask; exactly "No" = not printed
+    double X = 0;             ///< left edge, mm
+    double Y = 0;             ///< top edge, mm
+    QString Font;             ///< family name
+    qint16 Dimensione = 0;    ///< whole points
     qint16 Grassetto = Falso; ///< Vero or Falso
     QString MascheraDefault;
     QString Descrizione;
@@ -39,9 +39,9 @@ struct Cornice
     qint16 Dimensione = 0;    ///< whole points
     qint16 Grassetto = Falso; ///< Vero or Falso
     QString Descrizione;
-    double Altezza = 0;       ///< mm
-    double Larghezza = 0;     ///< mm
-    double Bordo = 0;         ///< whole part: 1 box, 2 top line, else none; fraction: thickness in mm
+    double Altezza = 0;   ///< mm
+    double Larghezza = 0; ///< mm
+    double Bordo = 0;     ///< whole part: 1 box, 2 top line, else none; fraction: thickness in mm
     qint16 ColoreCornice = 0; ///< palette index 0..15
     qint16 ColoreTesto = 0;   ///< palette index 0..15
 
@@ -78,10 +78,10 @@ struct ParametriRighe
 struct ImmagineSfondo
 {
     QString File;
-    QString Ximmagine; ///< width, mm
-    QString Yimmagine; ///< height, mm
-    QString XPos;      ///< left edge, mm
-    QString YPos;      ///< top edge, mm
+    QString Ximmagine;     ///< width, mm
+    QString Yimmagine;     ///< height, mm
+    QString XPos;          ///< left edge, mm
+    QString YPos;          ///< top edge, mm
     qint16 Visualizza = 0; ///< check box value: 0, 1 or 2
 
     bool operator==(const ImmagineSfondo &) const = default;

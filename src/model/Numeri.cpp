@@ -2,27 +2,40 @@
 
 #include "base/ErroreSistema.h"
 
+#include <QVarLengthArray>
+
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
-bool Ignorato(QChar c)
+constexpr int CifreDoppio = 15;
+constexpr int CifreSingolo = 7;
+
+// The largest double that 15 significant digits can write without going beyond the doubles.
+constexpr double MassimoScrivibile = 1.79769313486231e308;
+
+bool Ignorato(char16_t c)
 {
     return c == u' ' || c == u'\t' || c == u'\n';
 }
 
-bool Cifra(QChar c)
+bool Cifra(char16_t c)
 {
     return c >= u'0' && c <= u'9';
 }
 
-/// The characters of the leading number of testo, in the notation of the C locale.
+/// The characters of the leading number of testo, in the notation of the C locale. Texts come as
+/// UTF-16 or as bytes: whatever is not ASCII fits no number in either.
 class NumeroIniziale
 {
 public:
-    NumeroIniziale(QStringView testo, bool puntoIniziale)
+    template <typename Vista>
+    NumeroIniziale(Vista testo, bool puntoIniziale)
     {
-        for (const QChar c : testo) {
+        for (const auto elemento : testo) {
+            const char16_t c = InCarattere(elemento);
             if (!Ignorato(c) && !Accetta(c, puntoIniziale)) {
                 break;
             }
@@ -30,7 +43,7 @@ public:
         if (!cifre_) {
             accettato_.clear();
         } else if (esponente_ && !cifreEsponente_) {
-            accettato_.truncate(accettato_.indexOf('e'));
+            accettato_.resize(postoEsponente_);
         }
     }
 
@@ -40,7 +53,8 @@ public:
             return 0;
         }
         bool valido = false;
-        const double valore = accettato_.toDouble(&valido);
+        const double valore =
+            QByteArrayView(accettato_.data(), accettato_.size()).toDouble(&valido);
         // A result below the smallest double is reported as invalid too; it is simply 0.
         if (!std::isfinite(valore)) {
             throw ErroreSistema(ErroreSistema::Overflow);
@@ -49,12 +63,15 @@ public:
     }
 
 private:
-    bool Accetta(QChar c, bool puntoIniziale)
+    static char16_t InCarattere(QChar c) { return c.unicode(); }
+    static char16_t InCarattere(char c) { return static_cast<unsigned char>(c); }
+
+    bool Accetta(char16_t c, bool puntoIniziale)
     {
         if (Cifra(c)) {
             (esponente_ ? cifreEsponente_ : cifre_) = true;
         } else if (c == u'+' || c == u'-') {
-            if (!accettato_.isEmpty() && !accettato_.endsWith('e')) {
+            if (!accettato_.isEmpty() && accettato_.back() != 'e') {
                 return false;
             }
         } else if (c == u'.') {
@@ -67,21 +84,33 @@ private:
                 return false;
             }
             esponente_ = true;
+            postoEsponente_ = accettato_.size();
             accettato_.append('e');
             return true;
         } else {
             return false;
         }
-        accettato_.append(c.toLatin1());
+        accettato_.append(static_cast<char>(c));
         return true;
     }
 
-    QByteArray accettato_;
+    QVarLengthArray<char, 64> accettato_;
+    qsizetype postoEsponente_ = 0;
     bool cifre_ = false;
     bool punto_ = false;
     bool esponente_ = false;
     bool cifreEsponente_ = false;
 };
+
+/// The value with at most so many significant digits, and the decimal separator of the locale.
+QString Testo(double valore, int cifre, const QLocale &locale)
+{
+    const double scrivibile = std::clamp(valore, -MassimoScrivibile, MassimoScrivibile);
+    // Adding 0 turns a negative zero into the plain one, which is what its text must be.
+    QString testo = QString::number(scrivibile + 0.0, 'g', cifre).toUpper();
+    testo.replace(u'.', locale.decimalPoint());
+    return testo;
+}
 
 } // namespace
 
@@ -90,7 +119,7 @@ double Numeri::Val(QStringView testo)
     return NumeroIniziale(testo, true).Valore();
 }
 
-double Numeri::LeggeNumero(QStringView riga)
+double Numeri::LeggeNumero(QByteArrayView riga)
 {
     return NumeroIniziale(riga, false).Valore();
 }
@@ -146,10 +175,7 @@ double Numeri::Ar(double valore)
 
 QString Numeri::NumeroPiano(double valore, const QLocale &locale)
 {
-    // Adding 0 turns a negative zero into the plain one, which is what its text must be.
-    QString testo = QString::number(valore + 0.0, 'g', 15).toUpper();
-    testo.replace(u'.', locale.decimalPoint());
-    return testo;
+    return Testo(valore, CifreDoppio, locale);
 }
 
 QString Numeri::NumeroStampato(double valore, const QLocale &locale)
@@ -170,7 +196,8 @@ QString Numeri::CstrX(const QVariant &valore, const Avviso &avviso, const QLocal
         avviso(QStringLiteral("CstrX: tipo variabile errato"));
         return {};
     }
-    QString testo = NumeroPiano(valore.toDouble(), locale);
+    const bool singolo = valore.typeId() == QMetaType::Float;
+    QString testo = Testo(valore.toDouble(), singolo ? CifreSingolo : CifreDoppio, locale);
     qsizetype separatore = testo.indexOf(u',');
     if (separatore < 0) {
         separatore = testo.indexOf(u'.');

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QLocale>
 #include <QString>
 #include <QStringView>
@@ -17,9 +18,9 @@ namespace Numeri {
 /// here (".5"). A value beyond a double throws ErroreSistema 6.
 double Val(QStringView testo);
 
-/// The reading of a line of the model file: as Val, but a text that starts with no digit (after an
-/// optional sign) gives 0. Throws ErroreSistema 6 for a value beyond a double.
-double LeggeNumero(QStringView riga);
+/// The reading of a line of the model file, as its bytes: as Val, but a text that starts with no
+/// digit (after an optional sign) gives 0. Throws ErroreSistema 6 for a value beyond a double.
+double LeggeNumero(QByteArrayView riga);
 
 /// Strict reading: the whole text is one number; "." always separates the decimals, and so does the
 /// locale's own separator. Nothing when the text is not a number or is beyond a double.
@@ -37,7 +38,9 @@ double PariPiuVicino(double valore);
 /// Int(value + 0.5): the nearest whole millimetre, halves going up (2.5 gives 3, -2.5 gives -2).
 double Ar(double valore);
 
-/// Up to 15 significant digits, no thousands separators: "12,5", "40".
+/// Up to 15 significant digits, no thousands separators: "12,5", "40". Always a text that can be
+/// read again: a value so near the end of the doubles that rounding to 15 digits would leave them,
+/// or beyond it, is written as the last number that can be.
 QString NumeroPiano(double valore, const QLocale &locale = QLocale());
 
 /// As a print statement writes it: a blank or a minus sign, the plain number, a blank.
@@ -47,7 +50,8 @@ QString NumeroStampato(double valore, const QLocale &locale = QLocale());
 using Avviso = std::function<void(const QString &)>;
 
 /// Text of a number with "." as the decimal separator. A value that is no number (16- or 32-bit
-/// integer, single or double) is reported through avviso and gives the empty string.
+/// integer, single or double) is reported through avviso and gives the empty string. A single has
+/// 7 significant digits, so that 0.1 stays "0.1".
 QString CstrX(const QVariant &valore, const Avviso &avviso, const QLocale &locale = QLocale());
 
 } // namespace Numeri

@@ -1,0 +1,252 @@
+#include "base/Disco.h"
+
+#include "base/ErroreSistema.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QStorageInfo>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <filesystem>
+
+namespace {
+
+Disco::Sincronizzazione sincronizza = nullptr;
+
+// Names of temporary files are nobody else's, so sweeping cannot hit a user's own copy, and do not
+// contain the final name, which may already be as long as the file system allows.
+constexpr QLatin1String Prefisso(".plakera-");
+constexpr QLatin1String Suffisso(".tmp");
+constexpr int CifreCasuali = 16;
+
+// A replacement takes milliseconds: what is older by this much belongs to no living program.
+constexpr qint64 SecondiDiVita = 2;
+
+QString NomeTemporaneo()
+{
+    const quint64 caso = QRandomGenerator::system()->generate64();
+    return Prefisso + QString::number(caso, 16).rightJustified(CifreCasuali, u'0') + Suffisso;
+}
+
+bool Temporaneo(const QString &nome)
+{
+    if (nome.size() != Prefisso.size() + CifreCasuali + Suffisso.size() ||
+        !nome.startsWith(Prefisso) || !nome.endsWith(Suffisso)) {
+        return false;
+    }
+    const QStringView caso = QStringView(nome).mid(Prefisso.size(), CifreCasuali);
+    return std::all_of(caso.begin(), caso.end(), [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
+    });
+}
+
+// Age is measured against a file just written into the same folder, hence by one and the same
+// clock, even on a server whose clock differs from ours.
+void SpazzaResti(const QDir &cartella, const QDateTime &adesso)
+{
+    const QStringList nomi = cartella.entryList({Prefisso + u'*' + Suffisso},
+                                                QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString &nome : nomi) {
+        const QFileInfo resto(cartella.filePath(nome));
+        if (Temporaneo(nome) && resto.lastModified().secsTo(adesso) >= SecondiDiVita) {
+            // One that cannot be removed harms nobody; the next call tries again.
+            QFile::remove(resto.filePath());
+        }
+    }
+}
+
+/// Why the operation just tried on a file in the folder failed.
+std::error_code Causa(const QString &cartella)
+{
+    if (errno != 0) {
+        return {errno, std::generic_category()};
+    }
+    // Where Qt does not go through the C library, what can be seen must tell.
+    const QFileInfo posto(cartella);
+    if (!posto.exists()) {
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    }
+    if (!posto.isWritable()) {
+        return std::make_error_code(std::errc::permission_denied);
+    }
+    if (QStorageInfo(cartella).bytesAvailable() == 0) {
+        return std::make_error_code(std::errc::no_space_on_device);
+    }
+    return std::make_error_code(std::errc::io_error);
+}
+
+[[noreturn]] void Fallisce(const std::error_code &codice)
+{
+    // Replacing may create the file, so what is not there can only be its folder.
+    const int numero = Disco::NumeroErrore(codice);
+    throw ErroreSistema(numero == ErroreSistema::FileNonTrovato ? ErroreSistema::PercorsoNonTrovato
+                                                                : numero);
+}
+
+/// The file that the path stands for, behind any symbolic links; it need not exist.
+QFileInfo Bersaglio(const QString &percorso)
+{
+    // A half of a surrogate pair can be typed by nobody, but the standard library throws its own
+    // exception at it.
+    if (!percorso.isValidUtf16()) {
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
+    constexpr int CollegamentiAlMassimo = 40;
+    QFileInfo file(percorso);
+    for (int i = 0; file.isSymLink(); ++i) {
+        if (i == CollegamentiAlMassimo) {
+            throw ErroreSistema(ErroreSistema::AccessoFile);
+        }
+        file.setFile(file.symLinkTarget());
+    }
+    if (file.fileName().isEmpty() || (file.exists() && (!file.isFile() || !file.isWritable()))) {
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
+    return file;
+}
+
+/// The new bytes on their way: a file beside the final one, removed unless it took its place.
+class FileTemporaneo
+{
+public:
+    explicit FileTemporaneo(const QFileInfo &bersaglio)
+        : bersaglio_(bersaglio)
+        , file_(bersaglio.dir().filePath(NomeTemporaneo()))
+    {
+    }
+    FileTemporaneo(const FileTemporaneo &) = delete;
+    FileTemporaneo &operator=(const FileTemporaneo &) = delete;
+    ~FileTemporaneo()
+    {
+        if (creato_) {
+            file_.remove();
+        }
+    }
+
+    void Apre()
+    {
+        // Unbuffered: a failing write is seen where it happens, not when a buffer is flushed.
+        constexpr auto modo = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
+        errno = 0;
+        // Until it carries the old file's permissions, nobody else may look into the new one.
+        creato_ = bersaglio_.exists() ? file_.open(modo, QFile::ReadOwner | QFile::WriteOwner)
+                                      : file_.open(modo);
+        if (!creato_) {
+            Fallisce(Causa(bersaglio_.path()));
+        }
+        if (bersaglio_.exists()) {
+            // File systems without permissions refuse this, and have none to keep.
+            file_.setPermissions(bersaglio_.permissions());
+        }
+    }
+
+    void Scrive(const QByteArray &byte)
+    {
+        errno = 0;
+        if (file_.write(byte) != byte.size() || file_.error() != QFileDevice::NoError) {
+            Fallisce(Causa(bersaglio_.path()));
+        }
+        if (sincronizza != nullptr) {
+            if (const std::error_code codice = sincronizza(file_.handle())) {
+                Fallisce(codice);
+            }
+        }
+    }
+
+    QDateTime Nascita() const { return file_.fileTime(QFileDevice::FileModificationTime); }
+
+    void PrendeIlPosto()
+    {
+        file_.close();
+        std::error_code codice;
+        std::filesystem::rename(QFileInfo(file_).filesystemFilePath(),
+                                bersaglio_.filesystemFilePath(), codice);
+        if (codice) {
+            Fallisce(codice);
+        }
+        creato_ = false;
+    }
+
+private:
+    QFileInfo bersaglio_;
+    QFile file_;
+    bool creato_ = false;
+};
+
+} // namespace
+
+QByteArray Disco::Legge(const QString &percorso, qint64 massimo)
+{
+    const QFileInfo info(percorso);
+    // A folder, and a pipe on which opening would wait for ever.
+    if (info.exists() && !info.isFile()) {
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
+    QFile file(percorso);
+    errno = 0;
+    if (!file.open(QIODevice::ReadOnly)) {
+        const int numero =
+            info.exists() ? ErroreSistema::AccessoFile : NumeroErrore(Causa(info.path()));
+        const bool senzaCartella = numero == ErroreSistema::FileNonTrovato && !info.dir().exists();
+        throw ErroreSistema(senzaCartella ? ErroreSistema::PercorsoNonTrovato : numero);
+    }
+    if (file.size() > massimo) {
+        throw ErroreSistema(ErroreSistema::MemoriaEsaurita);
+    }
+    QByteArray byte = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        throw ErroreSistema(ErroreSistema::ErroreIO);
+    }
+    return byte;
+}
+
+void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
+{
+    const QFileInfo bersaglio = Bersaglio(percorso);
+    FileTemporaneo nuovo(bersaglio);
+    nuovo.Apre();
+    // Before writing, for they may be what fills the disk.
+    SpazzaResti(bersaglio.dir(), nuovo.Nascita());
+    nuovo.Scrive(byte);
+    nuovo.PrendeIlPosto();
+}
+
+void Disco::UsaSincronizzazione(Sincronizzazione sincronizzazione)
+{
+    sincronizza = sincronizzazione;
+}
+
+int Disco::NumeroErrore(const std::error_code &codice)
+{
+    struct Voce
+    {
+        std::errc causa;
+        int numero;
+    };
+    static constexpr std::array<Voce, 10> Cause{{
+        {std::errc::no_such_file_or_directory, ErroreSistema::FileNonTrovato},
+        {std::errc::not_a_directory, ErroreSistema::FileNonTrovato},
+        {std::errc::no_space_on_device, ErroreSistema::DiscoPieno},
+        {std::errc::file_too_large, ErroreSistema::DiscoPieno},
+        {std::errc::read_only_file_system, ErroreSistema::AutorizzazioneNegata},
+        {std::errc::device_or_resource_busy, ErroreSistema::AutorizzazioneNegata},
+        {std::errc::text_file_busy, ErroreSistema::AutorizzazioneNegata},
+        {std::errc::io_error, ErroreSistema::ErroreIO},
+        {std::errc::no_such_device_or_address, ErroreSistema::ErroreIO},
+        {std::errc::no_such_device, ErroreSistema::ErroreIO},
+    }};
+#ifdef EDQUOT
+    // To the user an exhausted quota is a full disk; standard C++ has no name for it.
+    if (codice.value() == EDQUOT) {
+        return ErroreSistema::DiscoPieno;
+    }
+#endif
+    const auto voce =
+        std::find_if(Cause.begin(), Cause.end(), [&](const Voce &v) { return codice == v.causa; });
+    return voce == Cause.end() ? ErroreSistema::AccessoFile : voce->numero;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <system_error>
+
+/// Whole files, read and replaced at one go. Every failure is an ErroreSistema with the number of
+/// its real cause.
+namespace Disco {
+
+/// The bytes of a regular file. Throws 53 when the file is not there, 76 when its folder is not,
+/// 75 when it cannot be opened or is no file, 57 when reading fails, and 7 when it holds more than
+/// massimo bytes (nothing is kept then).
+QByteArray Legge(const QString &percorso, qint64 massimo);
+
+/// Puts byte into the place of the file: whoever opens it finds the old bytes or the new ones,
+/// never a part. Follows symbolic links and keeps the file's permissions. After a failure (61 disk
+/// or quota full, 70 write-protected or busy, 75 no right or no file, 76 folder gone, 57 anything
+/// else) the old file stands whole and the temporary one is gone. What a killed program left behind
+/// in the same folder is removed by the next call.
+void Sostituisce(const QString &percorso, const QByteArray &byte);
+
+/// Forces the bytes of an open file (a C descriptor) onto the medium; an empty code when done.
+using Sincronizzazione = std::error_code (*)(int descrittore);
+
+/// Qt offers no such call that reports its failure, so the program hands in its system's own at
+/// start. Without one, files are replaced atomically all the same, but a power cut soon after may
+/// lose the new bytes.
+void UsaSincronizzazione(Sincronizzazione sincronizzazione);
+
+/// The number of a failed operation on a file: 53, 57, 61, 70 or 75.
+int NumeroErrore(const std::error_code &codice);
+
+} // namespace Disco
