@@ -1,0 +1,1005 @@
+Estratto conto clienti
+
+
+
+
+
+
+ 83 
+ 215 
+ 5 
+ 0 
+segue su pagina successiva
+ 4 
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+Ditta_RagSoc
+Studio Perlanera
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+4
+Arial
+11
+-1
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+ragione sociale della propria ditta
+
+
+Ditta_Indirizzo
+Piazza dell'Orologio, 4
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+10
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+indirizzo della propria ditta
+
+
+Ditta_CapCitta
+99997 Castelfittizio (ZZ)
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+14
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+CAP, città e provincia della propria ditta
+
+
+Ditta_PIva
+Partita IVA 09876543210
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+18
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+partita IVA e codice fiscale della propria ditta
+
+
+Ditta_Tel
+Tel. 0999 000456
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+6
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+telefono della propria ditta
+
+
+Ditta_Email
+studio@perlanera.example
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+10
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+posta elettronica della propria ditta
+
+
+Ditta_Web
+www.perlanera.example
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+14
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+sito della propria ditta
+
+
+Ditta_Rea
+Albo prof. ZZ n. 0000
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+18
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+iscrizione al registro imprese
+
+
+Doc_Data
+31/03/2026
+$$$$$$$$$$
+7
+43
+Arial
+10
+-1
+$$$$$$$$$$
+data dell'estratto conto
+
+
+Cli_Codice
+C00127
+$$$$$$$$$$$$
+39
+43
+Arial
+10
+0
+$$$$$$$$$$$$
+codice cliente
+
+
+Doc_Pagina
+1
+###,
+71
+43
+Arial
+10
+0
+###,
+numero di pagina
+
+
+Periodo_Dal
+01/01/2026
+$$$$$$$$$$
+7
+52
+Arial
+9
+0
+$$$$$$$$$$
+inizio del periodo
+
+
+Periodo_Al
+31/03/2026
+$$$$$$$$$$
+54
+52
+Arial
+9
+0
+$$$$$$$$$$
+fine del periodo
+
+
+Cli_PIva
+00000000000
+$$$$$$$$$$$$$$$$
+7
+60
+Arial
+9
+0
+$$$$$$$$$$$$$$$$
+partita IVA del cliente
+
+
+Cli_Tel
+0999 000789
+$$$$$$$$$$$$$$$$$$$$
+54
+60
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$
+telefono del cliente
+
+
+Cli_RagSoc
+Officina Meccanica Tre Noci S.n.c.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+38
+Arial
+11
+-1
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+ragione sociale del cliente
+
+
+Cli_RagSoc2
+di Prova Mario & C.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+44
+Arial
+10
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+ragione sociale, seconda riga del cliente
+
+
+Cli_Indirizzo
+Vicolo dell'Esempio, 7
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+49
+Arial
+10
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+indirizzo del cliente
+
+
+Cli_CapCitta
+99998 PONTELUNGO (ZZ)
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+54
+Arial
+10
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+CAP, città e provincia del cliente
+
+
+R_DataReg
+10/03/2026
+$$$$$$$$$$
+7
+83
+Arial
+9
+0
+$$$$$$$$$$
+data di registrazione
+
+
+R_Numero
+FT 128/A
+$$$$$$$$$$$$
+28
+83
+Arial
+9
+0
+$$$$$$$$$$$$
+numero del documento
+
+
+R_Causale
+Fattura di vendita
+$$$$$$$$$$$$$$$$$$$$$$$$$$$
+50
+83
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$
+causale contabile
+
+
+R_Scadenza
+30/04/2026
+$$$$$$$$$$
+96
+83
+Arial
+9
+0
+$$$$$$$$$$
+data di scadenza
+
+
+R_Dare
+4.453,00
+###.###,###
+127
+83
+Arial
+9
+0
+###.###,###
+importo a debito
+
+
+R_Avere
+0,00
+###.###,###
+159
+83
+Arial
+9
+0
+###.###,###
+importo a credito
+
+
+R_Saldo
+4.453,00
+###.###,###
+181
+83
+Arial
+9
+0
+###.###,###
+saldo progressivo
+
+
+Tot_Scaduto
+1.180,40
+###.###,###
+33
+230
+Arial
+10
+-1
+###.###,###
+totale scaduto
+
+
+Tot_AScadere
+3.272,60
+###.###,###
+77
+230
+Arial
+10
+-1
+###.###,###
+totale a scadere
+
+
+Tot_Dare
+4.453,00
+###.###,###
+113
+230
+Arial
+10
+0
+###.###,###
+totale dare
+
+
+Tot_Avere
+0,00
+###.###,###
+153
+230
+Arial
+10
+0
+###.###,###
+totale avere
+
+
+Saldo
+4.453,00
+###.###,###
+178
+230
+Arial
+11
+-1
+###.###,###
+saldo finale
+
+
+Ditta_Iban
+Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+7
+244
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+banca e IBAN della propria ditta
+
+
+Firma
+L'amministrazione
+$$$$$$$$$$$$$$$$$$$$$$$$$
+150
+268
+Arial
+9
+-1
+$$$$$$$$$$$$$$$$$$$$$$$$$
+firma in calce
+
+FINECAMPI
+
+Linea intestazione
+
+5
+27
+Arial
+7
+0
+Riquadro Linea intestazione
+1
+190
+2.5
+1
+0
+
+ESTRATTO CONTO
+ESTRATTO CONTO
+4
+30
+Arial
+14
+-1
+Etichetta ESTRATTO CONTO
+7
+48
+0
+0
+1
+
+Alla data del
+Alla data del
+5
+39
+Arial
+7
+0
+Riquadro Alla data del
+9
+32
+1.1
+8
+1
+
+Codice cliente
+Codice cliente
+37
+39
+Arial
+7
+0
+Riquadro Codice cliente
+9
+32
+1.1
+8
+1
+
+Pagina
+Pagina
+69
+39
+Arial
+7
+0
+Riquadro Pagina
+9
+31
+1.1
+8
+1
+
+Dal
+Dal
+5
+48
+Arial
+7
+0
+Riquadro Dal
+8
+47
+1.1
+8
+1
+
+Al
+Al
+52
+48
+Arial
+7
+0
+Riquadro Al
+8
+48
+1.1
+8
+1
+
+Partita IVA
+Partita IVA
+5
+56
+Arial
+7
+0
+Riquadro Partita IVA
+8
+47
+1.1
+8
+1
+
+Telefono
+Telefono
+52
+56
+Arial
+7
+0
+Riquadro Telefono
+8
+48
+1.1
+8
+1
+
+Riquadro cliente
+Spett.le
+104
+30
+Arial
+8
+0
+Riquadro del cliente
+34
+91
+1.3
+1
+1
+
+Riportiamo di seguito la situazione contabile che risulta dalle nostre scritture
+Riportiamo di seguito la situazione contabile che risulta dalle nostre scritture.
+4
+67
+Arial
+9
+0
+Etichetta Riportiamo di seguito la situazione contabile che risulta dalle nostre scritture
+5
+110
+0
+0
+0
+
+Colonna Data reg
+
+5
+74
+Arial
+8
+-1
+Colonna Data reg.
+148
+21
+1.1
+8
+1
+
+Data reg
+Data reg.
+6
+75
+Arial
+8
+-1
+Etichetta Data reg
+5
+15
+0
+0
+1
+
+Colonna Documento
+
+26
+74
+Arial
+8
+-1
+Colonna Documento
+148
+22
+1.1
+8
+1
+
+Documento
+Documento
+27
+75
+Arial
+8
+-1
+Etichetta Documento
+5
+18
+0
+0
+1
+
+Colonna Causale
+
+48
+74
+Arial
+8
+-1
+Colonna Causale
+148
+46
+1.1
+8
+1
+
+Causale
+Causale
+49
+75
+Arial
+8
+-1
+Etichetta Causale
+5
+13
+0
+0
+1
+
+Colonna Scadenza
+
+94
+74
+Arial
+8
+-1
+Colonna Scadenza
+148
+21
+1.1
+8
+1
+
+Scadenza
+Scadenza
+95
+75
+Arial
+8
+-1
+Etichetta Scadenza
+5
+16
+0
+0
+1
+
+Colonna Dare
+
+115
+74
+Arial
+8
+-1
+Colonna Dare
+148
+26
+1.1
+8
+1
+
+Dare
+Dare
+132
+75
+Arial
+8
+-1
+Etichetta Dare
+5
+9
+0
+0
+1
+
+Colonna Avere
+
+141
+74
+Arial
+8
+-1
+Colonna Avere
+148
+26
+1.1
+8
+1
+
+Avere
+Avere
+156
+75
+Arial
+8
+-1
+Etichetta Avere
+5
+10
+0
+0
+1
+
+Colonna Saldo
+
+167
+74
+Arial
+8
+-1
+Colonna Saldo
+148
+28
+1.1
+8
+1
+
+Saldo
+Saldo
+184
+75
+Arial
+8
+-1
+Etichetta Saldo
+5
+10
+0
+0
+1
+
+Riquadro righe
+
+5
+74
+Arial
+8
+0
+Riquadro delle righe
+148
+190
+1.3
+1
+1
+
+Linea intestazione righe
+
+5
+81
+Arial
+7
+0
+Riquadro Linea intestazione righe
+1
+190
+2.3
+1
+0
+
+Totale scaduto
+Totale scaduto
+5
+225
+Arial
+7
+0
+Riquadro Totale scaduto
+10
+44
+1.1
+8
+1
+
+Totale a scadere
+Totale a scadere
+49
+225
+Arial
+7
+0
+Riquadro Totale a scadere
+10
+44
+1.1
+8
+1
+
+Totale dare
+Totale dare
+96
+225
+Arial
+7
+0
+Riquadro Totale dare
+10
+33
+1.1
+8
+1
+
+Totale avere
+Totale avere
+129
+225
+Arial
+7
+0
+Riquadro Totale avere
+10
+33
+1.1
+8
+1
+
+SALDO €
+SALDO €
+162
+225
+Arial
+7
+-1
+Riquadro SALDO €
+10
+33
+1.4
+1
+1
+
+Coordinate per il pagamento
+Coordinate per il pagamento
+5
+239
+Arial
+7
+0
+Riquadro Coordinate per il pagamento
+9
+190
+1.1
+8
+1
+
+Vi preghiamo di verificare le partite sopra elencate e di provvedere al saldo di quelle scadute
+Vi preghiamo di verificare le partite sopra elencate e di provvedere al saldo di quelle scadute.
+4
+252
+Arial
+9
+0
+Etichetta Vi preghiamo di verificare le partite sopra elencate e di provvedere al saldo di quelle scadute
+5
+133
+0
+0
+0
+
+In mancanza di vostre osservazioni entro 15 giorni l'estratto conto si intende approvato
+In mancanza di vostre osservazioni entro 15 giorni l'estratto conto si intende approvato.
+4
+257
+Arial
+9
+0
+Etichetta In mancanza di vostre osservazioni entro 15 giorni l'estratto conto si intende approvato
+5
+125
+0
+0
+0
+
+Distinti saluti
+Distinti saluti
+149
+263
+Arial
+9
+0
+Etichetta Distinti saluti
+5
+20
+0
+0
+0
+
+Linea piede
+
+5
+277
+Arial
+7
+0
+Riquadro Linea piede
+1
+190
+2.2
+8
+0
+
+Nota a piede
+Se nel frattempo avete già provveduto al pagamento vogliate considerare nulla la presente.
+4
+278
+Arial
+7
+0
+Etichetta Nota a piede
+4
+102
+0
+0
+8
+
+Nota a piede 2
+I dati sono trattati nel rispetto delle norme sulla protezione dei dati personali.
+4
+282
+Arial
+7
+0
+Etichetta Nota a piede 2
+4
+86
+0
+0
+8
+FINECORNICI
+
+LogoPerlanera.jpg
+5
+3
+Logo della ditta
+22
+55
+0
+
+FINEIMMAGINI

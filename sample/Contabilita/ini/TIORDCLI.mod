@@ -1,0 +1,1239 @@
+Ordine cliente / offerta
+
+
+
+
+
+
+ 94 
+ 210 
+ 5 
+ 0 
+segue su pagina successiva
+ 4 
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+
+Ditta_RagSoc
+Cascinalta S.r.l.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+4
+Arial
+11
+-1
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+ragione sociale della propria ditta
+
+
+Ditta_Indirizzo
+Via dei Mulini Vecchi, 12
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+10
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+indirizzo della propria ditta
+
+
+Ditta_CapCitta
+99999 Borgofinto (ZZ)
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+14
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+CAP, città e provincia della propria ditta
+
+
+Ditta_PIva
+Partita IVA e C.F. 01234567890
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+85
+18
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+partita IVA e codice fiscale della propria ditta
+
+
+Ditta_Tel
+Tel. 0999 000123
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+6
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+telefono della propria ditta
+
+
+Ditta_Email
+amministrazione@cascinalta.example
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+10
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+posta elettronica della propria ditta
+
+
+Ditta_Web
+www.cascinalta.example
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+14
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+sito della propria ditta
+
+
+Ditta_Rea
+REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+138
+18
+Arial
+8
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+iscrizione al registro imprese
+
+
+Doc_Titolo
+CONFERMA D'ORDINE
+$$$$$$$$$$$$$$$$$$$$$$$$$
+5
+30
+Arial
+14
+-1
+$$$$$$$$$$$$$$$$$$$$$$$$$
+titolo del documento: conferma d'ordine oppure offerta
+
+
+Doc_Numero
+61
+$$$$$$$$$$$$
+7
+43
+Arial
+10
+-1
+$$$$$$$$$$$$
+numero del documento
+
+
+Doc_Data
+03/03/2026
+$$$$$$$$$$
+39
+43
+Arial
+10
+-1
+$$$$$$$$$$
+data del documento
+
+
+Doc_Pagina
+1
+###,
+71
+43
+Arial
+10
+0
+###,
+numero di pagina
+
+
+Cli_Codice
+C00127
+$$$$$$$$$$$$
+7
+52
+Arial
+9
+0
+$$$$$$$$$$$$
+codice cliente
+
+
+Cli_PIva
+00000000000
+$$$$$$$$$$$$$$$$
+39
+52
+Arial
+9
+0
+$$$$$$$$$$$$$$$$
+partita IVA cliente
+
+
+Cli_CodFisc
+00000000000
+$$$$$$$$$$$$$$$$
+71
+52
+Arial
+9
+0
+$$$$$$$$$$$$$$$$
+codice fiscale cliente
+
+
+Cli_RagSoc
+Officina Meccanica Tre Noci S.n.c.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+38
+Arial
+11
+-1
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+ragione sociale del cliente
+
+
+Cli_RagSoc2
+di Prova Mario & C.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+44
+Arial
+10
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+ragione sociale, seconda riga del cliente
+
+
+Cli_Indirizzo
+Vicolo dell'Esempio, 7
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+49
+Arial
+10
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+indirizzo del cliente
+
+
+Cli_CapCitta
+99998 PONTELUNGO (ZZ)
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+108
+54
+Arial
+10
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+CAP, città e provincia del cliente
+
+
+Vs_Ordine
+n. 45 del 02/03/2026
+$$$$$$$$$$$$$$$$$$$$$$$$
+7
+60
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$
+riferimento alla richiesta del cliente
+
+
+Cli_Attenzione
+Sig. Prova Mario
+$$$$$$$$$$$$$$$$$$$$$$$$$$
+54
+60
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$
+persona a cui è diretto il documento
+
+
+Consegna
+16/03/2026
+$$$$$$$$$$
+7
+70
+Arial
+9
+-1
+$$$$$$$$$$
+data di consegna prevista
+
+
+Porto
+Franco destino
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+70
+70
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+resa della merce
+
+
+Validita
+30 giorni
+$$$$$$$$$$$$$$$$$$$$$$$$$
+133
+70
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$
+validità dell'offerta
+
+
+Pagamento
+Ric. bancaria 30/60 gg f.m.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+7
+78
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+condizioni di pagamento
+
+
+Banca_Appoggio
+Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+70
+78
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+banca di appoggio e IBAN
+
+
+R_Codice
+ZAP-0450
+$$$$$$$$$$$$$
+7
+94
+Arial
+9
+0
+$$$$$$$$$$$$$
+codice articolo
+
+
+R_Descr
+Zappatrice a lame registrabili 45
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+31
+94
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+descrizione della merce
+
+
+R_Um
+Pz
+$$$
+91
+94
+Arial
+9
+0
+$$$
+unità di misura
+
+
+R_Qta
+50,00
+#####,###
+106
+94
+Arial
+9
+0
+#####,###
+quantità
+
+
+R_Prezzo
+59,000
+######,####
+124
+94
+Arial
+9
+0
+######,####
+prezzo unitario
+
+
+R_Sconto
+20
+$$$$$
+140
+94
+Arial
+9
+0
+$$$$$
+sconti percentuali
+
+
+R_Importo
+2.360,00
+###.###,###
+157
+94
+Arial
+9
+0
+###.###,###
+importo della riga
+
+
+R_Consegna
+16/03/2026
+$$$$$$$$$$
+175
+94
+Arial
+9
+0
+$$$$$$$$$$
+data di consegna della riga
+
+
+Condizioni1
+Trasporto con mezzo del venditore, imballo compreso.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+7
+225
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+condizioni di vendita, riga 1
+
+
+Condizioni2
+Prezzi al netto dell'IVA.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+7
+231
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+condizioni di vendita, riga 2
+
+
+Condizioni3
+Garanzia 24 mesi sui difetti di fabbricazione.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+7
+237
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+condizioni di vendita, riga 3
+
+
+Tot_Merce
+2.360,00
+###.###,###
+181
+220
+Arial
+9
+0
+###.###,###
+totale merce
+
+
+Spese_Trasporto
+40,00
+###.###,###
+185
+225
+Arial
+9
+0
+###.###,###
+spese di trasporto
+
+
+Tot_Imposta
+528,00
+###.###,###
+183
+230
+Arial
+9
+0
+###.###,###
+totale imposta
+
+
+Totale
+2.928,00
+###.###,###
+176
+238
+Arial
+12
+-1
+###.###,###
+totale €
+
+
+Note
+Merce disponibile a magazzino salvo il venduto.
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+7
+254
+Arial
+9
+0
+$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
+annotazioni
+
+FINECAMPI
+
+Linea intestazione
+
+5
+27
+Arial
+7
+0
+Riquadro Linea intestazione
+1
+190
+2.5
+1
+0
+
+Numero
+Numero
+5
+39
+Arial
+7
+0
+Riquadro Numero
+9
+32
+1.1
+8
+1
+
+Data
+Data
+37
+39
+Arial
+7
+0
+Riquadro Data
+9
+32
+1.1
+8
+1
+
+Pagina
+Pagina
+69
+39
+Arial
+7
+0
+Riquadro Pagina
+9
+31
+1.1
+8
+1
+
+Codice cliente
+Codice cliente
+5
+48
+Arial
+7
+0
+Riquadro Codice cliente
+8
+32
+1.1
+8
+1
+
+Partita IVA
+Partita IVA
+37
+48
+Arial
+7
+0
+Riquadro Partita IVA
+8
+32
+1.1
+8
+1
+
+Codice fiscale
+Codice fiscale
+69
+48
+Arial
+7
+0
+Riquadro Codice fiscale
+8
+31
+1.1
+8
+1
+
+Riquadro cliente
+Spett.le
+104
+30
+Arial
+8
+0
+Riquadro del cliente
+34
+91
+1.3
+1
+1
+
+Vs. riferimento
+Vs. riferimento
+5
+56
+Arial
+7
+0
+Riquadro Vs. riferimento
+8
+47
+1.1
+8
+1
+
+Alla cortese attenzione
+Alla cortese attenzione
+52
+56
+Arial
+7
+0
+Riquadro Alla cortese attenzione
+8
+48
+1.1
+8
+1
+
+Consegna prevista
+Consegna prevista
+5
+66
+Arial
+7
+0
+Riquadro Consegna prevista
+8
+63
+1.1
+8
+1
+
+Resa
+Resa
+68
+66
+Arial
+7
+0
+Riquadro Resa
+8
+63
+1.1
+8
+1
+
+Validità dell'offerta
+Validità dell'offerta
+131
+66
+Arial
+7
+0
+Riquadro Validità dell'offerta
+8
+64
+1.1
+8
+1
+
+Condizioni di pagamento
+Condizioni di pagamento
+5
+74
+Arial
+7
+0
+Riquadro Condizioni di pagamento
+8
+63
+1.1
+8
+1
+
+Banca d'appoggio
+Banca d'appoggio
+68
+74
+Arial
+7
+0
+Riquadro Banca d'appoggio
+8
+127
+1.1
+8
+1
+
+Colonna Codice
+
+5
+85
+Arial
+8
+-1
+Colonna Codice
+131
+24
+1.1
+8
+1
+
+Codice
+Codice
+6
+86
+Arial
+8
+-1
+Etichetta Codice
+5
+12
+0
+0
+1
+
+Colonna Descrizione
+
+29
+85
+Arial
+8
+-1
+Colonna Descrizione
+131
+58
+1.1
+8
+1
+
+Descrizione
+Descrizione
+30
+86
+Arial
+8
+-1
+Etichetta Descrizione
+5
+18
+0
+0
+1
+
+Colonna U.M
+
+87
+85
+Arial
+8
+-1
+Colonna U.M.
+131
+11
+1.1
+8
+1
+
+U.M
+U.M.
+89
+86
+Arial
+8
+-1
+Etichetta U.M
+5
+8
+0
+0
+1
+
+Colonna Quantità
+
+98
+85
+Arial
+8
+-1
+Colonna Quantità
+131
+18
+1.1
+8
+1
+
+Quantità
+Quantità
+102
+86
+Arial
+8
+-1
+Etichetta Quantità
+5
+14
+0
+0
+1
+
+Colonna Prezzo
+
+116
+85
+Arial
+8
+-1
+Colonna Prezzo
+131
+20
+1.1
+8
+1
+
+Prezzo
+Prezzo
+124
+86
+Arial
+8
+-1
+Etichetta Prezzo
+5
+12
+0
+0
+1
+
+Colonna Sc. 
+
+136
+85
+Arial
+8
+-1
+Colonna Sc. %
+131
+12
+1.1
+8
+1
+
+Sc. %
+Sc. %
+137
+86
+Arial
+8
+-1
+Etichetta Sc. %
+5
+10
+0
+0
+1
+
+Colonna Importo
+
+148
+85
+Arial
+8
+-1
+Colonna Importo
+131
+23
+1.1
+8
+1
+
+Importo
+Importo
+157
+86
+Arial
+8
+-1
+Etichetta Importo
+5
+13
+0
+0
+1
+
+Colonna Consegna
+
+171
+85
+Arial
+8
+-1
+Colonna Consegna
+131
+24
+1.1
+8
+1
+
+Consegna
+Consegna
+175
+86
+Arial
+8
+-1
+Etichetta Consegna
+5
+16
+0
+0
+1
+
+Riquadro righe
+
+5
+85
+Arial
+8
+0
+Riquadro delle righe
+131
+190
+1.3
+1
+1
+
+Linea intestazione righe
+
+5
+92
+Arial
+7
+0
+Riquadro Linea intestazione righe
+1
+190
+2.3
+1
+0
+
+Riquadro condizioni
+Condizioni
+5
+219
+Arial
+7
+-1
+Riquadro Riquadro condizioni
+27
+104
+1.1
+8
+1
+
+Riquadro totali
+
+112
+219
+Arial
+7
+0
+Riquadro Riquadro totali
+15
+83
+1.1
+8
+1
+
+Totale merce
+Totale merce
+113
+220
+Arial
+8
+0
+Etichetta Totale merce
+5
+19
+0
+0
+1
+
+Spese di trasporto
+Spese di trasporto
+113
+225
+Arial
+8
+0
+Etichetta Spese di trasporto
+5
+25
+0
+0
+1
+
+Linea totali
+
+112
+224
+Arial
+7
+0
+Riquadro Linea totali
+1
+83
+2.1
+8
+0
+
+Totale imposta
+Totale imposta
+113
+230
+Arial
+8
+0
+Etichetta Totale imposta
+5
+21
+0
+0
+1
+
+Linea totali 2
+
+112
+229
+Arial
+7
+0
+Riquadro Linea totali 2
+1
+83
+2.1
+8
+0
+
+Riquadro totale €
+
+112
+234
+Arial
+8
+-1
+Riquadro Riquadro totale €
+12
+83
+1.4
+1
+1
+
+TOTALE €
+TOTALE €
+113
+238
+Arial
+11
+-1
+Etichetta TOTALE €
+6
+21
+0
+0
+1
+
+Annotazioni
+Annotazioni
+5
+249
+Arial
+7
+0
+Riquadro Annotazioni
+9
+190
+1.1
+8
+1
+
+Firma del venditore
+Il venditore
+5
+261
+Arial
+7
+0
+Spazio per la firma
+13
+94
+1.1
+8
+1
+
+Firma del cliente
+Per accettazione, il cliente (data, timbro e firma)
+101
+261
+Arial
+7
+0
+Spazio per la firma
+13
+94
+1.1
+8
+1
+
+Linea piede
+
+5
+277
+Arial
+7
+0
+Riquadro Linea piede
+1
+190
+2.2
+8
+0
+
+Nota a piede
+L'ordine si intende accettato se non contestato per iscritto entro 5 giorni dal ricevimento della presente.
+4
+278
+Arial
+7
+0
+Etichetta Nota a piede
+4
+115
+0
+0
+8
+
+Nota a piede 2
+I dati sono trattati nel rispetto delle norme sulla protezione dei dati personali.
+4
+282
+Arial
+7
+0
+Etichetta Nota a piede 2
+4
+86
+0
+0
+8
+FINECORNICI
+
+LogoCascinalta.gif
+5
+3
+Logo della ditta
+22
+66
+0
+
+FINEIMMAGINI
