@@ -37,15 +37,16 @@ signals:
     void SettaComboMaskRichiesto();
 
 private:
+    void Form_Load();
     void CollegaSegnali();
     void CambiaMaschera();
     void PCambiaMaschera_Click();
     void PMascheraDefault_Click();
-    void NonStampaCampo_Click();
     void PConfemaCampo_Click();
     void Command2_Click();
+    void PEliminaCampo_Click();
+    void NonStampaCampo_Click();
     void Maschera_Change();
-    void RipristinaMaschera();
     void ControllaLunghezzaTesto() const;
 
     std::unique_ptr<Ui::FrmCampo> ui_;

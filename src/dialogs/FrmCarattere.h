@@ -25,19 +25,45 @@ protected:
         QCheckBox *Bold = nullptr;
         QLineEdit *Testo = nullptr;
     };
+    struct Carattere
+    {
+        QString Font;
+        qint16 Grassetto;  ///< Vero or Falso
+        qint16 Dimensione; ///< points
+    };
 
     using FrmElemento::FrmElemento;
 
-    void Prepara(const Controlli &controlli, const ControlliCarattere &carattere);
-    void CaricaElemento(int k);
+    void Form_Load(const Controlli &controlli, const ControlliCarattere &carattere);
+    /// Shows test text and bold of element k; its font and size are the editor's to select.
+    template <typename Elemento>
+    void CaricaCarattere(const Elemento &elemento);
+    /// A double click in the box Nome is Nome_DblClick.
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
-    /// The chosen size; throws Rifiuto when none is chosen.
-    qint16 DimensioneScelta() const;
-    qint16 GrassettoScelto() const;
-    QString FontScelto() const;
+    /// Throws Rifiuto when no size is chosen.
+    Carattere CarattereScelto() const;
+    template <typename Elemento>
+    static void Scrive(Elemento &elemento, const Carattere &carattere);
 
 private:
+    void Nome_DblClick();
+    void MostraCarattere(const QString &testo, bool grassetto);
+
     QLineEdit *nome_ = nullptr;
     ControlliCarattere carattere_;
 };
+
+template <typename Elemento>
+void FrmCarattere::CaricaCarattere(const Elemento &elemento)
+{
+    MostraCarattere(elemento.Testo, elemento.Grassetto != Falso);
+}
+
+template <typename Elemento>
+void FrmCarattere::Scrive(Elemento &elemento, const Carattere &carattere)
+{
+    elemento.Font = carattere.Font;
+    elemento.Grassetto = carattere.Grassetto;
+    elemento.Dimensione = carattere.Dimensione;
+}

@@ -21,6 +21,13 @@ public:
     void Carica(int k);
 
 private:
+    struct Misure
+    {
+        double Larghezza; ///< mm
+        double Altezza;   ///< mm
+    };
+
+    void Form_Load();
     void CollegaSegnali();
     void OptEtichetta_Click();
     void OptCornice_Click();
@@ -28,14 +35,15 @@ private:
     void Confema_Click();
     void Command1_Click();
     void Command2_Click();
+    void Elimina_Click();
 
-    bool ColoreErrato(const QLineEdit *casella) const;
-    void ControllaColore(QLineEdit *casella, const QString &messaggio) const;
-    /// The text of the box as a 16-bit number, rounded half to even; throws Rifiuto when it is
-    /// none.
-    qint16 Colore(QLineEdit *casella) const;
-    void Abilita(bool bordo);
-    void AdattaAllaScritta();
+    void ImpostaBordo(const QString &testo, bool abilitato);
+    /// A wrong colour is no number or outside 0..15; throws Rifiuto with the message.
+    static void ControllaColore(QLineEdit *casella, const QString &messaggio);
+    /// Throws Rifiuto when the width is zero or less.
+    double LarghezzaScritta() const;
+    /// Size of a label, from its text: the boxes then show it.
+    Misure AdattaAllaScritta(const Carattere &carattere);
 
     std::unique_ptr<Ui::FrmCornice> ui_;
 };

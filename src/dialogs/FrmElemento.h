@@ -7,8 +7,6 @@
 #include <QLineEdit>
 #include <QString>
 
-class QAbstractButton;
-
 /// What the property dialogs of the three kinds of element share. A dialog is modal, edits one
 /// record of the open model in place and knows neither the preview nor the editor: it says with its
 /// signals, at the moment it happens, what they have to follow. The caller fills it with Carica and
@@ -32,7 +30,7 @@ signals:
     void Eliminato(Genere genere, int n);
 
 protected:
-    /// The controls that every dialog has; they belong to the dialog.
+    /// The boxes that every dialog has; they belong to the dialog.
     struct Controlli
     {
         QLineEdit *Num = nullptr;
@@ -40,7 +38,6 @@ protected:
         QLineEdit *Descrizione = nullptr;
         QLineEdit *X = nullptr;
         QLineEdit *Y = nullptr;
-        QAbstractButton *Elimina = nullptr;
     };
 
     /// Ends an attempt (see Tenta) with a message to the user; the control gets the focus.
@@ -52,17 +49,20 @@ protected:
 
     FrmElemento(Genere genere, StatoProgramma &stato, QWidget *padre);
 
-    /// Takes over the shared controls; called once, when the derived dialog has built its form.
-    void Prepara(const Controlli &controlli);
+    /// Takes over the shared boxes and sets help and character limits; called once, when the
+    /// derived dialog has built its form.
+    void Form_Load(const Controlli &controlli);
     /// Shows what the records of all kinds have. Throws ErroreSistema 9 for an index outside the
     /// table, with the dialog untouched.
     void CaricaElemento(int k);
 
-    Modello &Aperto() const { return stato_.Aperto; }
+    Modello &Aperto() { return stato_.Aperto; }
+    const Modello &Aperto() const { return stato_.Aperto; }
     const StatoProgramma &Stato() const { return stato_; }
     MemoriaCaselle &Caselle() { return caselle_; }
     const MemoriaCaselle &Caselle() const { return caselle_; }
-    /// The record that Num names. Throws ErroreSistema 6 when the number is no 16-bit one.
+    /// The record that Num names, inside the table or not. Throws ErroreSistema 6 when the number
+    /// is no 16-bit one.
     int Indice() const;
 
     /// Runs a command whose checks throw Rifiuto: the first one that fails shows its message and
@@ -82,16 +82,27 @@ protected:
     void ControllaNomeScritto() const;
     /// Strict reading of a box; throws Rifiuto naming the box for a text that is no number.
     double Doppio(QLineEdit *casella) const;
+    /// The number in 16 bits, rounded half to even; throws Rifiuto naming the control for a text
+    /// that is no such number.
+    static qint16 Intero16(QWidget *controllo, const QString &testo);
+
+    /// Place of the element as typed, in mm.
+    struct Posto
+    {
+        double X;
+        double Y;
+    };
+    Posto PostoScritto() const;
     /// Writes name, place and description, which the confirm of every kind stores.
-    void ScriveElemento(int n, double x, double y);
+    void ScriveElemento(int n, const Posto &posto);
     /// The end of every confirm: preview, then list, then the dialog closes.
     void Conclude(int n);
+    /// Asks domanda, completed by the element's name; on Yes makes it absent and closes the dialog.
+    void ChiedeEliminazione(const QString &domanda);
     /// Makes element n absent and closes the dialog, without asking.
     void EliminaElemento(int n);
 
 private:
-    void CollegaSegnali();
-    void Elimina_Click();
     void Rifiuta(const Rifiuto &rifiuto);
 
     Genere genere_;

@@ -27,20 +27,27 @@ public:
     void Carica(int k);
 
 protected:
+    /// Space chooses the current file of the list, and so does Enter unless it is chosen already.
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
+    void Form_Load();
     void CollegaSegnali();
-    void ElencaFile();
     void FileImmagini_Click(QListWidgetItem *voce);
     void Command1_Click();
     void Confema_Click();
+    void Elimina_Click();
     void ImpostaImmagine();
+
+    void RiempieFileImmagini();
+    bool SceglieConTasto(int tasto);
     /// Natural size in mm; 0 x 0 for a picture that cannot be loaded.
     QSizeF MisuraImmagine() const;
-    /// Asks for the percentage of a large picture and shows the reduced size; false when the user
-    /// wants none.
+    /// Proposes the percentage that makes a large picture fit and shows the reduced size; false
+    /// when the user wants none.
     bool ChiedeRiduzione(const QSizeF &misura);
+    /// The percentage that the user gives; 0 for none.
+    double ChiedePercentuale();
     void ScriveSubito();
 
     std::unique_ptr<Ui::FrmImmagine> ui_;

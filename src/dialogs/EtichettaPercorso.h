@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label for a path: where there is no room for all of it, the middle is left out, so that the
+/// window need not grow with the path. text() stays the whole path.
+class EtichettaPercorso : public QLabel
+{
+    Q_OBJECT
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *evento) override;
+};

@@ -1,0 +1,145 @@
+#include "dialogs/FrmElemento.h"
+
+#include "model/Numeri.h"
+#include "platform/Finestre.h"
+#include "platform/Messaggi.h"
+
+namespace {
+
+QString NonNumero(const QWidget *controllo, const QString &testo)
+{
+    const QString nome = controllo->accessibleName();
+    return testo.trimmed().isEmpty() ? QStringLiteral("%1: manca il numero").arg(nome)
+                                     : QStringLiteral("%1: «%2» non è un numero").arg(nome, testo);
+}
+
+} // namespace
+
+FrmElemento::FrmElemento(Genere genere, StatoProgramma &stato, QWidget *padre)
+    : QDialog(padre)
+    , genere_(genere)
+    , stato_(stato)
+{
+    setModal(true);
+}
+
+bool FrmElemento::Numero(QLineEdit *casella)
+{
+    constexpr double Massimo = 400;
+    const std::optional<double> valore = Numeri::Numerico(casella->text());
+    if (valore && *valore <= Massimo) {
+        return true;
+    }
+    casella->setText(QStringLiteral("0"));
+    return false;
+}
+
+void FrmElemento::Form_Load(const Controlli &controlli)
+{
+    controlli_ = controlli;
+    ImpostaHelp(this);
+    LimitaAlCodice(this);
+}
+
+void FrmElemento::CaricaElemento(int k)
+{
+    Modello &aperto = stato_.Aperto;
+    caselle_.Mostra(controlli_.Nome, aperto.Nome(genere_, k));
+    caselle_.Mostra(controlli_.Descrizione, aperto.Descrizione(genere_, k));
+    caselle_.Mostra(controlli_.X, aperto.X(genere_, k));
+    caselle_.Mostra(controlli_.Y, aperto.Y(genere_, k));
+    controlli_.Num->setText(QString::number(k));
+    controlli_.Nome->setFocus();
+    controlli_.Nome->selectAll();
+}
+
+int FrmElemento::Indice() const
+{
+    return Numeri::Intero16(Numeri::Val(controlli_.Num->text()));
+}
+
+void FrmElemento::ControllaNomeUnico(int n, const QString &messaggio) const
+{
+    const QString nome = caselle_.Testo(controlli_.Nome);
+    for (int i = 1; i <= Aperto().UltimoSlot(genere_); ++i) {
+        if (i != n && Aperto().Nome(genere_, i).compare(nome, Qt::CaseInsensitive) == 0) {
+            throw Rifiuto{messaggio, controlli_.Nome};
+        }
+    }
+}
+
+void FrmElemento::ControllaNomeScritto() const
+{
+    if (controlli_.Nome->text().isEmpty()) {
+        throw Rifiuto{QStringLiteral("Nome: non può essere vuoto"), controlli_.Nome};
+    }
+}
+
+double FrmElemento::Doppio(QLineEdit *casella) const
+{
+    const std::optional<double> valore = caselle_.Numerico(casella);
+    if (!valore) {
+        throw Rifiuto{NonNumero(casella, casella->text()), casella};
+    }
+    return *valore;
+}
+
+qint16 FrmElemento::Intero16(QWidget *controllo, const QString &testo)
+{
+    const std::optional<double> valore = Numeri::Numerico(testo);
+    if (!valore) {
+        throw Rifiuto{NonNumero(controllo, testo), controllo};
+    }
+    try {
+        return Numeri::Intero16(*valore);
+    } catch (const ErroreSistema &) {
+        throw Rifiuto{QStringLiteral("%1: «%2» è un numero troppo grande")
+                          .arg(controllo->accessibleName(), testo),
+                      controllo};
+    }
+}
+
+FrmElemento::Posto FrmElemento::PostoScritto() const
+{
+    const double x = Doppio(controlli_.X);
+    return {x, Doppio(controlli_.Y)};
+}
+
+void FrmElemento::ScriveElemento(int n, const Posto &posto)
+{
+    Aperto().Nome(genere_, n) = caselle_.Testo(controlli_.Nome);
+    Aperto().X(genere_, n) = posto.X;
+    Aperto().Y(genere_, n) = posto.Y;
+    Aperto().Descrizione(genere_, n) = caselle_.Testo(controlli_.Descrizione);
+}
+
+void FrmElemento::Conclude(int n)
+{
+    emit Applicato(genere_, n);
+    emit VoceRinominata(genere_, n, Aperto().Nome(genere_, n));
+    accept();
+}
+
+void FrmElemento::ChiedeEliminazione(const QString &domanda)
+{
+    const int n = Indice();
+    if (Messaggi::Domanda(this, domanda + Aperto().Nome(genere_, n), Messaggi::Risposta::No)) {
+        EliminaElemento(n);
+    }
+}
+
+void FrmElemento::EliminaElemento(int n)
+{
+    Aperto().Nome(genere_, n).clear();
+    emit Eliminato(genere_, n);
+    accept();
+}
+
+void FrmElemento::Rifiuta(const Rifiuto &rifiuto)
+{
+    Messaggi::Mostra(this, rifiuto.Messaggio);
+    rifiuto.Controllo->setFocus();
+    if (auto *casella = qobject_cast<QLineEdit *>(rifiuto.Controllo)) {
+        casella->selectAll();
+    }
+}

@@ -1,0 +1,211 @@
+#include "dialogs/FrmImmagine.h"
+
+#include "ui_FrmImmagine.h"
+
+#include "model/Numeri.h"
+#include "platform/Guardia.h"
+#include "platform/Immagini.h"
+#include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+constexpr double LarghezzaGrande = 19;     // mm
+constexpr double AltezzaGrande = 29;       // mm
+constexpr double PercentualeUtile = 19500; // brings a width to 195 mm
+constexpr double Intero = 100;             // percent
+
+/// The text of a single-precision number.
+QString NumeroSingolo(double valore)
+{
+    constexpr int Cifre = 7;
+    return Numeri::NumeroPiano(QString::number(valore, 'g', Cifre).toDouble());
+}
+
+} // namespace
+
+FrmImmagine::FrmImmagine(StatoProgramma &stato, QWidget *padre)
+    : FrmElemento(Genere::Immagine, stato, padre)
+    , ui_(std::make_unique<Ui::FrmImmagine>())
+{
+    ui_->setupUi(this);
+    Form_Load();
+    CollegaSegnali();
+}
+
+FrmImmagine::~FrmImmagine() = default;
+
+void FrmImmagine::Form_Load()
+{
+    FrmElemento::Form_Load({ui_->Num, ui_->Nome, ui_->Descrizione, ui_->X, ui_->Y});
+    ui_->FileImmagini->installEventFilter(this);
+    ui_->Label4->setText(Stato().CartellaModelli);
+    ui_->Label4->setToolTip(Stato().CartellaModelli);
+}
+
+void FrmImmagine::CollegaSegnali()
+{
+    Collega(ui_->FileImmagini, &QListWidget::itemClicked, this, &FrmImmagine::FileImmagini_Click);
+    Collega(ui_->Command1, &QPushButton::clicked, this, &FrmImmagine::Command1_Click);
+    Collega(ui_->Confema, &QPushButton::clicked, this, &FrmImmagine::Confema_Click);
+    Collega(ui_->Elimina, &QPushButton::clicked, this, &FrmImmagine::Elimina_Click);
+}
+
+void FrmImmagine::Carica(int k)
+{
+    CaricaElemento(k);
+    const Immagine &immagine = Aperto().Immagini[k];
+    Caselle().Mostra(ui_->Bordo, immagine.Bordo);
+    Caselle().Mostra(ui_->Largh, immagine.Larghezza);
+    Caselle().Mostra(ui_->Alt, immagine.Altezza);
+    Guardia(this, [this] { RiempieFileImmagini(); });
+}
+
+void FrmImmagine::RiempieFileImmagini()
+{
+    ui_->FileImmagini->clear();
+    // The first pattern has no point: a name that only ends in "jpg" is a picture too.
+    ui_->FileImmagini->addItems(
+        Percorsi::FileConModello(Stato().CartellaModelli, QStringLiteral("*jpg;*.bmp;*.gif")));
+    for (int i = 0; i < ui_->FileImmagini->count(); ++i) {
+        QListWidgetItem *voce = ui_->FileImmagini->item(i);
+        if (voce->text().compare(ui_->Nome->text(), Qt::CaseInsensitive) == 0) {
+            ui_->FileImmagini->setCurrentItem(voce);
+        }
+    }
+}
+
+bool FrmImmagine::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    bool trattato = false;
+    if (oggetto == ui_->FileImmagini && evento->type() == QEvent::KeyPress) {
+        const int tasto = static_cast<QKeyEvent *>(evento)->key();
+        Guardia(this, [&] { trattato = SceglieConTasto(tasto); });
+    }
+    return trattato || FrmElemento::eventFilter(oggetto, evento);
+}
+
+bool FrmImmagine::SceglieConTasto(int tasto)
+{
+    QListWidgetItem *voce = ui_->FileImmagini->currentItem();
+    if (voce == nullptr) {
+        return false;
+    }
+    const bool invio = tasto == Qt::Key_Return || tasto == Qt::Key_Enter;
+    if (tasto != Qt::Key_Space && (!invio || voce->text() == Caselle().Testo(ui_->Nome))) {
+        return false;
+    }
+    FileImmagini_Click(voce);
+    return true;
+}
+
+void FrmImmagine::FileImmagini_Click(QListWidgetItem *voce)
+{
+    Caselle().Mostra(ui_->Nome, voce->text());
+    ImpostaImmagine();
+}
+
+void FrmImmagine::Command1_Click()
+{
+    ImpostaImmagine();
+}
+
+void FrmImmagine::ImpostaImmagine()
+{
+    const QSizeF misura = MisuraImmagine();
+    const bool grande = misura.width() > LarghezzaGrande || misura.height() > AltezzaGrande;
+    if (grande && !ChiedeRiduzione(misura)) {
+        return;
+    }
+    try {
+        ScriveSubito();
+        emit Ricollocato(Genere::Immagine, Indice());
+    } catch (const ErroreSistema &) {
+        // Choosing a picture never fails: a record that cannot be written is left to the confirm,
+        // which says so.
+        return;
+    }
+}
+
+QSizeF FrmImmagine::MisuraImmagine() const
+{
+    try {
+        return Immagini::DimensioniNaturali(
+            Percorsi::Risolve(Stato().CartellaModelli + Caselle().Testo(ui_->Nome)));
+    } catch (const ErroreSistema &) {
+        // A picture that is missing or damaged asks nothing: the size in the boxes stands.
+        return {0, 0};
+    }
+}
+
+bool FrmImmagine::ChiedeRiduzione(const QSizeF &misura)
+{
+    const QString larghezzaPrima = ui_->Largh->text();
+    ui_->Largh->setText(NumeroSingolo(misura.width()));
+    const double percentuale = ChiedePercentuale();
+    if (percentuale == 0) {
+        ui_->Largh->setText(larghezzaPrima);
+        return false;
+    }
+    Caselle().Mostra(ui_->Largh, misura.width() * percentuale / Intero);
+    Caselle().Mostra(ui_->Alt, misura.height() * percentuale / Intero);
+    return true;
+}
+
+double FrmImmagine::ChiedePercentuale()
+{
+    const double larghezza = Numeri::Doppio(ui_->Largh->text());
+    const double proposta = Numeri::PariPiuVicino(PercentualeUtile / larghezza);
+    const QString risposta =
+        Messaggi::ChiedeTesto(
+            this, QStringLiteral("caricamento immagine ") + Caselle().Testo(ui_->Nome),
+            QStringLiteral("Impostare la % di riduzione delle dimensioni dell'immagine"),
+            Numeri::NumeroPiano(proposta))
+            .value_or(QString());
+    try {
+        return Numeri::Val(risposta);
+    } catch (const ErroreSistema &) {
+        // A percentage beyond any number is none.
+        return 0;
+    }
+}
+
+void FrmImmagine::ScriveSubito()
+{
+    Immagine &immagine = Aperto().Immagini[Indice()];
+    immagine.Nome = Caselle().Testo(ui_->Nome);
+    // A size that is no number is passed over here and reported by the confirm.
+    immagine.Larghezza = Caselle().Numerico(ui_->Largh).value_or(immagine.Larghezza);
+    immagine.Altezza = Caselle().Numerico(ui_->Alt).value_or(immagine.Altezza);
+}
+
+void FrmImmagine::Confema_Click()
+{
+    if (ui_->Nome->text().isEmpty()) {
+        Messaggi::Mostra(this, QStringLiteral("non è stata selezionata un immagine"));
+        EliminaElemento(Indice());
+        return;
+    }
+    Tenta([this] {
+        const int n = Indice();
+        ControllaNomeUnico(n, QStringLiteral("immagine già esistente"));
+        const double bordo = Doppio(ui_->Bordo);
+        const Posto posto = PostoScritto();
+        const double larghezza = Doppio(ui_->Largh);
+        const double altezza = Doppio(ui_->Alt);
+
+        Immagine &immagine = Aperto().Immagini[n];
+        ScriveElemento(n, posto);
+        immagine.Bordo = bordo;
+        immagine.Larghezza = larghezza;
+        immagine.Altezza = altezza;
+        Conclude(n);
+    });
+}
+
+void FrmImmagine::Elimina_Click()
+{
+    ChiedeEliminazione(QStringLiteral("Elimino Immagine "));
+}
