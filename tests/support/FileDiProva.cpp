@@ -1,0 +1,65 @@
+#include "support/FileDiProva.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+QByteArray ByteDi(const QString &percorso)
+{
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly)) {
+        QTest::qFail(qPrintable(percorso + QLatin1String(": ") + file.errorString()), __FILE__,
+                     __LINE__);
+        return {};
+    }
+    return file.readAll();
+}
+
+void ScriveFile(const QString &percorso, const QByteArray &byte)
+{
+    QFile file(percorso);
+    if (!file.open(QIODevice::WriteOnly) || file.write(byte) != byte.size() || !file.flush()) {
+        QTest::qFail(qPrintable(percorso + QLatin1String(": ") + file.errorString()), __FILE__,
+                     __LINE__);
+    }
+}
+
+QStringList NomiIn(const QString &cartella)
+{
+    return QDir(cartella).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+LimiteFile::LimiteFile(qint64 byte)
+{
+    segnale_ = std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &prima_);
+    rlimit limite = prima_;
+    limite.rlim_cur = static_cast<rlim_t>(byte);
+    setrlimit(RLIMIT_FSIZE, &limite);
+}
+
+LimiteFile::~LimiteFile()
+{
+    setrlimit(RLIMIT_FSIZE, &prima_);
+    std::signal(SIGXFSZ, segnale_);
+}
+
+UtenteComune::UtenteComune()
+{
+    constexpr uid_t Nessuno = 65534;
+    if (geteuid() == 0) {
+        // The saved user stays, so that the way back is open.
+        cambiato_ = setresuid(Nessuno, Nessuno, 0) == 0;
+        if (!cambiato_) {
+            QTest::qFail("cannot give up the administrator's rights", __FILE__, __LINE__);
+        }
+    }
+}
+
+UtenteComune::~UtenteComune()
+{
+    if (cambiato_ && setresuid(0, 0, 0) != 0) {
+        qFatal("cannot take the administrator's rights back");
+    }
+}

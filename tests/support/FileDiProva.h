@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+/// Files and limits of the system that tests set up. For POSIX systems.
+
+/// The bytes of the file; a failure fails the running test and gives nothing.
+QByteArray ByteDi(const QString &percorso);
+void ScriveFile(const QString &percorso, const QByteArray &byte);
+/// Every name in the folder but "." and "..", hidden ones included, in name order.
+QStringList NomiIn(const QString &cartella);
+
+/// While it lives no file of this process may grow beyond so many bytes.
+class LimiteFile
+{
+public:
+    explicit LimiteFile(qint64 byte);
+    ~LimiteFile();
+    LimiteFile(const LimiteFile &) = delete;
+    LimiteFile &operator=(const LimiteFile &) = delete;
+
+private:
+    rlimit prima_{};
+    void (*segnale_)(int) = nullptr;
+};
+
+/// While it lives the process has no rights that an ordinary user lacks, even when the tests are
+/// run by the administrator, whom no file refuses itself to.
+class UtenteComune
+{
+public:
+    UtenteComune();
+    ~UtenteComune();
+    UtenteComune(const UtenteComune &) = delete;
+    UtenteComune &operator=(const UtenteComune &) = delete;
+
+private:
+    bool cambiato_ = false;
+};
