@@ -24,10 +24,12 @@ QStringList SottoCartelle(const QString &cartella);
 /// the folder does not exist, 75 when it cannot be read.
 QStringList FileConModello(const QString &cartella, const QString &modelli);
 
-/// Replaces destinazione by a copy of origine, atomically. Throws ErroreSistema (53, 61, 70, 75, 76).
+/// Replaces destinazione by a copy of origine, atomically; both are found in any case, as Risolve
+/// does. Throws ErroreSistema (53, 57, 61, 70, 75, 76) whose description names the file at fault.
 void Copia(const QString &origine, const QString &destinazione);
 
-/// Throws ErroreSistema (53, 70, 75).
+/// Removes a file, found in any case; a folder is refused. Throws ErroreSistema (53, 70, 75) whose
+/// description names the file.
 void Elimina(const QString &percorso);
 
 /// Text after the last "\" or native separator; empty when there is none.
@@ -38,7 +40,8 @@ QString EstraeUltimaBarra(const QString &percorso);
 QString EstraeNomeFile(const QString &percorso);
 
 /// True when the text can name one file inside a folder on every system: not empty, no separator,
-/// no ":*?\"<>|" or control character, no trailing dot or blank, not "." or "..".
+/// no ":*?\"<>|" or control character, no trailing dot or blank, no device
+/// name of Windows ("CON", "lpt1.x").
 bool NomeFileValido(const QString &nome);
 
 } // namespace Percorsi

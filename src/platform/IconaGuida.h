@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QPixmap>
+
+/// The help icon, a question mark in a disc, lato device-independent pixels wide and high.
+QPixmap IconaGuida(int lato);

@@ -1,0 +1,210 @@
+#include "platform/Percorsi.h"
+
+#include "base/Disco.h"
+#include "base/ErroreSistema.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+// Nothing that is copied between archives comes near this size.
+constexpr qint64 ByteAlMassimo = qint64(512) * 1024 * 1024;
+
+bool Separa(QChar carattere)
+{
+    return carattere == u'\\' || carattere == QDir::separator();
+}
+
+/// Position of the last separator, -1 when there is none.
+qsizetype UltimaBarra(const QString &percorso)
+{
+    const auto barra = std::find_if(percorso.rbegin(), percorso.rend(), Separa);
+    return std::distance(barra, percorso.rend()) - 1;
+}
+
+QString Nativo(QString percorso)
+{
+    return QDir::toNativeSeparators(percorso.replace(u'\\', QDir::separator()));
+}
+
+bool Esiste(const QString &percorso)
+{
+    const QFileInfo file(percorso);
+    return file.exists() || file.isSymLink();
+}
+
+/// Name order without regard to case; names that differ only by case have a fixed order too.
+bool Precede(const QString &a, const QString &b)
+{
+    const int confronto = a.compare(b, Qt::CaseInsensitive);
+    return confronto != 0 ? confronto < 0 : a < b;
+}
+
+QStringList Ordinati(QStringList nomi)
+{
+    std::sort(nomi.begin(), nomi.end(), Precede);
+    return nomi;
+}
+
+QString NomeSuDisco(const QString &cartella, const QString &nome)
+{
+    const QStringList nomi =
+        QDir(cartella).entryList(QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Unsorted);
+    QString trovato;
+    for (const QString &altro : nomi) {
+        if (altro.compare(nome, Qt::CaseInsensitive) == 0 &&
+            (trovato.isEmpty() || Precede(altro, trovato))) {
+            trovato = altro;
+        }
+    }
+    return trovato.isEmpty() ? nome : trovato;
+}
+
+/// Resolves a native path without a closing separator.
+QString RisolveParti(const QString &percorso)
+{
+    const QString nome = Percorsi::EstraeNomeFile(percorso);
+    if (nome.isEmpty() || Esiste(percorso)) {
+        return percorso;
+    }
+    const QString prima = percorso.chopped(nome.size());
+    const QString cartella = prima.isEmpty() ? QString() : Percorsi::Risolve(prima);
+    return cartella + NomeSuDisco(cartella.isEmpty() ? QStringLiteral(".") : cartella, nome);
+}
+
+/// The same failure, its description naming the file.
+ErroreSistema ConPercorso(const ErroreSistema &errore, const QString &percorso)
+{
+    return {errore.numero, errore.descrizione + QStringLiteral(": ") + percorso};
+}
+
+void VerificaElencabile(const QString &cartella)
+{
+    if (!QFileInfo(cartella).isDir()) {
+        throw ErroreSistema(ErroreSistema::PercorsoNonTrovato);
+    }
+    // Only really opening the folder tells whether it can be listed: Qt's listing of one that
+    // cannot is merely empty.
+    std::error_code codice;
+    const std::filesystem::directory_iterator elenco(QDir(cartella).filesystemPath(), codice);
+    if (codice) {
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
+}
+
+/// Names that Windows keeps for devices, whatever extension follows.
+bool NomeDiDispositivo(const QString &nome)
+{
+    static const QStringList dispositivi = {QStringLiteral("CON"), QStringLiteral("PRN"),
+                                            QStringLiteral("AUX"), QStringLiteral("NUL")};
+    const QString base = nome.section(u'.', 0, 0).trimmed().toUpper();
+    const bool numerato =
+        base.size() == 4 && base[3] >= u'1' && base[3] <= u'9' &&
+        (base.startsWith(QLatin1String("COM")) || base.startsWith(QLatin1String("LPT")));
+    return numerato || dispositivi.contains(base);
+}
+
+} // namespace
+
+QString Percorsi::Separatore()
+{
+    return QDir::separator();
+}
+
+QString Percorsi::Risolve(const QString &percorso)
+{
+    const QString nativo = Nativo(percorso);
+    qsizetype fine = nativo.size();
+    while (fine > 1 && Separa(nativo[fine - 1])) {
+        --fine;
+    }
+    return RisolveParti(nativo.left(fine)) + nativo.mid(fine);
+}
+
+QStringList Percorsi::SottoCartelle(const QString &cartella)
+{
+    if (cartella.isEmpty()) {
+        return {};
+    }
+    QString prefisso = Nativo(cartella);
+    if (!Separa(prefisso.back())) {
+        prefisso += QDir::separator();
+    }
+    QStringList percorsi;
+    for (const QString &nome :
+         Ordinati(QDir(prefisso).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted))) {
+        percorsi.append(prefisso + nome);
+    }
+    return percorsi;
+}
+
+QStringList Percorsi::FileConModello(const QString &cartella, const QString &modelli)
+{
+    const QString nativa = Nativo(cartella);
+    VerificaElencabile(nativa);
+    return Ordinati(QDir(nativa).entryList(modelli.split(u';', Qt::SkipEmptyParts), QDir::Files,
+                                           QDir::Unsorted));
+}
+
+void Percorsi::Copia(const QString &origine, const QString &destinazione)
+{
+    const QString da = Risolve(origine);
+    const QString a = Risolve(destinazione);
+    QByteArray byte;
+    try {
+        byte = Disco::Legge(da, ByteAlMassimo);
+    } catch (const ErroreSistema &errore) {
+        throw ConPercorso(errore, da);
+    }
+    try {
+        Disco::Sostituisce(a, byte);
+    } catch (const ErroreSistema &errore) {
+        throw ConPercorso(errore, a);
+    }
+}
+
+void Percorsi::Elimina(const QString &percorso)
+{
+    const QString nativo = Risolve(percorso);
+    if (!Esiste(nativo)) {
+        throw ConPercorso(ErroreSistema(ErroreSistema::FileNonTrovato), nativo);
+    }
+    if (QFileInfo(nativo).isDir()) {
+        throw ConPercorso(ErroreSistema(ErroreSistema::AccessoFile), nativo);
+    }
+    if (!QFile::remove(nativo)) {
+        throw ConPercorso(ErroreSistema(ErroreSistema::AutorizzazioneNegata), nativo);
+    }
+}
+
+QString Percorsi::ToglieUltimaBarra(const QString &percorso)
+{
+    const qsizetype barra = UltimaBarra(percorso);
+    return barra < 0 ? QString() : percorso.mid(barra + 1);
+}
+
+QString Percorsi::EstraeUltimaBarra(const QString &percorso)
+{
+    const qsizetype barra = UltimaBarra(percorso);
+    return barra < 0 ? percorso : percorso.left(barra + 1);
+}
+
+QString Percorsi::EstraeNomeFile(const QString &percorso)
+{
+    return percorso.mid(UltimaBarra(percorso) + 1);
+}
+
+bool Percorsi::NomeFileValido(const QString &nome)
+{
+    if (nome.isEmpty() || nome.endsWith(u'.') || nome.endsWith(u' ') || NomeDiDispositivo(nome)) {
+        return false;
+    }
+    return std::none_of(nome.begin(), nome.end(), [](QChar c) {
+        return c < u' ' || c == u'\x7f' || QStringLiteral("\\/:*?\"<>|").contains(c);
+    });
+}

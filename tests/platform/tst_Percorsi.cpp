@@ -1,0 +1,406 @@
+#include "base/ErroreSistema.h"
+#include "platform/Percorsi.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+
+#include <sys/resource.h>
+#endif
+
+namespace {
+
+/// Number of the failure that azione throws, 0 when it throws none.
+template <typename Azione>
+int Errore(Azione &&azione)
+{
+    try {
+        azione();
+    } catch (const ErroreSistema &errore) {
+        return errore.numero;
+    }
+    return 0;
+}
+
+#ifdef Q_OS_UNIX
+/// No file and no folder can be opened while it lives, not even by root.
+class SenzaDescrittori
+{
+public:
+    SenzaDescrittori()
+    {
+        getrlimit(RLIMIT_NOFILE, &prima_);
+        rlimit nessuno = prima_;
+        nessuno.rlim_cur = 0;
+        setrlimit(RLIMIT_NOFILE, &nessuno);
+    }
+    ~SenzaDescrittori() { setrlimit(RLIMIT_NOFILE, &prima_); }
+    SenzaDescrittori(const SenzaDescrittori &) = delete;
+    SenzaDescrittori &operator=(const SenzaDescrittori &) = delete;
+
+private:
+    rlimit prima_{};
+};
+#endif
+
+} // namespace
+
+class tst_Percorsi : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void TagliaBarre_data();
+    void TagliaBarre();
+    void NomeFileValido_data();
+    void NomeFileValido();
+    void Risolve_data();
+    void Risolve();
+    void Risolve_duplicatiPerMaiuscole();
+    void Risolve_rispettaIlCollegamentoRotto();
+    void SottoCartelle();
+    void SottoCartelle_mancante();
+    void FileConModello();
+    void FileConModello_piuModelli();
+    void FileConModello_cartellaMancante();
+    void FileConModello_unFile();
+    void FileConModello_illeggibile();
+    void Copia();
+    void Copia_senzaBadareAlleMaiuscole();
+    void Copia_suSeStesso();
+    void Copia_origineMancante();
+    void Copia_origineCartella();
+    void Copia_destinazioneCartella();
+    void Copia_cartellaDiDestinazioneMancante();
+    void Copia_discoPieno();
+    void Elimina();
+    void Elimina_mancante();
+    void Elimina_cartella();
+
+private:
+    QString In(const QString &nome) const { return cartella_->filePath(nome); }
+    void Scrive(const QString &nome, const QByteArray &byte = "x") const;
+    QByteArray Legge(const QString &nome) const;
+
+    std::unique_ptr<QTemporaryDir> cartella_;
+};
+
+void tst_Percorsi::Scrive(const QString &nome, const QByteArray &byte) const
+{
+    QFile file(In(nome));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(byte), byte.size());
+}
+
+QByteArray tst_Percorsi::Legge(const QString &nome) const
+{
+    QFile file(In(nome));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(assente)");
+}
+
+void tst_Percorsi::init()
+{
+    cartella_ = std::make_unique<QTemporaryDir>();
+    QVERIFY(cartella_->isValid());
+}
+
+void tst_Percorsi::TagliaBarre_data()
+{
+    QTest::addColumn<QString>("percorso");
+    QTest::addColumn<QString>("ultimaBarra");
+    QTest::addColumn<QString>("fino");
+    QTest::addColumn<QString>("nome");
+    const auto riga = [](const char *titolo, const char *percorso, const char *ultima,
+                         const char *fino, const char *nome) {
+        QTest::newRow(titolo) << QString::fromLatin1(percorso) << QString::fromLatin1(ultima)
+                              << QString::fromLatin1(fino) << QString::fromLatin1(nome);
+    };
+    riga("barre di Windows", "C:\\dati\\Contabilita", "Contabilita", "C:\\dati\\", "Contabilita");
+    riga("senza barra", "Contabilita", "", "Contabilita", "Contabilita");
+    riga("barra finale", "C:\\dati\\", "", "C:\\dati\\", "");
+    riga("vuoto", "", "", "", "");
+    riga("sola barra", "\\", "", "\\", "");
+    riga("radice e file", "C:\\scan.jpg", "scan.jpg", "C:\\", "scan.jpg");
+#ifndef Q_OS_WIN
+    riga("separatore nativo", "/dati/Contabilita", "Contabilita", "/dati/", "Contabilita");
+    riga("misto", "/dati/Contabilita\\ini", "ini", "/dati/Contabilita\\", "ini");
+    riga("misto al contrario", "C:\\dati/ini", "ini", "C:\\dati/", "ini");
+#endif
+}
+
+void tst_Percorsi::TagliaBarre()
+{
+    QFETCH(QString, percorso);
+    QTEST(Percorsi::ToglieUltimaBarra(percorso), "ultimaBarra");
+    QTEST(Percorsi::EstraeUltimaBarra(percorso), "fino");
+    QTEST(Percorsi::EstraeNomeFile(percorso), "nome");
+}
+
+void tst_Percorsi::NomeFileValido_data()
+{
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<bool>("valido");
+    const auto riga = [](const char *nome, bool valido) {
+        QTest::addRow("%s", QByteArray(nome).toPercentEncoding(" \\/:*?\"<>|").constData())
+            << QString::fromUtf8(nome) << valido;
+    };
+    for (const char *nome : {"DDT", "Fattura_pers", "Fattura_pers.Mod_nuovo", "Fattura è",
+                             " Fattura", "OrdineCliente-Offerta_Pers", ".nascosto", "Console",
+                             "COM", "COM10", "COM0", "a'b (2)"}) {
+        riga(nome, true);
+    }
+    for (const char *nome : {"",     ".",     "..",  "a/b", "a\\b",   "a:b",     "a*b",   "a?b",
+                             "a\"b", "a<b",   "a>b", "a|b", "a.",     "a ",      "..\\a", "a\tb",
+                             "a\nb", "a\x7f", "CON", "con", "lpt1.x", "NUL.Mod", "Com9"}) {
+        riga(nome, false);
+    }
+}
+
+void tst_Percorsi::NomeFileValido()
+{
+    QFETCH(QString, nome);
+    QTEST(Percorsi::NomeFileValido(nome), "valido");
+}
+
+void tst_Percorsi::Risolve_data()
+{
+    QTest::addColumn<QString>("dato");
+    QTest::addColumn<QString>("atteso");
+    const auto riga = [](const char *titolo, const char *dato, const char *atteso) {
+        QTest::newRow(titolo) << QString::fromLatin1(dato) << QString::fromLatin1(atteso);
+    };
+    riga("esatto", "Contabilita/INI/Fattura.mod", "Contabilita/INI/Fattura.mod");
+    riga("altre maiuscole", "CONTABILITA/ini/FATTURA.MOD", "Contabilita/INI/Fattura.mod");
+    riga("barre di Windows", "contabilita\\ini\\fattura.Mod", "Contabilita/INI/Fattura.mod");
+    riga("barra finale", "contabilita\\ini\\", "Contabilita/INI/");
+    riga("file da creare", "contabilita\\ini\\Nuovo.Mod", "Contabilita/INI/Nuovo.Mod");
+    riga("cartella da creare", "contabilita\\Altra\\Nuovo.Mod", "Contabilita/Altra/Nuovo.Mod");
+}
+
+void tst_Percorsi::Risolve()
+{
+    QFETCH(QString, dato);
+    QFETCH(QString, atteso);
+    QVERIFY(QDir(cartella_->path()).mkpath(QStringLiteral("Contabilita/INI")));
+    Scrive(QStringLiteral("Contabilita/INI/Fattura.mod"));
+    QCOMPARE(Percorsi::Risolve(In(QString()) + u'/' + dato),
+             QDir::toNativeSeparators(In(QString()) + u'/' + atteso));
+}
+
+void tst_Percorsi::Risolve_duplicatiPerMaiuscole()
+{
+    Scrive(QStringLiteral("b.MOD"));
+    Scrive(QStringLiteral("B.mod"));
+    if (QDir(cartella_->path()).entryList(QDir::Files).size() != 2) {
+        QSKIP("this file system does not mind the case");
+    }
+    QCOMPARE(Percorsi::Risolve(In(QStringLiteral("b.MOD"))), In(QStringLiteral("b.MOD")));
+    QCOMPARE(Percorsi::Risolve(In(QStringLiteral("B.mod"))), In(QStringLiteral("B.mod")));
+    QCOMPARE(Percorsi::Risolve(In(QStringLiteral("b.Mod"))), In(QStringLiteral("B.mod")));
+}
+
+void tst_Percorsi::Risolve_rispettaIlCollegamentoRotto()
+{
+    QVERIFY(QFile::link(In(QStringLiteral("manca")), In(QStringLiteral("a.mod"))));
+    QCOMPARE(Percorsi::Risolve(In(QStringLiteral("a.mod"))), In(QStringLiteral("a.mod")));
+}
+
+void tst_Percorsi::SottoCartelle()
+{
+    for (const char *nome : {"zeta", "Alfa", "beta", ".nascosta"}) {
+        QVERIFY(QDir(cartella_->path()).mkdir(QString::fromLatin1(nome)));
+    }
+    Scrive(QStringLiteral("file.txt"));
+    const QStringList attese = {QDir::toNativeSeparators(In(QStringLiteral("Alfa"))),
+                                QDir::toNativeSeparators(In(QStringLiteral("beta"))),
+                                QDir::toNativeSeparators(In(QStringLiteral("zeta")))};
+    QCOMPARE(Percorsi::SottoCartelle(cartella_->path()), attese);
+    QCOMPARE(Percorsi::SottoCartelle(cartella_->path() + u'/'), attese);
+    QCOMPARE(Percorsi::SottoCartelle(cartella_->path() + u'\\'), attese);
+}
+
+void tst_Percorsi::SottoCartelle_mancante()
+{
+    QVERIFY(Percorsi::SottoCartelle(In(QStringLiteral("manca"))).isEmpty());
+    QVERIFY(Percorsi::SottoCartelle(QString()).isEmpty());
+    QVERIFY(Percorsi::SottoCartelle(cartella_->path()).isEmpty());
+}
+
+void tst_Percorsi::FileConModello()
+{
+    for (const char *nome :
+         {"zeta.mod", "Alfa.MOD", "beta.Mod", "gamma.txt", "mod", "delta.mod~"}) {
+        Scrive(QString::fromLatin1(nome));
+    }
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("cartella.mod")));
+    const QStringList attesi = {QStringLiteral("Alfa.MOD"), QStringLiteral("beta.Mod"),
+                                QStringLiteral("zeta.mod")};
+    QCOMPARE(Percorsi::FileConModello(cartella_->path(), QStringLiteral("*.mod")), attesi);
+    QCOMPARE(Percorsi::FileConModello(cartella_->path() + u'\\', QStringLiteral("*.mod")), attesi);
+}
+
+void tst_Percorsi::FileConModello_piuModelli()
+{
+    for (const char *nome : {"logo.JPG", "timbro.bmp", "senzapuntojpg", "nota.txt"}) {
+        Scrive(QString::fromLatin1(nome));
+    }
+    const QStringList attesi = {QStringLiteral("logo.JPG"), QStringLiteral("senzapuntojpg"),
+                                QStringLiteral("timbro.bmp")};
+    QCOMPARE(Percorsi::FileConModello(cartella_->path(), QStringLiteral("*jpg;*.bmp")), attesi);
+}
+
+void tst_Percorsi::FileConModello_cartellaMancante()
+{
+    QCOMPARE(Errore([this] {
+                 Percorsi::FileConModello(In(QStringLiteral("manca")), QStringLiteral("*.mod"));
+             }),
+             ErroreSistema::PercorsoNonTrovato);
+}
+
+void tst_Percorsi::FileConModello_unFile()
+{
+    Scrive(QStringLiteral("ini"));
+    QCOMPARE(Errore([this] {
+                 Percorsi::FileConModello(In(QStringLiteral("ini")), QStringLiteral("*.mod"));
+             }),
+             ErroreSistema::PercorsoNonTrovato);
+}
+
+void tst_Percorsi::FileConModello_illeggibile()
+{
+#ifdef Q_OS_UNIX
+    Scrive(QStringLiteral("a.mod"));
+    int numero = 0;
+    {
+        const SenzaDescrittori nessuno;
+        numero = Errore(
+            [this] { Percorsi::FileConModello(cartella_->path(), QStringLiteral("*.mod")); });
+    }
+    QCOMPARE(numero, ErroreSistema::AccessoFile);
+#else
+    QSKIP("needs a limit on open files");
+#endif
+}
+
+void tst_Percorsi::Copia()
+{
+    QByteArray byte;
+    for (int i = 0; i < 100000; ++i) {
+        byte.append(static_cast<char>(i));
+    }
+    Scrive(QStringLiteral("da"), byte);
+    Scrive(QStringLiteral("a"), "vecchio");
+    Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("a")));
+    QCOMPARE(Legge(QStringLiteral("a")), byte);
+    QCOMPARE(Legge(QStringLiteral("da")), byte);
+    QCOMPARE(QDir(cartella_->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void tst_Percorsi::Copia_senzaBadareAlleMaiuscole()
+{
+    Scrive(QStringLiteral("TIBOLLA.MOD"), "bolla");
+    Scrive(QStringLiteral("ddt.mod"), "vecchio");
+    Percorsi::Copia(In(QStringLiteral("tibolla.mod")), In(QStringLiteral("DDT.Mod")));
+    QCOMPARE(Legge(QStringLiteral("ddt.mod")), QByteArray("bolla"));
+    QCOMPARE(QDir(cartella_->path()).entryList(QDir::Files).size(), 2);
+}
+
+void tst_Percorsi::Copia_suSeStesso()
+{
+    Scrive(QStringLiteral("a.mod"), "contenuto");
+    Percorsi::Copia(In(QStringLiteral("a.mod")), In(QStringLiteral("A.MOD")));
+    QCOMPARE(Legge(QStringLiteral("a.mod")), QByteArray("contenuto"));
+}
+
+void tst_Percorsi::Copia_origineMancante()
+{
+    Scrive(QStringLiteral("a"), "vecchio");
+    try {
+        Percorsi::Copia(In(QStringLiteral("manca.mod")), In(QStringLiteral("a")));
+        QFAIL("a missing source must fail");
+    } catch (const ErroreSistema &errore) {
+        QCOMPARE(errore.numero, ErroreSistema::FileNonTrovato);
+        QVERIFY2(errore.descrizione.contains(QStringLiteral("manca.mod")),
+                 qUtf8Printable(errore.descrizione));
+    }
+    QCOMPARE(Legge(QStringLiteral("a")), QByteArray("vecchio"));
+}
+
+void tst_Percorsi::Copia_origineCartella()
+{
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("c.mod")));
+    QCOMPARE(
+        Errore([this] { Percorsi::Copia(In(QStringLiteral("c.mod")), In(QStringLiteral("a"))); }),
+        ErroreSistema::AccessoFile);
+    QVERIFY(!QFile::exists(In(QStringLiteral("a"))));
+}
+
+void tst_Percorsi::Copia_destinazioneCartella()
+{
+    Scrive(QStringLiteral("da"));
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("c.mod")));
+    QCOMPARE(
+        Errore([this] { Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("c.mod"))); }),
+        ErroreSistema::AccessoFile);
+    QCOMPARE(QDir(cartella_->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+void tst_Percorsi::Copia_cartellaDiDestinazioneMancante()
+{
+    Scrive(QStringLiteral("da"));
+    QCOMPARE(Errore([this] {
+                 Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("manca/a")));
+             }),
+             ErroreSistema::PercorsoNonTrovato);
+}
+
+void tst_Percorsi::Copia_discoPieno()
+{
+#ifdef Q_OS_UNIX
+    Scrive(QStringLiteral("da"), QByteArray(10000, 'x'));
+    Scrive(QStringLiteral("a"), "vecchio");
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit prima{};
+    getrlimit(RLIMIT_FSIZE, &prima);
+    rlimit poco = prima;
+    poco.rlim_cur = 4096;
+    setrlimit(RLIMIT_FSIZE, &poco);
+    const int numero =
+        Errore([this] { Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("a"))); });
+    setrlimit(RLIMIT_FSIZE, &prima);
+    QCOMPARE(numero, ErroreSistema::DiscoPieno);
+    QCOMPARE(Legge(QStringLiteral("a")), QByteArray("vecchio"));
+    QCOMPARE(QDir(cartella_->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+#else
+    QSKIP("needs a limit on file sizes");
+#endif
+}
+
+void tst_Percorsi::Elimina()
+{
+    Scrive(QStringLiteral("a.MOD"));
+    Percorsi::Elimina(In(QStringLiteral("A.Mod")));
+    QVERIFY(!QFile::exists(In(QStringLiteral("a.MOD"))));
+}
+
+void tst_Percorsi::Elimina_mancante()
+{
+    QCOMPARE(Errore([this] { Percorsi::Elimina(In(QStringLiteral("a.Mod"))); }),
+             ErroreSistema::FileNonTrovato);
+}
+
+void tst_Percorsi::Elimina_cartella()
+{
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("a.Mod")));
+    QCOMPARE(Errore([this] { Percorsi::Elimina(In(QStringLiteral("a.Mod"))); }),
+             ErroreSistema::AccessoFile);
+    QVERIFY(QFile::exists(In(QStringLiteral("a.Mod"))));
+}
+
+QTEST_MAIN(tst_Percorsi)
+#include "tst_Percorsi.moc"
