@@ -55,14 +55,24 @@ public:
         bool valido = false;
         const double valore =
             QByteArrayView(accettato_.data(), accettato_.size()).toDouble(&valido);
-        // A result below the smallest double is reported as invalid too; it is simply 0.
+        if (!valido) {
+            return FuoriDaiDoppi();
+        }
+        return valore;
+    }
+
+private:
+    /// Too large throws, too small is simply 0; reading bytes does not tell them apart.
+    double FuoriDaiDoppi() const
+    {
+        const double valore =
+            QLocale::c().toDouble(QString::fromLatin1(accettato_.data(), accettato_.size()));
         if (!std::isfinite(valore)) {
             throw ErroreSistema(ErroreSistema::Overflow);
         }
         return valore;
     }
 
-private:
     static char16_t InCarattere(QChar c) { return c.unicode(); }
     static char16_t InCarattere(char c) { return static_cast<unsigned char>(c); }
 
