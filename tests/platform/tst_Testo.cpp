@@ -1,0 +1,103 @@
+#include "platform/Testo.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+constexpr double MillimetriPerPollice = 25.4;
+const auto Arial = QStringLiteral("Arial");
+
+} // namespace
+
+class TestTesto : public QObject
+{
+    Q_OBJECT
+private slots:
+    void MisuraComeLaStampante_data();
+    void MisuraComeLaStampante();
+    void CresceInProporzioneAllaDimensione();
+    void IlGrassettoEPiuLargo();
+    void IlTestoVuotoHaSoloAltezza();
+    void DimensioneZeroONegativaNonMisura();
+    void UnFontCheNonEsisteSiMisuraLoStesso();
+};
+
+void TestTesto::MisuraComeLaStampante_data()
+{
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<int>("punti");
+    QTest::addColumn<bool>("grassetto");
+    QTest::newRow("corto") << QStringLiteral("DDT") << 11 << false;
+    QTest::newRow("accenti") << QStringLiteral("Quantità è più") << 9 << false;
+    QTest::newRow("piccolo") << QStringLiteral("segue su pagina successiva") << 6 << false;
+    QTest::newRow("grande e grassetto") << QStringLiteral("FATTURA ACCOMPAGNATORIA") << 40 << true;
+}
+
+void TestTesto::MisuraComeLaStampante()
+{
+    QFETCH(QString, testo);
+    QFETCH(int, punti);
+    QFETCH(bool, grassetto);
+    const QTemporaryDir cartella;
+    QPdfWriter foglio(cartella.filePath(QStringLiteral("foglio.pdf")));
+    // A whole number of dots for each point: the sheet itself rounds no font size.
+    constexpr int Risoluzione = 7200;
+    foglio.setResolution(Risoluzione);
+    QPainter pittore(&foglio);
+    QFont carattere(Arial, punti);
+    carattere.setBold(grassetto);
+    carattere.setHintingPreference(QFont::PreferNoHinting);
+    const QFontMetricsF stampante(carattere, &foglio);
+    const double scala = MillimetriPerPollice / Risoluzione;
+
+    const QSizeF misura = MisuraTesto(testo, Arial, punti, grassetto);
+    QVERIFY2(qAbs(misura.width() - stampante.horizontalAdvance(testo) * scala) < 0.05,
+             qPrintable(QString::number(misura.width())));
+    QVERIFY2(qAbs(misura.height() - stampante.height() * scala) < 0.05,
+             qPrintable(QString::number(misura.height())));
+}
+
+void TestTesto::CresceInProporzioneAllaDimensione()
+{
+    const QSizeF piccolo = MisuraTesto(QStringLiteral("Spett.le Ditta"), Arial, 6, false);
+    const QSizeF grande = MisuraTesto(QStringLiteral("Spett.le Ditta"), Arial, 24, false);
+    QVERIFY(qAbs(grande.width() - 4 * piccolo.width()) < 1e-9);
+    QVERIFY(qAbs(grande.height() - 4 * piccolo.height()) < 1e-9);
+    QVERIFY(piccolo.width() > 10);
+}
+
+void TestTesto::IlGrassettoEPiuLargo()
+{
+    const QString testo = QStringLiteral("Totale documento");
+    QVERIFY(MisuraTesto(testo, Arial, 11, true).width() >
+            MisuraTesto(testo, Arial, 11, false).width());
+}
+
+void TestTesto::IlTestoVuotoHaSoloAltezza()
+{
+    const QSizeF misura = MisuraTesto(QString(), Arial, 11, false);
+    QCOMPARE(misura.width(), 0.0);
+    QVERIFY(misura.height() > 3);
+}
+
+void TestTesto::DimensioneZeroONegativaNonMisura()
+{
+    QCOMPARE(MisuraTesto(QStringLiteral("abc"), Arial, 0, false), QSizeF(0, 0));
+    QCOMPARE(MisuraTesto(QStringLiteral("abc"), Arial, -3, false), QSizeF(0, 0));
+}
+
+void TestTesto::UnFontCheNonEsisteSiMisuraLoStesso()
+{
+    QVERIFY(
+        MisuraTesto(QStringLiteral("abc"), QStringLiteral("Font Mai Esistito"), 11, false).width() >
+        0);
+}
+
+QTEST_MAIN(TestTesto)
+#include "tst_Testo.moc"

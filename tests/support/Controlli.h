@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QString>
+#include <QTest>
+#include <QWidget>
+
+/// Works the controls of a window as a user does, finding them by their names.
+namespace Controlli {
+
+/// The control of that name; ends the test program when the window has none of that class.
+template <typename Controllo>
+Controllo *Trova(const QWidget &finestra, const char *nome)
+{
+    auto *controllo = finestra.findChild<Controllo *>(QString::fromLatin1(nome));
+    if (controllo == nullptr) {
+        qFatal("no control %s", nome);
+    }
+    return controllo;
+}
+
+/// Clicks the control with the mouse.
+inline void Preme(QWidget &finestra, const char *nome)
+{
+    auto *controllo = Trova<QWidget>(finestra, nome);
+    // A click on the far left also hits the part of an option button that reacts.
+    const QPoint punto(qMin(10, controllo->width() / 2), controllo->height() / 2);
+    QTest::mouseClick(controllo, Qt::LeftButton, Qt::NoModifier, punto);
+}
+
+/// Replaces the text of a box by typing.
+inline void Digita(QWidget &finestra, const char *nome, const QString &testo)
+{
+    auto *casella = Trova<QLineEdit>(finestra, nome);
+    casella->setFocus();
+    casella->selectAll();
+    QTest::keyClick(casella, Qt::Key_Delete);
+    for (const QChar c : testo) {
+        // The test library knows the keys of ASCII characters only.
+        if (c.unicode() < 0x80) {
+            QTest::keyClick(casella, c.toLatin1());
+        } else {
+            QTest::sendKeyEvent(QTest::Click, casella, Qt::Key_unknown, QString(c), Qt::NoModifier);
+        }
+    }
+}
+
+inline QString Testo(const QWidget &finestra, const char *nome)
+{
+    return Trova<QLineEdit>(finestra, nome)->text();
+}
+
+} // namespace Controlli
