@@ -3,6 +3,7 @@
 #include "model/Modello.h"
 
 #include <QList>
+#include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
@@ -80,6 +81,11 @@ public:
         Sposta(Genere::Immagine, i, b, t, x, y);
     }
 
+    /// Pointer at (x, y) inside frame or image i: shows what an edge offers and, with the left
+    /// button held, resizes. The first call with the button held begins, a release ends it.
+    void RidimensionaCornice(int i, Qt::MouseButtons bottoni, double x, double y);
+    void RidimensionaImmagine(int i, Qt::MouseButtons bottoni, double x, double y);
+
     /// Clears the selection look of the fields and hides their handle.
     void Campineri();
     /// Redraws both rulers for the current zoom.
@@ -124,6 +130,7 @@ protected:
     void moveEvent(QMoveEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
+    void wheelEvent(QWheelEvent *evento) override;
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
@@ -133,9 +140,12 @@ private:
     void ScrollY_Change();
     void TextZoom_KeyUp();
     void CollegaSegnali();
+    void MostraPuntatore(QPointF punto);
+    void MostraElemento(Genere genere, int i);
 
     StatoProgramma &stato_;
     std::unique_ptr<Anteprima> parti_;
     std::unique_ptr<ElementiFoglio> elementi_;
     std::unique_ptr<ManiSulFoglio> mani_;
+    QPointF giroRuota_; // fractions of a mm that the wheel has turned and nothing has scrolled yet
 };

@@ -1,0 +1,152 @@
+#include "preview/Anteprima.h"
+
+#include "model/StatoProgramma.h"
+#include "platform/Finestre.h"
+#include "preview/Foglio.h"
+#include "preview/Righelli.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int PassoFreccia = 5; // mm of screen, one click on a scroll bar's arrow
+constexpr double PuntiStriscia = 8;
+
+QWidget *CreaArea(QWidget *finestra, const QString &nome)
+{
+    auto *area = new QWidget(finestra);
+    area->setObjectName(nome);
+    return area;
+}
+
+QLineEdit *CreaCasella(QWidget *finestra, const QString &nome, const QString &descrizione,
+                       bool solaLettura)
+{
+    auto *casella = new QLineEdit(finestra);
+    casella->setObjectName(nome);
+    casella->setAccessibleName(descrizione);
+    casella->setToolTip(descrizione);
+    casella->setReadOnly(solaLettura);
+    casella->setFocusPolicy(solaLettura ? Qt::ClickFocus : Qt::StrongFocus);
+    return casella;
+}
+
+} // namespace
+
+Anteprima::Anteprima(QWidget *finestra, const StatoProgramma &stato)
+    : geometria(::PixelPerMillimetro(finestra), stato.zoom)
+{
+    CreaFoglio(finestra, stato);
+    CreaScorrimento(finestra);
+    CreaStriscia(finestra);
+}
+
+Anteprima::~Anteprima() = default;
+
+void Anteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
+{
+    const QSize pixel = geometria.PixelFoglio();
+    const int spessore = geometria.Pixel(GeometriaAnteprima::SpessoreRighello);
+
+    // An index pays for itself when most elements stand still; here every gesture moves one and
+    // there are at most 300, which a plain walk finds faster.
+    scena.setItemIndexMethod(QGraphicsScene::NoIndex);
+    scena.setSceneRect(0, 0, geometria.LarghezzaFoglio(), geometria.AltezzaFoglio());
+    AreaFoglio = CreaArea(finestra, QStringLiteral("AreaFoglio"));
+    AreaFoglio->setBackgroundRole(QPalette::Mid);
+    AreaFoglio->setAutoFillBackground(true);
+    P1 = new Foglio(&scena, geometria, stato, AreaFoglio);
+    P1->setObjectName(QStringLiteral("P1"));
+    P1->setAccessibleName(QStringLiteral("foglio"));
+    P1->setGeometry(QRect(QPoint(0, 0), pixel));
+    P1Posto0 = P1->pos();
+
+    AreaRighelloX = CreaArea(finestra, QStringLiteral("AreaRighelloX"));
+    RighelloX = new RighelloFoglio(Qt::Horizontal, geometria.PixelPerMillimetro(), AreaRighelloX);
+    RighelloX->setObjectName(QStringLiteral("RighelloX"));
+    RighelloX->setGeometry(P1Posto0.x(), 0, pixel.width(), spessore);
+    AreaRighelloY = CreaArea(finestra, QStringLiteral("AreaRighelloY"));
+    RighelloY = new RighelloFoglio(Qt::Vertical, geometria.PixelPerMillimetro(), AreaRighelloY);
+    RighelloY->setObjectName(QStringLiteral("RighelloY"));
+    RighelloY->setGeometry(0, P1Posto0.y(), spessore, pixel.height());
+}
+
+void Anteprima::CreaScorrimento(QWidget *finestra)
+{
+    ScrollX = new QScrollBar(Qt::Horizontal, finestra);
+    ScrollX->setObjectName(QStringLiteral("ScrollX"));
+    ScrollX->setRange(0, geometria.MassimoScrollX());
+    ScrollY = new QScrollBar(Qt::Vertical, finestra);
+    ScrollY->setObjectName(QStringLiteral("ScrollY"));
+    ScrollY->setRange(0, geometria.MassimoScrollY());
+    for (QScrollBar *barra : {ScrollX, ScrollY}) {
+        barra->setSingleStep(PassoFreccia);
+        barra->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void Anteprima::CreaStriscia(QWidget *finestra)
+{
+    Text1 = new QLabel(finestra);
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setTextFormat(Qt::PlainText);
+    PX = CreaCasella(finestra, QStringLiteral("PX"),
+                     QStringLiteral("posizione orizzontale del puntatore (mm di schermo)"), true);
+    PY = CreaCasella(finestra, QStringLiteral("PY"),
+                     QStringLiteral("posizione verticale del puntatore (mm di schermo)"), true);
+    Label1 = new QLabel(QStringLiteral(" Zoom anteprima 1:"), finestra);
+    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    TextZoom = CreaCasella(finestra, QStringLiteral("TextZoom"),
+                           QStringLiteral("riduzione dell'anteprima, da 1 a 3"), false);
+    Label1->setBuddy(TextZoom);
+    LL = CreaCasella(finestra, QStringLiteral("LL"), QStringLiteral("elemento in lavorazione"),
+                     true);
+    for (QWidget *parte : std::initializer_list<QWidget *>{Text1, PX, PY, Label1, TextZoom, LL}) {
+        QFont carattere = parte->font();
+        carattere.setPointSizeF(PuntiStriscia);
+        parte->setFont(carattere);
+    }
+}
+
+void Anteprima::Dispone(QSize interna)
+{
+    const auto d = GeometriaAnteprima::Dispone(geometria.Millimetri(interna.width()),
+                                               geometria.Millimetri(interna.height()));
+    const auto colloca = [this](QWidget *controllo, const QRectF &posto) {
+        controllo->setGeometry(geometria.Pixel(posto));
+    };
+    colloca(AreaFoglio, d.AreaFoglio);
+    colloca(AreaRighelloX, d.AreaRighelloX);
+    colloca(AreaRighelloY, d.AreaRighelloY);
+    colloca(ScrollX, d.ScrollX);
+    colloca(ScrollY, d.ScrollY);
+    colloca(Text1, d.Text1);
+    colloca(PX, d.PX);
+    colloca(PY, d.PY);
+    colloca(Label1, d.Label1);
+    colloca(TextZoom, d.TextZoom);
+    colloca(LL, d.LL);
+    // The strip's own text starts after the boxes that stand on it.
+    Text1->setContentsMargins(TextZoom->geometry().right() + geometria.Pixel(4), 0, 0, 0);
+    ScrollX->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.width()) - PassoFreccia));
+    ScrollY->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.height()) - PassoFreccia));
+}
+
+void Anteprima::ScorreX()
+{
+    const int sinistra = P1Posto0.x() - geometria.Pixel(ScrollX->value());
+    P1->move(sinistra, P1->y());
+    RighelloX->move(sinistra, RighelloX->y());
+}
+
+void Anteprima::ScorreY()
+{
+    const int alto = P1Posto0.y() - geometria.Pixel(ScrollY->value());
+    P1->move(P1->x(), alto);
+    RighelloY->move(RighelloY->x(), alto);
+}

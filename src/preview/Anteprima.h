@@ -1,0 +1,50 @@
+#pragma once
+
+#include "preview/GeometriaAnteprima.h"
+
+#include <QGraphicsScene>
+
+class Foglio;
+class QLabel;
+class QLineEdit;
+class QScrollBar;
+class QWidget;
+class RighelloFoglio;
+struct StatoProgramma;
+
+/// The controls of the preview window, named as the system names them, and where they stand. The
+/// layout is computed in millimetres of screen, so it is built here and not in a form.
+struct Anteprima
+{
+    Anteprima(QWidget *finestra, const StatoProgramma &stato);
+    ~Anteprima();
+
+    /// Places everything for the window's inner size and clips the sheet and the rulers to it.
+    void Dispone(QSize interna);
+    /// Moves the sheet and its rulers to the values of the scroll bars.
+    void ScorreX();
+    void ScorreY();
+
+    GeometriaAnteprima geometria;
+    QGraphicsScene scena;
+    QWidget *AreaFoglio;
+    QWidget *AreaRighelloX;
+    QWidget *AreaRighelloY;
+    Foglio *P1;
+    RighelloFoglio *RighelloX;
+    RighelloFoglio *RighelloY;
+    QScrollBar *ScrollX;
+    QScrollBar *ScrollY;
+    QLabel *Text1; ///< the strip at the bottom; shows the place of the element in hand
+    QLineEdit *PX;
+    QLineEdit *PY;
+    QLabel *Label1;
+    QLineEdit *TextZoom;
+    QLineEdit *LL;   ///< shows the control in hand, as "C1(4)"
+    QPoint P1Posto0; ///< P1Left0 and P1Top0: where the sheet rests in its area, pixels
+
+private:
+    void CreaFoglio(QWidget *finestra, const StatoProgramma &stato);
+    void CreaScorrimento(QWidget *finestra);
+    void CreaStriscia(QWidget *finestra);
+};

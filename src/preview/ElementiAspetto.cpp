@@ -1,0 +1,162 @@
+// How the controls take their look and their place from the model.
+
+#include "base/ErroreSistema.h"
+#include "model/Numeri.h"
+#include "model/StatoProgramma.h"
+#include "model/Tavolozza.h"
+#include "platform/Immagini.h"
+#include "preview/ElementiFoglio.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr QLatin1String MascheraNonStampato("No");
+constexpr QChar RitornoCarrello(13);
+
+/// Where the printer sets a frame's caption, mm of paper from the frame's corner.
+constexpr QPointF RientroScritta(1.0, 0.4);
+
+/// A number outside the palette, from a damaged file, shows black and stays in the model.
+QColor Colore(int indice)
+{
+    return indice < 0 || indice >= Tavolozza::Colori ? QColor(Qt::black)
+                                                     : QColor(Tavolozza::Rgb(indice));
+}
+
+/// The whole part is the border kind; a thicker border than a single line is never shown.
+bool BordoSingolo(double bordo)
+{
+    return bordo >= 2 || std::floor(bordo) == 1;
+}
+
+} // namespace
+
+void ElementiFoglio::Imposta(Genere genere, int i)
+{
+    switch (genere) {
+    case Genere::Campo:
+        ImpostaCampo(i);
+        break;
+    case Genere::Cornice:
+        ImpostaCornice(i);
+        break;
+    case Genere::Immagine:
+        ImpostaImmagine(i);
+        break;
+    }
+}
+
+void ElementiFoglio::ImpostaCampo(int i)
+{
+    const Campo &campo = stato_.Aperto.Campi[i];
+    Etichetta &C1 = EtichettaDi(Genere::Campo, i);
+    C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Maschera == MascheraNonStampato},
+                    campo.Testo, campo.Dimensione / stato_.zoom, {0, 0});
+    C1.Colloca(QRectF(C1.Posto().topLeft(), C1.MisuraTesto()));
+    C1.ImpostaSuggerimento(QStringLiteral("campo ") + campo.Nome + QStringLiteral("  - ") +
+                           campo.Descrizione + QStringLiteral(" -'") + RitornoCarrello +
+                           QString::number(campo.Maschera.size()) + u' ' + campo.Maschera);
+}
+
+void ElementiFoglio::ImpostaCornice(int i)
+{
+    const Cornice &cornice = stato_.Aperto.Cornici[i];
+    Etichetta &C2 = EtichettaDi(Genere::Cornice, i);
+    C2.ImpostaColore(Colore(cornice.ColoreTesto));
+    C2.ImpostaTesto({cornice.Font, cornice.Grassetto != Falso, false}, cornice.Testo,
+                    cornice.Dimensione / stato_.zoom, RientroScritta / stato_.zoom);
+    C2.ImpostaBordo(BordoSingolo(cornice.Bordo), Colore(cornice.ColoreCornice));
+    QString suggerimento = QStringLiteral("Cornice ") + cornice.Nome;
+    if (cornice.Bordo == 0) {
+        suggerimento += QStringLiteral(" (senza bordo)");
+    }
+    C2.ImpostaSuggerimento(suggerimento);
+}
+
+void ElementiFoglio::ImpostaImmagine(int i)
+{
+    ControlloElemento &C3 = Elemento(Genere::Immagine, i);
+    C3.ImpostaBordo(true, Qt::gray);
+    C3.ImpostaSuggerimento(QStringLiteral("Immagine ") + stato_.Aperto.Immagini[i].Nome);
+}
+
+void ElementiFoglio::CaricaImmagine(int i)
+{
+    QString percorso;
+    try {
+        percorso =
+            Immagini::PercorsoInCartella(stato_.CartellaModelli, stato_.Aperto.Immagini[i].Nome);
+    } catch (const ErroreSistema &) {
+        // A name that is no file of the folder (a new image has none yet) is like a picture that
+        // cannot be loaded: no message, the box keeps what it has.
+        return;
+    }
+    static_cast<RiquadroImmagine &>(Elemento(Genere::Immagine, i)).Carica(percorso);
+}
+
+void ElementiFoglio::ArrotondaCampo(int i)
+{
+    Campo &campo = stato_.Aperto.Campi[i];
+    campo.Y = CampoDiRiga(campo) ? stato_.Aperto.Righe.yInizio : Numeri::Ar(campo.Y);
+    campo.X = Numeri::Ar(campo.X);
+}
+
+void ElementiFoglio::ArrotondaCornice(int i)
+{
+    Cornice &cornice = stato_.Aperto.Cornici[i];
+    for (double *valore : {&cornice.Larghezza, &cornice.Altezza, &cornice.X, &cornice.Y}) {
+        *valore = Numeri::Ar(*valore);
+    }
+}
+
+QRectF ElementiFoglio::PostoDa(Genere genere, int i) const
+{
+    const Modello &modello = stato_.Aperto;
+    const double z = stato_.zoom;
+    const auto posto = [z](const auto &e) {
+        return QRectF(e.X / z, e.Y / z, std::max(0.0, e.Larghezza / z),
+                      std::max(0.0, e.Altezza / z));
+    };
+    switch (genere) {
+    case Genere::Campo: {
+        const Campo &campo = modello.Campi[i];
+        return {QPointF(campo.X / z, campo.Y / z), EtichettaDi(genere, i).MisuraTesto()};
+    }
+    case Genere::Cornice:
+        return posto(modello.Cornici[i]);
+    case Genere::Immagine:
+        break;
+    }
+    return posto(modello.Immagini[i]);
+}
+
+void ElementiFoglio::Posiziona(Genere genere, int i, bool mosso)
+{
+    ControlloElemento &controllo = Elemento(genere, i);
+    const QString nome = stato_.Aperto.Nome(genere, i);
+    switch (genere) {
+    case Genere::Campo:
+        ArrotondaCampo(i);
+        break;
+    case Genere::Cornice:
+        ArrotondaCornice(i);
+        break;
+    case Genere::Immagine:
+        CaricaImmagine(i);
+        break;
+    }
+    controllo.Colloca(PostoDa(genere, i));
+    AncoraManiglia(genere, i);
+    static constexpr const char16_t *Sposta[] = {u"sposta campo ", u"sposta Cornice ",
+                                                 u"sposta Immagine "};
+    // A field writes its hint onto the frames' handle: the fields' own never has one.
+    Maniglia &conSuggerimento =
+        ManigliaDi(genere == Genere::Immagine ? Genere::Immagine : Genere::Cornice);
+    conSuggerimento.ImpostaSuggerimento(QString::fromUtf16(Sposta[static_cast<int>(genere)]) +
+                                        nome);
+    if (mosso) {
+        emit Variato();
+    }
+}

@@ -1,0 +1,132 @@
+#include "preview/Foglio.h"
+
+#include "model/StatoProgramma.h"
+#include "platform/Guardia.h"
+#include "preview/GeometriaAnteprima.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace {
+
+/// A hint is as wide as its longest line and a window cannot be wider than any screen.
+constexpr qsizetype CaratteriPerRiga = 200;
+
+/// The text as a hint window shows it: plain whatever it looks like, carriage returns as line ends.
+QString PerSuggerimento(const QString &testo)
+{
+    QStringList righe = testo.split(u'\r');
+    for (QString &riga : righe) {
+        if (riga.size() > CaratteriPerRiga) {
+            riga = riga.left(CaratteriPerRiga) + QChar(0x2026);
+        }
+    }
+    const QString semplice = righe.join(u'\n');
+    return Qt::mightBeRichText(semplice) ? Qt::convertFromPlainText(semplice, Qt::WhiteSpacePre)
+                                         : semplice;
+}
+
+} // namespace
+
+Foglio::Foglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria,
+               const StatoProgramma &stato, QWidget *padre)
+    : QGraphicsView(scena, padre)
+    , geometria_(geometria)
+    , stato_(stato)
+{
+    setFrameShape(NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setViewportUpdateMode(MinimalViewportUpdate);
+    setOptimizationFlags(DontAdjustForAntialiasing | DontSavePainterState);
+    setFocusPolicy(Qt::NoFocus);
+    setMouseTracking(true);
+    setBackgroundBrush(Qt::white);
+    const double scala = geometria.PixelPerMillimetro();
+    setTransform(QTransform::fromScale(scala, scala));
+    const QSize pixel = geometria.PixelFoglio();
+    resize(pixel);
+    // No wider than the widget, whose size is rounded to whole pixels, or the view would scroll.
+    setSceneRect(0, 0, (pixel.width() - 1) / scala, (pixel.height() - 1) / scala);
+}
+
+void Foglio::ImpostaPuntatore(Qt::CursorShape puntatore)
+{
+    if (viewport()->cursor().shape() != puntatore) {
+        viewport()->setCursor(puntatore);
+    }
+}
+
+void Foglio::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
+{
+    viewport()->update();
+    sfondo_.Imposta(percorso, millimetri, geometria_.PixelPerMillimetro() * devicePixelRatioF());
+}
+
+void Foglio::PulisceSfondo()
+{
+    sfondo_.Pulisce();
+    viewport()->update();
+}
+
+void Foglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
+{
+    penna->fillRect(rettangolo, backgroundBrush());
+    sfondo_.Dipinge(*penna, rettangolo, stato_.zoom);
+}
+
+bool Foglio::viewportEvent(QEvent *evento)
+{
+    if (evento->type() == QEvent::ToolTip) {
+        const auto *aiuto = static_cast<QHelpEvent *>(evento);
+        Guardia(this, [&] { MostraSuggerimento(aiuto->pos(), aiuto->globalPos()); });
+        return true;
+    }
+    return QGraphicsView::viewportEvent(evento);
+}
+
+void Foglio::MostraSuggerimento(const QPoint &locale, const QPoint &schermo)
+{
+    const QString testo =
+        ascolta_ == nullptr ? QString() : ascolta_->Suggerimento(geometria_.Millimetri(locale));
+    QToolTip::showText(schermo, PerSuggerimento(testo), viewport());
+}
+
+void Foglio::Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const EventoMouse &))
+{
+    evento->accept();
+    if (ascolta_ == nullptr) {
+        return;
+    }
+    const EventoMouse mouse{geometria_.Millimetri(evento->position()), evento->button(),
+                            evento->buttons(), evento->modifiers()};
+    Guardia(this, [&] { (ascolta_->*azione)(mouse); });
+}
+
+void Foglio::mousePressEvent(QMouseEvent *evento)
+{
+    Avvisa(evento, &AscoltaMouse::Preme);
+}
+
+void Foglio::mouseMoveEvent(QMouseEvent *evento)
+{
+    Avvisa(evento, &AscoltaMouse::Muove);
+}
+
+void Foglio::mouseReleaseEvent(QMouseEvent *evento)
+{
+    Avvisa(evento, &AscoltaMouse::Rilascia);
+}
+
+void Foglio::mouseDoubleClickEvent(QMouseEvent *evento)
+{
+    Avvisa(evento, &AscoltaMouse::PremeDueVolte);
+}
+
+void Foglio::wheelEvent(QWheelEvent *evento)
+{
+    evento->ignore(); // the window scrolls
+}

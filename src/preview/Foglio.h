@@ -1,0 +1,66 @@
+#pragma once
+
+#include "preview/Sfondo.h"
+
+#include <QGraphicsView>
+
+struct StatoProgramma;
+class GeometriaAnteprima;
+
+/// A mouse event on the sheet, in mm of screen from its corner.
+struct EventoMouse
+{
+    QPointF punto;
+    Qt::MouseButton bottone = Qt::NoButton; ///< the one that changed
+    Qt::MouseButtons bottoni;               ///< those held
+    Qt::KeyboardModifiers tasti;
+};
+
+/// Who acts on the mouse over the sheet. What these throw ends in a message box.
+class AscoltaMouse
+{
+public:
+    virtual ~AscoltaMouse() = default;
+    virtual void Preme(const EventoMouse &evento) = 0;
+    virtual void Muove(const EventoMouse &evento) = 0;
+    virtual void Rilascia(const EventoMouse &evento) = 0;
+    virtual void PremeDueVolte(const EventoMouse &evento) = 0;
+    /// The hint for a point; may hold carriage returns.
+    virtual QString Suggerimento(QPointF punto) const = 0;
+};
+
+/// The sheet `P1`: a view of the whole scene, one scene unit to the millimetre of screen. It never
+/// scrolls by itself; the window moves it.
+class Foglio : public QGraphicsView
+{
+    Q_OBJECT
+public:
+    Foglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria, const StatoProgramma &stato,
+           QWidget *padre);
+
+    /// ascolta must outlive the events; null: the mouse does nothing.
+    void ImpostaAscolto(AscoltaMouse *ascolta) { ascolta_ = ascolta; }
+    void ImpostaPuntatore(Qt::CursorShape puntatore);
+
+    /// As Sfondo::Imposta.
+    void DipingeSfondo(const QString &percorso, const QRectF &millimetri);
+    void PulisceSfondo();
+
+protected:
+    void drawBackground(QPainter *penna, const QRectF &rettangolo) override;
+    bool viewportEvent(QEvent *evento) override;
+    void mousePressEvent(QMouseEvent *evento) override;
+    void mouseMoveEvent(QMouseEvent *evento) override;
+    void mouseReleaseEvent(QMouseEvent *evento) override;
+    void mouseDoubleClickEvent(QMouseEvent *evento) override;
+    void wheelEvent(QWheelEvent *evento) override;
+
+private:
+    void Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const EventoMouse &));
+    void MostraSuggerimento(const QPoint &locale, const QPoint &schermo);
+
+    const GeometriaAnteprima &geometria_;
+    const StatoProgramma &stato_;
+    AscoltaMouse *ascolta_ = nullptr;
+    Sfondo sfondo_;
+};

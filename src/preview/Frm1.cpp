@@ -1,0 +1,335 @@
+#include "preview/Frm1.h"
+
+#include "base/ErroreSistema.h"
+#include "model/Numeri.h"
+#include "model/StatoProgramma.h"
+#include "platform/Finestre.h"
+#include "platform/Guardia.h"
+#include "preview/Anteprima.h"
+#include "preview/ElementiFoglio.h"
+#include "preview/Foglio.h"
+#include "preview/ManiSulFoglio.h"
+#include "preview/Righelli.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double MillimetriPerScatto = 15; // of screen, one notch of the wheel
+constexpr int UnitaPerScatto = 120;
+constexpr int CifreSingole = 7; // of a single-precision number
+constexpr qsizetype NomeLeggibile = 60;
+
+QString NumeroSingolo(double valore)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(static_cast<float>(valore), 'g', CifreSingole);
+}
+
+QString Decimi(double millimetri)
+{
+    return Numeri::NumeroPiano(Numeri::PariPiuVicino(millimetri * 10) / 10);
+}
+
+void Scrive(QLineEdit *casella, const QString &testo)
+{
+    if (casella->text() != testo) {
+        casella->setText(testo);
+    }
+}
+
+/// The scale that the zoom box asks for; 0 when it holds no number.
+double ZoomScritto(const QString &testo)
+{
+    try {
+        return Numeri::Val(testo);
+    } catch (const ErroreSistema &) {
+        // Beyond a double is beyond the range, which the box corrects without a message.
+        return testo.trimmed().startsWith(u'-') ? GeometriaAnteprima::ZoomMinimo - 1
+                                                : GeometriaAnteprima::ZoomMassimo + 1;
+    }
+}
+
+} // namespace
+
+Frm1::Frm1(StatoProgramma &stato, QWidget *padre)
+    : QWidget(padre, Qt::Window)
+    , stato_(stato)
+{
+    setObjectName(QStringLiteral("Frm1"));
+    setWindowTitle(QStringLiteral("Anteprima Plakera"));
+    Form_Load();
+    CollegaSegnali();
+    Form_Resize();
+}
+
+Frm1::~Frm1() = default;
+
+void Frm1::Form_Load()
+{
+    parti_ = std::make_unique<Anteprima>(this, stato_);
+    ImpostaHelp(this);
+    elementi_ = std::make_unique<ElementiFoglio>(stato_, parti_->geometria, parti_->scena);
+    mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
+    parti_->TextZoom->setText(Numeri::CstrX(stato_.zoom, {}));
+    parti_->TextZoom->installEventFilter(this);
+    Righello();
+}
+
+void Frm1::CollegaSegnali()
+{
+    Collega(parti_->ScrollX, &QScrollBar::valueChanged, this, &Frm1::ScrollX_Change);
+    Collega(parti_->ScrollY, &QScrollBar::valueChanged, this, &Frm1::ScrollY_Change);
+    connect(elementi_.get(), &ElementiFoglio::Variato, this, &Frm1::Variato);
+    connect(mani_.get(), &ManiSulFoglio::Variato, this, &Frm1::Variato);
+    connect(mani_.get(), &ManiSulFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
+    connect(mani_.get(), &ManiSulFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
+    connect(mani_.get(), &ManiSulFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
+    connect(mani_.get(), &ManiSulFoglio::RigheDaRidisegnare, this, &Frm1::RigheDaRidisegnare);
+    connect(mani_.get(), &ManiSulFoglio::ModificaConclusa, this, &Frm1::ModificaConclusa);
+    Collega(mani_.get(), &ManiSulFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
+    Collega(mani_.get(), &ManiSulFoglio::ElementoInMano, this, &Frm1::MostraElemento);
+}
+
+void Frm1::Form_Resize()
+{
+    // The window is as wide as the screen and leaves the editor's strip above it. Both are taken
+    // with the window's frame, or the frame would fall off the screen.
+    const QMargins cornice =
+        windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+    const QSize interna =
+        parti_->geometria.MisuraInterna(screen()->availableGeometry().size(), cornice);
+    if (interna != minimumSize() || interna != maximumSize()) {
+        setFixedSize(interna);
+    }
+    parti_->Dispone(size());
+}
+
+void Frm1::resizeEvent(QResizeEvent *)
+{
+    Guardia(this, [this] { Form_Resize(); });
+}
+
+void Frm1::moveEvent(QMoveEvent *)
+{
+    // The frame is known only once the window manager has drawn it, and it moves the window then.
+    Guardia(this, [this] { Form_Resize(); });
+}
+
+void Frm1::showEvent(QShowEvent *)
+{
+    Guardia(this, [this] { Form_Resize(); });
+}
+
+void Frm1::closeEvent(QCloseEvent *evento)
+{
+    if (evento->spontaneous()) {
+        evento->ignore();
+        emit ChiusuraRichiesta();
+    }
+}
+
+void Frm1::wheelEvent(QWheelEvent *evento)
+{
+    const bool traverso = evento->modifiers() & Qt::ShiftModifier;
+    const QPoint giro = traverso ? evento->angleDelta().transposed() : evento->angleDelta();
+    // A touch pad turns by less than a millimetre at a time; what is left over adds up.
+    giroRuota_ -= QPointF(giro) * MillimetriPerScatto / UnitaPerScatto;
+    const QPoint interi(static_cast<int>(giroRuota_.x()), static_cast<int>(giroRuota_.y()));
+    giroRuota_ -= interi;
+    parti_->ScrollX->setValue(parti_->ScrollX->value() + interi.x());
+    parti_->ScrollY->setValue(parti_->ScrollY->value() + interi.y());
+    evento->accept();
+}
+
+bool Frm1::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (oggetto == parti_->TextZoom && evento->type() == QEvent::KeyRelease) {
+        Guardia(this, [this] { TextZoom_KeyUp(); });
+    }
+    return QWidget::eventFilter(oggetto, evento);
+}
+
+void Frm1::ScrollX_Change()
+{
+    parti_->ScorreX();
+}
+
+void Frm1::ScrollY_Change()
+{
+    parti_->ScorreY();
+}
+
+void Frm1::TextZoom_KeyUp()
+{
+    double valore = ZoomScritto(parti_->TextZoom->text());
+    if (valore == 0) {
+        return;
+    }
+    const double corretto =
+        std::clamp(valore, GeometriaAnteprima::ZoomMinimo, GeometriaAnteprima::ZoomMassimo);
+    if (corretto != valore) {
+        parti_->TextZoom->setText(QString::number(corretto));
+        valore = corretto;
+    }
+    if (valore == stato_.zoom) {
+        return;
+    }
+    const PuntatoreOccupato occupato;
+    stato_.zoom = valore;
+    emit SfondoDaRidisegnare();
+    Righello();
+    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+        for (int i = 1; i <= stato_.Aperto.UltimoSlot(genere); ++i) {
+            Impostazioni(genere, i);
+            Posiziona(genere, i, false);
+        }
+    }
+    elementi_->RiancoraManiglie();
+    emit RigheDaRidisegnare();
+    parti_->P1->viewport()->update(); // the background follows the zoom by itself
+}
+
+void Frm1::MostraPuntatore(QPointF punto)
+{
+    parti_->PX->setText(NumeroSingolo(punto.x()));
+    parti_->PY->setText(NumeroSingolo(punto.y()));
+}
+
+void Frm1::MostraElemento(Genere genere, int i)
+{
+    const Modello &modello = stato_.Aperto;
+    static constexpr const char16_t *Generi[] = {u"Campo ", u"Cornice ", u"Immagine "};
+    QString testo = QString::fromUtf16(Generi[static_cast<int>(genere)]) +
+                    modello.Nome(genere, i).left(NomeLeggibile);
+    const auto aggiunge = [&testo](const QString &etichetta, double millimetri) {
+        testo += QStringLiteral("   ") + etichetta + u' ' + Decimi(millimetri);
+    };
+    modello.Con(genere, [&](const auto &tabella) {
+        aggiunge(QStringLiteral("X"), tabella[i].X);
+        aggiunge(QStringLiteral("Y"), tabella[i].Y);
+        if constexpr (requires { tabella[i].Larghezza; }) {
+            aggiunge(QStringLiteral("larghezza"), tabella[i].Larghezza);
+            aggiunge(QStringLiteral("altezza"), tabella[i].Altezza);
+        }
+    });
+    parti_->Text1->setText(testo + QStringLiteral("   mm"));
+    Scrive(parti_->LL, elementi_->Elemento(genere, i).objectName());
+}
+
+void Frm1::CreaElemento(Genere genere, int i)
+{
+    elementi_->Crea(genere, i);
+}
+
+void Frm1::NascondiElemento(Genere genere, int i)
+{
+    elementi_->Nasconde(genere, i);
+}
+
+void Frm1::NascondiMarcatori()
+{
+    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+        NascondiMarcatore(genere);
+    }
+}
+
+void Frm1::NascondiMarcatore(Genere genere)
+{
+    elementi_->NascondeManiglia(genere);
+}
+
+void Frm1::Impostazioni(Genere genere, int i)
+{
+    elementi_->Imposta(genere, i);
+}
+
+void Frm1::Posiziona(Genere genere, int i, bool mosso)
+{
+    elementi_->Posiziona(genere, i, mosso);
+}
+
+void Frm1::Seleziona(Genere genere, int i)
+{
+    elementi_->Seleziona(genere, i);
+}
+
+void Frm1::PrimoPiano(Genere genere)
+{
+    elementi_->PrimoPiano(genere);
+}
+
+void Frm1::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, Qt::KeyboardModifiers, double x,
+                  double y)
+{
+    mani_->Sposta(genere, i, bottoni, x, y);
+}
+
+void Frm1::RidimensionaCornice(int i, Qt::MouseButtons bottoni, double x, double y)
+{
+    mani_->RidimensionaCornice(i, bottoni, x, y);
+}
+
+void Frm1::RidimensionaImmagine(int i, Qt::MouseButtons bottoni, double x, double y)
+{
+    mani_->RidimensionaImmagine(i, bottoni, x, y);
+}
+
+void Frm1::Campineri()
+{
+    elementi_->Campineri();
+}
+
+void Frm1::Righello()
+{
+    const GeometriaAnteprima &geometria = parti_->geometria;
+    parti_->RighelloX->Mostra(CalcolaRighello(geometria.LarghezzaFoglio(), stato_.zoom));
+    parti_->RighelloY->Mostra(CalcolaRighello(geometria.AltezzaFoglio(), stato_.zoom));
+}
+
+int Frm1::ScorrimentoX() const
+{
+    return parti_->ScrollX->value();
+}
+
+int Frm1::ScorrimentoY() const
+{
+    return parti_->ScrollY->value();
+}
+
+QSizeF Frm1::MisuraControllo(Genere genere, int i) const
+{
+    return elementi_->Elemento(genere, i).Posto().size();
+}
+
+void Frm1::PulisceSfondo()
+{
+    parti_->P1->PulisceSfondo();
+}
+
+void Frm1::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
+{
+    parti_->P1->DipingeSfondo(percorso, millimetri);
+}
+
+void Frm1::TogliRigheSimulate()
+{
+    elementi_->TogliRighe();
+}
+
+void Frm1::AggiungeRigheSimulate(const QList<RigaSimulata> &righe)
+{
+    for (const RigaSimulata &riga : righe) {
+        elementi_->AggiungeRiga(riga.posto, {riga.font, riga.grassetto, false}, riga.testo,
+                                riga.punti);
+    }
+}

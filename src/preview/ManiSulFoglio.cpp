@@ -1,0 +1,248 @@
+#include "preview/ManiSulFoglio.h"
+
+#include "model/Numeri.h"
+#include "model/StatoProgramma.h"
+#include "preview/ElementiFoglio.h"
+#include "preview/GeometriaAnteprima.h"
+
+#include <utility>
+
+ManiSulFoglio::ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
+                             ElementiFoglio &elementi, Foglio &foglio)
+    : stato_(stato)
+    , geometria_(geometria)
+    , elementi_(elementi)
+    , foglio_(foglio)
+{
+    foglio_.ImpostaAscolto(this);
+}
+
+ManiSulFoglio::~ManiSulFoglio()
+{
+    foglio_.ImpostaAscolto(nullptr);
+}
+
+ManiSulFoglio::Cattura ManiSulFoglio::Bersaglio(QPointF punto) const
+{
+    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+        const Maniglia &maniglia = elementi_.ManigliaDi(genere);
+        if (elementi_.ManigliaIn(punto) == &maniglia) {
+            return {Preso::Maniglia, genere, maniglia.Tag.toInt()};
+        }
+    }
+    // Pointing at a frame sends it behind the others, so the edge of the selected one must be found
+    // wherever the stack has put it: otherwise nobody could grip a frame that lies in another.
+    for (const Genere genere : {Genere::Cornice, Genere::Immagine}) {
+        if (SulBordoSelezionato(genere, punto)) {
+            return {Preso::Elemento, genere, elementi_.Selezionato(genere)};
+        }
+    }
+    if (const ControlloElemento *elemento = elementi_.ElementoIn(punto)) {
+        return {Preso::Elemento, elemento->genere, elemento->indice};
+    }
+    return {Preso::Foglio};
+}
+
+Controllo *ManiSulFoglio::ControlloDi(const Cattura &bersaglio) const
+{
+    switch (bersaglio.preso) {
+    case Preso::Maniglia:
+        return &elementi_.ManigliaDi(bersaglio.genere);
+    case Preso::Elemento:
+        return &elementi_.Elemento(bersaglio.genere, bersaglio.indice);
+    case Preso::Foglio:
+    case Preso::Niente:
+        break;
+    }
+    return nullptr;
+}
+
+ManiSulFoglio::Stampo ManiSulFoglio::StampoDi(Genere genere, int i) const
+{
+    const Modello &modello = stato_.Aperto;
+    const auto conMisura = [](const auto &e) { return Stampo{e.X, e.Y, e.Larghezza, e.Altezza}; };
+    switch (genere) {
+    case Genere::Campo:
+        return {modello.Campi[i].X, modello.Campi[i].Y};
+    case Genere::Cornice:
+        return conMisura(modello.Cornici[i]);
+    case Genere::Immagine:
+        break;
+    }
+    return conMisura(modello.Immagini[i]);
+}
+
+void ManiSulFoglio::Preme(const EventoMouse &evento)
+{
+    if (preso_.preso != Preso::Niente) {
+        return; // a second button while the first one is held
+    }
+    Cattura bersaglio = Bersaglio(evento.punto);
+    bersaglio.bottone = evento.bottone;
+    const bool elemento = bersaglio.preso == Preso::Elemento;
+    if (elemento && evento.bottone == Qt::RightButton) {
+        if (bersaglio.genere != Genere::Campo) {
+            Fa_Click(bersaglio.genere, bersaglio.indice);
+        }
+        ChiedeProprieta(bersaglio.genere, bersaglio.indice);
+        return;
+    }
+    if (elemento || bersaglio.preso == Preso::Maniglia) {
+        bersaglio.prima = StampoDi(bersaglio.genere, bersaglio.indice);
+    }
+    preso_ = bersaglio;
+    if (elemento && evento.bottone == Qt::LeftButton &&
+        Ridimensionabile(bersaglio.genere, bersaglio.indice)) {
+        const Controllo &controllo = *ControlloDi(bersaglio);
+        Ridimensiona(bersaglio.genere, bersaglio.indice, evento.bottoni,
+                     evento.punto - controllo.Posto().topLeft());
+    }
+}
+
+void ManiSulFoglio::Muove(const EventoMouse &evento)
+{
+    if (preso_.preso != Preso::Niente && !(evento.bottoni & preso_.bottone)) {
+        Rilascia(evento); // the release went to another window
+    }
+    const Cattura bersaglio = preso_.preso == Preso::Niente ? Bersaglio(evento.punto) : preso_;
+    MuoveSu(bersaglio, evento);
+    AggiornaPuntatore(bersaglio);
+}
+
+void ManiSulFoglio::AggiornaPuntatore(const Cattura &bersaglio)
+{
+    const Controllo *controllo = ControlloDi(bersaglio);
+    foglio_.ImpostaPuntatore(controllo == nullptr ? Qt::ArrowCursor : controllo->Puntatore());
+}
+
+void ManiSulFoglio::MuoveSu(const Cattura &bersaglio, const EventoMouse &evento)
+{
+    switch (bersaglio.preso) {
+    case Preso::Maniglia: {
+        const QPointF dentro =
+            evento.punto - elementi_.ManigliaDi(bersaglio.genere).Posto().topLeft();
+        Sposta(bersaglio.genere, bersaglio.indice, evento.bottoni, dentro.x(), dentro.y());
+        break;
+    }
+    case Preso::Elemento:
+        if (bersaglio.genere == Genere::Campo) {
+            CampoPuntato(bersaglio.indice);
+        } else {
+            ElementoSorvolato(bersaglio.genere, bersaglio.indice, evento);
+        }
+        break;
+    case Preso::Foglio:
+    case Preso::Niente:
+        P1_MouseMove(evento);
+        break;
+    }
+}
+
+void ManiSulFoglio::P1_MouseMove(const EventoMouse &evento)
+{
+    elementi_.Campineri();
+    if (evento.bottoni & Qt::LeftButton) {
+        emit FoglioPuntato(evento.punto);
+    }
+}
+
+void ManiSulFoglio::CampoPuntato(int i)
+{
+    elementi_.CampineriTranne(i);
+    elementi_.Accende(i);
+    emit ElementoPuntato(Genere::Campo, i);
+    elementi_.Seleziona(Genere::Campo, i);
+    emit ElementoInMano(Genere::Campo, i);
+    emit PaginaRichiesta(Genere::Campo);
+}
+
+void ManiSulFoglio::ElementoSorvolato(Genere genere, int i, const EventoMouse &evento)
+{
+    elementi_.Campineri();
+    elementi_.MandaInFondo(genere, i);
+    ControlloElemento &controllo = elementi_.Elemento(genere, i);
+    controllo.ImpostaPuntatore(Qt::ArrowCursor);
+    if (Ridimensionabile(genere, i)) {
+        Ridimensiona(genere, i, evento.bottoni, evento.punto - controllo.Posto().topLeft());
+    }
+}
+
+void ManiSulFoglio::Fa_Click(Genere genere, int i)
+{
+    emit ElementoPuntato(genere, i);
+    // Frames turn the page before the handle shows, images after it: turning a page hides handles.
+    if (genere == Genere::Cornice) {
+        emit PaginaRichiesta(genere);
+    }
+    elementi_.Seleziona(genere, i);
+    emit ElementoInMano(genere, i);
+    if (genere == Genere::Immagine) {
+        emit PaginaRichiesta(genere);
+    }
+}
+
+void ManiSulFoglio::ChiedeProprieta(Genere genere, int i)
+{
+    // The dialog takes the mouse: its release will not come here.
+    preso_ = {};
+    ridimensione_ = {};
+    emit RichiestaProprieta(genere, i);
+}
+
+void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
+{
+    const Cattura bersaglio = Bersaglio(evento.punto);
+    if (bersaglio.preso == Preso::Elemento && evento.bottone == Qt::LeftButton) {
+        ChiedeProprieta(bersaglio.genere, bersaglio.indice);
+    } else {
+        Preme(evento); // two quick drags of a handle, or two quick right clicks
+    }
+}
+
+void ManiSulFoglio::Rilascia(const EventoMouse &evento)
+{
+    if (preso_.preso == Preso::Niente || (evento.bottoni & preso_.bottone)) {
+        return;
+    }
+    const Cattura preso = std::exchange(preso_, {});
+    if (preso.preso == Preso::Maniglia && preso.bottone == Qt::LeftButton) {
+        RilasciaManiglia(preso);
+    } else if (preso.preso == Preso::Elemento && preso.genere != Genere::Campo) {
+        RilasciaElemento(preso, evento);
+    }
+    AggiornaPuntatore(preso);
+    if ((preso.preso == Preso::Maniglia || preso.preso == Preso::Elemento) &&
+        !(StampoDi(preso.genere, preso.indice) == preso.prima)) {
+        emit ModificaConclusa();
+    }
+}
+
+void ManiSulFoglio::RilasciaManiglia(const Cattura &preso)
+{
+    elementi_.NascondeGuide();
+    if (preso.genere == Genere::Campo) {
+        // Placing rounds to whole millimetres of paper and takes a row field back to yInizio.
+        elementi_.Posiziona(Genere::Campo, preso.indice, true);
+        emit RigheDaRidisegnare();
+    }
+    emit ElementoInMano(preso.genere, preso.indice);
+}
+
+void ManiSulFoglio::RilasciaElemento(const Cattura &preso, const EventoMouse &evento)
+{
+    ControlloElemento &controllo = elementi_.Elemento(preso.genere, preso.indice);
+    controllo.ImpostaPuntatore(Qt::ArrowCursor);
+    if (std::exchange(ridimensione_, {}).avviata) {
+        ConcludeRidimensione(preso.genere, preso.indice);
+    }
+    elementi_.PrimoPiano(preso.genere);
+    if (preso.bottone == Qt::LeftButton && elementi_.Tocca(controllo, evento.punto)) {
+        Fa_Click(preso.genere, preso.indice);
+    }
+}
+
+QString ManiSulFoglio::Suggerimento(QPointF punto) const
+{
+    const Controllo *controllo = ControlloDi(Bersaglio(punto));
+    return controllo == nullptr ? QString() : controllo->toolTip();
+}

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "model/Modello.h"
+#include "preview/Foglio.h"
+#include "preview/Ridimensionamento.h"
+
+#include <QObject>
+#include <QRectF>
+
+class ControlloElemento;
+class Controllo;
+class ElementiFoglio;
+class Maniglia;
+
+/// What the mouse does on the sheet: pointing selects, handles drag, edges resize, a right or
+/// double click asks for the properties. The control under a press keeps the mouse until the
+/// release.
+class ManiSulFoglio : public QObject, public AscoltaMouse
+{
+    Q_OBJECT
+public:
+    ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
+                  ElementiFoglio &elementi, Foglio &foglio);
+    ~ManiSulFoglio() override;
+
+    /// One drag step of element i by the pointer offset (x, y) inside its handle, mm of screen.
+    /// Nothing unless the left button is held and the handle is ready to move.
+    void Sposta(Genere genere, int i, Qt::MouseButtons bottoni, double x, double y);
+    /// Pointer at (x, y) in frame or image i: shows what an edge offers and, with the left button
+    /// held, resizes. The first call with the button held begins the resize, a release ends it.
+    void RidimensionaCornice(int i, Qt::MouseButtons bottoni, double x, double y);
+    void RidimensionaImmagine(int i, Qt::MouseButtons bottoni, double x, double y);
+
+    void Preme(const EventoMouse &evento) override;
+    void Muove(const EventoMouse &evento) override;
+    void Rilascia(const EventoMouse &evento) override;
+    void PremeDueVolte(const EventoMouse &evento) override;
+    QString Suggerimento(QPointF punto) const override;
+
+signals:
+    void ElementoPuntato(Genere genere, int i);
+    void PaginaRichiesta(Genere genere);
+    void RichiestaProprieta(Genere genere, int i);
+    void Variato();
+    void RigheDaRidisegnare();
+    void ModificaConclusa();
+    /// The left button is held on the empty sheet, at a point in mm of screen.
+    void FoglioPuntato(QPointF punto);
+    /// Element i has been selected, moved or resized.
+    void ElementoInMano(Genere genere, int i);
+
+private:
+    enum class Preso { Niente, Foglio, Maniglia, Elemento };
+    /// What a gesture changes of an element, mm of the sheet; to know at its end whether it did.
+    struct Stampo
+    {
+        double x = 0;
+        double y = 0;
+        double larghezza = 0;
+        double altezza = 0;
+
+        bool operator==(const Stampo &) const = default;
+    };
+    struct Cattura
+    {
+        Preso preso = Preso::Niente;
+        Genere genere = Genere::Campo;
+        int indice = 0;
+        Qt::MouseButton bottone = Qt::NoButton;
+        Stampo prima = {};
+    };
+    /// The resize under way.
+    struct Ridimensione
+    {
+        Presa presa = Presa::Nessuna;
+        QPointF partenza;     ///< of the pointer
+        QPointF scarto;       ///< from the pointer to the gripped edges
+        bool premuto = false; ///< the left button is held: presa is decided
+        bool avviata = false; ///< the pointer has moved since
+    };
+
+    Cattura Bersaglio(QPointF punto) const;
+    Controllo *ControlloDi(const Cattura &bersaglio) const;
+    Stampo StampoDi(Genere genere, int i) const;
+    bool Ridimensionabile(Genere genere, int i) const;
+    bool SulBordoSelezionato(Genere genere, QPointF punto) const;
+
+    void AggiornaPuntatore(const Cattura &bersaglio);
+    void MuoveSu(const Cattura &bersaglio, const EventoMouse &evento);
+    void P1_MouseMove(const EventoMouse &evento);
+    void CampoPuntato(int i);
+    void ElementoSorvolato(Genere genere, int i, const EventoMouse &evento);
+    void Fa_Click(Genere genere, int i);
+    void RilasciaManiglia(const Cattura &preso);
+    void RilasciaElemento(const Cattura &preso, const EventoMouse &evento);
+    void ConcludeRidimensione(Genere genere, int i);
+    void ChiedeProprieta(Genere genere, int i);
+    void Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni, QPointF punto);
+    void ApplicaMisura(Genere genere, int i, QSizeF misura);
+
+    StatoProgramma &stato_;
+    const GeometriaAnteprima &geometria_;
+    ElementiFoglio &elementi_;
+    Foglio &foglio_;
+    Cattura preso_;
+    Ridimensione ridimensione_;
+};

@@ -1,0 +1,185 @@
+// The gestures that change the model: dragging by a handle, resizing by an edge.
+
+#include "model/Numeri.h"
+#include "model/StatoProgramma.h"
+#include "preview/ElementiFoglio.h"
+#include "preview/GeometriaAnteprima.h"
+#include "preview/ManiSulFoglio.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Pixels.
+constexpr double ZonaBordo = 6;
+constexpr double FuoriBordo = 3;
+constexpr double OltreManiglia = 4;
+
+constexpr double MisuraMinima = 1; // mm of paper
+
+/// Whole millimetres in a length that a division by the zoom may have left a hair too short.
+double Interi(double millimetri)
+{
+    return std::floor(millimetri + 1e-9);
+}
+
+double NelFoglio(double posto, double misura, double foglio)
+{
+    const double dopoInizio = posto < 0 ? 0 : posto;
+    // The far edge has the last word: an element larger than the sheet ends flush with it.
+    return dopoInizio > foglio - misura ? foglio - misura : dopoInizio;
+}
+
+} // namespace
+
+void ManiSulFoglio::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, double x, double y)
+{
+    Maniglia &maniglia = elementi_.ManigliaDi(genere);
+    ControlloElemento &controllo = elementi_.Elemento(genere, i);
+    if (!(bottoni & Qt::LeftButton) || maniglia.Puntatore() != Qt::SizeAllCursor) {
+        return;
+    }
+    if (genere != Genere::Immagine) {
+        x = Numeri::Ar(x);
+        y = Numeri::Ar(y);
+    }
+    const QRectF prima = controllo.Posto();
+    const QPointF dopo(NelFoglio(prima.left() + x, prima.width(), geometria_.LarghezzaFoglio()),
+                       NelFoglio(prima.top() + y, prima.height(), geometria_.AltezzaFoglio()));
+    controllo.Muove(dopo);
+    elementi_.AncoraManiglia(genere, i);
+    // An axis that did not move keeps the model's own digits.
+    if (dopo.x() != prima.left()) {
+        stato_.Aperto.X(genere, i) = dopo.x() * stato_.zoom;
+    }
+    if (dopo.y() != prima.top()) {
+        stato_.Aperto.Y(genere, i) = dopo.y() * stato_.zoom;
+    }
+    elementi_.MostraGuide(dopo, maniglia.Sfondo());
+    if (dopo == prima.topLeft()) {
+        return;
+    }
+    if (genere == Genere::Campo) {
+        emit RigheDaRidisegnare();
+    }
+    emit Variato();
+    emit ElementoInMano(genere, i);
+}
+
+bool ManiSulFoglio::Ridimensionabile(Genere genere, int i) const
+{
+    if (genere == Genere::Campo || elementi_.Selezionato(genere) != i) {
+        return false;
+    }
+    if (genere == Genere::Immagine) {
+        return true;
+    }
+    const double bordo = stato_.Aperto.Cornici[i].Bordo;
+    return bordo != 0 && std::floor(bordo) != 2;
+}
+
+bool ManiSulFoglio::SulBordoSelezionato(Genere genere, QPointF punto) const
+{
+    const int i = elementi_.Selezionato(genere);
+    if (i == 0 || !Ridimensionabile(genere, i)) {
+        return false;
+    }
+    const QRectF &posto = elementi_.Elemento(genere, i).Posto();
+    const double lato = elementi_.ManigliaDi(genere).Posto().width();
+    // On an element that its handle covers, the edges can still be gripped past the handle.
+    const double fuori =
+        std::max(geometria_.Millimetri(FuoriBordo), lato + geometria_.Millimetri(OltreManiglia) -
+                                                        std::min(posto.width(), posto.height()));
+    return Ridimensionamento::PresaIn(posto.size(), punto - posto.topLeft(),
+                                      geometria_.Millimetri(ZonaBordo), fuori) != Presa::Nessuna;
+}
+
+void ManiSulFoglio::RidimensionaCornice(int i, Qt::MouseButtons bottoni, double x, double y)
+{
+    Ridimensiona(Genere::Cornice, i, bottoni, {x, y});
+}
+
+void ManiSulFoglio::RidimensionaImmagine(int i, Qt::MouseButtons bottoni, double x, double y)
+{
+    Ridimensiona(Genere::Immagine, i, bottoni, {x, y});
+}
+
+void ManiSulFoglio::Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni, QPointF punto)
+{
+    ControlloElemento &controllo = elementi_.Elemento(genere, i);
+    const QRectF posto = controllo.Posto();
+    const bool sinistro = bottoni & Qt::LeftButton;
+    if (!sinistro || !ridimensione_.premuto) {
+        // Wide outside: whoever calls has already decided that the pointer is on this element.
+        const Presa presa = Ridimensionamento::PresaIn(
+            posto.size(), punto, geometria_.Millimetri(ZonaBordo), geometria_.LarghezzaFoglio());
+        controllo.ImpostaPuntatore(Ridimensionamento::Puntatore(presa));
+        ridimensione_ = {};
+        if (sinistro) {
+            // What is gripped is decided once: a press elsewhere never turns into a resize.
+            ridimensione_ = {presa, punto, QPointF(posto.width(), posto.height()) - punto, true};
+        }
+        return;
+    }
+    controllo.ImpostaPuntatore(Ridimensionamento::Puntatore(ridimensione_.presa));
+    if (ridimensione_.presa == Presa::Nessuna ||
+        (!ridimensione_.avviata && punto == ridimensione_.partenza)) {
+        return;
+    }
+    ridimensione_.avviata = true;
+    ApplicaMisura(
+        genere, i,
+        Ridimensionamento::Misura(posto, ridimensione_.presa, punto + ridimensione_.scarto,
+                                  MisuraMinima / stato_.zoom,
+                                  {geometria_.LarghezzaFoglio(), geometria_.AltezzaFoglio()}));
+}
+
+void ManiSulFoglio::ApplicaMisura(Genere genere, int i, QSizeF misura)
+{
+    ControlloElemento &controllo = elementi_.Elemento(genere, i);
+    const QSizeF prima = controllo.Posto().size();
+    if (misura == prima) {
+        return;
+    }
+    if (genere == Genere::Immagine) {
+        static_cast<RiquadroImmagine &>(controllo).ImpostaElastico(true);
+    }
+    controllo.Colloca(QRectF(controllo.Posto().topLeft(), misura));
+    elementi_.AncoraManiglia(genere, i);
+    const auto scrive = [&](auto &elemento) {
+        if (misura.width() != prima.width()) {
+            elemento.Larghezza = misura.width() * stato_.zoom;
+        }
+        if (misura.height() != prima.height()) {
+            elemento.Altezza = misura.height() * stato_.zoom;
+        }
+    };
+    if (genere == Genere::Cornice) {
+        scrive(stato_.Aperto.Cornici[i]);
+    } else {
+        scrive(stato_.Aperto.Immagini[i]);
+    }
+    emit Variato();
+    emit ElementoInMano(genere, i);
+}
+
+void ManiSulFoglio::ConcludeRidimensione(Genere genere, int i)
+{
+    if (genere == Genere::Immagine) {
+        static_cast<RiquadroImmagine &>(elementi_.Elemento(genere, i)).ImpostaElastico(false);
+        return;
+    }
+    // A frame is placed on whole millimetres; rounding must not push its edges past the sheet.
+    elementi_.Posiziona(genere, i, false);
+    Cornice &cornice = stato_.Aperto.Cornici[i];
+    const double larghezza = Interi(geometria_.LarghezzaFoglio() * stato_.zoom - cornice.X);
+    const double altezza = Interi(geometria_.AltezzaFoglio() * stato_.zoom - cornice.Y);
+    if (larghezza >= MisuraMinima) {
+        cornice.Larghezza = std::min(cornice.Larghezza, larghezza);
+    }
+    if (altezza >= MisuraMinima) {
+        cornice.Altezza = std::min(cornice.Altezza, altezza);
+    }
+    elementi_.Posiziona(genere, i, false);
+}

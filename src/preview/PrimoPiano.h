@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// The order in which the elements of a kind lie on each other: by area, the smallest on top.
+namespace PrimoPiano {
+
+/// Sort key: the area as a whole number (halves to even) in 30 digits, "-" and the index. An area
+/// that is negative, no number or too large for 30 digits becomes the nearest that fits.
+QString Chiave(double area, int indice);
+
+/// Indices of the elements in the order in which each is to be brought to the front; aree[k] is the
+/// area of element k + 1. Equal areas go by the text of the index: 2 before 10, which ends above
+/// it.
+QList<int> Ordine(const QList<double> &aree);
+
+} // namespace PrimoPiano

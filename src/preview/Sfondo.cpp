@@ -1,0 +1,101 @@
+#include "preview/Sfondo.h"
+
+#include "platform/Immagini.h"
+#include "preview/GeometriaAnteprima.h"
+#include "preview/Tratti.h"
+
+#include <QFileInfo>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Pixels for a length on paper, no more than the whole sheet has.
+int PixelPer(double millimetri, double foglio, double pixelPerMillimetro)
+{
+    const double visibili = std::min(millimetri, foglio) * pixelPerMillimetro;
+    return std::max(1, static_cast<int>(std::ceil(visibili)));
+}
+
+bool Disegnabile(const QRectF &r)
+{
+    return r.width() > 0 && r.height() > 0 && std::isfinite(r.left()) && std::isfinite(r.top()) &&
+           std::isfinite(r.right()) && std::isfinite(r.bottom());
+}
+
+} // namespace
+
+void Sfondo::Pulisce()
+{
+    origine_ = {};
+    maestra_ = {};
+    scalata_ = {};
+    millimetri_ = {};
+}
+
+void Sfondo::Imposta(const QString &percorso, const QRectF &millimetri, double pixelPerMillimetro)
+{
+    if (!Disegnabile(millimetri)) {
+        Pulisce();
+        Immagini::DimensioniNaturali(
+            percorso); // a file that is no picture is reported all the same
+        return;
+    }
+    const QFileInfo file(percorso);
+    const QSize pixel(
+        PixelPer(millimetri.width(), GeometriaAnteprima::LarghezzaCarta, pixelPerMillimetro),
+        PixelPer(millimetri.height(), GeometriaAnteprima::AltezzaCarta, pixelPerMillimetro));
+    const Origine origine{percorso, file.lastModified(), file.size(), pixel};
+    if (maestra_.isNull() || !(origine == origine_)) {
+        Pulisce();
+        maestra_ = Immagini::CaricaScalata(percorso, pixel);
+        maestra_.convertTo(maestra_.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                      : QImage::Format_RGB32);
+        origine_ = origine;
+    }
+    millimetri_ = millimetri;
+}
+
+const QImage &Sfondo::Scalata(QSize pixel)
+{
+    if (pixel == maestra_.size()) {
+        return maestra_;
+    }
+    if (scalata_.size() != pixel) {
+        scalata_ = maestra_.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return scalata_;
+}
+
+void Sfondo::Dipinge(QPainter &penna, const QRectF &esposto, double zoom)
+{
+    if (maestra_.isNull()) {
+        return;
+    }
+    const QRectF posto(millimetri_.topLeft() / zoom, millimetri_.size() / zoom);
+    if (!posto.intersects(esposto)) {
+        return;
+    }
+    const Tratti tratti(penna);
+    const double scala = penna.device()->devicePixelRatioF();
+    const QRectF pixel = tratti.SullaGriglia(posto);
+    const QSize misura = (pixel.size() * scala).toSize();
+    // Up to the sheet's own size it is copied pixel by pixel; a rectangle larger than the sheet is
+    // stretched while painting, for only a part of it can be seen.
+    const bool intera =
+        misura.width() <= maestra_.width() + 1 && misura.height() <= maestra_.height() + 1;
+    const QImage &figura = intera ? Scalata(misura) : maestra_;
+
+    const QRectF visibile = tratti.SullaGriglia(esposto).intersected(pixel);
+    const double sx = figura.width() / pixel.width();
+    const double sy = figura.height() / pixel.height();
+    const QRectF origine((visibile.left() - pixel.left()) * sx, (visibile.top() - pixel.top()) * sy,
+                         visibile.width() * sx, visibile.height() * sy);
+    penna.save();
+    penna.setWorldTransform(QTransform());
+    penna.setRenderHint(QPainter::SmoothPixmapTransform, !intera);
+    penna.drawImage(visibile, figura, origine);
+    penna.restore();
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDateTime>
+#include <QImage>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+/// The scan behind the elements. The file is decoded once, no finer than the sheet can ever show
+/// it, and scaled once for each size on the screen; painting then only copies pixels.
+class Sfondo
+{
+public:
+    /// pixelPerMillimetro: device pixels. An empty rectangle (mm of the sheet) shows nothing.
+    /// Throws ErroreSistema 53 or 481 and then shows nothing either.
+    void Imposta(const QString &percorso, const QRectF &millimetri, double pixelPerMillimetro);
+    void Pulisce();
+    bool Vuoto() const { return maestra_.isNull(); }
+    /// Paints the part that lies in esposto; the painter's unit is the mm of screen.
+    void Dipinge(QPainter &penna, const QRectF &esposto, double zoom);
+    /// What is in memory of the file.
+    const QImage &Maestra() const { return maestra_; }
+
+private:
+    struct Origine
+    {
+        QString percorso;
+        QDateTime modificato;
+        qint64 byte = 0;
+        QSize pixel;
+
+        bool operator==(const Origine &) const = default;
+    };
+
+    const QImage &Scalata(QSize pixel);
+
+    Origine origine_;
+    QRectF millimetri_;
+    QImage maestra_;
+    QImage scalata_; // maestra_ at the size on the screen
+};
