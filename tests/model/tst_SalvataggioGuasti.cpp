@@ -1,0 +1,202 @@
+#include "base/Disco.h"
+#include "model/FileModello.h"
+#include "platform/SuDisco.h"
+
+#include "support/FileDiProva.h"
+#include "support/ModelloDiProva.h"
+
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cerrno>
+#include <memory>
+
+#include <sys/wait.h>
+
+/// Saving while the system fails, or while the program is killed: the file holds the old model or
+/// the new one, whole, whatever happens.
+class tst_SalvataggioGuasti : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { cartella_.reset(); }
+
+    void OgniChiamataFallita_data();
+    void OgniChiamataFallita();
+    void MilleUccisioni();
+
+private:
+    struct Esito
+    {
+        int stato = -1;
+        bool guasto = false;
+    };
+    Esito Salva(const QByteArray &chiamata, int n, int causa, bool meta) const;
+    QString File() const { return cartella_->filePath(QStringLiteral("Fattura.Mod")); }
+
+    std::unique_ptr<QTemporaryDir> cartella_;
+};
+
+namespace {
+
+constexpr int ElementiVecchi = 3;
+constexpr int ElementiNuovi = 100;
+
+QByteArray Byte(int elementi)
+{
+    return FileModello::Componi(ModelloDiProva(elementi), QLocale::c());
+}
+
+/// A child of this process that saves two models in turn, the given one first, until it is killed.
+pid_t SalvaSenzaFine(const QString &percorso, int elementi)
+{
+    const pid_t figlio = fork();
+    if (figlio == 0) {
+        const Modello primo = ModelloDiProva(elementi);
+        const Modello secondo = ModelloDiProva(ElementiVecchi + ElementiNuovi - elementi);
+        for (;;) {
+            FileModello::Salva(primo, percorso, QLocale::c());
+            FileModello::Salva(secondo, percorso, QLocale::c());
+        }
+    }
+    return figlio;
+}
+
+} // namespace
+
+void tst_SalvataggioGuasti::init()
+{
+    cartella_ = std::make_unique<QTemporaryDir>();
+    QVERIFY(cartella_->isValid());
+}
+
+tst_SalvataggioGuasti::Esito tst_SalvataggioGuasti::Salva(const QByteArray &chiamata, int n,
+                                                          int causa, bool meta) const
+{
+    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+    const auto pone = [&](const char *nome, const QString &valore) {
+        ambiente.insert(QString::fromLatin1(nome), valore);
+    };
+    pone("LD_PRELOAD", QStringLiteral(LIBRERIA_GUASTI));
+    // A checking build wants its own library first, which only costs it a few checks here.
+    pone("ASAN_OPTIONS", QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+    pone("GUASTI_CARTELLA", cartella_->path());
+    pone("GUASTI_CHIAMATA", QString::fromLatin1(chiamata));
+    pone("GUASTI_N", QString::number(n));
+    pone("GUASTI_ERRNO", QString::number(causa));
+    if (meta) {
+        pone("GUASTI_META", QStringLiteral("1"));
+    }
+    QProcess figlio;
+    figlio.setProcessEnvironment(ambiente);
+    figlio.start(QStringLiteral(SALVA_MODELLO), {File(), QString::number(ElementiNuovi)});
+    if (!figlio.waitForFinished() || figlio.exitStatus() != QProcess::NormalExit) {
+        return {};
+    }
+    return {figlio.exitCode(), figlio.readAllStandardError().contains("GUASTO")};
+}
+
+void tst_SalvataggioGuasti::OgniChiamataFallita_data()
+{
+    QTest::addColumn<QByteArray>("chiamata");
+    QTest::addColumn<int>("causa");
+    QTest::addColumn<int>("errore");
+    QTest::addColumn<bool>("meta");
+    QTest::addColumn<bool>("esiste");
+
+    struct Causa
+    {
+        const char *nome;
+        int numero;
+        int errore;
+    };
+    for (const bool esiste : {true, false}) {
+        const char *su = esiste ? "modello che c'e'" : "modello nuovo";
+        for (const Causa &causa : {Causa{"disco pieno", ENOSPC, 61}, Causa{"guasto", EIO, 57},
+                                   Causa{"nessun permesso", EACCES, 75}}) {
+            for (const char *chiamata : {"open", "write", "sync", "rename"}) {
+                QTest::addRow("%s, %s, %s", chiamata, causa.nome, su)
+                    << QByteArray(chiamata) << causa.numero << causa.errore << false << esiste;
+            }
+            QTest::addRow("write a meta', %s, %s", causa.nome, su)
+                << QByteArray("write") << causa.numero << causa.errore << true << esiste;
+        }
+    }
+}
+
+void tst_SalvataggioGuasti::OgniChiamataFallita()
+{
+    QFETCH(QByteArray, chiamata);
+    QFETCH(int, causa);
+    QFETCH(int, errore);
+    QFETCH(bool, meta);
+    QFETCH(bool, esiste);
+    const QByteArray vecchi = Byte(ElementiVecchi);
+    const QStringList prima = esiste ? QStringList{QStringLiteral("Fattura.Mod")} : QStringList();
+    if (esiste) {
+        ScriveFile(File(), vecchi);
+    }
+
+    int n = 1;
+    Esito esito = Salva(chiamata, n, causa, meta);
+    for (; esito.guasto; esito = Salva(chiamata, ++n, causa, meta)) {
+        QCOMPARE(esito.stato, errore);
+        QCOMPARE(NomiIn(cartella_->path()), prima);
+        if (esiste) {
+            QCOMPARE(ByteDi(File()), vecchi);
+        }
+    }
+    QVERIFY2(n > 1, "the fault never happened");
+    QCOMPARE(esito.stato, 0);
+    QCOMPARE(NomiIn(cartella_->path()), QStringList{QStringLiteral("Fattura.Mod")});
+    QCOMPARE(ByteDi(File()), Byte(ElementiNuovi));
+}
+
+void tst_SalvataggioGuasti::MilleUccisioni()
+{
+    constexpr int Uccisioni = 1000;
+    constexpr int MicrosecondiAlMassimo = 10'000;
+    const QByteArray vecchi = Byte(ElementiVecchi);
+    const QByteArray nuovi = Byte(ElementiNuovi);
+    ScriveFile(File(), vecchi);
+    Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
+
+    QRandomGenerator caso(20260101);
+    int conResti = 0;
+    int cambiati = 0;
+    QByteArray ultimi = vecchi;
+    for (int i = 0; i < Uccisioni; ++i) {
+        const qsizetype prima = NomiIn(cartella_->path()).size();
+        const pid_t figlio =
+            SalvaSenzaFine(File(), ultimi == vecchi ? ElementiNuovi : ElementiVecchi);
+        QVERIFY(figlio > 0);
+        usleep(static_cast<useconds_t>(caso.bounded(MicrosecondiAlMassimo)));
+        QCOMPARE(kill(figlio, SIGKILL), 0);
+        int stato = 0;
+        QCOMPARE(waitpid(figlio, &stato, 0), figlio);
+        QVERIFY2(WIFSIGNALED(stato), "the child ended by itself: a save failed");
+
+        const QByteArray trovati = ByteDi(File());
+        QVERIFY2(trovati == vecchi || trovati == nuovi,
+                 "torn after " + QByteArray::number(i) + " kills");
+        conResti += NomiIn(cartella_->path()).size() > prima ? 1 : 0;
+        cambiati += trovati != ultimi ? 1 : 0;
+        ultimi = trovati;
+    }
+    // The kills did hit saves on their way, before and after the rename.
+    QVERIFY2(conResti > Uccisioni / 20, QByteArray::number(conResti));
+    QVERIFY2(cambiati > Uccisioni / 20, QByteArray::number(cambiati));
+
+    // What they left behind goes with the saves that follow.
+    QVERIFY(NomiIn(cartella_->path()).size() < conResti);
+    QTRY_VERIFY((FileModello::Salva(ModelloDiProva(ElementiNuovi), File(), QLocale::c()),
+                 NomiIn(cartella_->path()).size() == 1));
+    Disco::UsaSincronizzazione(nullptr);
+}
+
+QTEST_GUILESS_MAIN(tst_SalvataggioGuasti)
+#include "tst_SalvataggioGuasti.moc"
