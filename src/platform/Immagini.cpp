@@ -2,7 +2,9 @@
 
 #include "base/ErroreSistema.h"
 #include "platform/IntestazioneImmagine.h"
+#include "platform/Percorsi.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -19,6 +21,30 @@ constexpr int RiduzioneMassima = 8;
 [[noreturn]] void NonValida()
 {
     throw ErroreSistema(ErroreSistema::ImmagineNonValida);
+}
+
+bool Troppi(const QSize &pixel)
+{
+    return qint64(pixel.width()) * pixel.height() > PixelMassimi;
+}
+
+/// The pixel formats that the callers may count on.
+void A32Bit(QImage &immagine)
+{
+    immagine.convertTo(immagine.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+}
+
+QImage Scalata(const QImage &immagine, const QSize &pixel)
+{
+    if (immagine.size() == pixel) {
+        return immagine;
+    }
+    QImage scalata = immagine.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (scalata.isNull()) {
+        NonValida();
+    }
+    A32Bit(scalata);
+    return scalata;
 }
 
 /// An open picture file whose header has been checked.
@@ -69,7 +95,7 @@ public:
         const qint64 pixel = qint64(pixel_.width()) * pixel_.height();
         // The decoder has already read the header and goes on from where it stands.
         const qint64 posto = file_.pos();
-        if (pixel > PixelMassimi || !intestazione_.Credibile(file_.size(), pixel) ||
+        if (Troppi(pixel_) || !intestazione_.Credibile(file_.size(), pixel) ||
             !intestazione_.Intera(file_) || !file_.seek(posto)) {
             NonValida();
         }
@@ -81,8 +107,7 @@ public:
         if (immagine.isNull()) {
             NonValida();
         }
-        immagine.convertTo(immagine.hasAlphaChannel() ? QImage::Format_ARGB32
-                                                      : QImage::Format_RGB32);
+        A32Bit(immagine);
         return immagine;
     }
 
@@ -122,17 +147,28 @@ QImage Immagini::Carica(const QString &percorso)
 
 QImage Immagini::CaricaScalata(const QString &percorso, const QSize &pixel)
 {
-    if (pixel.isEmpty() || qint64(pixel.width()) * pixel.height() > PixelMassimi) {
+    if (pixel.isEmpty() || Troppi(pixel)) {
         NonValida();
     }
-    const QImage immagine = Lettore(percorso).Decodifica(pixel);
-    if (immagine.size() == pixel) {
-        return immagine;
-    }
-    QImage scalata = immagine.scaled(pixel, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (scalata.isNull()) {
+    return Scalata(Lettore(percorso).Decodifica(pixel), pixel);
+}
+
+QImage Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
+{
+    if (massimo.isEmpty()) {
         NonValida();
     }
-    scalata.convertTo(scalata.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-    return scalata;
+    Lettore lettore(percorso);
+    const QSize pixel = lettore.Pixel().boundedTo(massimo);
+    return Scalata(lettore.Decodifica(pixel), pixel);
+}
+
+QString Immagini::PercorsoInCartella(const QString &cartella, const QString &nome)
+{
+    const QString base = QDir::cleanPath(Percorsi::Risolve(cartella)) + u'/';
+    const QString percorso = QDir::cleanPath(Percorsi::Risolve(cartella + nome));
+    if (nome.isEmpty() || !percorso.startsWith(base)) {
+        throw ErroreSistema(ErroreSistema::FileNonTrovato);
+    }
+    return percorso;
 }

@@ -19,4 +19,13 @@ QImage Carica(const QString &percorso);
 /// read scaled where the format can. Throws ErroreSistema 53 or 481.
 QImage CaricaScalata(const QString &percorso, const QSize &pixel);
 
+/// As Carica, but at most massimo pixels wide and high (both positive): a larger picture is scaled
+/// down to it in the direction that exceeds. Throws ErroreSistema 53 or 481.
+QImage CaricaEntro(const QString &percorso, const QSize &massimo);
+
+/// Full path, in the spelling found on disk, of a picture of the models folder. Throws
+/// ErroreSistema 53 when the name is empty or leads out of the folder; whether the file exists is
+/// not looked at.
+QString PercorsoInCartella(const QString &cartella, const QString &nome);
+
 } // namespace Immagini

@@ -2,10 +2,13 @@
 
 #include "base/ErroreSistema.h"
 
+#include <QFile>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QPrinterInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -19,6 +22,15 @@ bool ArialSostituito()
     return trovato.family().contains(QLatin1String("Liberation Sans")) ||
            trovato.family().contains(QLatin1String("Arimo")) ||
            trovato.family().contains(QLatin1String("Nimbus Sans"));
+}
+
+/// The writer of PDF files tells nobody when the disk is full: its last words must be there.
+bool PdfIntero(const QString &percorso)
+{
+    constexpr qint64 Coda = 64;
+    QFile file(percorso);
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - Coda)) &&
+           file.readAll().contains("%%EOF");
 }
 
 } // namespace
@@ -73,4 +85,21 @@ std::unique_ptr<QPrinter> Stampanti::SuPdf(const QString &percorso)
     stampante->setFullPage(false);
     stampante->setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
     return stampante;
+}
+
+bool Stampanti::Pronta(const QPrinter &stampante)
+{
+    return stampante.outputFormat() != QPrinter::NativeFormat ||
+           !QPrinterInfo::printerInfo(stampante.printerName()).isNull();
+}
+
+bool Stampanti::Consegnata(const QPrinter &stampante)
+{
+    if (stampante.printerState() == QPrinter::Error ||
+        stampante.printerState() == QPrinter::Aborted) {
+        return false;
+    }
+    return stampante.outputFormat() == QPrinter::NativeFormat
+               ? Pronta(stampante)
+               : PdfIntero(stampante.outputFileName());
 }

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "print/Tracciati.h"
+
+#include <QPainter>
+#include <QPointF>
+#include <QRectF>
+
+class QPrinter;
+
+/// One printed page whose unit is the millimetre, from the corner of the printable area, x to the
+/// right and y downwards. It prints at true size whatever the printer's resolution and paper.
+/// Nothing reaches the printer before Fine(), because pictures AND with what is under them.
+/// Coordinates beyond the page, infinite ones included, are allowed and print what falls on it.
+class Pagina
+{
+public:
+    static constexpr double LineaSottile = 0.1; ///< mm; a pen of no width is invisible at 1200 dpi
+
+    /// Starts the document; the printer must outlive the page. Throws ErroreSistema 482 when the
+    /// printer is gone or refuses.
+    explicit Pagina(QPrinter &stampante);
+    /// Gives the document up unless Fine() was called.
+    ~Pagina();
+    Q_DISABLE_COPY_MOVE(Pagina)
+
+    double Larghezza() const; ///< printable width, mm
+    double Altezza() const;   ///< printable height, mm
+
+    QPointF Posizione() const { return posizione_; } ///< current position, mm
+    void Posizione(double x, double y) { posizione_ = {x, y}; }
+
+    /// Sizes below 1 point print as 8 points, absurdly large ones as 1638; an empty or unknown
+    /// family falls back to a plain one.
+    void Font(const QString &famiglia, int punti, bool grassetto = false);
+    QRgb Colore() const { return colore_; } ///< of texts and lines, black at first
+    void Colore(QRgb colore) { colore_ = colore | 0xFF000000; }
+
+    /// A line of text whose top is at the current position, which then goes to the start (x = 0) of
+    /// the next line.
+    void Stampa(const QString &testo);
+    /// A thin line; the current position goes to its end. mm.
+    void Linea(double x1, double y1, double x2, double y2);
+    /// A filled rectangle, mm; negative sizes extend to the left and upwards.
+    void Barra(double x, double y, double larghezza, double altezza, QRgb colore);
+    /// The picture file stretched into the rectangle (mm, both sizes positive) and ANDed with the
+    /// page; what is transparent in it leaves the page as it is. Throws ErroreSistema 53 or 481.
+    void FiguraAnd(const QString &percorso, const QRectF &millimetri);
+
+    /// Sends the page. Throws ErroreSistema 482 when the printer does not take it.
+    void Fine();
+
+private:
+    struct Caricata
+    {
+        QString Percorso;
+        QSize Massimo;
+        QImage Immagine;
+    };
+
+    double InPixel(double millimetri) const { return millimetri * pixelPerMillimetro_; }
+    QImage CaricaOpaca(const QString &percorso, const QSizeF &millimetri);
+    void Dipinge();
+    void DipingeImmagine(const QRectF &posto, const QImage &immagine, bool senzaPerdita);
+
+    QPrinter &stampante_;
+    QPainter pittore_;
+    QRectF area_; ///< printable area, printer pixels
+    double pixelPerMillimetro_;
+    QPointF posizione_;
+    QFont font_;
+    double ascendente_ = 0; ///< of font_, mm
+    double interlinea_ = 0; ///< of font_, mm
+    QRgb colore_ = 0xFF000000;
+    Tracciati::Foglio foglio_;
+    QList<Caricata> caricate_;
+    bool finita_ = false;
+};

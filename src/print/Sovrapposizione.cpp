@@ -1,0 +1,197 @@
+#include "print/Sovrapposizione.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRegion>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Tracciati;
+
+namespace {
+
+constexpr double PuntiMassimi = 600;
+constexpr double PixelMassimi = 40e6;
+
+constexpr int RigheStriscia = 256;
+
+constexpr QRgb Nero = 0xFF000000;
+
+QRgb Colore(const Segno &segno)
+{
+    return std::visit([](const auto &s) { return s.Colore; }, segno);
+}
+
+/// From the font's units around the start of the baseline to printer pixels.
+QTransform DalFont(const Testo &testo)
+{
+    return QTransform::fromScale(testo.Scala, testo.Scala) *
+           QTransform::fromTranslate(testo.Base.x(), testo.Base.y());
+}
+
+QRectF Ingombro(const Segno &segno, QPaintDevice *stampante)
+{
+    if (const auto *testo = std::get_if<Testo>(&segno)) {
+        return DalFont(*testo).mapRect(
+            QFontMetricsF(testo->Font, stampante).boundingRect(testo->Stringa));
+    }
+    if (const auto *linea = std::get_if<Linea>(&segno)) {
+        const double m = linea->Spessore / 2;
+        return QRectF(linea->Estremi.p1(), linea->Estremi.p2()).normalized().adjusted(-m, -m, m, m);
+    }
+    return std::get<Barra>(segno).Posto;
+}
+
+/// Where pictures meet coloured marks or earlier pictures.
+QList<QRectF> Incontri(const Foglio &foglio, QPaintDevice *stampante, const QRectF &area)
+{
+    QList<QRectF> ostacoli;
+    for (const Segno &segno : foglio.Segni) {
+        if (Colore(segno) != Nero) {
+            // One pixel more: the edges of letters may be rounded outwards.
+            ostacoli.append(Ingombro(segno, stampante).adjusted(-1, -1, 1, 1));
+        }
+    }
+    QList<QRectF> incontri;
+    for (const Figura &figura : foglio.Figure) {
+        const QRectF posto = figura.Posto & area;
+        for (const QRectF &ostacolo : std::as_const(ostacoli)) {
+            if (const QRectF incontro = posto & ostacolo; !incontro.isEmpty()) {
+                incontri.append(incontro);
+            }
+        }
+        ostacoli.append(figura.Posto);
+    }
+    return incontri;
+}
+
+/// The meetings as disjoint rectangles on a grid of scala grid pixels to a printer pixel.
+QRegion SullaGriglia(const QList<QRectF> &incontri, double scala)
+{
+    QRegion regione;
+    for (const QRectF &incontro : incontri) {
+        regione += QRectF(incontro.topLeft() * scala, incontro.size() * scala).toAlignedRect();
+    }
+    return regione;
+}
+
+double Pixel(const QRegion &regione)
+{
+    double pixel = 0;
+    for (const QRect &rettangolo : regione) {
+        pixel += double(rettangolo.width()) * rettangolo.height();
+    }
+    return pixel;
+}
+
+void ScriveComeTracciato(QPainter &pittore, const Testo &testo)
+{
+    // As outlines: letters are smoothed even by a painter that is told not to.
+    QPainterPath tracciato;
+    tracciato.addText({0, 0}, testo.Font, testo.Stringa);
+    pittore.fillPath(DalFont(testo).map(tracciato), QColor::fromRgb(testo.Colore));
+}
+
+/// ANDs the picture with the rows of the page from prima on, as many as a strip has.
+void SovrapponeStriscia(QImage &pagina, int prima, const Figura &figura,
+                        const QTransform &trasformazione)
+{
+    QImage velo(pagina.width(), std::min(RigheStriscia, pagina.height() - prima),
+                QImage::Format_RGB32);
+    velo.fill(Qt::white);
+    {
+        QPainter pittore(&velo);
+        pittore.setTransform(trasformazione * QTransform::fromTranslate(0, -prima));
+        // Magnified pixels stay square, as the printer shows them beside the patch.
+        const QRectF posto = trasformazione.mapRect(figura.Posto);
+        pittore.setRenderHint(QPainter::SmoothPixmapTransform,
+                              posto.width() < figura.Immagine.width() ||
+                                  posto.height() < figura.Immagine.height());
+        pittore.drawImage(figura.Posto, figura.Immagine);
+    }
+    for (int y = 0; y < velo.height(); ++y) {
+        auto *sotto = reinterpret_cast<QRgb *>(pagina.scanLine(prima + y));
+        const auto *sopra = reinterpret_cast<const QRgb *>(velo.constScanLine(y));
+        std::transform(sotto, sotto + pagina.width(), sopra, sotto,
+                       [](QRgb a, QRgb b) { return a & b; });
+    }
+}
+
+QImage Compone(const Foglio &foglio, const QRect &rettangolo, double scala)
+{
+    QImage pagina(rettangolo.size(), QImage::Format_RGB32);
+    if (pagina.isNull()) {
+        throw std::bad_alloc();
+    }
+    pagina.fill(Qt::white);
+    QTransform trasformazione;
+    trasformazione.translate(-rettangolo.x(), -rettangolo.y());
+    trasformazione.scale(scala, scala);
+    {
+        // No smoothing: a half-covered pixel ANDed with a colour would be neither of the two.
+        QPainter pittore(&pagina);
+        pittore.setTransform(trasformazione);
+        for (const Segno &segno : foglio.Segni) {
+            if (const auto *testo = std::get_if<Testo>(&segno)) {
+                ScriveComeTracciato(pittore, *testo);
+            } else {
+                Sovrapposizione::Dipinge(pittore, segno);
+            }
+        }
+    }
+    const QRectF coperto =
+        trasformazione.inverted().mapRect(QRectF(0, 0, pagina.width(), pagina.height()));
+    for (const Figura &figura : foglio.Figure) {
+        if (figura.Posto.intersects(coperto)) {
+            for (int y = 0; y < pagina.height(); y += RigheStriscia) {
+                SovrapponeStriscia(pagina, y, figura, trasformazione);
+            }
+        }
+    }
+    return pagina;
+}
+
+} // namespace
+
+void Sovrapposizione::Dipinge(QPainter &pittore, const Segno &segno)
+{
+    if (const auto *testo = std::get_if<Testo>(&segno)) {
+        pittore.setFont(testo->Font);
+        pittore.setPen(QColor::fromRgb(testo->Colore));
+        const QTransform prima = pittore.transform();
+        pittore.setTransform(DalFont(*testo), true);
+        pittore.drawText(QPointF(0, 0), testo->Stringa);
+        pittore.setTransform(prima);
+    } else if (const auto *linea = std::get_if<Linea>(&segno)) {
+        pittore.setPen(
+            QPen(QColor::fromRgb(linea->Colore), linea->Spessore, Qt::SolidLine, Qt::FlatCap));
+        pittore.drawLine(linea->Estremi);
+    } else {
+        const auto &barra = std::get<Barra>(segno);
+        pittore.fillRect(barra.Posto, QColor::fromRgb(barra.Colore));
+    }
+}
+
+QList<Sovrapposizione::Pezza> Sovrapposizione::Pezze(const Foglio &foglio, QPaintDevice *stampante,
+                                                     const QRectF &area, double puntiPerPollice)
+{
+    const QList<QRectF> incontri = Incontri(foglio, stampante, area);
+    if (incontri.isEmpty()) {
+        return {};
+    }
+    double scala = std::min(1.0, PuntiMassimi / puntiPerPollice);
+    QRegion regione = SullaGriglia(incontri, scala);
+    if (const double pixel = Pixel(regione); pixel > PixelMassimi) {
+        scala *= std::sqrt(PixelMassimi / pixel);
+        regione = SullaGriglia(incontri, scala);
+    }
+    QList<Pezza> pezze;
+    for (const QRect &rettangolo : regione) {
+        pezze.append({QRectF(rettangolo.x() / scala, rettangolo.y() / scala,
+                             rettangolo.width() / scala, rettangolo.height() / scala),
+                      Compone(foglio, rettangolo, scala)});
+    }
+    return pezze;
+}

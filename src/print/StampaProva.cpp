@@ -1,0 +1,163 @@
+#include "print/StampaProva.h"
+
+#include "base/ErroreSistema.h"
+#include "model/Tavolozza.h"
+#include "platform/Immagini.h"
+#include "print/Pagina.h"
+
+#include <cmath>
+#include <new>
+
+namespace {
+
+constexpr QLatin1String MascheraNonStampata("NO");
+constexpr double SpessorePredefinito = 0.3; ///< mm, of a border value without a fraction
+constexpr double RientroEtichetta = 1.0;    ///< mm from the left edge of the frame
+constexpr double DiscesaEtichetta = 0.4;    ///< mm from its top edge
+constexpr double TipoRettangolo = 1;
+constexpr double TipoLineaSuperiore = 2;
+
+/// Black for an index that is none: a model file may hold any number.
+QRgb ColoreStampato(int indice)
+{
+    return indice >= 0 && indice < Tavolozza::Colori ? QRgb(Tavolozza::Rgb(indice)) : 0;
+}
+
+/// Millimetres as the diagnostic shows them.
+QString Testo(double millimetri)
+{
+    return Numeri::NumeroPiano(millimetri, QLocale::c());
+}
+
+} // namespace
+
+StampaProva::StampaProva(const Modello &modello, QString cartellaModelli, Pagina &pagina,
+                         Numeri::Avviso avviso)
+    : modello_(modello)
+    , cartellaModelli_(std::move(cartellaModelli))
+    , pagina_(pagina)
+    , avviso_(std::move(avviso))
+{
+}
+
+void StampaProva::Stampa(bool StampaNome)
+{
+    for (int i = 1; i <= modello_.UltimoSlot(Genere::Campo); ++i) {
+        if (modello_.Presente(Genere::Campo, i)) {
+            StampaCampo(i, StampaNome);
+        }
+    }
+    for (int i = 1; i <= modello_.UltimoSlot(Genere::Cornice); ++i) {
+        if (modello_.Presente(Genere::Cornice, i)) {
+            StampaCornice(i);
+        }
+    }
+    for (int i = 1; i <= modello_.UltimoSlot(Genere::Immagine); ++i) {
+        if (modello_.Presente(Genere::Immagine, i)) {
+            StampaImmagine(i);
+        }
+    }
+}
+
+void StampaProva::StampaCampo(int i, bool StampaNome)
+{
+    const Campo &campo = modello_.Campi[i];
+    if (campo.Maschera.toUpper() == MascheraNonStampata) {
+        return;
+    }
+    if (pagina_.Larghezza() < campo.X) {
+        avviso_(QStringLiteral("x"));
+    }
+    if (pagina_.Altezza() < campo.Y) {
+        avviso_(QStringLiteral("y"));
+    }
+    pagina_.Font(campo.Font, campo.Dimensione, campo.Grassetto != Falso);
+    pagina_.Posizione(campo.X, campo.Y);
+    pagina_.Stampa(StampaNome ? campo.Nome : campo.Testo);
+}
+
+void StampaProva::StampaCornice(int i)
+{
+    const Cornice &cornice = modello_.Cornici[i];
+    const double tipo = std::trunc(cornice.Bordo);
+    const double frazione = cornice.Bordo - tipo;
+    const Etichetta etichetta{cornice.Testo, cornice.Font, cornice.Dimensione,
+                              cornice.Grassetto != Falso, ColoreStampato(cornice.ColoreTesto)};
+    Linea(cornice.X, cornice.Y, cornice.X + cornice.Larghezza, cornice.Y + cornice.Altezza,
+          etichetta, ColoreStampato(cornice.ColoreCornice), tipo,
+          frazione == 0 ? SpessorePredefinito : frazione);
+}
+
+void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etichetta &etichetta,
+                        QRgb campione, double tipo, double spessore)
+{
+    if (!etichetta.Testo.isEmpty()) {
+        const QRgb prima = pagina_.Colore();
+        pagina_.Font(etichetta.Font, etichetta.Dimensione, etichetta.Grassetto);
+        pagina_.Colore(etichetta.Colore);
+        pagina_.Posizione(x1 + RientroEtichetta, y1 + DiscesaEtichetta);
+        pagina_.Stampa(etichetta.Testo);
+        pagina_.Colore(prima);
+    }
+    if (tipo == TipoRettangolo) {
+        pagina_.Barra(x1, y1, x2 - x1, spessore, campione);
+        pagina_.Barra(x1, y1, spessore, y2 - y1, campione);
+        pagina_.Barra(x2, y1, spessore, y2 - y1, campione);
+        // Longer by its own thickness: the right bar stands beyond x2, and the corner is closed.
+        pagina_.Barra(x1, y2, x2 - x1 + spessore, spessore, campione);
+    } else if (tipo == TipoLineaSuperiore) {
+        pagina_.Barra(x1, y1, x2 - x1, spessore, campione);
+    }
+}
+
+void StampaProva::StampaImmagine(int i)
+{
+    const Immagine &immagine = modello_.Immagini[i];
+    try {
+        const auto intero = [](double millimetri) { return int(Numeri::Intero16(millimetri)); };
+        const int x = intero(immagine.X);
+        const int y = intero(immagine.Y);
+        const int larghezza = intero(immagine.Larghezza);
+        const int altezza = intero(immagine.Altezza);
+        StampaImmagineX(Immagini::PercorsoInCartella(cartellaModelli_, immagine.Nome), x, y,
+                        larghezza, altezza);
+    } catch (const ErroreSistema &errore) {
+        // One picture never stops the print: the user is told, and the next element follows.
+        avviso_(Diagnosi(immagine, errore));
+    } catch (const std::bad_alloc &) {
+        avviso_(Diagnosi(immagine, ErroreSistema(ErroreSistema::MemoriaEsaurita)));
+    }
+}
+
+void StampaProva::StampaImmagineX(const QString &NomeFile, int xMillimetri, int yMillimetri,
+                                  int WidthMillimetri, int HeightMillimetri)
+{
+    QSizeF misura(WidthMillimetri, HeightMillimetri);
+    if (WidthMillimetri == 0 && HeightMillimetri == 0) {
+        misura = {pagina_.Larghezza(), pagina_.Altezza()};
+    } else if (WidthMillimetri <= 0 || HeightMillimetri <= 0) {
+        throw ErroreSistema(ErroreSistema::ArgomentoNonValido);
+    }
+    pagina_.FiguraAnd(NomeFile, QRectF(QPointF(xMillimetri, yMillimetri), misura));
+}
+
+QString StampaProva::Diagnosi(const Immagine &immagine, const ErroreSistema &errore) const
+{
+    const auto intero = [](double v) { return Testo(Numeri::PariPiuVicino(v)); };
+    return QStringLiteral("StampaImmagine:  pos. mm. x,y=%1,%2\n"
+                          " area stampabile Width,Height = %3, %4\n"
+                          " xtar=%5, %6\n"
+                          "ERRORE %7 %8\n%9")
+        .arg(intero(immagine.X), intero(immagine.Y), Testo(pagina_.Larghezza()),
+             Testo(pagina_.Altezza()), intero(immagine.Larghezza), intero(immagine.Altezza),
+             QString::number(errore.numero), errore.descrizione, cartellaModelli_ + immagine.Nome);
+}
+
+void StampaModello(const Modello &modello, const QString &cartellaModelli, QPrinter &stampante,
+                   bool StampaNome, const Numeri::Avviso &avviso)
+{
+    stampante.setDocName(modello.NomeFile);
+    Pagina pagina(stampante);
+    StampaProva(modello, cartellaModelli, pagina, avviso).Stampa(StampaNome);
+    pagina.Fine();
+}

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "model/Modello.h"
+#include "platform/Stampanti.h"
+#include "print/Retino.h"
+#include "print/StampaProva.h"
+#include "support/ImmaginiDiProva.h"
+#include "support/LettorePdf.h"
+
+#include <QDir>
+#include <QPageSize>
+#include <QTemporaryDir>
+
+/// A model printed on a PDF sheet and read back.
+class FoglioDiProva
+{
+public:
+    Modello Aperto;
+    QStringList Avvisi;
+    QMarginsF Margini;       ///< mm
+    QSizeF Misura{210, 297}; ///< mm
+
+    FoglioDiProva() { Aperto.NomeFile = QStringLiteral("Prova.Mod"); }
+
+    Campo &ConCampo(const QString &nome, const QString &testo, double x, double y, int punti = 11)
+    {
+        Campo &campo = Aperto.Campi[Aperto.AggiungeCampo(x, y)];
+        campo.Nome = nome;
+        campo.Testo = testo;
+        campo.Dimensione = qint16(punti);
+        return campo;
+    }
+
+    Cornice &ConCornice(const QRectF &millimetri, double bordo, int colore = 0)
+    {
+        Cornice &cornice =
+            Aperto.Cornici[Aperto.AggiungeCornice(millimetri.x(), millimetri.y(), 1, 1)];
+        cornice.Testo.clear();
+        cornice.Larghezza = millimetri.width();
+        cornice.Altezza = millimetri.height();
+        cornice.Bordo = bordo;
+        cornice.ColoreCornice = qint16(colore);
+        return cornice;
+    }
+
+    Immagine &ConImmagine(const QString &nome, const QByteArray &byte, const QRectF &millimetri)
+    {
+        if (!byte.isEmpty()) {
+            ImmaginiDiProva::Scrive(Cartella() + nome, byte);
+        }
+        Immagine &immagine =
+            Aperto.Immagini[Aperto.AggiungeImmagine(millimetri.x(), millimetri.y())];
+        immagine.Nome = nome;
+        immagine.Larghezza = millimetri.width();
+        immagine.Altezza = millimetri.height();
+        return immagine;
+    }
+
+    QString Cartella() const { return dir_.path() + QDir::separator(); }
+    QString Pdf() const { return dir_.filePath(QStringLiteral("foglio.pdf")); }
+
+    std::unique_ptr<QPrinter> Stampante() const
+    {
+        auto stampante = Stampanti::SuPdf(Pdf());
+        stampante->setPageSize(
+            QPageSize(Misura, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+        stampante->setPageMargins(Margini, QPageLayout::Millimeter);
+        return stampante;
+    }
+
+    LettorePdf Stampa(bool StampaNome = false)
+    {
+        const auto stampante = Stampante();
+        StampaModello(Aperto, Cartella(), *stampante, StampaNome,
+                      [this](const QString &testo) { Avvisi.append(testo); });
+        return LettorePdf(Pdf());
+    }
+
+    LettorePdf Retino() const
+    {
+        const auto stampante = Stampante();
+        StampaRetino(*stampante);
+        return LettorePdf(Pdf());
+    }
+
+private:
+    QTemporaryDir dir_;
+};
+
+/// Within the tenth of a millimetre that the printed sheet is held to.
+inline bool Vicini(double a, double b, double scarto = 0.1)
+{
+    return qAbs(a - b) <= scarto;
+}
+
+inline bool Vicini(const QRectF &a, const QRectF &b, double scarto = 0.1)
+{
+    return Vicini(a.left(), b.left(), scarto) && Vicini(a.top(), b.top(), scarto) &&
+           Vicini(a.right(), b.right(), scarto) && Vicini(a.bottom(), b.bottom(), scarto);
+}
+
+inline const char *Testo(const QRectF &r)
+{
+    static QByteArray testo;
+    testo = QStringLiteral("%1 %2 - %3 %4")
+                .arg(r.left())
+                .arg(r.top())
+                .arg(r.right())
+                .arg(r.bottom())
+                .toUtf8();
+    return testo.constData();
+}
