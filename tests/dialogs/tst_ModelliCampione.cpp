@@ -149,9 +149,9 @@ void tst_ModelliCampione::Posti()
         QVERIFY2(Intero(cornice.X) && Intero(cornice.Y) && Intero(cornice.Larghezza) &&
                      Intero(cornice.Altezza),
                  qPrintable(cornice.Nome));
-        QVERIFY2(cornice.X >= 0 && cornice.X + cornice.Larghezza < LarghezzaStampabile,
+        QVERIFY2(cornice.X >= 0 && cornice.X + cornice.Larghezza <= LarghezzaStampabile,
                  qPrintable(cornice.Nome));
-        QVERIFY2(cornice.Y >= 0 && cornice.Y + cornice.Altezza < AltezzaStampabile,
+        QVERIFY2(cornice.Y >= 0 && cornice.Y + cornice.Altezza <= AltezzaStampabile,
                  qPrintable(cornice.Nome));
     }
     QVERIFY(modello.Righe.yInizio < modello.Righe.yFine);

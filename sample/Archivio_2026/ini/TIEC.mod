@@ -5,8 +5,8 @@ Estratto conto clienti
 
 
 
- 83 
- 215 
+ 84 
+ 216 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Studio Perlanera
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Piazza dell'Orologio, 4
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99997 Castelfittizio (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA 09876543210
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000456
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 studio@perlanera.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.perlanera.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 Albo prof. ZZ n. 0000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Data
 31/03/2026
 $$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -161,8 +161,8 @@ data dell'estratto conto
 Cli_Codice
 C00127
 $$$$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 0
@@ -173,8 +173,8 @@ codice cliente
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -185,8 +185,8 @@ numero di pagina
 Periodo_Dal
 01/01/2026
 $$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -197,8 +197,8 @@ inizio del periodo
 Periodo_Al
 31/03/2026
 $$$$$$$$$$
-54
-52
+56
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ fine del periodo
 Cli_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -221,8 +221,8 @@ partita IVA del cliente
 Cli_Tel
 0999 000789
 $$$$$$$$$$$$$$$$$$$$
-54
-60
+56
+61
 Arial
 9
 0
@@ -233,8 +233,8 @@ telefono del cliente
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-38
+110
+39
 Arial
 11
 -1
@@ -245,8 +245,8 @@ ragione sociale del cliente
 Cli_RagSoc2
 di Prova Mario & C.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-44
+110
+45
 Arial
 10
 0
@@ -257,8 +257,8 @@ ragione sociale, seconda riga del cliente
 Cli_Indirizzo
 Vicolo dell'Esempio, 7
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-49
+110
+50
 Arial
 10
 0
@@ -269,8 +269,8 @@ indirizzo del cliente
 Cli_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-54
+110
+55
 Arial
 10
 0
@@ -281,8 +281,8 @@ CAP, città e provincia del cliente
 R_DataReg
 10/03/2026
 $$$$$$$$$$
-7
-83
+9
+84
 Arial
 9
 0
@@ -293,8 +293,8 @@ data di registrazione
 R_Numero
 FT 128/A
 $$$$$$$$$$$$
-28
-83
+30
+84
 Arial
 9
 0
@@ -305,8 +305,8 @@ numero del documento
 R_Causale
 Fattura di vendita
 $$$$$$$$$$$$$$$$$$$$$$$$$$$
-50
-83
+52
+84
 Arial
 9
 0
@@ -317,8 +317,8 @@ causale contabile
 R_Scadenza
 30/04/2026
 $$$$$$$$$$
-96
-83
+98
+84
 Arial
 9
 0
@@ -329,8 +329,8 @@ data di scadenza
 R_Dare
 4.453,00
 ###.###,###
-127
-83
+129
+84
 Arial
 9
 0
@@ -341,8 +341,8 @@ importo a debito
 R_Avere
 0,00
 ###.###,###
-159
-83
+161
+84
 Arial
 9
 0
@@ -353,8 +353,8 @@ importo a credito
 R_Saldo
 4.453,00
 ###.###,###
-181
-83
+183
+84
 Arial
 9
 0
@@ -365,8 +365,8 @@ saldo progressivo
 Tot_Scaduto
 1.180,40
 ###.###,###
-33
-230
+35
+231
 Arial
 10
 -1
@@ -377,8 +377,8 @@ totale scaduto
 Tot_AScadere
 3.272,60
 ###.###,###
-77
-230
+79
+231
 Arial
 10
 -1
@@ -389,8 +389,8 @@ totale a scadere
 Tot_Dare
 4.453,00
 ###.###,###
-113
-230
+115
+231
 Arial
 10
 0
@@ -401,8 +401,8 @@ totale dare
 Tot_Avere
 0,00
 ###.###,###
-153
-230
+155
+231
 Arial
 10
 0
@@ -413,8 +413,8 @@ totale avere
 Saldo
 4.453,00
 ###.###,###
-178
-230
+180
+231
 Arial
 11
 -1
@@ -425,8 +425,8 @@ saldo finale
 Ditta_Iban
 Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-244
+9
+245
 Arial
 9
 0
@@ -437,8 +437,8 @@ banca e IBAN della propria ditta
 Firma
 L'amministrazione
 $$$$$$$$$$$$$$$$$$$$$$$$$
-150
-268
+152
+269
 Arial
 9
 -1
@@ -449,8 +449,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -463,8 +463,8 @@ Riquadro Linea intestazione
 
 ESTRATTO CONTO
 ESTRATTO CONTO
-4
-30
+6
+31
 Arial
 14
 -1
@@ -477,8 +477,8 @@ Etichetta ESTRATTO CONTO
 
 Alla data del
 Alla data del
-5
-39
+7
+40
 Arial
 7
 0
@@ -491,8 +491,8 @@ Riquadro Alla data del
 
 Codice cliente
 Codice cliente
-37
 39
+40
 Arial
 7
 0
@@ -505,8 +505,8 @@ Riquadro Codice cliente
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -519,8 +519,8 @@ Riquadro Pagina
 
 Dal
 Dal
-5
-48
+7
+49
 Arial
 7
 0
@@ -533,8 +533,8 @@ Riquadro Dal
 
 Al
 Al
-52
-48
+54
+49
 Arial
 7
 0
@@ -547,8 +547,8 @@ Riquadro Al
 
 Partita IVA
 Partita IVA
-5
-56
+7
+57
 Arial
 7
 0
@@ -561,8 +561,8 @@ Riquadro Partita IVA
 
 Telefono
 Telefono
-52
-56
+54
+57
 Arial
 7
 0
@@ -575,8 +575,8 @@ Riquadro Telefono
 
 Riquadro cliente
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -589,8 +589,8 @@ Riquadro del cliente
 
 Riportiamo di seguito la situazione contabile che risulta dalle nostre scritture
 Riportiamo di seguito la situazione contabile che risulta dalle nostre scritture.
-4
-67
+6
+68
 Arial
 9
 0
@@ -603,8 +603,8 @@ Etichetta Riportiamo di seguito la situazione contabile che risulta dalle nostre
 
 Colonna Data reg
 
-5
-74
+7
+75
 Arial
 8
 -1
@@ -617,8 +617,8 @@ Colonna Data reg.
 
 Data reg
 Data reg.
-6
-75
+8
+76
 Arial
 8
 -1
@@ -631,8 +631,8 @@ Etichetta Data reg
 
 Colonna Documento
 
-26
-74
+28
+75
 Arial
 8
 -1
@@ -645,8 +645,8 @@ Colonna Documento
 
 Documento
 Documento
-27
-75
+29
+76
 Arial
 8
 -1
@@ -659,8 +659,8 @@ Etichetta Documento
 
 Colonna Causale
 
-48
-74
+50
+75
 Arial
 8
 -1
@@ -673,8 +673,8 @@ Colonna Causale
 
 Causale
 Causale
-49
-75
+51
+76
 Arial
 8
 -1
@@ -687,8 +687,8 @@ Etichetta Causale
 
 Colonna Scadenza
 
-94
-74
+96
+75
 Arial
 8
 -1
@@ -701,8 +701,8 @@ Colonna Scadenza
 
 Scadenza
 Scadenza
-95
-75
+97
+76
 Arial
 8
 -1
@@ -715,8 +715,8 @@ Etichetta Scadenza
 
 Colonna Dare
 
-115
-74
+117
+75
 Arial
 8
 -1
@@ -729,8 +729,8 @@ Colonna Dare
 
 Dare
 Dare
-132
-75
+134
+76
 Arial
 8
 -1
@@ -743,8 +743,8 @@ Etichetta Dare
 
 Colonna Avere
 
-141
-74
+143
+75
 Arial
 8
 -1
@@ -757,8 +757,8 @@ Colonna Avere
 
 Avere
 Avere
-156
-75
+158
+76
 Arial
 8
 -1
@@ -771,8 +771,8 @@ Etichetta Avere
 
 Colonna Saldo
 
-167
-74
+169
+75
 Arial
 8
 -1
@@ -785,8 +785,8 @@ Colonna Saldo
 
 Saldo
 Saldo
-184
-75
+186
+76
 Arial
 8
 -1
@@ -799,8 +799,8 @@ Etichetta Saldo
 
 Riquadro righe
 
-5
-74
+7
+75
 Arial
 8
 0
@@ -813,8 +813,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-81
+7
+82
 Arial
 7
 0
@@ -827,8 +827,8 @@ Riquadro Linea intestazione righe
 
 Totale scaduto
 Totale scaduto
-5
-225
+7
+226
 Arial
 7
 0
@@ -841,8 +841,8 @@ Riquadro Totale scaduto
 
 Totale a scadere
 Totale a scadere
-49
-225
+51
+226
 Arial
 7
 0
@@ -855,8 +855,8 @@ Riquadro Totale a scadere
 
 Totale dare
 Totale dare
-96
-225
+98
+226
 Arial
 7
 0
@@ -869,8 +869,8 @@ Riquadro Totale dare
 
 Totale avere
 Totale avere
-129
-225
+131
+226
 Arial
 7
 0
@@ -883,8 +883,8 @@ Riquadro Totale avere
 
 SALDO €
 SALDO €
-162
-225
+164
+226
 Arial
 7
 -1
@@ -897,8 +897,8 @@ Riquadro SALDO €
 
 Coordinate per il pagamento
 Coordinate per il pagamento
-5
-239
+7
+240
 Arial
 7
 0
@@ -911,8 +911,8 @@ Riquadro Coordinate per il pagamento
 
 Vi preghiamo di verificare le partite sopra elencate e di provvedere al saldo di quelle scadute
 Vi preghiamo di verificare le partite sopra elencate e di provvedere al saldo di quelle scadute.
-4
-252
+6
+253
 Arial
 9
 0
@@ -925,8 +925,8 @@ Etichetta Vi preghiamo di verificare le partite sopra elencate e di provvedere a
 
 In mancanza di vostre osservazioni entro 15 giorni l'estratto conto si intende approvato
 In mancanza di vostre osservazioni entro 15 giorni l'estratto conto si intende approvato.
-4
-257
+6
+258
 Arial
 9
 0
@@ -939,8 +939,8 @@ Etichetta In mancanza di vostre osservazioni entro 15 giorni l'estratto conto si
 
 Distinti saluti
 Distinti saluti
-149
-263
+151
+264
 Arial
 9
 0
@@ -953,8 +953,8 @@ Etichetta Distinti saluti
 
 Linea piede
 
-5
-277
+7
+278
 Arial
 7
 0
@@ -967,8 +967,8 @@ Riquadro Linea piede
 
 Nota a piede
 Se nel frattempo avete già provveduto al pagamento vogliate considerare nulla la presente.
-4
-278
+6
+279
 Arial
 7
 0
@@ -981,8 +981,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 I dati sono trattati nel rispetto delle norme sulla protezione dei dati personali.
-4
-282
+6
+283
 Arial
 7
 0
@@ -995,8 +995,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoPerlanera.jpg
-5
-3
+7
+4
 Logo della ditta
 22
 55

@@ -5,8 +5,8 @@ Fattura con ritenuta d'acconto
 
 
 
- 87 
- 201 
+ 88 
+ 202 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Studio Perlanera
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Piazza dell'Orologio, 4
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99997 Castelfittizio (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA 09876543210
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000456
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 studio@perlanera.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.perlanera.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 Albo prof. ZZ n. 0000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Numero
 12
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -161,8 +161,8 @@ numero del documento
 Doc_Data
 15/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ data del documento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -185,8 +185,8 @@ numero di pagina
 Cli_Codice
 C00127
 $$$$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -197,8 +197,8 @@ codice cliente
 Cli_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-39
-52
+41
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ partita IVA cliente
 Cli_CodFisc
 00000000000
 $$$$$$$$$$$$$$$$
-71
-52
+73
+53
 Arial
 9
 0
@@ -221,8 +221,8 @@ codice fiscale cliente
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-38
+110
+39
 Arial
 11
 -1
@@ -233,8 +233,8 @@ ragione sociale del cliente
 Cli_RagSoc2
 di Prova Mario & C.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-44
+110
+45
 Arial
 10
 0
@@ -245,8 +245,8 @@ ragione sociale, seconda riga del cliente
 Cli_Indirizzo
 Vicolo dell'Esempio, 7
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-49
+110
+50
 Arial
 10
 0
@@ -257,8 +257,8 @@ indirizzo del cliente
 Cli_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-54
+110
+55
 Arial
 10
 0
@@ -269,8 +269,8 @@ CAP, città e provincia del cliente
 Cli_Sdi
 0000000
 $$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -281,8 +281,8 @@ codice destinatario della fattura elettronica
 Vs_Ordine
 del 12/01/2026
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-39
-60
+41
+61
 Arial
 9
 0
@@ -293,8 +293,8 @@ riferimento all'incarico del cliente
 Pagamento
 Bonifico bancario 30 gg fine mese
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-70
+9
+71
 Arial
 9
 0
@@ -305,8 +305,8 @@ condizioni di pagamento
 Banca_Appoggio
 Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-82
-70
+84
+71
 Arial
 9
 0
@@ -317,8 +317,8 @@ banca di appoggio e IBAN
 R_Descr
 Consulenza tecnica per la messa a norma delle attrezzature
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-87
+9
+88
 Arial
 9
 0
@@ -329,8 +329,8 @@ descrizione della prestazione
 R_Qta
 40,00
 #####,###
-123
-87
+125
+88
 Arial
 9
 0
@@ -341,8 +341,8 @@ quantità
 R_Prezzo
 50,000
 ######,####
-143
-87
+145
+88
 Arial
 9
 0
@@ -353,8 +353,8 @@ compenso unitario
 R_Importo
 2.000,00
 ###.###,###
-168
-87
+170
+88
 Arial
 9
 0
@@ -365,8 +365,8 @@ importo della riga
 R_Iva
 22
 $$$
-187
-87
+189
+88
 Arial
 9
 0
@@ -377,8 +377,8 @@ codice IVA della riga
 Tot_Compensi
 2.000,00
 ###.###,###
-181
-213
+183
+214
 Arial
 9
 0
@@ -389,8 +389,8 @@ totale compensi
 Cassa_Prev
 80,00
 ###.###,###
-185
-219
+187
+220
 Arial
 9
 0
@@ -401,8 +401,8 @@ contributo cassa previdenza 4%
 Tot_Imponibile
 2.080,00
 ###.###,###
-181
-225
+183
+226
 Arial
 9
 0
@@ -413,8 +413,8 @@ imponibile iva
 Tot_Imposta
 457,60
 ###.###,###
-183
-231
+185
+232
 Arial
 9
 0
@@ -425,8 +425,8 @@ iva 22%
 Spese_Art15
 62,40
 ###.###,###
-185
-237
+187
+238
 Arial
 9
 0
@@ -437,8 +437,8 @@ rimborso spese anticipate (art. 15)
 Totale
 2.600,00
 ###.###,###
-178
-244
+180
+245
 Arial
 10
 -1
@@ -449,8 +449,8 @@ totale fattura €
 RA_Imponibile
 2.000,00
 ###.###,###
-95
-217
+97
+218
 Arial
 9
 0
@@ -461,8 +461,8 @@ imponibile soggetto a ritenuta
 RA_Aliquota
 20,00
 ###,###
-99
-222
+101
+223
 Arial
 9
 0
@@ -473,8 +473,8 @@ aliquota %
 RA_Importo
 400,00
 ###.###,###
-97
-227
+99
+228
 Arial
 9
 0
@@ -485,8 +485,8 @@ importo della ritenuta
 Scad1_Data
 30/04/2026
 $$$$$$$$$$
-7
-241
+9
+242
 Arial
 9
 0
@@ -497,8 +497,8 @@ data scadenza 1
 Scad1_Importo
 2.200,00
 ###.###,###
-7
-246
+9
+247
 Arial
 9
 -1
@@ -509,8 +509,8 @@ importo scadenza 1
 RA_Detratta
 400,00
 ###.###,###
-183
-255
+185
+256
 Arial
 9
 0
@@ -521,8 +521,8 @@ ritenuta d'acconto
 Netto
 2.200,00
 ###.###,###
-176
-264
+178
+265
 Arial
 12
 -1
@@ -533,8 +533,8 @@ netto a pagare €
 Note
 Prestazione svolta presso la sede del cliente.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-259
+9
+260
 Arial
 9
 0
@@ -545,8 +545,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -559,8 +559,8 @@ Riquadro Linea intestazione
 
 FATTURA
 FATTURA
-4
-30
+6
+31
 Arial
 14
 -1
@@ -573,8 +573,8 @@ Etichetta FATTURA
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -587,8 +587,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -601,8 +601,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -615,8 +615,8 @@ Riquadro Pagina
 
 Codice cliente
 Codice cliente
-5
-48
+7
+49
 Arial
 7
 0
@@ -629,8 +629,8 @@ Riquadro Codice cliente
 
 Partita IVA
 Partita IVA
-37
-48
+39
+49
 Arial
 7
 0
@@ -643,8 +643,8 @@ Riquadro Partita IVA
 
 Codice fiscale
 Codice fiscale
-69
-48
+71
+49
 Arial
 7
 0
@@ -657,8 +657,8 @@ Riquadro Codice fiscale
 
 Riquadro cliente
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -671,8 +671,8 @@ Riquadro del cliente
 
 Codice destinatario
 Codice destinatario
-5
-56
+7
+57
 Arial
 7
 0
@@ -685,8 +685,8 @@ Riquadro Codice destinatario
 
 Vs. incarico
 Vs. incarico
-37
-56
+39
+57
 Arial
 7
 0
@@ -699,8 +699,8 @@ Riquadro Vs. incarico
 
 Condizioni di pagamento
 Condizioni di pagamento
-5
-66
+7
+67
 Arial
 7
 0
@@ -713,8 +713,8 @@ Riquadro Condizioni di pagamento
 
 Banca d'appoggio
 Banca d'appoggio
-80
-66
+82
+67
 Arial
 7
 0
@@ -727,8 +727,8 @@ Riquadro Banca d'appoggio
 
 Colonna Prestazione
 
-5
-78
+7
+79
 Arial
 8
 -1
@@ -741,8 +741,8 @@ Colonna Prestazione
 
 Prestazione
 Prestazione
-6
-79
+8
+80
 Arial
 8
 -1
@@ -755,8 +755,8 @@ Etichetta Prestazione
 
 Colonna Ore
 
-115
-78
+117
+79
 Arial
 8
 -1
@@ -769,8 +769,8 @@ Colonna Ore
 
 Ore
 Ore
-125
-79
+127
+80
 Arial
 8
 -1
@@ -783,8 +783,8 @@ Etichetta Ore
 
 Colonna Compenso
 
-133
-78
+135
+79
 Arial
 8
 -1
@@ -797,8 +797,8 @@ Colonna Compenso
 
 Compenso
 Compenso
-137
-79
+139
+80
 Arial
 8
 -1
@@ -811,8 +811,8 @@ Etichetta Compenso
 
 Colonna Importo
 
-155
-78
+157
+79
 Arial
 8
 -1
@@ -825,8 +825,8 @@ Colonna Importo
 
 Importo
 Importo
-168
-79
+170
+80
 Arial
 8
 -1
@@ -839,8 +839,8 @@ Etichetta Importo
 
 Colonna IVA
 
-182
-78
+184
+79
 Arial
 8
 -1
@@ -853,8 +853,8 @@ Colonna IVA
 
 IVA
 IVA
-185
-79
+187
+80
 Arial
 8
 -1
@@ -867,8 +867,8 @@ Etichetta IVA
 
 Riquadro righe
 
-5
-78
+7
+79
 Arial
 8
 0
@@ -881,8 +881,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-85
+7
+86
 Arial
 7
 0
@@ -895,8 +895,8 @@ Riquadro Linea intestazione righe
 
 Riquadro totali
 
-112
-212
+114
+213
 Arial
 7
 0
@@ -909,8 +909,8 @@ Riquadro Riquadro totali
 
 Totale compensi
 Totale compensi
-113
-213
+115
+214
 Arial
 8
 0
@@ -923,8 +923,8 @@ Etichetta Totale compensi
 
 Contributo cassa previdenza 4%
 Contributo cassa previdenza 4%
-113
-219
+115
+220
 Arial
 8
 0
@@ -937,8 +937,8 @@ Etichetta Contributo cassa previdenza 4%
 
 Linea totali
 
-112
-218
+114
+219
 Arial
 7
 0
@@ -951,8 +951,8 @@ Riquadro Linea totali
 
 Imponibile IVA
 Imponibile IVA
-113
-225
+115
+226
 Arial
 8
 0
@@ -965,8 +965,8 @@ Etichetta Imponibile IVA
 
 Linea totali 2
 
-112
-224
+114
+225
 Arial
 7
 0
@@ -979,8 +979,8 @@ Riquadro Linea totali 2
 
 IVA 22%
 IVA 22%
-113
-231
+115
+232
 Arial
 8
 0
@@ -993,8 +993,8 @@ Etichetta IVA 22%
 
 Linea totali 3
 
-112
-230
+114
+231
 Arial
 7
 0
@@ -1007,8 +1007,8 @@ Riquadro Linea totali 3
 
 Rimborso spese anticipate (art. 15)
 Rimborso spese anticipate (art. 15)
-113
-237
+115
+238
 Arial
 8
 0
@@ -1021,8 +1021,8 @@ Etichetta Rimborso spese anticipate (art. 15)
 
 Linea totali 4
 
-112
-236
+114
+237
 Arial
 7
 0
@@ -1035,8 +1035,8 @@ Riquadro Linea totali 4
 
 Riquadro totale fattura €
 
-112
-242
+114
+243
 Arial
 8
 -1
@@ -1049,8 +1049,8 @@ Riquadro Riquadro totale fattura €
 
 TOTALE FATTURA €
 TOTALE FATTURA €
-113
-244
+115
+245
 Arial
 9
 -1
@@ -1063,8 +1063,8 @@ Etichetta TOTALE FATTURA €
 
 Riquadro ritenuta
 Ritenuta d'acconto
-5
-212
+7
+213
 Arial
 7
 -1
@@ -1077,8 +1077,8 @@ Riquadro Riquadro ritenuta
 
 Imponibile soggetto a ritenuta
 Imponibile soggetto a ritenuta
-6
-217
+8
+218
 Arial
 8
 0
@@ -1091,8 +1091,8 @@ Etichetta Imponibile soggetto a ritenuta
 
 Aliquota %
 Aliquota %
-6
-222
+8
+223
 Arial
 8
 0
@@ -1105,8 +1105,8 @@ Etichetta Aliquota %
 
 Importo della ritenuta
 Importo della ritenuta
-6
-227
+8
+228
 Arial
 8
 0
@@ -1119,8 +1119,8 @@ Etichetta Importo della ritenuta
 
 Riquadro scadenze
 Scadenze
-5
-237
+7
+238
 Arial
 7
 -1
@@ -1133,8 +1133,8 @@ Riquadro Riquadro scadenze
 
 Riquadro totali 2
 
-112
-254
+114
+255
 Arial
 7
 0
@@ -1147,8 +1147,8 @@ Riquadro Riquadro totali 2
 
 Ritenuta d'acconto
 Ritenuta d'acconto
-113
-255
+115
+256
 Arial
 8
 0
@@ -1161,8 +1161,8 @@ Etichetta Ritenuta d'acconto
 
 Riquadro netto a pagare €
 
-112
-260
+114
+261
 Arial
 8
 -1
@@ -1175,8 +1175,8 @@ Riquadro Riquadro netto a pagare €
 
 NETTO A PAGARE €
 NETTO A PAGARE €
-113
-264
+115
+265
 Arial
 11
 -1
@@ -1189,8 +1189,8 @@ Etichetta NETTO A PAGARE €
 
 Annotazioni
 Annotazioni
-5
-254
+7
+255
 Arial
 7
 0
@@ -1203,8 +1203,8 @@ Riquadro Annotazioni
 
 Linea piede
 
-5
-276
+7
+277
 Arial
 7
 0
@@ -1217,8 +1217,8 @@ Riquadro Linea piede
 
 Nota a piede
 Ritenuta d'acconto operata ai sensi dell'art. 25 del D.P.R. 600/1973, da versare a cura del committente.
-4
-277
+6
+278
 Arial
 7
 0
@@ -1231,8 +1231,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 I dati sono trattati nel rispetto delle norme sulla protezione dei dati personali.
-4
-281
+6
+282
 Arial
 7
 0
@@ -1245,8 +1245,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoPerlanera.jpg
-5
-3
+7
+4
 Logo della ditta
 22
 55

@@ -5,8 +5,8 @@ DDT con prezzi
 
 
 
- 94 
- 203 
+ 95 
+ 204 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 amministrazione@cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Numero
 96
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -161,8 +161,8 @@ numero del documento
 Doc_Data
 15/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ data del documento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -185,8 +185,8 @@ numero di pagina
 Cli_Codice
 C00127
 $$$$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -197,8 +197,8 @@ codice cliente
 Cli_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-39
-52
+41
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ partita IVA cliente
 Cli_CodFisc
 00000000000
 $$$$$$$$$$$$$$$$
-71
-52
+73
+53
 Arial
 9
 0
@@ -221,8 +221,8 @@ codice fiscale cliente
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-35
+110
+36
 Arial
 11
 -1
@@ -233,8 +233,8 @@ ragione sociale del cliente
 Cli_RagSoc2
 di Prova Mario & C.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-41
+110
+42
 Arial
 10
 0
@@ -245,8 +245,8 @@ ragione sociale, seconda riga del cliente
 Cli_Indirizzo
 Vicolo dell'Esempio, 7
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-46
+110
+47
 Arial
 10
 0
@@ -257,8 +257,8 @@ indirizzo del cliente
 Cli_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-51
+110
+52
 Arial
 10
 0
@@ -269,8 +269,8 @@ CAP, città e provincia del cliente
 Dest_RagSoc
 Magazzino Tre Noci
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-63
+110
+64
 Arial
 10
 -1
@@ -281,8 +281,8 @@ ragione sociale della destinazione
 Dest_Indirizzo
 Via del Canale, 21
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-69
+110
+70
 Arial
 10
 0
@@ -293,8 +293,8 @@ indirizzo della destinazione
 Dest_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-74
+110
+75
 Arial
 10
 0
@@ -305,8 +305,8 @@ CAP, città e provincia della destinazione
 Vs_Ordine
 n. 45 del 02/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -317,8 +317,8 @@ riferimento all'ordine del cliente
 Agente
 Rossi Paolo
 $$$$$$$$$$$$$$$$
-71
-60
+73
+61
 Arial
 9
 0
@@ -329,8 +329,8 @@ agente
 Pagamento
 Ricevuta bancaria 30/60 gg fine mese
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-69
+9
+70
 Arial
 9
 0
@@ -341,8 +341,8 @@ condizioni di pagamento
 Dest_Tel
 0999 000789
 $$$$$$$$$$$$$$$$$$$$$$$$$
-7
-78
+9
+79
 Arial
 9
 0
@@ -353,8 +353,8 @@ telefono per la consegna
 R_Codice
 ZAP-0450
 $$$$$$$$$$$$$
-7
-94
+9
+95
 Arial
 9
 0
@@ -365,8 +365,8 @@ codice articolo
 R_Descr
 Zappatrice a lame registrabili 45 cm
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-31
-94
+33
+95
 Arial
 9
 0
@@ -377,8 +377,8 @@ descrizione della merce
 R_Um
 Pz
 $$$
-99
-94
+101
+95
 Arial
 9
 0
@@ -389,8 +389,8 @@ unità di misura
 R_Qta
 50,00
 #####,###
-115
-94
+117
+95
 Arial
 9
 0
@@ -401,8 +401,8 @@ quantità
 R_Prezzo
 59,000
 ######,####
-133
-94
+135
+95
 Arial
 9
 0
@@ -413,8 +413,8 @@ prezzo unitario
 R_Sconto
 20
 $$$$$
-150
-94
+152
+95
 Arial
 9
 0
@@ -425,8 +425,8 @@ sconti percentuali
 R_Importo
 2.360,00
 ###.###,###
-169
-94
+171
+95
 Arial
 9
 0
@@ -437,8 +437,8 @@ importo della riga
 R_Iva
 22
 $$$
-187
-94
+189
+95
 Arial
 9
 0
@@ -449,8 +449,8 @@ codice IVA della riga
 Totale
 2.879,20
 ###.###,###
-179
-216
+181
+217
 Arial
 10
 -1
@@ -461,8 +461,8 @@ totale documento IVA compresa
 Tot_Merce
 2.360,00
 ###.###,###
-53
-216
+55
+217
 Arial
 10
 0
@@ -473,8 +473,8 @@ totale merce
 Tot_Imponibile
 2.360,00
 ###.###,###
-95
-216
+97
+217
 Arial
 10
 0
@@ -485,8 +485,8 @@ totale imponibile
 Tot_Imposta
 519,20
 ###.###,###
-140
-216
+142
+217
 Arial
 10
 0
@@ -497,8 +497,8 @@ totale imposta
 Tr_Causale
 Vendita
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-228
+9
+229
 Arial
 9
 0
@@ -509,8 +509,8 @@ causale del trasporto
 Tr_Aspetto
 Scatole su bancale
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-71
-228
+73
+229
 Arial
 9
 0
@@ -521,8 +521,8 @@ aspetto esteriore dei beni
 Tr_Colli
 4
 ####,
-149
-228
+151
+229
 Arial
 9
 0
@@ -533,8 +533,8 @@ numero dei colli
 Tr_Peso
 186,50
 #######,###
-183
-228
+185
+229
 Arial
 9
 0
@@ -545,8 +545,8 @@ peso in chilogrammi
 Tr_ACura
 Vettore
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-236
+9
+237
 Arial
 9
 0
@@ -557,8 +557,8 @@ trasporto a cura di mittente, vettore o destinatario
 Tr_Porto
 Franco destino
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-71
-236
+73
+237
 Arial
 9
 0
@@ -569,8 +569,8 @@ porto
 Tr_DataOra
 16/03/2026  08:30
 $$$$$$$$$$$$$$$$$$$$
-134
-236
+136
+237
 Arial
 9
 0
@@ -581,8 +581,8 @@ data e ora di inizio del trasporto
 Tr_Vettore
 Autotrasporti Quattroruote S.r.l. - Via Stazione, 3 - 99998 Pontelungo (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-244
+9
+245
 Arial
 8
 0
@@ -593,8 +593,8 @@ vettore: ragione sociale e indirizzo
 Tr_Targa
 ZZ 000 ZZ   16/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$
-134
-244
+136
+245
 Arial
 9
 0
@@ -605,8 +605,8 @@ targa del mezzo e data del ritiro
 Note
 Consegnare nelle ore del mattino; scarico con sponda idraulica.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-268
+9
+269
 Arial
 8
 0
@@ -617,8 +617,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -631,8 +631,8 @@ Riquadro Linea intestazione
 
 DOCUMENTO DI TRASPORTO
 DOCUMENTO DI TRASPORTO
-4
-30
+6
+31
 Arial
 14
 -1
@@ -645,8 +645,8 @@ Etichetta DOCUMENTO DI TRASPORTO
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -659,8 +659,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -673,8 +673,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -687,8 +687,8 @@ Riquadro Pagina
 
 Codice cliente
 Codice cliente
-5
-48
+7
+49
 Arial
 7
 0
@@ -701,8 +701,8 @@ Riquadro Codice cliente
 
 Partita IVA
 Partita IVA
-37
-48
+39
+49
 Arial
 7
 0
@@ -715,8 +715,8 @@ Riquadro Partita IVA
 
 Codice fiscale
 Codice fiscale
-69
-48
+71
+49
 Arial
 7
 0
@@ -729,8 +729,8 @@ Riquadro Codice fiscale
 
 Riquadro cliente
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -743,8 +743,8 @@ Riquadro del cliente
 
 Riquadro destinazione
 Luogo di destinazione
-104
-57
+106
+58
 Arial
 8
 0
@@ -757,8 +757,8 @@ Riquadro della destinazione
 
 Vs. ordine
 Vs. ordine
-5
-56
+7
+57
 Arial
 7
 0
@@ -771,8 +771,8 @@ Riquadro Vs. ordine
 
 Agente
 Agente
-69
-56
+71
+57
 Arial
 7
 0
@@ -785,8 +785,8 @@ Riquadro Agente
 
 Condizioni di pagamento
 Condizioni di pagamento
-5
-64
+7
+65
 Arial
 7
 0
@@ -799,8 +799,8 @@ Riquadro Condizioni di pagamento
 
 Telefono per la consegna
 Telefono per la consegna
-5
-73
+7
+74
 Arial
 7
 0
@@ -813,8 +813,8 @@ Riquadro Telefono per la consegna
 
 Colonna Codice
 
-5
-85
+7
+86
 Arial
 8
 -1
@@ -827,8 +827,8 @@ Colonna Codice
 
 Codice
 Codice
-6
-86
+8
+87
 Arial
 8
 -1
@@ -841,8 +841,8 @@ Etichetta Codice
 
 Colonna Descrizione
 
-29
-85
+31
+86
 Arial
 8
 -1
@@ -855,8 +855,8 @@ Colonna Descrizione
 
 Descrizione
 Descrizione
-30
-86
+32
+87
 Arial
 8
 -1
@@ -869,8 +869,8 @@ Etichetta Descrizione
 
 Colonna U.M
 
-95
-85
+97
+86
 Arial
 8
 -1
@@ -883,8 +883,8 @@ Colonna U.M.
 
 U.M
 U.M.
-97
-86
+99
+87
 Arial
 8
 -1
@@ -897,8 +897,8 @@ Etichetta U.M
 
 Colonna Quantità
 
-107
-85
+109
+86
 Arial
 8
 -1
@@ -911,8 +911,8 @@ Colonna Quantità
 
 Quantità
 Quantità
-111
-86
+113
+87
 Arial
 8
 -1
@@ -925,8 +925,8 @@ Etichetta Quantità
 
 Colonna Prezzo
 
-125
-85
+127
+86
 Arial
 8
 -1
@@ -939,8 +939,8 @@ Colonna Prezzo
 
 Prezzo
 Prezzo
-133
-86
+135
+87
 Arial
 8
 -1
@@ -953,8 +953,8 @@ Etichetta Prezzo
 
 Colonna Sc. 
 
-145
-85
+147
+86
 Arial
 8
 -1
@@ -967,8 +967,8 @@ Colonna Sc. %
 
 Sc. %
 Sc. %
-147
-86
+149
+87
 Arial
 8
 -1
@@ -981,8 +981,8 @@ Etichetta Sc. %
 
 Colonna Importo
 
-159
-85
+161
+86
 Arial
 8
 -1
@@ -995,8 +995,8 @@ Colonna Importo
 
 Importo
 Importo
-169
-86
+171
+87
 Arial
 8
 -1
@@ -1009,8 +1009,8 @@ Etichetta Importo
 
 Colonna IVA
 
-183
-85
+185
+86
 Arial
 8
 -1
@@ -1023,8 +1023,8 @@ Colonna IVA
 
 IVA
 IVA
-186
-86
+188
+87
 Arial
 8
 -1
@@ -1037,8 +1037,8 @@ Etichetta IVA
 
 Riquadro righe
 
-5
-85
+7
+86
 Arial
 8
 0
@@ -1051,8 +1051,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-92
+7
+93
 Arial
 7
 0
@@ -1065,8 +1065,8 @@ Riquadro Linea intestazione righe
 
 Totale documento €
 Totale documento €
-153
-212
+155
+213
 Arial
 7
 0
@@ -1079,8 +1079,8 @@ Riquadro Totale documento €
 
 Totale merce
 Totale merce
-5
-212
+7
+213
 Arial
 7
 0
@@ -1093,8 +1093,8 @@ Riquadro Totale merce
 
 Totale imponibile
 Totale imponibile
-69
-212
+71
+213
 Arial
 7
 0
@@ -1107,8 +1107,8 @@ Riquadro Totale imponibile
 
 Totale imposta
 Totale imposta
-111
-212
+113
+213
 Arial
 7
 0
@@ -1121,8 +1121,8 @@ Riquadro Totale imposta
 
 Causale del trasporto
 Causale del trasporto
-5
-224
+7
+225
 Arial
 7
 0
@@ -1135,8 +1135,8 @@ Riquadro Causale del trasporto
 
 Aspetto esteriore dei beni
 Aspetto esteriore dei beni
-69
-224
+71
+225
 Arial
 7
 0
@@ -1149,8 +1149,8 @@ Riquadro Aspetto esteriore dei beni
 
 N. colli
 N. colli
-132
-224
+134
+225
 Arial
 7
 0
@@ -1163,8 +1163,8 @@ Riquadro N. colli
 
 Peso kg
 Peso kg
-153
-224
+155
+225
 Arial
 7
 0
@@ -1177,8 +1177,8 @@ Riquadro Peso kg
 
 Trasporto a cura di
 Trasporto a cura di
-5
-232
+7
+233
 Arial
 7
 0
@@ -1191,8 +1191,8 @@ Riquadro Trasporto a cura di
 
 Porto
 Porto
-69
-232
+71
+233
 Arial
 7
 0
@@ -1205,8 +1205,8 @@ Riquadro Porto
 
 Data e ora inizio trasporto
 Data e ora inizio trasporto
-132
-232
+134
+233
 Arial
 7
 0
@@ -1219,8 +1219,8 @@ Riquadro Data e ora inizio trasporto
 
 Vettore
 Vettore
-5
-240
+7
+241
 Arial
 7
 0
@@ -1233,8 +1233,8 @@ Riquadro Vettore
 
 Targa / data ritiro
 Targa / data ritiro
-132
-240
+134
+241
 Arial
 7
 0
@@ -1247,8 +1247,8 @@ Riquadro Targa / data ritiro
 
 Firma del conducente
 Firma del conducente
-5
-248
+7
+249
 Arial
 7
 0
@@ -1261,8 +1261,8 @@ Spazio per la firma
 
 Firma del vettore
 Firma del vettore
-69
-248
+71
+249
 Arial
 7
 0
@@ -1275,8 +1275,8 @@ Spazio per la firma
 
 Firma del destinatario
 Firma del destinatario
-132
-248
+134
+249
 Arial
 7
 0
@@ -1289,8 +1289,8 @@ Spazio per la firma
 
 Annotazioni
 Annotazioni
-5
-262
+7
+263
 Arial
 7
 0
@@ -1303,8 +1303,8 @@ Riquadro Annotazioni
 
 Linea piede
 
-5
-274
+7
+275
 Arial
 7
 0
@@ -1317,8 +1317,8 @@ Riquadro Linea piede
 
 Nota a piede
 Documento di trasporto emesso ai sensi del D.P.R. 14 agosto 1996 n. 472.
-4
-275
+6
+276
 Arial
 7
 0
@@ -1331,8 +1331,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 Il destinatario è tenuto a controllare il numero dei colli e lo stato degli imballi alla consegna.
-4
-279
+6
+280
 Arial
 7
 0
@@ -1345,8 +1345,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoCascinalta.gif
-5
-3
+7
+4
 Logo della ditta
 22
 66

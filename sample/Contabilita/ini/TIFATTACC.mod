@@ -5,8 +5,8 @@ Fattura accompagnatoria
 
 
 
- 94 
- 181 
+ 95 
+ 182 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 amministrazione@cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Numero
 128/A
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -161,8 +161,8 @@ numero del documento
 Doc_Data
 15/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ data del documento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -185,8 +185,8 @@ numero di pagina
 Cli_Codice
 C00127
 $$$$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -197,8 +197,8 @@ codice cliente
 Cli_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-39
-52
+41
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ partita IVA cliente
 Cli_CodFisc
 00000000000
 $$$$$$$$$$$$$$$$
-71
-52
+73
+53
 Arial
 9
 0
@@ -221,8 +221,8 @@ codice fiscale cliente
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-38
+110
+39
 Arial
 11
 -1
@@ -233,8 +233,8 @@ ragione sociale del cliente
 Cli_RagSoc2
 di Prova Mario & C.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-44
+110
+45
 Arial
 10
 0
@@ -245,8 +245,8 @@ ragione sociale, seconda riga del cliente
 Cli_Indirizzo
 Vicolo dell'Esempio, 7
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-49
+110
+50
 Arial
 10
 0
@@ -257,8 +257,8 @@ indirizzo del cliente
 Cli_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-54
+110
+55
 Arial
 10
 0
@@ -269,8 +269,8 @@ CAP, città e provincia del cliente
 Cli_Sdi
 0000000
 $$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -281,8 +281,8 @@ codice destinatario della fattura elettronica
 Agente
 Rossi Esempio Paolo
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-39
-60
+41
+61
 Arial
 9
 0
@@ -293,8 +293,8 @@ agente
 Pagamento
 Ricevuta bancaria 30/60 gg fine mese
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-70
+9
+71
 Arial
 9
 0
@@ -305,8 +305,8 @@ condizioni di pagamento
 Banca_Appoggio
 Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-82
-70
+84
+71
 Arial
 9
 0
@@ -317,8 +317,8 @@ banca di appoggio e IBAN
 Vs_Ordine
 n. 45 del 02/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-78
+9
+79
 Arial
 9
 0
@@ -329,8 +329,8 @@ riferimento all'ordine del cliente
 Dest_Indirizzo
 Magazzino Tre Noci - Via del Canale, 21 - 99998 Pontelungo (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-82
-78
+84
+79
 Arial
 9
 0
@@ -341,8 +341,8 @@ luogo di destinazione della merce
 R_Codice
 ZAP-0450
 $$$$$$$$$$$$$
-7
-94
+9
+95
 Arial
 9
 0
@@ -353,8 +353,8 @@ codice articolo
 R_Descr
 Zappatrice a lame registrabili 45 cm
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-31
-94
+33
+95
 Arial
 9
 0
@@ -365,8 +365,8 @@ descrizione della merce
 R_Um
 Pz
 $$$
-99
-94
+101
+95
 Arial
 9
 0
@@ -377,8 +377,8 @@ unità di misura
 R_Qta
 50,00
 #####,###
-115
-94
+117
+95
 Arial
 9
 0
@@ -389,8 +389,8 @@ quantità
 R_Prezzo
 59,000
 ######,####
-133
-94
+135
+95
 Arial
 9
 0
@@ -401,8 +401,8 @@ prezzo unitario
 R_Sconto
 20
 $$$$$
-150
-94
+152
+95
 Arial
 9
 0
@@ -413,8 +413,8 @@ sconti percentuali
 R_Importo
 2.360,00
 ###.###,###
-169
-94
+171
+95
 Arial
 9
 0
@@ -425,8 +425,8 @@ importo della riga
 R_Iva
 22
 $$$
-187
-94
+189
+95
 Arial
 9
 0
@@ -437,8 +437,8 @@ codice IVA della riga
 Iva1_Codice
 22
 $$$$
-7
-196
+9
+197
 Arial
 9
 0
@@ -449,8 +449,8 @@ riepilogo IVA riga 1, codice
 Iva1_Imponibile
 2.400,00
 ###.###,###
-33
-196
+35
+197
 Arial
 9
 0
@@ -461,8 +461,8 @@ riepilogo IVA riga 1, imponibile
 Iva1_Aliquota
 22,00
 ###,###
-53
-196
+55
+197
 Arial
 9
 0
@@ -473,8 +473,8 @@ riepilogo IVA riga 1, aliquota
 Iva1_Imposta
 528,00
 ###.###,###
-77
-196
+79
+197
 Arial
 9
 0
@@ -485,8 +485,8 @@ riepilogo IVA riga 1, imposta
 Iva1_Descrizione
 ordinaria
 $$$$$$$$$$$$$$
-91
-196
+93
+197
 Arial
 8
 0
@@ -497,8 +497,8 @@ riepilogo IVA riga 1, descrizione
 Iva2_Codice
 10
 $$$$
-7
-201
+9
+202
 Arial
 9
 0
@@ -509,8 +509,8 @@ riepilogo IVA riga 2, codice
 Iva2_Imponibile
 1.250,00
 ###.###,###
-33
-201
+35
+202
 Arial
 9
 0
@@ -521,8 +521,8 @@ riepilogo IVA riga 2, imponibile
 Iva2_Aliquota
 10,00
 ###,###
-53
-201
+55
+202
 Arial
 9
 0
@@ -533,8 +533,8 @@ riepilogo IVA riga 2, aliquota
 Iva2_Imposta
 125,00
 ###.###,###
-77
-201
+79
+202
 Arial
 9
 0
@@ -545,8 +545,8 @@ riepilogo IVA riga 2, imposta
 Iva2_Descrizione
 ridotta
 $$$$$$$$$$$$$$
-91
-201
+93
+202
 Arial
 8
 0
@@ -557,8 +557,8 @@ riepilogo IVA riga 2, descrizione
 Iva3_Codice
 E10
 $$$$
-7
-206
+9
+207
 Arial
 9
 0
@@ -569,8 +569,8 @@ riepilogo IVA riga 3, codice
 Iva3_Imponibile
 150,00
 ###.###,###
-35
-206
+37
+207
 Arial
 9
 0
@@ -581,8 +581,8 @@ riepilogo IVA riga 3, imponibile
 Iva3_Aliquota
 0,00
 ###,###
-55
-206
+57
+207
 Arial
 9
 0
@@ -593,8 +593,8 @@ riepilogo IVA riga 3, aliquota
 Iva3_Imposta
 0,00
 ###.###,###
-81
-206
+83
+207
 Arial
 9
 0
@@ -605,8 +605,8 @@ riepilogo IVA riga 3, imposta
 Iva3_Descrizione
 esente art. 10
 $$$$$$$$$$$$$$
-91
-206
+93
+207
 Arial
 8
 0
@@ -617,8 +617,8 @@ riepilogo IVA riga 3, descrizione
 Scad1_Data
 30/04/2026
 $$$$$$$$$$
-7
-219
+9
+220
 Arial
 9
 0
@@ -629,8 +629,8 @@ data scadenza 1
 Scad1_Importo
 2.226,50
 ###.###,###
-7
-224
+9
+225
 Arial
 9
 -1
@@ -641,8 +641,8 @@ importo scadenza 1
 Scad2_Data
 31/05/2026
 $$$$$$$$$$
-57
-219
+59
+220
 Arial
 9
 0
@@ -653,8 +653,8 @@ data scadenza 2
 Scad2_Importo
 2.226,50
 ###.###,###
-57
-224
+59
+225
 Arial
 9
 -1
@@ -665,8 +665,8 @@ importo scadenza 2
 Tot_Merce
 3.760,00
 ###.###,###
-181
-191
+183
+192
 Arial
 9
 0
@@ -677,8 +677,8 @@ totale merce
 Spese
 40,00
 ###.###,###
-185
-197
+187
+198
 Arial
 9
 0
@@ -689,8 +689,8 @@ spese di trasporto e incasso
 Tot_Imponibile
 3.800,00
 ###.###,###
-181
-203
+183
+204
 Arial
 9
 0
@@ -701,8 +701,8 @@ totale imponibile
 Tot_Imposta
 653,00
 ###.###,###
-183
-209
+185
+210
 Arial
 9
 0
@@ -713,8 +713,8 @@ totale imposta
 Totale
 4.453,00
 ###.###,###
-176
-219
+178
+220
 Arial
 12
 -1
@@ -725,8 +725,8 @@ totale fattura €
 Tr_Causale
 Vendita
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-237
+9
+238
 Arial
 9
 0
@@ -737,8 +737,8 @@ causale del trasporto
 Tr_Aspetto
 Scatole su bancale
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-71
-237
+73
+238
 Arial
 9
 0
@@ -749,8 +749,8 @@ aspetto esteriore dei beni
 Tr_Colli
 4
 ####,
-149
-237
+151
+238
 Arial
 9
 0
@@ -761,8 +761,8 @@ numero dei colli
 Tr_Peso
 186,50
 #######,###
-183
-237
+185
+238
 Arial
 9
 0
@@ -773,8 +773,8 @@ peso in chilogrammi
 Tr_ACura
 Vettore
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-245
+9
+246
 Arial
 9
 0
@@ -785,8 +785,8 @@ trasporto a cura di mittente, vettore o destinatario
 Tr_Porto
 Franco destino
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-71
-245
+73
+246
 Arial
 9
 0
@@ -797,8 +797,8 @@ porto
 Tr_DataOra
 16/03/2026  08:30
 $$$$$$$$$$$$$$$$$$$$
-134
-245
+136
+246
 Arial
 9
 0
@@ -809,8 +809,8 @@ data e ora di inizio del trasporto
 Tr_Vettore
 Autotrasporti Quattroruote S.r.l. - Via Stazione, 3 - 99998 Pontelungo (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-253
+9
+254
 Arial
 8
 0
@@ -821,8 +821,8 @@ vettore: ragione sociale e indirizzo
 Tr_Targa
 ZZ 000 ZZ   16/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$
-134
-253
+136
+254
 Arial
 9
 0
@@ -833,8 +833,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -847,8 +847,8 @@ Riquadro Linea intestazione
 
 FATTURA ACCOMPAGNATORIA
 FATTURA ACCOMPAGNATORIA
-4
-30
+6
+31
 Arial
 14
 -1
@@ -861,8 +861,8 @@ Etichetta FATTURA ACCOMPAGNATORIA
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -875,8 +875,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -889,8 +889,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -903,8 +903,8 @@ Riquadro Pagina
 
 Codice cliente
 Codice cliente
-5
-48
+7
+49
 Arial
 7
 0
@@ -917,8 +917,8 @@ Riquadro Codice cliente
 
 Partita IVA
 Partita IVA
-37
-48
+39
+49
 Arial
 7
 0
@@ -931,8 +931,8 @@ Riquadro Partita IVA
 
 Codice fiscale
 Codice fiscale
-69
-48
+71
+49
 Arial
 7
 0
@@ -945,8 +945,8 @@ Riquadro Codice fiscale
 
 Riquadro cliente
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -959,8 +959,8 @@ Riquadro del cliente
 
 Codice destinatario
 Codice destinatario
-5
-56
+7
+57
 Arial
 7
 0
@@ -973,8 +973,8 @@ Riquadro Codice destinatario
 
 Agente
 Agente
-37
-56
+39
+57
 Arial
 7
 0
@@ -987,8 +987,8 @@ Riquadro Agente
 
 Condizioni di pagamento
 Condizioni di pagamento
-5
-66
+7
+67
 Arial
 7
 0
@@ -1001,8 +1001,8 @@ Riquadro Condizioni di pagamento
 
 Banca d'appoggio
 Banca d'appoggio
-80
-66
+82
+67
 Arial
 7
 0
@@ -1015,8 +1015,8 @@ Riquadro Banca d'appoggio
 
 Vs. ordine
 Vs. ordine
-5
-74
+7
+75
 Arial
 7
 0
@@ -1029,8 +1029,8 @@ Riquadro Vs. ordine
 
 Luogo di destinazione
 Luogo di destinazione
-80
-74
+82
+75
 Arial
 7
 0
@@ -1043,8 +1043,8 @@ Riquadro Luogo di destinazione
 
 Colonna Codice
 
-5
-85
+7
+86
 Arial
 8
 -1
@@ -1057,8 +1057,8 @@ Colonna Codice
 
 Codice
 Codice
-6
-86
+8
+87
 Arial
 8
 -1
@@ -1071,8 +1071,8 @@ Etichetta Codice
 
 Colonna Descrizione
 
-29
-85
+31
+86
 Arial
 8
 -1
@@ -1085,8 +1085,8 @@ Colonna Descrizione
 
 Descrizione
 Descrizione
-30
-86
+32
+87
 Arial
 8
 -1
@@ -1099,8 +1099,8 @@ Etichetta Descrizione
 
 Colonna U.M
 
-95
-85
+97
+86
 Arial
 8
 -1
@@ -1113,8 +1113,8 @@ Colonna U.M.
 
 U.M
 U.M.
-97
-86
+99
+87
 Arial
 8
 -1
@@ -1127,8 +1127,8 @@ Etichetta U.M
 
 Colonna Quantità
 
-107
-85
+109
+86
 Arial
 8
 -1
@@ -1141,8 +1141,8 @@ Colonna Quantità
 
 Quantità
 Quantità
-111
-86
+113
+87
 Arial
 8
 -1
@@ -1155,8 +1155,8 @@ Etichetta Quantità
 
 Colonna Prezzo
 
-125
-85
+127
+86
 Arial
 8
 -1
@@ -1169,8 +1169,8 @@ Colonna Prezzo
 
 Prezzo
 Prezzo
-133
-86
+135
+87
 Arial
 8
 -1
@@ -1183,8 +1183,8 @@ Etichetta Prezzo
 
 Colonna Sc. 
 
-145
-85
+147
+86
 Arial
 8
 -1
@@ -1197,8 +1197,8 @@ Colonna Sc. %
 
 Sc. %
 Sc. %
-147
-86
+149
+87
 Arial
 8
 -1
@@ -1211,8 +1211,8 @@ Etichetta Sc. %
 
 Colonna Importo
 
-159
-85
+161
+86
 Arial
 8
 -1
@@ -1225,8 +1225,8 @@ Colonna Importo
 
 Importo
 Importo
-169
-86
+171
+87
 Arial
 8
 -1
@@ -1239,8 +1239,8 @@ Etichetta Importo
 
 Colonna IVA
 
-183
-85
+185
+86
 Arial
 8
 -1
@@ -1253,8 +1253,8 @@ Colonna IVA
 
 IVA
 IVA
-186
-86
+188
+87
 Arial
 8
 -1
@@ -1267,8 +1267,8 @@ Etichetta IVA
 
 Riquadro righe
 
-5
-85
+7
+86
 Arial
 8
 0
@@ -1281,8 +1281,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-92
+7
+93
 Arial
 7
 0
@@ -1295,8 +1295,8 @@ Riquadro Linea intestazione righe
 
 Colonna IVA codice
 
-5
-190
+7
+191
 Arial
 7
 0
@@ -1309,8 +1309,8 @@ Colonna riepilogo IVA, codice
 
 Colonna IVA imponibile
 
-19
-190
+21
+191
 Arial
 7
 0
@@ -1323,8 +1323,8 @@ Colonna riepilogo IVA, imponibile
 
 Colonna IVA aliquota
 
-47
-190
+49
+191
 Arial
 7
 0
@@ -1337,8 +1337,8 @@ Colonna riepilogo IVA, aliquota
 
 Colonna IVA imposta
 
-63
-190
+65
+191
 Arial
 7
 0
@@ -1351,8 +1351,8 @@ Colonna riepilogo IVA, imposta
 
 Colonna IVA descrizione
 
-89
-190
+91
+191
 Arial
 7
 0
@@ -1365,8 +1365,8 @@ Colonna riepilogo IVA, descrizione
 
 IVA 2
 IVA
-6
-191
+8
+192
 Arial
 7
 -1
@@ -1379,8 +1379,8 @@ Etichetta IVA 2
 
 IVA imponibile
 Imponibile
-32
-191
+34
+192
 Arial
 7
 -1
@@ -1393,8 +1393,8 @@ Etichetta IVA imponibile
 
 Aliq. %
 Aliq. %
-52
-191
+54
+192
 Arial
 7
 -1
@@ -1407,8 +1407,8 @@ Etichetta Aliq. %
 
 IVA imposta
 Imposta
-77
-191
+79
+192
 Arial
 7
 -1
@@ -1421,8 +1421,8 @@ Etichetta IVA imposta
 
 IVA descrizione
 Descrizione
-90
-191
+92
+192
 Arial
 7
 -1
@@ -1435,8 +1435,8 @@ Etichetta IVA descrizione
 
 Linea riepilogo IVA
 
-5
-195
+7
+196
 Arial
 7
 0
@@ -1449,8 +1449,8 @@ Riquadro Linea riepilogo IVA
 
 Riquadro scadenze
 Scadenze
-5
-215
+7
+216
 Arial
 7
 -1
@@ -1463,8 +1463,8 @@ Riquadro Riquadro scadenze
 
 Riquadro totali
 
-112
-190
+114
+191
 Arial
 7
 0
@@ -1477,8 +1477,8 @@ Riquadro Riquadro totali
 
 Totale merce
 Totale merce
-113
-191
+115
+192
 Arial
 8
 0
@@ -1491,8 +1491,8 @@ Etichetta Totale merce
 
 Spese di trasporto e incasso
 Spese di trasporto e incasso
-113
-197
+115
+198
 Arial
 8
 0
@@ -1505,8 +1505,8 @@ Etichetta Spese di trasporto e incasso
 
 Linea totali
 
-112
-196
+114
+197
 Arial
 7
 0
@@ -1519,8 +1519,8 @@ Riquadro Linea totali
 
 Totale imponibile
 Totale imponibile
-113
-203
+115
+204
 Arial
 8
 0
@@ -1533,8 +1533,8 @@ Etichetta Totale imponibile
 
 Linea totali 2
 
-112
-202
+114
+203
 Arial
 7
 0
@@ -1547,8 +1547,8 @@ Riquadro Linea totali 2
 
 Totale imposta
 Totale imposta
-113
-209
+115
+210
 Arial
 8
 0
@@ -1561,8 +1561,8 @@ Etichetta Totale imposta
 
 Linea totali 3
 
-112
-208
+114
+209
 Arial
 7
 0
@@ -1575,8 +1575,8 @@ Riquadro Linea totali 3
 
 Riquadro totale fattura €
 
-112
-214
+114
+215
 Arial
 8
 -1
@@ -1589,8 +1589,8 @@ Riquadro Riquadro totale fattura €
 
 TOTALE FATTURA €
 TOTALE FATTURA €
-113
-219
+115
+220
 Arial
 11
 -1
@@ -1603,8 +1603,8 @@ Etichetta TOTALE FATTURA €
 
 Causale del trasporto
 Causale del trasporto
-5
-233
+7
+234
 Arial
 7
 0
@@ -1617,8 +1617,8 @@ Riquadro Causale del trasporto
 
 Aspetto esteriore dei beni
 Aspetto esteriore dei beni
-69
-233
+71
+234
 Arial
 7
 0
@@ -1631,8 +1631,8 @@ Riquadro Aspetto esteriore dei beni
 
 N. colli
 N. colli
-132
-233
+134
+234
 Arial
 7
 0
@@ -1645,8 +1645,8 @@ Riquadro N. colli
 
 Peso kg
 Peso kg
-153
-233
+155
+234
 Arial
 7
 0
@@ -1659,8 +1659,8 @@ Riquadro Peso kg
 
 Trasporto a cura di
 Trasporto a cura di
-5
-241
+7
+242
 Arial
 7
 0
@@ -1673,8 +1673,8 @@ Riquadro Trasporto a cura di
 
 Porto
 Porto
-69
-241
+71
+242
 Arial
 7
 0
@@ -1687,8 +1687,8 @@ Riquadro Porto
 
 Data e ora inizio trasporto
 Data e ora inizio trasporto
-132
-241
+134
+242
 Arial
 7
 0
@@ -1701,8 +1701,8 @@ Riquadro Data e ora inizio trasporto
 
 Vettore
 Vettore
-5
-249
+7
+250
 Arial
 7
 0
@@ -1715,8 +1715,8 @@ Riquadro Vettore
 
 Targa / data ritiro
 Targa / data ritiro
-132
-249
+134
+250
 Arial
 7
 0
@@ -1729,8 +1729,8 @@ Riquadro Targa / data ritiro
 
 Firma del conducente
 Firma del conducente
-5
-257
+7
+258
 Arial
 7
 0
@@ -1743,8 +1743,8 @@ Spazio per la firma
 
 Firma del vettore
 Firma del vettore
-69
-257
+71
+258
 Arial
 7
 0
@@ -1757,8 +1757,8 @@ Spazio per la firma
 
 Firma del destinatario
 Firma del destinatario
-132
-257
+134
+258
 Arial
 7
 0
@@ -1771,8 +1771,8 @@ Spazio per la firma
 
 Linea piede
 
-5
-277
+7
+278
 Arial
 7
 0
@@ -1785,8 +1785,8 @@ Riquadro Linea piede
 
 Nota a piede
 Contributo ambientale CONAI assolto ove dovuto. Operazione soggetta alle condizioni generali di vendita della ditta.
-4
-278
+6
+279
 Arial
 7
 0
@@ -1799,8 +1799,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 Non si accettano reclami trascorsi 8 giorni dal ricevimento della merce. Per ogni controversia è competente il Foro della sede della ditta.
-4
-282
+6
+283
 Arial
 7
 0
@@ -1813,8 +1813,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoCascinalta.gif
-5
-3
+7
+4
 Logo della ditta
 22
 66

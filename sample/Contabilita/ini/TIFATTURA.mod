@@ -5,8 +5,8 @@ Fattura
 
 
 
- 94 
- 213 
+ 95 
+ 214 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 amministrazione@cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Numero
 128/A
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -161,8 +161,8 @@ numero del documento
 Doc_Data
 15/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ data del documento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -185,8 +185,8 @@ numero di pagina
 Cli_Codice
 C00127
 $$$$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -197,8 +197,8 @@ codice cliente
 Cli_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-39
-52
+41
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ partita IVA cliente
 Cli_CodFisc
 00000000000
 $$$$$$$$$$$$$$$$
-71
-52
+73
+53
 Arial
 9
 0
@@ -221,8 +221,8 @@ codice fiscale cliente
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-38
+110
+39
 Arial
 11
 -1
@@ -233,8 +233,8 @@ ragione sociale del cliente
 Cli_RagSoc2
 di Prova Mario & C.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-44
+110
+45
 Arial
 10
 0
@@ -245,8 +245,8 @@ ragione sociale, seconda riga del cliente
 Cli_Indirizzo
 Vicolo dell'Esempio, 7
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-49
+110
+50
 Arial
 10
 0
@@ -257,8 +257,8 @@ indirizzo del cliente
 Cli_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-54
+110
+55
 Arial
 10
 0
@@ -269,8 +269,8 @@ CAP, città e provincia del cliente
 Cli_Sdi
 0000000
 $$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -281,8 +281,8 @@ codice destinatario della fattura elettronica
 Agente
 Rossi Esempio Paolo
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-39
-60
+41
+61
 Arial
 9
 0
@@ -293,8 +293,8 @@ agente
 Pagamento
 Ricevuta bancaria 30/60 gg fine mese
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-70
+9
+71
 Arial
 9
 0
@@ -305,8 +305,8 @@ condizioni di pagamento
 Banca_Appoggio
 Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-82
-70
+84
+71
 Arial
 9
 0
@@ -317,8 +317,8 @@ banca di appoggio e IBAN
 Vs_Ordine
 n. 45 del 02/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-78
+9
+79
 Arial
 9
 0
@@ -329,8 +329,8 @@ riferimento all'ordine del cliente
 Ns_Ddt
 n. 96 del 10/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-82
-78
+84
+79
 Arial
 9
 0
@@ -341,8 +341,8 @@ riferimento al documento di trasporto
 R_Codice
 ZAP-0450
 $$$$$$$$$$$$$
-7
-94
+9
+95
 Arial
 9
 0
@@ -353,8 +353,8 @@ codice articolo
 R_Descr
 Zappatrice a lame registrabili 45 cm
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-31
-94
+33
+95
 Arial
 9
 0
@@ -365,8 +365,8 @@ descrizione della merce
 R_Um
 Pz
 $$$
-99
-94
+101
+95
 Arial
 9
 0
@@ -377,8 +377,8 @@ unità di misura
 R_Qta
 50,00
 #####,###
-115
-94
+117
+95
 Arial
 9
 0
@@ -389,8 +389,8 @@ quantità
 R_Prezzo
 59,000
 ######,####
-133
-94
+135
+95
 Arial
 9
 0
@@ -401,8 +401,8 @@ prezzo unitario
 R_Sconto
 20
 $$$$$
-150
-94
+152
+95
 Arial
 9
 0
@@ -413,8 +413,8 @@ sconti percentuali
 R_Importo
 2.360,00
 ###.###,###
-169
-94
+171
+95
 Arial
 9
 0
@@ -425,8 +425,8 @@ importo della riga
 R_Iva
 22
 $$$
-187
-94
+189
+95
 Arial
 9
 0
@@ -437,8 +437,8 @@ codice IVA della riga
 Iva1_Codice
 22
 $$$$
-7
-228
+9
+229
 Arial
 9
 0
@@ -449,8 +449,8 @@ riepilogo IVA riga 1, codice
 Iva1_Imponibile
 2.400,00
 ###.###,###
-33
-228
+35
+229
 Arial
 9
 0
@@ -461,8 +461,8 @@ riepilogo IVA riga 1, imponibile
 Iva1_Aliquota
 22,00
 ###,###
-53
-228
+55
+229
 Arial
 9
 0
@@ -473,8 +473,8 @@ riepilogo IVA riga 1, aliquota
 Iva1_Imposta
 528,00
 ###.###,###
-77
-228
+79
+229
 Arial
 9
 0
@@ -485,8 +485,8 @@ riepilogo IVA riga 1, imposta
 Iva1_Descrizione
 ordinaria
 $$$$$$$$$$$$$$
-91
-228
+93
+229
 Arial
 8
 0
@@ -497,8 +497,8 @@ riepilogo IVA riga 1, descrizione
 Iva2_Codice
 10
 $$$$
-7
-233
+9
+234
 Arial
 9
 0
@@ -509,8 +509,8 @@ riepilogo IVA riga 2, codice
 Iva2_Imponibile
 1.250,00
 ###.###,###
-33
-233
+35
+234
 Arial
 9
 0
@@ -521,8 +521,8 @@ riepilogo IVA riga 2, imponibile
 Iva2_Aliquota
 10,00
 ###,###
-53
-233
+55
+234
 Arial
 9
 0
@@ -533,8 +533,8 @@ riepilogo IVA riga 2, aliquota
 Iva2_Imposta
 125,00
 ###.###,###
-77
-233
+79
+234
 Arial
 9
 0
@@ -545,8 +545,8 @@ riepilogo IVA riga 2, imposta
 Iva2_Descrizione
 ridotta
 $$$$$$$$$$$$$$
-91
-233
+93
+234
 Arial
 8
 0
@@ -557,8 +557,8 @@ riepilogo IVA riga 2, descrizione
 Iva3_Codice
 E10
 $$$$
-7
-238
+9
+239
 Arial
 9
 0
@@ -569,8 +569,8 @@ riepilogo IVA riga 3, codice
 Iva3_Imponibile
 150,00
 ###.###,###
-35
-238
+37
+239
 Arial
 9
 0
@@ -581,8 +581,8 @@ riepilogo IVA riga 3, imponibile
 Iva3_Aliquota
 0,00
 ###,###
-55
-238
+57
+239
 Arial
 9
 0
@@ -593,8 +593,8 @@ riepilogo IVA riga 3, aliquota
 Iva3_Imposta
 0,00
 ###.###,###
-81
-238
+83
+239
 Arial
 9
 0
@@ -605,8 +605,8 @@ riepilogo IVA riga 3, imposta
 Iva3_Descrizione
 esente art. 10
 $$$$$$$$$$$$$$
-91
-238
+93
+239
 Arial
 8
 0
@@ -617,8 +617,8 @@ riepilogo IVA riga 3, descrizione
 Scad1_Data
 30/04/2026
 $$$$$$$$$$
-7
-251
+9
+252
 Arial
 9
 0
@@ -629,8 +629,8 @@ data scadenza 1
 Scad1_Importo
 2.226,50
 ###.###,###
-7
-256
+9
+257
 Arial
 9
 -1
@@ -641,8 +641,8 @@ importo scadenza 1
 Scad2_Data
 31/05/2026
 $$$$$$$$$$
-57
-251
+59
+252
 Arial
 9
 0
@@ -653,8 +653,8 @@ data scadenza 2
 Scad2_Importo
 2.226,50
 ###.###,###
-57
-256
+59
+257
 Arial
 9
 -1
@@ -665,8 +665,8 @@ importo scadenza 2
 Tot_Merce
 3.760,00
 ###.###,###
-181
-223
+183
+224
 Arial
 9
 0
@@ -677,8 +677,8 @@ totale merce
 Spese
 40,00
 ###.###,###
-185
-229
+187
+230
 Arial
 9
 0
@@ -689,8 +689,8 @@ spese di trasporto e incasso
 Tot_Imponibile
 3.800,00
 ###.###,###
-181
-235
+183
+236
 Arial
 9
 0
@@ -701,8 +701,8 @@ totale imponibile
 Tot_Imposta
 653,00
 ###.###,###
-183
-241
+185
+242
 Arial
 9
 0
@@ -713,8 +713,8 @@ totale imposta
 Totale
 4.453,00
 ###.###,###
-176
-251
+178
+252
 Arial
 12
 -1
@@ -725,8 +725,8 @@ totale fattura €
 Note
 Merce consegnata franco magazzino del cliente.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-270
+9
+271
 Arial
 8
 0
@@ -737,8 +737,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -751,8 +751,8 @@ Riquadro Linea intestazione
 
 FATTURA
 FATTURA
-4
-30
+6
+31
 Arial
 14
 -1
@@ -765,8 +765,8 @@ Etichetta FATTURA
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -779,8 +779,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -793,8 +793,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -807,8 +807,8 @@ Riquadro Pagina
 
 Codice cliente
 Codice cliente
-5
-48
+7
+49
 Arial
 7
 0
@@ -821,8 +821,8 @@ Riquadro Codice cliente
 
 Partita IVA
 Partita IVA
-37
-48
+39
+49
 Arial
 7
 0
@@ -835,8 +835,8 @@ Riquadro Partita IVA
 
 Codice fiscale
 Codice fiscale
-69
-48
+71
+49
 Arial
 7
 0
@@ -849,8 +849,8 @@ Riquadro Codice fiscale
 
 Riquadro cliente
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -863,8 +863,8 @@ Riquadro del cliente
 
 Codice destinatario
 Codice destinatario
-5
-56
+7
+57
 Arial
 7
 0
@@ -877,8 +877,8 @@ Riquadro Codice destinatario
 
 Agente
 Agente
-37
-56
+39
+57
 Arial
 7
 0
@@ -891,8 +891,8 @@ Riquadro Agente
 
 Condizioni di pagamento
 Condizioni di pagamento
-5
-66
+7
+67
 Arial
 7
 0
@@ -905,8 +905,8 @@ Riquadro Condizioni di pagamento
 
 Banca d'appoggio
 Banca d'appoggio
-80
-66
+82
+67
 Arial
 7
 0
@@ -919,8 +919,8 @@ Riquadro Banca d'appoggio
 
 Vs. ordine
 Vs. ordine
-5
-74
+7
+75
 Arial
 7
 0
@@ -933,8 +933,8 @@ Riquadro Vs. ordine
 
 Ns. documento di trasporto
 Ns. documento di trasporto
-80
-74
+82
+75
 Arial
 7
 0
@@ -947,8 +947,8 @@ Riquadro Ns. documento di trasporto
 
 Colonna Codice
 
-5
-85
+7
+86
 Arial
 8
 -1
@@ -961,8 +961,8 @@ Colonna Codice
 
 Codice
 Codice
-6
-86
+8
+87
 Arial
 8
 -1
@@ -975,8 +975,8 @@ Etichetta Codice
 
 Colonna Descrizione
 
-29
-85
+31
+86
 Arial
 8
 -1
@@ -989,8 +989,8 @@ Colonna Descrizione
 
 Descrizione
 Descrizione
-30
-86
+32
+87
 Arial
 8
 -1
@@ -1003,8 +1003,8 @@ Etichetta Descrizione
 
 Colonna U.M
 
-95
-85
+97
+86
 Arial
 8
 -1
@@ -1017,8 +1017,8 @@ Colonna U.M.
 
 U.M
 U.M.
-97
-86
+99
+87
 Arial
 8
 -1
@@ -1031,8 +1031,8 @@ Etichetta U.M
 
 Colonna Quantità
 
-107
-85
+109
+86
 Arial
 8
 -1
@@ -1045,8 +1045,8 @@ Colonna Quantità
 
 Quantità
 Quantità
-111
-86
+113
+87
 Arial
 8
 -1
@@ -1059,8 +1059,8 @@ Etichetta Quantità
 
 Colonna Prezzo
 
-125
-85
+127
+86
 Arial
 8
 -1
@@ -1073,8 +1073,8 @@ Colonna Prezzo
 
 Prezzo
 Prezzo
-133
-86
+135
+87
 Arial
 8
 -1
@@ -1087,8 +1087,8 @@ Etichetta Prezzo
 
 Colonna Sc. 
 
-145
-85
+147
+86
 Arial
 8
 -1
@@ -1101,8 +1101,8 @@ Colonna Sc. %
 
 Sc. %
 Sc. %
-147
-86
+149
+87
 Arial
 8
 -1
@@ -1115,8 +1115,8 @@ Etichetta Sc. %
 
 Colonna Importo
 
-159
-85
+161
+86
 Arial
 8
 -1
@@ -1129,8 +1129,8 @@ Colonna Importo
 
 Importo
 Importo
-169
-86
+171
+87
 Arial
 8
 -1
@@ -1143,8 +1143,8 @@ Etichetta Importo
 
 Colonna IVA
 
-183
-85
+185
+86
 Arial
 8
 -1
@@ -1157,8 +1157,8 @@ Colonna IVA
 
 IVA
 IVA
-186
-86
+188
+87
 Arial
 8
 -1
@@ -1171,8 +1171,8 @@ Etichetta IVA
 
 Riquadro righe
 
-5
-85
+7
+86
 Arial
 8
 0
@@ -1185,8 +1185,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-92
+7
+93
 Arial
 7
 0
@@ -1199,8 +1199,8 @@ Riquadro Linea intestazione righe
 
 Colonna IVA codice
 
-5
-222
+7
+223
 Arial
 7
 0
@@ -1213,8 +1213,8 @@ Colonna riepilogo IVA, codice
 
 Colonna IVA imponibile
 
-19
-222
+21
+223
 Arial
 7
 0
@@ -1227,8 +1227,8 @@ Colonna riepilogo IVA, imponibile
 
 Colonna IVA aliquota
 
-47
-222
+49
+223
 Arial
 7
 0
@@ -1241,8 +1241,8 @@ Colonna riepilogo IVA, aliquota
 
 Colonna IVA imposta
 
-63
-222
+65
+223
 Arial
 7
 0
@@ -1255,8 +1255,8 @@ Colonna riepilogo IVA, imposta
 
 Colonna IVA descrizione
 
-89
-222
+91
+223
 Arial
 7
 0
@@ -1269,8 +1269,8 @@ Colonna riepilogo IVA, descrizione
 
 IVA 2
 IVA
-6
-223
+8
+224
 Arial
 7
 -1
@@ -1283,8 +1283,8 @@ Etichetta IVA 2
 
 IVA imponibile
 Imponibile
-32
-223
+34
+224
 Arial
 7
 -1
@@ -1297,8 +1297,8 @@ Etichetta IVA imponibile
 
 Aliq. %
 Aliq. %
-52
-223
+54
+224
 Arial
 7
 -1
@@ -1311,8 +1311,8 @@ Etichetta Aliq. %
 
 IVA imposta
 Imposta
-77
-223
+79
+224
 Arial
 7
 -1
@@ -1325,8 +1325,8 @@ Etichetta IVA imposta
 
 IVA descrizione
 Descrizione
-90
-223
+92
+224
 Arial
 7
 -1
@@ -1339,8 +1339,8 @@ Etichetta IVA descrizione
 
 Linea riepilogo IVA
 
-5
-227
+7
+228
 Arial
 7
 0
@@ -1353,8 +1353,8 @@ Riquadro Linea riepilogo IVA
 
 Riquadro scadenze
 Scadenze
-5
-247
+7
+248
 Arial
 7
 -1
@@ -1367,8 +1367,8 @@ Riquadro Riquadro scadenze
 
 Riquadro totali
 
-112
-222
+114
+223
 Arial
 7
 0
@@ -1381,8 +1381,8 @@ Riquadro Riquadro totali
 
 Totale merce
 Totale merce
-113
-223
+115
+224
 Arial
 8
 0
@@ -1395,8 +1395,8 @@ Etichetta Totale merce
 
 Spese di trasporto e incasso
 Spese di trasporto e incasso
-113
-229
+115
+230
 Arial
 8
 0
@@ -1409,8 +1409,8 @@ Etichetta Spese di trasporto e incasso
 
 Linea totali
 
-112
-228
+114
+229
 Arial
 7
 0
@@ -1423,8 +1423,8 @@ Riquadro Linea totali
 
 Totale imponibile
 Totale imponibile
-113
-235
+115
+236
 Arial
 8
 0
@@ -1437,8 +1437,8 @@ Etichetta Totale imponibile
 
 Linea totali 2
 
-112
-234
+114
+235
 Arial
 7
 0
@@ -1451,8 +1451,8 @@ Riquadro Linea totali 2
 
 Totale imposta
 Totale imposta
-113
-241
+115
+242
 Arial
 8
 0
@@ -1465,8 +1465,8 @@ Etichetta Totale imposta
 
 Linea totali 3
 
-112
-240
+114
+241
 Arial
 7
 0
@@ -1479,8 +1479,8 @@ Riquadro Linea totali 3
 
 Riquadro totale fattura €
 
-112
-246
+114
+247
 Arial
 8
 -1
@@ -1493,8 +1493,8 @@ Riquadro Riquadro totale fattura €
 
 TOTALE FATTURA €
 TOTALE FATTURA €
-113
-251
+115
+252
 Arial
 11
 -1
@@ -1507,8 +1507,8 @@ Etichetta TOTALE FATTURA €
 
 Annotazioni
 Annotazioni
-5
-264
+7
+265
 Arial
 7
 0
@@ -1521,8 +1521,8 @@ Riquadro Annotazioni
 
 Linea piede
 
-5
-276
+7
+277
 Arial
 7
 0
@@ -1535,8 +1535,8 @@ Riquadro Linea piede
 
 Nota a piede
 Contributo ambientale CONAI assolto ove dovuto. Operazione soggetta alle condizioni generali di vendita della ditta.
-4
-277
+6
+278
 Arial
 7
 0
@@ -1549,8 +1549,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 Non si accettano reclami trascorsi 8 giorni dal ricevimento della merce. Per ogni controversia è competente il Foro della sede della ditta.
-4
-281
+6
+282
 Arial
 7
 0
@@ -1563,8 +1563,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoCascinalta.gif
-5
-3
+7
+4
 Logo della ditta
 22
 66

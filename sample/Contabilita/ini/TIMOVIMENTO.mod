@@ -5,8 +5,8 @@ Movimento
 
 
 
- 82 
- 227 
+ 83 
+ 228 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 amministrazione@cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Numero
 317
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -161,8 +161,8 @@ numero del movimento
 Doc_Data
 20/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ data del movimento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -185,8 +185,8 @@ numero di pagina
 Mov_Causale
 Trasferimento tra depositi
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-106
-43
+108
+44
 Arial
 10
 -1
@@ -197,8 +197,8 @@ causale del movimento
 Mov_MagPartenza
 01 - Sede di Borgofinto
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-55
+9
+56
 Arial
 10
 0
@@ -209,8 +209,8 @@ magazzino di partenza
 Mov_MagArrivo
 02 - Deposito di Pontelungo
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-106
-55
+108
+56
 Arial
 10
 0
@@ -221,8 +221,8 @@ magazzino di arrivo
 Mov_Riferimento
 Ordine cliente n. 61 del 03/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-64
+9
+65
 Arial
 10
 0
@@ -233,8 +233,8 @@ documento di riferimento
 Mov_Operatore
 Verdi Esempio Anna
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-106
-64
+108
+65
 Arial
 10
 0
@@ -245,8 +245,8 @@ operatore che ha registrato il movimento
 R_Codice
 ZAP-0450
 $$$$$$$$$$$$$$$$
-7
-82
+9
+83
 Arial
 9
 0
@@ -257,8 +257,8 @@ codice articolo
 R_Descr
 Zappatrice a lame registrabili 45 cm
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-35
-82
+37
+83
 Arial
 9
 0
@@ -269,8 +269,8 @@ descrizione della merce
 R_Lotto
 L26-031
 $$$$$$$$$$$$$
-103
-82
+105
+83
 Arial
 9
 0
@@ -281,8 +281,8 @@ lotto
 R_Um
 Pz
 $$$
-130
-82
+132
+83
 Arial
 9
 0
@@ -293,8 +293,8 @@ unità di misura
 R_Carico
 0,00
 #####,###
-149
-82
+151
+83
 Arial
 9
 0
@@ -305,8 +305,8 @@ quantità caricata
 R_Scarico
 50,00
 #####,###
-165
-82
+167
+83
 Arial
 9
 0
@@ -317,8 +317,8 @@ quantità scaricata
 R_Giacenza
 112,00
 ######,###
-183
-82
+185
+83
 Arial
 9
 0
@@ -329,8 +329,8 @@ giacenza dopo il movimento
 Note
 Merce prelevata dalla corsia B, scaffale 4.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-241
+9
+242
 Arial
 9
 0
@@ -341,8 +341,8 @@ annotazioni
 Tot_Righe
 1
 ####,
-137
-240
+139
+241
 Arial
 10
 0
@@ -353,8 +353,8 @@ numero delle righe
 Tot_Carico
 0,00
 ######,###
-159
-240
+161
+241
 Arial
 10
 -1
@@ -365,8 +365,8 @@ totale quantità caricata
 Tot_Scarico
 50,00
 ######,###
-184
-240
+186
+241
 Arial
 10
 -1
@@ -377,8 +377,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -391,8 +391,8 @@ Riquadro Linea intestazione
 
 MOVIMENTO DI MAGAZZINO
 MOVIMENTO DI MAGAZZINO
-4
-30
+6
+31
 Arial
 14
 -1
@@ -405,8 +405,8 @@ Etichetta MOVIMENTO DI MAGAZZINO
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -419,8 +419,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -433,8 +433,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -447,8 +447,8 @@ Riquadro Pagina
 
 Causale
 Causale
-104
-39
+106
+40
 Arial
 7
 0
@@ -461,8 +461,8 @@ Riquadro Causale
 
 Magazzino di partenza
 Magazzino di partenza
-5
-51
+7
+52
 Arial
 7
 0
@@ -475,8 +475,8 @@ Riquadro Magazzino di partenza
 
 Magazzino di arrivo
 Magazzino di arrivo
-104
-51
+106
+52
 Arial
 7
 0
@@ -489,8 +489,8 @@ Riquadro Magazzino di arrivo
 
 Riferimento
 Riferimento
-5
-60
+7
+61
 Arial
 7
 0
@@ -503,8 +503,8 @@ Riquadro Riferimento
 
 Operatore
 Operatore
-104
-60
+106
+61
 Arial
 7
 0
@@ -517,8 +517,8 @@ Riquadro Operatore
 
 Colonna Codice
 
-5
-73
+7
+74
 Arial
 8
 -1
@@ -531,8 +531,8 @@ Colonna Codice
 
 Codice
 Codice
-6
-74
+8
+75
 Arial
 8
 -1
@@ -545,8 +545,8 @@ Etichetta Codice
 
 Colonna Descrizione
 
-33
-73
+35
+74
 Arial
 8
 -1
@@ -559,8 +559,8 @@ Colonna Descrizione
 
 Descrizione
 Descrizione
-34
-74
+36
+75
 Arial
 8
 -1
@@ -573,8 +573,8 @@ Etichetta Descrizione
 
 Colonna Lotto
 
-101
-73
+103
+74
 Arial
 8
 -1
@@ -587,8 +587,8 @@ Colonna Lotto
 
 Lotto
 Lotto
-102
-74
+104
+75
 Arial
 8
 -1
@@ -601,8 +601,8 @@ Etichetta Lotto
 
 Colonna U.M
 
-125
-73
+127
+74
 Arial
 8
 -1
@@ -615,8 +615,8 @@ Colonna U.M.
 
 U.M
 U.M.
-128
-74
+130
+75
 Arial
 8
 -1
@@ -629,8 +629,8 @@ Etichetta U.M
 
 Colonna Carico
 
-139
-73
+141
+74
 Arial
 8
 -1
@@ -643,8 +643,8 @@ Colonna Carico
 
 Carico
 Carico
-145
-74
+147
+75
 Arial
 8
 -1
@@ -657,8 +657,8 @@ Etichetta Carico
 
 Colonna Scarico
 
-157
-73
+159
+74
 Arial
 8
 -1
@@ -671,8 +671,8 @@ Colonna Scarico
 
 Scarico
 Scarico
-162
-74
+164
+75
 Arial
 8
 -1
@@ -685,8 +685,8 @@ Etichetta Scarico
 
 Colonna Giacenza
 
-175
-73
+177
+74
 Arial
 8
 -1
@@ -699,8 +699,8 @@ Colonna Giacenza
 
 Giacenza
 Giacenza
-180
-74
+182
+75
 Arial
 8
 -1
@@ -713,8 +713,8 @@ Etichetta Giacenza
 
 Riquadro righe
 
-5
-73
+7
+74
 Arial
 8
 0
@@ -727,8 +727,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-80
+7
+81
 Arial
 7
 0
@@ -741,8 +741,8 @@ Riquadro Linea intestazione righe
 
 Annotazioni
 Annotazioni
-5
-236
+7
+237
 Arial
 7
 0
@@ -755,8 +755,8 @@ Riquadro Annotazioni
 
 N. righe
 N. righe
-114
-236
+116
+237
 Arial
 7
 0
@@ -769,8 +769,8 @@ Riquadro N. righe
 
 Totale carico
 Totale carico
-141
-236
+143
+237
 Arial
 7
 0
@@ -783,8 +783,8 @@ Riquadro Totale carico
 
 Totale scarico
 Totale scarico
-168
-236
+170
+237
 Arial
 7
 0
@@ -797,8 +797,8 @@ Riquadro Totale scarico
 
 Firma del magazziniere
 Il magazziniere
-5
-249
+7
+250
 Arial
 7
 0
@@ -811,8 +811,8 @@ Spazio per la firma
 
 Firma del responsabile
 Il responsabile del deposito di arrivo
-101
-249
+103
+250
 Arial
 7
 0
@@ -825,8 +825,8 @@ Spazio per la firma
 
 Linea piede
 
-5
-277
+7
+278
 Arial
 7
 0
@@ -839,8 +839,8 @@ Riquadro Linea piede
 
 Nota a piede
 Documento interno di movimentazione, non valido ai fini fiscali.
-4
-278
+6
+279
 Arial
 7
 0
@@ -853,8 +853,8 @@ Etichetta Nota a piede
 FINECORNICI
 
 LogoCascinalta.gif
-5
-3
+7
+4
 Logo della ditta
 22
 66

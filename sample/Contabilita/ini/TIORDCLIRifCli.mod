@@ -5,8 +5,8 @@ Ordine cliente / offerta con riferimento prodotto cliente
 
 
 
- 94 
- 210 
+ 95 
+ 211 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 amministrazione@cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Titolo
 CONFERMA D'ORDINE
 $$$$$$$$$$$$$$$$$$$$$$$$$
-5
-30
+7
+31
 Arial
 14
 -1
@@ -161,8 +161,8 @@ titolo del documento: conferma d'ordine oppure offerta
 Doc_Numero
 61
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ numero del documento
 Doc_Data
 03/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -185,8 +185,8 @@ data del documento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -197,8 +197,8 @@ numero di pagina
 Cli_Codice
 C00127
 $$$$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ codice cliente
 Cli_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-39
-52
+41
+53
 Arial
 9
 0
@@ -221,8 +221,8 @@ partita IVA cliente
 Cli_CodFisc
 00000000000
 $$$$$$$$$$$$$$$$
-71
-52
+73
+53
 Arial
 9
 0
@@ -233,8 +233,8 @@ codice fiscale cliente
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-38
+110
+39
 Arial
 11
 -1
@@ -245,8 +245,8 @@ ragione sociale del cliente
 Cli_RagSoc2
 di Prova Mario & C.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-44
+110
+45
 Arial
 10
 0
@@ -257,8 +257,8 @@ ragione sociale, seconda riga del cliente
 Cli_Indirizzo
 Vicolo dell'Esempio, 7
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-49
+110
+50
 Arial
 10
 0
@@ -269,8 +269,8 @@ indirizzo del cliente
 Cli_CapCitta
 99998 PONTELUNGO (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-54
+110
+55
 Arial
 10
 0
@@ -281,8 +281,8 @@ CAP, città e provincia del cliente
 Vs_Ordine
 n. 45 del 02/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -293,8 +293,8 @@ riferimento alla richiesta del cliente
 Cli_Attenzione
 Sig. Prova Mario
 $$$$$$$$$$$$$$$$$$$$$$$$$$
-54
-60
+56
+61
 Arial
 9
 0
@@ -305,8 +305,8 @@ persona a cui è diretto il documento
 Consegna
 16/03/2026
 $$$$$$$$$$
-7
-70
+9
+71
 Arial
 9
 -1
@@ -317,8 +317,8 @@ data di consegna prevista
 Porto
 Franco destino
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-70
-70
+72
+71
 Arial
 9
 0
@@ -329,8 +329,8 @@ resa della merce
 Validita
 30 giorni
 $$$$$$$$$$$$$$$$$$$$$$$$$
-133
-70
+135
+71
 Arial
 9
 0
@@ -341,8 +341,8 @@ validità dell'offerta
 Pagamento
 Ric. bancaria 30/60 gg f.m.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-78
+9
+79
 Arial
 9
 0
@@ -353,8 +353,8 @@ condizioni di pagamento
 Banca_Appoggio
 Banca di Borgofinto - IBAN IT00 X000 0000 0000 0000 0000 000
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-70
-78
+72
+79
 Arial
 9
 0
@@ -365,8 +365,8 @@ banca di appoggio e IBAN
 R_Codice
 ZAP-0450
 $$$$$$$$$$$$
-7
-94
+9
+95
 Arial
 9
 0
@@ -377,8 +377,8 @@ codice articolo
 R_RifCli
 TN/4711-B
 $$$$$$$$$$$$
-29
-94
+31
+95
 Arial
 9
 0
@@ -389,8 +389,8 @@ riferimento prodotto del cliente
 R_Descr
 Zappatrice a lame 45 cm
 $$$$$$$$$$$$$$$$$$$$$$$$$$
-51
-94
+53
+95
 Arial
 9
 0
@@ -401,8 +401,8 @@ descrizione della merce
 R_Um
 Pz
 $$$
-97
-94
+99
+95
 Arial
 9
 0
@@ -413,8 +413,8 @@ unità di misura
 R_Qta
 50,00
 #####,###
-110
-94
+112
+95
 Arial
 9
 0
@@ -425,8 +425,8 @@ quantità
 R_Prezzo
 59,000
 ######,####
-127
-94
+129
+95
 Arial
 9
 0
@@ -437,8 +437,8 @@ prezzo unitario
 R_Sconto
 20
 $$$$$
-143
-94
+145
+95
 Arial
 9
 0
@@ -449,8 +449,8 @@ sconti percentuali
 R_Importo
 2.360,00
 ###.###,###
-157
-94
+159
+95
 Arial
 9
 0
@@ -461,8 +461,8 @@ importo della riga
 R_Consegna
 16/03/2026
 $$$$$$$$$$
-175
-94
+177
+95
 Arial
 9
 0
@@ -473,8 +473,8 @@ data di consegna della riga
 Condizioni1
 Trasporto con mezzo del venditore, imballo compreso.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-225
+9
+226
 Arial
 9
 0
@@ -485,8 +485,8 @@ condizioni di vendita, riga 1
 Condizioni2
 Prezzi al netto dell'IVA.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-231
+9
+232
 Arial
 9
 0
@@ -497,8 +497,8 @@ condizioni di vendita, riga 2
 Condizioni3
 Garanzia 24 mesi sui difetti di fabbricazione.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-237
+9
+238
 Arial
 9
 0
@@ -509,8 +509,8 @@ condizioni di vendita, riga 3
 Tot_Merce
 2.360,00
 ###.###,###
-181
-220
+183
+221
 Arial
 9
 0
@@ -521,8 +521,8 @@ totale merce
 Spese_Trasporto
 40,00
 ###.###,###
-185
-225
+187
+226
 Arial
 9
 0
@@ -533,8 +533,8 @@ spese di trasporto
 Tot_Imposta
 528,00
 ###.###,###
-183
-230
+185
+231
 Arial
 9
 0
@@ -545,8 +545,8 @@ totale imposta
 Totale
 2.928,00
 ###.###,###
-176
-238
+178
+239
 Arial
 12
 -1
@@ -557,8 +557,8 @@ totale €
 Note
 Merce disponibile a magazzino salvo il venduto.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-254
+9
+255
 Arial
 9
 0
@@ -569,8 +569,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -583,8 +583,8 @@ Riquadro Linea intestazione
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -597,8 +597,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -611,8 +611,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -625,8 +625,8 @@ Riquadro Pagina
 
 Codice cliente
 Codice cliente
-5
-48
+7
+49
 Arial
 7
 0
@@ -639,8 +639,8 @@ Riquadro Codice cliente
 
 Partita IVA
 Partita IVA
-37
-48
+39
+49
 Arial
 7
 0
@@ -653,8 +653,8 @@ Riquadro Partita IVA
 
 Codice fiscale
 Codice fiscale
-69
-48
+71
+49
 Arial
 7
 0
@@ -667,8 +667,8 @@ Riquadro Codice fiscale
 
 Riquadro cliente
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -681,8 +681,8 @@ Riquadro del cliente
 
 Vs. riferimento
 Vs. riferimento
-5
-56
+7
+57
 Arial
 7
 0
@@ -695,8 +695,8 @@ Riquadro Vs. riferimento
 
 Alla cortese attenzione
 Alla cortese attenzione
-52
-56
+54
+57
 Arial
 7
 0
@@ -709,8 +709,8 @@ Riquadro Alla cortese attenzione
 
 Consegna prevista
 Consegna prevista
-5
-66
+7
+67
 Arial
 7
 0
@@ -723,8 +723,8 @@ Riquadro Consegna prevista
 
 Resa
 Resa
-68
-66
+70
+67
 Arial
 7
 0
@@ -737,8 +737,8 @@ Riquadro Resa
 
 Validità dell'offerta
 Validità dell'offerta
-131
-66
+133
+67
 Arial
 7
 0
@@ -751,8 +751,8 @@ Riquadro Validità dell'offerta
 
 Condizioni di pagamento
 Condizioni di pagamento
-5
-74
+7
+75
 Arial
 7
 0
@@ -765,8 +765,8 @@ Riquadro Condizioni di pagamento
 
 Banca d'appoggio
 Banca d'appoggio
-68
-74
+70
+75
 Arial
 7
 0
@@ -779,8 +779,8 @@ Riquadro Banca d'appoggio
 
 Colonna Codice
 
-5
-85
+7
+86
 Arial
 8
 -1
@@ -793,8 +793,8 @@ Colonna Codice
 
 Codice
 Codice
-6
-86
+8
+87
 Arial
 8
 -1
@@ -807,8 +807,8 @@ Etichetta Codice
 
 Colonna Vs. codice
 
-27
-85
+29
+86
 Arial
 8
 -1
@@ -821,8 +821,8 @@ Colonna Vs. codice
 
 Vs. codice
 Vs. codice
-28
-86
+30
+87
 Arial
 8
 -1
@@ -835,8 +835,8 @@ Etichetta Vs. codice
 
 Colonna Descrizione
 
-49
-85
+51
+86
 Arial
 8
 -1
@@ -849,8 +849,8 @@ Colonna Descrizione
 
 Descrizione
 Descrizione
-50
-86
+52
+87
 Arial
 8
 -1
@@ -863,8 +863,8 @@ Etichetta Descrizione
 
 Colonna U.M
 
-94
-85
+96
+86
 Arial
 8
 -1
@@ -877,8 +877,8 @@ Colonna U.M.
 
 U.M
 U.M.
-95
-86
+97
+87
 Arial
 8
 -1
@@ -891,8 +891,8 @@ Etichetta U.M
 
 Colonna Quantità
 
-104
-85
+106
+86
 Arial
 8
 -1
@@ -905,8 +905,8 @@ Colonna Quantità
 
 Quantità
 Quantità
-106
-86
+108
+87
 Arial
 8
 -1
@@ -919,8 +919,8 @@ Etichetta Quantità
 
 Colonna Prezzo
 
-120
-85
+122
+86
 Arial
 8
 -1
@@ -933,8 +933,8 @@ Colonna Prezzo
 
 Prezzo
 Prezzo
-127
-86
+129
+87
 Arial
 8
 -1
@@ -947,8 +947,8 @@ Etichetta Prezzo
 
 Colonna Sc. 
 
-139
-85
+141
+86
 Arial
 8
 -1
@@ -961,8 +961,8 @@ Colonna Sc. %
 
 Sc. %
 Sc. %
-140
-86
+142
+87
 Arial
 8
 -1
@@ -975,8 +975,8 @@ Etichetta Sc. %
 
 Colonna Importo
 
-150
-85
+152
+86
 Arial
 8
 -1
@@ -989,8 +989,8 @@ Colonna Importo
 
 Importo
 Importo
-157
-86
+159
+87
 Arial
 8
 -1
@@ -1003,8 +1003,8 @@ Etichetta Importo
 
 Colonna Consegna
 
-171
-85
+173
+86
 Arial
 8
 -1
@@ -1017,8 +1017,8 @@ Colonna Consegna
 
 Consegna
 Consegna
-175
-86
+177
+87
 Arial
 8
 -1
@@ -1031,8 +1031,8 @@ Etichetta Consegna
 
 Riquadro righe
 
-5
-85
+7
+86
 Arial
 8
 0
@@ -1045,8 +1045,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-92
+7
+93
 Arial
 7
 0
@@ -1059,8 +1059,8 @@ Riquadro Linea intestazione righe
 
 Riquadro condizioni
 Condizioni
-5
-219
+7
+220
 Arial
 7
 -1
@@ -1073,8 +1073,8 @@ Riquadro Riquadro condizioni
 
 Riquadro totali
 
-112
-219
+114
+220
 Arial
 7
 0
@@ -1087,8 +1087,8 @@ Riquadro Riquadro totali
 
 Totale merce
 Totale merce
-113
-220
+115
+221
 Arial
 8
 0
@@ -1101,8 +1101,8 @@ Etichetta Totale merce
 
 Spese di trasporto
 Spese di trasporto
-113
-225
+115
+226
 Arial
 8
 0
@@ -1115,8 +1115,8 @@ Etichetta Spese di trasporto
 
 Linea totali
 
-112
-224
+114
+225
 Arial
 7
 0
@@ -1129,8 +1129,8 @@ Riquadro Linea totali
 
 Totale imposta
 Totale imposta
-113
-230
+115
+231
 Arial
 8
 0
@@ -1143,8 +1143,8 @@ Etichetta Totale imposta
 
 Linea totali 2
 
-112
-229
+114
+230
 Arial
 7
 0
@@ -1157,8 +1157,8 @@ Riquadro Linea totali 2
 
 Riquadro totale €
 
-112
-234
+114
+235
 Arial
 8
 -1
@@ -1171,8 +1171,8 @@ Riquadro Riquadro totale €
 
 TOTALE €
 TOTALE €
-113
-238
+115
+239
 Arial
 11
 -1
@@ -1185,8 +1185,8 @@ Etichetta TOTALE €
 
 Annotazioni
 Annotazioni
-5
-249
+7
+250
 Arial
 7
 0
@@ -1199,8 +1199,8 @@ Riquadro Annotazioni
 
 Firma del venditore
 Il venditore
-5
-261
+7
+262
 Arial
 7
 0
@@ -1213,8 +1213,8 @@ Spazio per la firma
 
 Firma del cliente
 Per accettazione, il cliente (data, timbro e firma)
-101
-261
+103
+262
 Arial
 7
 0
@@ -1227,8 +1227,8 @@ Spazio per la firma
 
 Linea piede
 
-5
-277
+7
+278
 Arial
 7
 0
@@ -1241,8 +1241,8 @@ Riquadro Linea piede
 
 Nota a piede
 L'ordine si intende accettato se non contestato per iscritto entro 5 giorni dal ricevimento della presente.
-4
-278
+6
+279
 Arial
 7
 0
@@ -1255,8 +1255,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 I dati sono trattati nel rispetto delle norme sulla protezione dei dati personali.
-4
-282
+6
+283
 Arial
 7
 0
@@ -1269,8 +1269,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoCascinalta.gif
-5
-3
+7
+4
 Logo della ditta
 22
 66

@@ -5,8 +5,8 @@ Ordine fornitore / richiesta offerta
 
 
 
- 94 
- 213 
+ 95 
+ 214 
  5 
  0 
 segue su pagina successiva
@@ -53,8 +53,8 @@ segue su pagina successiva
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-4
+87
+5
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-10
+87
+11
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-14
+87
+15
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-85
-18
+87
+19
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-6
+140
+7
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Ditta_Email
 amministrazione@cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-10
+140
+11
 Arial
 8
 0
@@ -125,8 +125,8 @@ posta elettronica della propria ditta
 Ditta_Web
 www.cascinalta.example
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-14
+140
+15
 Arial
 8
 0
@@ -137,8 +137,8 @@ sito della propria ditta
 Ditta_Rea
 REA ZZ-000123 - Cap. soc. € 50.000,00 i.v.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-138
-18
+140
+19
 Arial
 8
 0
@@ -149,8 +149,8 @@ iscrizione al registro imprese
 Doc_Titolo
 ORDINE A FORNITORE
 $$$$$$$$$$$$$$$$$$$$$$$$$
-5
-30
+7
+31
 Arial
 14
 -1
@@ -161,8 +161,8 @@ titolo del documento: ordine a fornitore oppure richiesta di offerta
 Doc_Numero
 23
 $$$$$$$$$$$$
-7
-43
+9
+44
 Arial
 10
 -1
@@ -173,8 +173,8 @@ numero del documento
 Doc_Data
 18/03/2026
 $$$$$$$$$$
-39
-43
+41
+44
 Arial
 10
 -1
@@ -185,8 +185,8 @@ data del documento
 Doc_Pagina
 1
 ###,
-71
-43
+73
+44
 Arial
 10
 0
@@ -197,8 +197,8 @@ numero di pagina
 For_Codice
 F00034
 $$$$$$$$$$$$
-7
-52
+9
+53
 Arial
 9
 0
@@ -209,8 +209,8 @@ codice fornitore
 For_PIva
 00000000000
 $$$$$$$$$$$$$$$$
-39
-52
+41
+53
 Arial
 9
 0
@@ -221,8 +221,8 @@ partita IVA fornitore
 For_CodFisc
 00000000000
 $$$$$$$$$$$$$$$$
-71
-52
+73
+53
 Arial
 9
 0
@@ -233,8 +233,8 @@ codice fiscale fornitore
 For_RagSoc
 Ferramenta all'Ingrosso Vallefinta S.p.A.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-38
+110
+39
 Arial
 11
 -1
@@ -245,8 +245,8 @@ ragione sociale del fornitore
 For_RagSoc2
 Deposito di Pontelungo
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-44
+110
+45
 Arial
 10
 0
@@ -257,8 +257,8 @@ ragione sociale, seconda riga del fornitore
 For_Indirizzo
 Strada Provinciale 0, km 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-49
+110
+50
 Arial
 10
 0
@@ -269,8 +269,8 @@ indirizzo del fornitore
 For_CapCitta
 99996 VALLEFINTA (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-108
-54
+110
+55
 Arial
 10
 0
@@ -281,8 +281,8 @@ CAP, città e provincia del fornitore
 Vs_Offerta
 n. 310 del 09/03/2026
 $$$$$$$$$$$$$$$$$$$$$$$$
-7
-60
+9
+61
 Arial
 9
 0
@@ -293,8 +293,8 @@ riferimento all'offerta del fornitore
 For_Attenzione
 Ufficio vendite
 $$$$$$$$$$$$$$$$$$$$$$$$$$
-54
-60
+56
+61
 Arial
 9
 0
@@ -305,8 +305,8 @@ persona a cui è diretto il documento
 Consegna
 02/04/2026
 $$$$$$$$$$
-7
-70
+9
+71
 Arial
 9
 -1
@@ -317,8 +317,8 @@ data di consegna richiesta
 Porto
 Franco ns. magazzino
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-70
-70
+72
+71
 Arial
 9
 0
@@ -329,8 +329,8 @@ resa della merce
 Tr_ACura
 Fornitore
 $$$$$$$$$$$$$$$$$$$$$$$$$
-133
-70
+135
+71
 Arial
 9
 0
@@ -341,8 +341,8 @@ trasporto a cura di
 Pagamento
 Bonifico 60 gg data fattura
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-78
+9
+79
 Arial
 9
 0
@@ -353,8 +353,8 @@ condizioni di pagamento
 Dest_Indirizzo
 Cascinalta S.r.l. - Via dei Mulini Vecchi, 12 - 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-70
-78
+72
+79
 Arial
 9
 0
@@ -365,8 +365,8 @@ luogo di consegna della merce
 R_Codice
 LAM-0112
 $$$$$$$$$$$$
-7
-94
+9
+95
 Arial
 9
 0
@@ -377,8 +377,8 @@ nostro codice articolo
 R_CodFor
 VF 88/112
 $$$$$$$$$$$$$
-30
-94
+32
+95
 Arial
 9
 0
@@ -389,8 +389,8 @@ codice articolo del fornitore
 R_Descr
 Lama zappatrice 112 mm
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-54
-94
+56
+95
 Arial
 9
 0
@@ -401,8 +401,8 @@ descrizione della merce
 R_Um
 Pz
 $$$
-105
-94
+107
+95
 Arial
 9
 0
@@ -413,8 +413,8 @@ unità di misura
 R_Qta
 400,00
 #####,###
-117
-94
+119
+95
 Arial
 9
 0
@@ -425,8 +425,8 @@ quantità
 R_Prezzo
 3,250
 #####,####
-137
-94
+139
+95
 Arial
 9
 0
@@ -437,8 +437,8 @@ prezzo unitario
 R_Sconto
 15
 $$$$$
-151
-94
+153
+95
 Arial
 9
 0
@@ -449,8 +449,8 @@ sconti percentuali
 R_Importo
 1.105,00
 ###.###,###
-166
-94
+168
+95
 Arial
 9
 0
@@ -461,8 +461,8 @@ importo della riga
 R_Consegna
 02/04
 $$$$$
-184
-94
+186
+95
 Arial
 9
 0
@@ -473,8 +473,8 @@ giorno di consegna della riga
 Note
 Indicare il numero del presente ordine sui vostri documenti.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-7
-227
+9
+228
 Arial
 9
 0
@@ -485,8 +485,8 @@ annotazioni
 Tot_Merce
 1.105,00
 ###.###,###
-181
-223
+183
+224
 Arial
 9
 0
@@ -497,8 +497,8 @@ totale merce
 Tot_Imposta
 243,10
 ###.###,###
-183
-228
+185
+229
 Arial
 9
 0
@@ -509,8 +509,8 @@ totale imposta
 Totale
 1.348,10
 ###.###,###
-176
-235
+178
+236
 Arial
 12
 -1
@@ -521,8 +521,8 @@ FINECAMPI
 
 Linea intestazione
 
-5
-27
+7
+28
 Arial
 7
 0
@@ -535,8 +535,8 @@ Riquadro Linea intestazione
 
 Numero
 Numero
-5
-39
+7
+40
 Arial
 7
 0
@@ -549,8 +549,8 @@ Riquadro Numero
 
 Data
 Data
-37
 39
+40
 Arial
 7
 0
@@ -563,8 +563,8 @@ Riquadro Data
 
 Pagina
 Pagina
-69
-39
+71
+40
 Arial
 7
 0
@@ -577,8 +577,8 @@ Riquadro Pagina
 
 Codice fornitore
 Codice fornitore
-5
-48
+7
+49
 Arial
 7
 0
@@ -591,8 +591,8 @@ Riquadro Codice fornitore
 
 Partita IVA
 Partita IVA
-37
-48
+39
+49
 Arial
 7
 0
@@ -605,8 +605,8 @@ Riquadro Partita IVA
 
 Codice fiscale
 Codice fiscale
-69
-48
+71
+49
 Arial
 7
 0
@@ -619,8 +619,8 @@ Riquadro Codice fiscale
 
 Riquadro fornitore
 Spett.le
-104
-30
+106
+31
 Arial
 8
 0
@@ -633,8 +633,8 @@ Riquadro del fornitore
 
 Vs. offerta
 Vs. offerta
-5
-56
+7
+57
 Arial
 7
 0
@@ -647,8 +647,8 @@ Riquadro Vs. offerta
 
 Alla cortese attenzione
 Alla cortese attenzione
-52
-56
+54
+57
 Arial
 7
 0
@@ -661,8 +661,8 @@ Riquadro Alla cortese attenzione
 
 Consegna richiesta
 Consegna richiesta
-5
-66
+7
+67
 Arial
 7
 0
@@ -675,8 +675,8 @@ Riquadro Consegna richiesta
 
 Resa
 Resa
-68
-66
+70
+67
 Arial
 7
 0
@@ -689,8 +689,8 @@ Riquadro Resa
 
 Trasporto a cura di
 Trasporto a cura di
-131
-66
+133
+67
 Arial
 7
 0
@@ -703,8 +703,8 @@ Riquadro Trasporto a cura di
 
 Condizioni di pagamento
 Condizioni di pagamento
-5
-74
+7
+75
 Arial
 7
 0
@@ -717,8 +717,8 @@ Riquadro Condizioni di pagamento
 
 Luogo di consegna
 Luogo di consegna
-68
-74
+70
+75
 Arial
 7
 0
@@ -731,8 +731,8 @@ Riquadro Luogo di consegna
 
 Colonna Ns. codice
 
-5
-85
+7
+86
 Arial
 8
 -1
@@ -745,8 +745,8 @@ Colonna Ns. codice
 
 Ns. codice
 Ns. codice
-6
-86
+8
+87
 Arial
 8
 -1
@@ -759,8 +759,8 @@ Etichetta Ns. codice
 
 Colonna Vs. codice
 
-28
-85
+30
+86
 Arial
 8
 -1
@@ -773,8 +773,8 @@ Colonna Vs. codice
 
 Vs. codice
 Vs. codice
-29
-86
+31
+87
 Arial
 8
 -1
@@ -787,8 +787,8 @@ Etichetta Vs. codice
 
 Colonna Descrizione
 
-52
-85
+54
+86
 Arial
 8
 -1
@@ -801,8 +801,8 @@ Colonna Descrizione
 
 Descrizione
 Descrizione
-53
-86
+55
+87
 Arial
 8
 -1
@@ -815,8 +815,8 @@ Etichetta Descrizione
 
 Colonna U.M
 
-102
-85
+104
+86
 Arial
 8
 -1
@@ -829,8 +829,8 @@ Colonna U.M.
 
 U.M
 U.M.
-103
-86
+105
+87
 Arial
 8
 -1
@@ -843,8 +843,8 @@ Etichetta U.M
 
 Colonna Quantità
 
-112
-85
+114
+86
 Arial
 8
 -1
@@ -857,8 +857,8 @@ Colonna Quantità
 
 Quantità
 Quantità
-115
-86
+117
+87
 Arial
 8
 -1
@@ -871,8 +871,8 @@ Etichetta Quantità
 
 Colonna Prezzo
 
-129
-85
+131
+86
 Arial
 8
 -1
@@ -885,8 +885,8 @@ Colonna Prezzo
 
 Prezzo
 Prezzo
-135
-86
+137
+87
 Arial
 8
 -1
@@ -899,8 +899,8 @@ Etichetta Prezzo
 
 Colonna Sc. 
 
-147
-85
+149
+86
 Arial
 8
 -1
@@ -913,8 +913,8 @@ Colonna Sc. %
 
 Sc. %
 Sc. %
-148
-86
+150
+87
 Arial
 8
 -1
@@ -927,8 +927,8 @@ Etichetta Sc. %
 
 Colonna Importo
 
-158
-85
+160
+86
 Arial
 8
 -1
@@ -941,8 +941,8 @@ Colonna Importo
 
 Importo
 Importo
-166
-86
+168
+87
 Arial
 8
 -1
@@ -955,8 +955,8 @@ Etichetta Importo
 
 Colonna Data
 
-180
-85
+182
+86
 Arial
 8
 -1
@@ -969,8 +969,8 @@ Colonna Data
 
 Data 2
 Data
-183
-86
+185
+87
 Arial
 8
 -1
@@ -983,8 +983,8 @@ Etichetta Data 2
 
 Riquadro righe
 
-5
-85
+7
+86
 Arial
 8
 0
@@ -997,8 +997,8 @@ Riquadro delle righe
 
 Linea intestazione righe
 
-5
-92
+7
+93
 Arial
 7
 0
@@ -1011,8 +1011,8 @@ Riquadro Linea intestazione righe
 
 Annotazioni
 Annotazioni
-5
-222
+7
+223
 Arial
 7
 0
@@ -1025,8 +1025,8 @@ Riquadro Annotazioni
 
 Riquadro totali
 
-116
-222
+118
+223
 Arial
 7
 0
@@ -1039,8 +1039,8 @@ Riquadro Riquadro totali
 
 Totale merce
 Totale merce
-117
-223
+119
+224
 Arial
 8
 0
@@ -1053,8 +1053,8 @@ Etichetta Totale merce
 
 Totale imposta
 Totale imposta
-117
-228
+119
+229
 Arial
 8
 0
@@ -1067,8 +1067,8 @@ Etichetta Totale imposta
 
 Linea totali
 
-116
-227
+118
+228
 Arial
 7
 0
@@ -1081,8 +1081,8 @@ Riquadro Linea totali
 
 Riquadro totale ordine €
 
-116
-232
+118
+233
 Arial
 8
 -1
@@ -1095,8 +1095,8 @@ Riquadro Riquadro totale ordine €
 
 TOTALE ORDINE €
 TOTALE ORDINE €
-117
-235
+119
+236
 Arial
 11
 -1
@@ -1109,8 +1109,8 @@ Etichetta TOTALE ORDINE €
 
 Firma ufficio acquisti
 L'ufficio acquisti
-5
-247
+7
+248
 Arial
 7
 0
@@ -1123,8 +1123,8 @@ Spazio per la firma
 
 Firma del fornitore
 Conferma del fornitore (data, timbro e firma)
-101
-247
+103
+248
 Arial
 7
 0
@@ -1137,8 +1137,8 @@ Spazio per la firma
 
 Si prega di restituire copia firmata per accettazione entro 3 giorni lavorativi
 Si prega di restituire copia firmata per accettazione entro 3 giorni lavorativi.
-4
-267
+6
+268
 Arial
 9
 -1
@@ -1151,8 +1151,8 @@ Etichetta Si prega di restituire copia firmata per accettazione entro 3 giorni l
 
 Linea piede
 
-5
-277
+7
+278
 Arial
 7
 0
@@ -1165,8 +1165,8 @@ Riquadro Linea piede
 
 Nota a piede
 Le consegne parziali o anticipate devono essere concordate. La merce non conforme verrà resa a spese del fornitore.
-4
-278
+6
+279
 Arial
 7
 0
@@ -1179,8 +1179,8 @@ Etichetta Nota a piede
 
 Nota a piede 2
 I dati sono trattati nel rispetto delle norme sulla protezione dei dati personali.
-4
-282
+6
+283
 Arial
 7
 0
@@ -1193,8 +1193,8 @@ Etichetta Nota a piede 2
 FINECORNICI
 
 LogoCascinalta.gif
-5
-3
+7
+4
 Logo della ditta
 22
 66

@@ -5,8 +5,8 @@ Scontrino scarico
 
 
 
- 78 
- 180 
+ 79 
+ 181 
  5 
  0 
 segue
@@ -53,8 +53,8 @@ segue
 Ditta_RagSoc
 Cascinalta S.r.l.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-26
-21
+28
+22
 Arial
 11
 -1
@@ -65,8 +65,8 @@ ragione sociale della propria ditta
 Ditta_Indirizzo
 Via dei Mulini Vecchi, 12
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-25
 27
+28
 Arial
 8
 0
@@ -77,8 +77,8 @@ indirizzo della propria ditta
 Ditta_CapCitta
 99999 Borgofinto (ZZ)
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-26
-31
+28
+32
 Arial
 8
 0
@@ -89,8 +89,8 @@ CAP, città e provincia della propria ditta
 Ditta_PIva
 Partita IVA e C.F. 01234567890
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-20
-35
+22
+36
 Arial
 8
 0
@@ -101,8 +101,8 @@ partita IVA e codice fiscale della propria ditta
 Ditta_Tel
 Tel. 0999 000123
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-29
-39
+31
+40
 Arial
 8
 0
@@ -113,8 +113,8 @@ telefono della propria ditta
 Doc_Numero
 1204
 $$$$$$$$
-10
-53
+12
+54
 Arial
 9
 -1
@@ -125,8 +125,8 @@ numero dello scontrino
 Doc_Data
 21/03/2026
 $$$$$$$$$$
-32
-53
+34
+54
 Arial
 9
 -1
@@ -137,8 +137,8 @@ data dello scontrino
 Doc_Ora
 10:42
 $$$$$
-68
-53
+70
+54
 Arial
 9
 0
@@ -149,8 +149,8 @@ ora dello scontrino
 Cli_RagSoc
 Officina Meccanica Tre Noci S.n.c.
 $$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$
-20
-58
+22
+59
 Arial
 9
 0
@@ -161,8 +161,8 @@ ragione sociale del cliente
 Operatore
 Anna
 $$$$$$$$$$$$$$$
-22
-63
+24
+64
 Arial
 9
 0
@@ -173,8 +173,8 @@ operatore
 R_Descr
 Olio motore 4T 1 lt
 $$$$$$$$$$$$$$$$$$$$$$
-4
-78
+6
+79
 Arial
 9
 0
@@ -185,8 +185,8 @@ descrizione della merce
 R_Qta
 2,00
 ####,###
-42
-78
+44
+79
 Arial
 9
 0
@@ -197,8 +197,8 @@ quantità
 R_Iva
 22
 $$$
-52
-78
+54
+79
 Arial
 9
 0
@@ -209,8 +209,8 @@ codice IVA della riga
 R_Importo
 18,60
 ###.###,###
-68
-78
+70
+79
 Arial
 9
 0
@@ -221,8 +221,8 @@ importo della riga
 Subtotale
 18,60
 ###.###,###
-68
-190
+70
+191
 Arial
 9
 0
@@ -233,8 +233,8 @@ subtotale
 Sconto
 0,60
 ###.###,###
-70
-195
+72
+196
 Arial
 9
 0
@@ -245,8 +245,8 @@ sconto
 Totale
 18,00
 ###.###,###
-65
-204
+67
+205
 Arial
 13
 -1
@@ -257,8 +257,8 @@ totale
 Tot_Imposta
 3,25
 ###.###,###
-71
-212
+73
+213
 Arial
 8
 0
@@ -269,8 +269,8 @@ imposta compresa nel totale
 Contanti
 20,00
 ###.###,###
-68
-218
+70
+219
 Arial
 9
 0
@@ -281,8 +281,8 @@ contanti ricevuti
 Resto
 2,00
 ###.###,###
-70
-223
+72
+224
 Arial
 9
 0
@@ -293,8 +293,8 @@ resto
 Tot_Pezzi
 2
 ####,
-16
-231
+18
+232
 Arial
 8
 0
@@ -305,8 +305,8 @@ numero dei pezzi
 Doc_Deposito
 Deposito 01
 $$$$$$$$$$$$$$$$$$$$
-61
-231
+63
+232
 Arial
 8
 0
@@ -317,8 +317,8 @@ FINECAMPI
 
 Linea testata
 
-4
-45
+6
+46
 Arial
 7
 0
@@ -331,8 +331,8 @@ Riquadro Linea testata
 
 SCONTRINO DI SCARICO
 SCONTRINO DI SCARICO
-15
-46
+17
+47
 Arial
 11
 -1
@@ -345,8 +345,8 @@ Etichetta SCONTRINO DI SCARICO
 
 N
 N.
-3
-53
+5
+54
 Arial
 8
 0
@@ -359,8 +359,8 @@ Etichetta N
 
 del
 del
-24
-53
+26
+54
 Arial
 8
 0
@@ -373,8 +373,8 @@ Etichetta del
 
 Cliente
 Cliente
-3
-58
+5
+59
 Arial
 8
 0
@@ -387,8 +387,8 @@ Etichetta Cliente
 
 Operatore
 Operatore
-3
-63
+5
+64
 Arial
 8
 0
@@ -401,8 +401,8 @@ Etichetta Operatore
 
 Linea righe
 
-4
-70
+6
+71
 Arial
 7
 0
@@ -415,8 +415,8 @@ Riquadro Linea righe
 
 Descrizione
 Descrizione
-3
-71
+5
+72
 Arial
 8
 -1
@@ -429,8 +429,8 @@ Etichetta Descrizione
 
 Q.tà
 Q.tà
-42
-71
+44
+72
 Arial
 8
 -1
@@ -443,8 +443,8 @@ Etichetta Q.tà
 
 Importo
 Importo
-64
-71
+66
+72
 Arial
 8
 -1
@@ -457,8 +457,8 @@ Etichetta Importo
 
 Linea righe 2
 
-4
-76
+6
+77
 Arial
 7
 0
@@ -471,8 +471,8 @@ Riquadro Linea righe 2
 
 IVA
 IVA
-50
-71
+52
+72
 Arial
 8
 -1
@@ -485,8 +485,8 @@ Etichetta IVA
 
 Linea totali
 
-4
-188
+6
+189
 Arial
 7
 0
@@ -499,8 +499,8 @@ Riquadro Linea totali
 
 Subtotale
 Subtotale
-3
-190
+5
+191
 Arial
 8
 0
@@ -513,8 +513,8 @@ Etichetta Subtotale
 
 Sconto
 Sconto
-3
-195
+5
+196
 Arial
 8
 0
@@ -527,8 +527,8 @@ Etichetta Sconto
 
 Linea totale
 
-4
-202
+6
+203
 Arial
 7
 0
@@ -541,8 +541,8 @@ Riquadro Linea totale
 
 TOTALE €
 TOTALE €
-3
-204
+5
+205
 Arial
 12
 -1
@@ -555,8 +555,8 @@ Etichetta TOTALE €
 
 di cui IVA
 di cui IVA
-3
-212
+5
+213
 Arial
 7
 0
@@ -569,8 +569,8 @@ Etichetta di cui IVA
 
 Contanti
 Contanti
-3
-218
+5
+219
 Arial
 8
 0
@@ -583,8 +583,8 @@ Etichetta Contanti
 
 Resto
 Resto
-3
-223
+5
+224
 Arial
 8
 0
@@ -597,8 +597,8 @@ Etichetta Resto
 
 Linea piede
 
-4
-230
+6
+231
 Arial
 7
 0
@@ -611,8 +611,8 @@ Riquadro Linea piede
 
 Pezzi
 Pezzi
-3
-231
+5
+232
 Arial
 7
 0
@@ -625,8 +625,8 @@ Etichetta Pezzi
 
 Grazie e arrivederci
 Grazie e arrivederci
-23
-238
+25
+239
 Arial
 10
 -1
@@ -639,8 +639,8 @@ Etichetta Grazie e arrivederci
 
 Non valido ai fini fiscali
 Non valido ai fini fiscali
-27
-244
+29
+245
 Arial
 7
 0
@@ -653,8 +653,8 @@ Etichetta Non valido ai fini fiscali
 FINECORNICI
 
 LogoCascinalta.gif
-16
-3
+18
+4
 Logo della ditta
 16
 48
