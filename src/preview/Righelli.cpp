@@ -81,8 +81,8 @@ void RighelloFoglio::paintEvent(QPaintEvent *evento)
     constexpr double Margine = 4;
     const double da = primo / pixelPerMillimetro_ - Margine;
     const double a = ultimo / pixelPerMillimetro_ + Margine;
-    DipingeTacche(penna, da, a);
     DipingeScritte(penna, da, a);
+    DipingeTacche(penna, da, a); // last, so that no digit breaks a tick
 }
 
 void RighelloFoglio::DipingeTacche(QPainter &penna, double da, double a) const

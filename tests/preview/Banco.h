@@ -1,0 +1,177 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+#include "preview/Controlli.h"
+#include "preview/Frm1.h"
+#include "preview/GeometriaAnteprima.h"
+#include "support/Finestre.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWindow>
+
+#include <memory>
+
+/// A preview window on the screen with a model of its own, worked with the mouse and the keys
+/// through its window, as a user does. Points are mm of screen on the sheet.
+class Banco
+{
+public:
+    explicit Banco(double zoom = 1)
+    {
+        stato.zoom = zoom;
+        stato.CartellaModelli = cartella.path() + u'/';
+        frm = std::make_unique<Frm1>(stato);
+        Ascolta();
+        frm->show();
+        if (!QTest::qWaitForWindowExposed(frm.get())) {
+            qFatal("the window does not show");
+        }
+    }
+
+    int Campo(const QString &nome, double x, double y, const QString &testo = QStringLiteral("abc"))
+    {
+        const int i = modello.AggiungeCampo(x, y);
+        modello.Campi[i].Nome = nome;
+        modello.Campi[i].Testo = testo;
+        return Mostra(Genere::Campo, i);
+    }
+
+    int Cornice(double x, double y, double larghezza, double altezza, double bordo = 1)
+    {
+        const int i = modello.AggiungeCornice(x, y, 5, 7);
+        modello.Cornici[i].Larghezza = larghezza;
+        modello.Cornici[i].Altezza = altezza;
+        modello.Cornici[i].Bordo = bordo;
+        return Mostra(Genere::Cornice, i);
+    }
+
+    int Immagine(double x, double y, double larghezza, double altezza, const QString &file = {})
+    {
+        const int i = modello.AggiungeImmagine(x, y);
+        modello.Immagini[i].Nome = file;
+        modello.Immagini[i].Larghezza = larghezza;
+        modello.Immagini[i].Altezza = altezza;
+        return Mostra(Genere::Immagine, i);
+    }
+
+    /// Creates the control of an element that the model already has.
+    int Mostra(Genere genere, int i)
+    {
+        frm->CreaElemento(genere, i);
+        frm->Impostazioni(genere, i);
+        frm->Posiziona(genere, i, false);
+        return i;
+    }
+
+    template <typename Elemento = Controllo>
+    Elemento *Controllo_(const QString &nome) const
+    {
+        auto *trovato = dynamic_cast<Elemento *>(ElementoAnteprima(*frm, nome));
+        if (trovato == nullptr) {
+            qFatal("no control %s", qPrintable(nome));
+        }
+        return trovato;
+    }
+    Etichetta *C1(int i) const { return Controllo_<Etichetta>(QStringLiteral("C1(%1)").arg(i)); }
+    Etichetta *C2(int i) const { return Controllo_<Etichetta>(QStringLiteral("C2(%1)").arg(i)); }
+    RiquadroImmagine *C3(int i) const
+    {
+        return Controllo_<RiquadroImmagine>(QStringLiteral("C3(%1)").arg(i));
+    }
+    Maniglia *S(int k) const { return Controllo_<Maniglia>(QStringLiteral("S%1").arg(k)); }
+
+    QWidget *Vista() const { return Trova<QGraphicsView>(*frm, "P1")->viewport(); }
+
+    /// The middle of the pixel nearest to the point: what the mouse can really hit.
+    QPointF Centro(QPointF punto) const { return QPointF(Pixel(punto)) * MillimetriPerPixel; }
+    QPoint Pixel(QPointF punto) const { return (punto / MillimetriPerPixel).toPoint(); }
+
+    void Muove(QPointF punto) { QTest::mouseMove(frm->windowHandle(), Locale(punto)); }
+    void Preme(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton)
+    {
+        QTest::mousePress(frm->windowHandle(), bottone, {}, Locale(punto));
+    }
+    void Rilascia(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton)
+    {
+        QTest::mouseRelease(frm->windowHandle(), bottone, {}, Locale(punto));
+    }
+    void Clicca(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton)
+    {
+        Muove(punto);
+        Preme(punto, bottone);
+        Rilascia(punto, bottone);
+    }
+    void CliccaDueVolte(QPointF punto)
+    {
+        Clicca(punto);
+        QTest::mouseDClick(frm->windowHandle(), Qt::LeftButton, {}, Locale(punto));
+    }
+    /// Press at da, move through a few points to a, release there.
+    void Trascina(QPointF da, QPointF a)
+    {
+        Muove(da);
+        Preme(da);
+        Muove(da + (a - da) / 3);
+        Muove(a);
+        Rilascia(a);
+    }
+    /// Drags the visible handle so that it ends under the pixel nearest to a.
+    void TrascinaManiglia(int k, QPointF a)
+    {
+        Trascina(S(k)->Posto().topLeft() + QPointF(1, 1), a);
+    }
+
+    void Zoom(const QString &testo)
+    {
+        auto *TextZoom = Trova<QLineEdit>(*frm, "TextZoom");
+        TextZoom->selectAll();
+        TextZoom->insert(testo);
+        QTest::keyRelease(TextZoom, Qt::Key_End);
+    }
+
+    QImage Fotografia() const
+    {
+        return Vista()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    static constexpr double MillimetriPerPixel = 25.4 / 96;
+
+    QTemporaryDir cartella;
+    StatoProgramma stato;
+    Modello &modello = stato.Aperto;
+    std::unique_ptr<Frm1> frm;
+    QStringList segnali; ///< "ElementoPuntato 0 3", "Variato" ... in their order
+
+private:
+    QPoint Locale(QPointF punto) const { return Vista()->mapTo(frm.get(), Pixel(punto)); }
+
+    void Ascolta()
+    {
+        const auto annota = [this](const char *nome) {
+            return [this, nome] { segnali.append(QString::fromLatin1(nome)); };
+        };
+        const auto annotaElemento = [this](const char *nome) {
+            return [this, nome](Genere genere, int i) {
+                segnali.append(QStringLiteral("%1 %2 %3")
+                                   .arg(QString::fromLatin1(nome))
+                                   .arg(static_cast<int>(genere))
+                                   .arg(i));
+            };
+        };
+        Frm1 *f = frm.get();
+        QObject::connect(f, &Frm1::ElementoPuntato, f, annotaElemento("ElementoPuntato"));
+        QObject::connect(f, &Frm1::RichiestaProprieta, f, annotaElemento("RichiestaProprieta"));
+        QObject::connect(f, &Frm1::PaginaRichiesta, f, [this](Genere genere) {
+            segnali.append(QStringLiteral("PaginaRichiesta %1").arg(static_cast<int>(genere)));
+        });
+        QObject::connect(f, &Frm1::Variato, f, annota("Variato"));
+        QObject::connect(f, &Frm1::SfondoDaRidisegnare, f, annota("SfondoDaRidisegnare"));
+        QObject::connect(f, &Frm1::RigheDaRidisegnare, f, annota("RigheDaRidisegnare"));
+        QObject::connect(f, &Frm1::ModificaConclusa, f, annota("ModificaConclusa"));
+        QObject::connect(f, &Frm1::ChiusuraRichiesta, f, annota("ChiusuraRichiesta"));
+    }
+};
