@@ -50,7 +50,12 @@ Pagina::Pagina(QPrinter &stampante)
         throw ErroreSistema(ErroreSistema::Stampante);
     }
     pixelPerMillimetro_ = stampante.resolution() / MillimetriPerPollice;
-    area_ = QRectF(QPointF(0, 0), stampante.pageRect(QPrinter::DevicePixel).size());
+    area_ = QRectF(0, 0, InPixel(Larghezza()), InPixel(Altezza()));
+    // The printer engines put their origin at a whole point near the corner, up to 0.18 mm off.
+    const QPointF angolo = stampante.pageRect(QPrinter::Millimeter).topLeft();
+    const QPointF origine =
+        stampante.pageLayout().paintRectPixels(stampante.resolution()).topLeft();
+    pittore_.translate(QPointF(InPixel(angolo.x()), InPixel(angolo.y())) - origine);
     Font(FamigliaNormale, PuntiNormali);
 }
 
