@@ -1,7 +1,9 @@
 #include "support/LettorePdf.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 #include <cmath>
@@ -111,6 +113,14 @@ int LettorePdf::Immagini() const
     const QByteArray elenco =
         Esegue(QStringLiteral("pdfimages"), {QStringLiteral("-list"), percorso_});
     return int(elenco.count('\n')) - 2;
+}
+
+QImage LettorePdf::Immagine(int k) const
+{
+    QTemporaryDir dir;
+    Esegue(QStringLiteral("pdfimages"), {percorso_, dir.filePath(QStringLiteral("i"))});
+    QFile file(dir.filePath(QStringLiteral("i-%1.ppm").arg(k, 3, 10, QLatin1Char('0'))));
+    return file.open(QIODevice::ReadOnly) ? DaPpm(file.readAll()) : QImage();
 }
 
 const QImage &LettorePdf::Pixel() const

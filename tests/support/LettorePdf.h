@@ -35,6 +35,8 @@ public:
     QList<Carattere> Caratteri() const;
     /// Number of pictures in the file.
     int Immagini() const;
+    /// The pixels of the k-th picture (from 0) as they stand in the file.
+    QImage Immagine(int k) const;
 
     /// Resolution of the pixels that the measures below look at.
     static constexpr double PuntiPerPollice = 600;
