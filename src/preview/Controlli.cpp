@@ -93,13 +93,6 @@ void ControlloElemento::ImpostaBordo(bool bordo, const QColor &colore)
     }
 }
 
-void ControlloElemento::DipingeBordo(QPainter *penna) const
-{
-    if (bordo_) {
-        Tratti(*penna).Riquadro(Entro(Locale()), coloreBordo_);
-    }
-}
-
 Etichetta::Etichetta(Genere g, int i)
     : ControlloElemento(g, i)
 {
@@ -139,7 +132,9 @@ QRectF Etichetta::Dipinto() const
 void Etichetta::paint(QPainter *penna, const QStyleOptionGraphicsItem *opzioni, QWidget *)
 {
     testo_.Disegna(*penna, rientro_, punti_, colore_, opzioni->exposedRect);
-    DipingeBordo(penna);
+    if (Bordo()) {
+        Tratti(*penna).Riquadro(Entro(Locale()), ColoreBordo());
+    }
 }
 
 RiquadroImmagine::RiquadroImmagine(int i)
@@ -187,7 +182,8 @@ void RiquadroImmagine::Decodifica(QSize pixel)
 
 void RiquadroImmagine::paint(QPainter *penna, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    const QRectF posto = Tratti(*penna).SullaGriglia(Entro(Locale()));
+    const Tratti tratti(*penna);
+    const QRectF posto = tratti.DiMisuraFissa(Entro(Locale()));
     const QSize pixel = (posto.size() * penna->device()->devicePixelRatioF())
                             .toSize()
                             .boundedTo(QSize(LatoMassimo, LatoMassimo))
@@ -202,7 +198,9 @@ void RiquadroImmagine::paint(QPainter *penna, const QStyleOptionGraphicsItem *, 
         penna->drawImage(posto, figura_);
         penna->restore();
     }
-    DipingeBordo(penna);
+    if (Bordo()) {
+        tratti.RiquadroDiMisuraFissa(Entro(Locale()), ColoreBordo());
+    }
 }
 
 Riga::Riga(int numero)

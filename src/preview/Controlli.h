@@ -55,9 +55,6 @@ public:
     /// A line one pixel thick along the inside of the control's edge.
     void ImpostaBordo(bool bordo, const QColor &colore);
 
-protected:
-    void DipingeBordo(QPainter *penna) const;
-
 private:
     bool bordo_ = false;
     QColor coloreBordo_ = Qt::black;

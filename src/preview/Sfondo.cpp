@@ -80,7 +80,7 @@ void Sfondo::Dipinge(QPainter &penna, const QRectF &esposto, double zoom)
     }
     const Tratti tratti(penna);
     const double scala = penna.device()->devicePixelRatioF();
-    const QRectF pixel = tratti.SullaGriglia(posto);
+    const QRectF pixel = tratti.DiMisuraFissa(posto);
     const QSize misura = (pixel.size() * scala).toSize();
     // Up to the sheet's own size it is copied pixel by pixel; a rectangle larger than the sheet is
     // stretched while painting, for only a part of it can be seen.

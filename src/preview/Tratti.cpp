@@ -55,9 +55,26 @@ void Tratti::Verticale(double x, double y1, double y2, const QColor &colore) con
     Riempie(pixel, colore);
 }
 
+QRectF Tratti::DiMisuraFissa(const QRectF &rettangolo) const
+{
+    const QRectF pixel = trasformazione_.mapRect(rettangolo);
+    return {Griglia(pixel.left()), Griglia(pixel.top()),
+            std::max(Griglia(pixel.width()), spessore_),
+            std::max(Griglia(pixel.height()), spessore_)};
+}
+
 void Tratti::Riquadro(const QRectF &rettangolo, const QColor &colore) const
 {
-    const QRectF p = SullaGriglia(rettangolo);
+    RiquadroPixel(SullaGriglia(rettangolo), colore);
+}
+
+void Tratti::RiquadroDiMisuraFissa(const QRectF &rettangolo, const QColor &colore) const
+{
+    RiquadroPixel(DiMisuraFissa(rettangolo), colore);
+}
+
+void Tratti::RiquadroPixel(const QRectF &p, const QColor &colore) const
+{
     penna_.setWorldTransform(QTransform());
     penna_.fillRect(QRectF(p.left(), p.top(), p.width(), spessore_), colore);
     penna_.fillRect(QRectF(p.left(), p.bottom() - spessore_, p.width(), spessore_), colore);

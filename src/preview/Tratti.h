@@ -20,9 +20,15 @@ public:
     void Pieno(const QRectF &rettangolo, const QColor &colore) const;
     /// The rectangle on the pixel grid, in device-independent pixels; at least one pixel each way.
     QRectF SullaGriglia(const QRectF &rettangolo) const;
+    /// The same, but its size in pixels does not depend on where it lies: for pictures, which are
+    /// scaled once for each size.
+    QRectF DiMisuraFissa(const QRectF &rettangolo) const;
+    /// The outline of what DiMisuraFissa gives.
+    void RiquadroDiMisuraFissa(const QRectF &rettangolo, const QColor &colore) const;
 
 private:
     double Griglia(double pixel) const;
+    void RiquadroPixel(const QRectF &pixel, const QColor &colore) const;
     void Riempie(const QRectF &pixel, const QColor &colore) const;
 
     QPainter &penna_;
