@@ -3,6 +3,11 @@
 #include <QPainter>
 #include <QStyle>
 
+QSize EtichettaPercorso::sizeHint() const
+{
+    return minimumSizeHint();
+}
+
 QSize EtichettaPercorso::minimumSizeHint() const
 {
     return {0, QLabel::minimumSizeHint().height()};

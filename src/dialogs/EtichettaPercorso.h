@@ -10,6 +10,7 @@ class EtichettaPercorso : public QLabel
 public:
     using QLabel::QLabel;
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:

@@ -4,6 +4,8 @@
 #include "platform/Finestre.h"
 #include "platform/Messaggi.h"
 
+#include <QPalette>
+
 namespace {
 
 QString NonNumero(const QWidget *controllo, const QString &testo)
@@ -37,6 +39,10 @@ bool FrmElemento::Numero(QLineEdit *casella)
 void FrmElemento::Form_Load(const Controlli &controlli)
 {
     controlli_ = controlli;
+    // The key of the record is shown, not typed: another number would overwrite another element.
+    QPalette tavolozza = controlli_.Num->palette();
+    tavolozza.setBrush(QPalette::Base, tavolozza.window());
+    controlli_.Num->setPalette(tavolozza);
     ImpostaHelp(this);
     LimitaAlCodice(this);
 }

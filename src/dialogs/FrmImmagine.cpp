@@ -131,9 +131,12 @@ void FrmImmagine::ImpostaImmagine()
 
 QSizeF FrmImmagine::MisuraImmagine() const
 {
+    const QString percorso =
+        Percorsi::Risolve(Stato().CartellaModelli + Caselle().Testo(ui_->Nome));
     try {
-        return Immagini::DimensioniNaturali(
-            Percorsi::Risolve(Stato().CartellaModelli + Caselle().Testo(ui_->Nome)));
+        // The header alone would also measure a picture whose rest is damaged.
+        Immagini::CaricaScalata(percorso, {1, 1});
+        return Immagini::DimensioniNaturali(percorso);
     } catch (const ErroreSistema &) {
         // A picture that is missing or damaged asks nothing: the size in the boxes stands.
         return {0, 0};

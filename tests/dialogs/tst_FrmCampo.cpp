@@ -98,6 +98,7 @@ private slots:
     void ConfermaScriveTuttiIValori();
     void ConfermaSegnalaAnteprimaPoiElenco();
     void InvioConferma();
+    void InvioSuUnBottoneLoPreme();
     void EscChiudeSenzaScrivere();
     void AprireEConfermareNonCambiaNulla();
     void ConfermaIlProprioNome();
@@ -303,6 +304,20 @@ void TestFrmCampo::InvioConferma()
     QTest::keyClick(Trova<QLineEdit>(p.dialogo, "Nome"), Qt::Key_Return);
     QCOMPARE(p.Secondo().Nome, QStringLiteral("Iva"));
     QVERIFY(!p.dialogo.isVisible());
+}
+
+void TestFrmCampo::InvioSuUnBottoneLoPreme()
+{
+    Prova p;
+    p.robot.No();
+    auto *elimina = Trova<QPushButton>(p.dialogo, "PEliminaCampo");
+    elimina->setFocus();
+    QTest::keyClick(elimina, Qt::Key_Return);
+    QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Elimino il campo Campo2")}));
+    Trova<QLineEdit>(p.dialogo, "X")->setFocus();
+    QTest::keyClick(p.dialogo.focusWidget(), Qt::Key_Return);
+    QVERIFY(!p.dialogo.isVisible());
+    QVERIFY(p.robot.Soddisfatto());
 }
 
 void TestFrmCampo::EscChiudeSenzaScrivere()
@@ -541,7 +556,7 @@ void TestFrmCampo::DaNumericoAdAlfanumericoRifiutato()
 void TestFrmCampo::MascheraNumericaGeneraIlTesto()
 {
     int estratti = 0;
-    Prova p(2, [&] { return ++estratti % 2 == 1 ? 0.95 : estratti / 2 / 10.0 + 0.05; });
+    Prova p(2, [&] { return ++estratti % 2 == 1 ? 0.95 : estratti * 0.05 + 0.05; });
     p.Sceglie(QStringLiteral("###.###,### 2 decimali"));
     Preme(p.dialogo, "PCambiaMaschera");
     QCOMPARE(Testo(p.dialogo, "Maschera"), QStringLiteral("###.###,###"));

@@ -161,7 +161,7 @@ void TestMaschereStampa::TestoDiProva()
     const auto casuale = [&] {
         ++estratti;
         // The second number of each pair is the digit's; the first would give 9.
-        return estratti % 2 == 1 ? 0.95 : estratti / 2 / 10.0 + 0.05;
+        return estratti % 2 == 1 ? 0.95 : estratti * 0.05 + 0.05;
     };
     QTEST(MaschereStampa::TestoDiProva(maschera, casuale), "testo");
 }
