@@ -22,6 +22,9 @@ constexpr double MillimetriPerPollice = 25.4;
 /// Qt cuts what is longer without a word.
 constexpr int LunghezzaDiQt = 32767;
 
+/// The room that a title bar and borders may take, not known before a window is shown.
+constexpr QSize Bordi(16, 48);
+
 QScreen *SchermoDi(const QWidget *finestra)
 {
     QScreen *schermo = finestra != nullptr ? finestra->screen() : nullptr;
@@ -49,6 +52,11 @@ void CentraForm(QWidget *finestra)
                       QPoint((schermo->geometry().width() - posto.width()) / 2,
                              (schermo->geometry().height() - posto.height()) / 2));
     finestra->move(Entro(schermo->availableGeometry(), posto));
+}
+
+QSize EntroLoSchermo(const QWidget *finestra, const QSize &misura)
+{
+    return misura.boundedTo(SchermoDi(finestra)->availableSize() - Bordi);
 }
 
 void ImpostaHelp(QWidget *finestra)

@@ -13,6 +13,9 @@ inline constexpr auto ProprietaGuida = "HelpContextID";
 /// Places the window (frame included, when the window system tells it) at the centre of its screen.
 void CentraForm(QWidget *finestra);
 
+/// The size, reduced to what the window's screen has room for below a title bar.
+QSize EntroLoSchermo(const QWidget *finestra, const QSize &misura);
+
 /// Gives the window and every control of it help topic 44, so that F1 opens that topic.
 void ImpostaHelp(QWidget *finestra);
 

@@ -1,53 +1,12 @@
-#include "base/ErroreSistema.h"
 #include "platform/Percorsi.h"
+#include "support/Errori.h"
+#include "support/FileDiProva.h"
+#include "support/Permessi.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-#ifdef Q_OS_UNIX
-#include <csignal>
-
-#include <sys/resource.h>
-#endif
-
-namespace {
-
-/// Number of the failure that azione throws, 0 when it throws none.
-template <typename Azione>
-int Errore(Azione &&azione)
-{
-    try {
-        azione();
-    } catch (const ErroreSistema &errore) {
-        return errore.numero;
-    }
-    return 0;
-}
-
-#ifdef Q_OS_UNIX
-/// No file and no folder can be opened while it lives, not even by root.
-class SenzaDescrittori
-{
-public:
-    SenzaDescrittori()
-    {
-        getrlimit(RLIMIT_NOFILE, &prima_);
-        rlimit nessuno = prima_;
-        nessuno.rlim_cur = 0;
-        setrlimit(RLIMIT_NOFILE, &nessuno);
-    }
-    ~SenzaDescrittori() { setrlimit(RLIMIT_NOFILE, &prima_); }
-    SenzaDescrittori(const SenzaDescrittori &) = delete;
-    SenzaDescrittori &operator=(const SenzaDescrittori &) = delete;
-
-private:
-    rlimit prima_{};
-};
-#endif
-
-} // namespace
 
 class tst_Percorsi : public QObject
 {
@@ -81,27 +40,18 @@ private slots:
     void Elimina();
     void Elimina_mancante();
     void Elimina_cartella();
+    void Elimina_cartellaSenzaDiritti();
 
 private:
     QString In(const QString &nome) const { return cartella_->filePath(nome); }
-    void Scrive(const QString &nome, const QByteArray &byte = "x") const;
-    QByteArray Legge(const QString &nome) const;
+    void Scrive(const QString &nome, const QByteArray &byte = "x") const
+    {
+        ScriveFile(In(nome), byte);
+    }
+    QByteArray Legge(const QString &nome) const { return ByteDi(In(nome)); }
 
     std::unique_ptr<QTemporaryDir> cartella_;
 };
-
-void tst_Percorsi::Scrive(const QString &nome, const QByteArray &byte) const
-{
-    QFile file(In(nome));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(byte), byte.size());
-}
-
-QByteArray tst_Percorsi::Legge(const QString &nome) const
-{
-    QFile file(In(nome));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(assente)");
-}
 
 void tst_Percorsi::init()
 {
@@ -256,7 +206,7 @@ void tst_Percorsi::FileConModello_piuModelli()
 
 void tst_Percorsi::FileConModello_cartellaMancante()
 {
-    QCOMPARE(Errore([this] {
+    QCOMPARE(ErroreDi([this] {
                  Percorsi::FileConModello(In(QStringLiteral("manca")), QStringLiteral("*.mod"));
              }),
              ErroreSistema::PercorsoNonTrovato);
@@ -265,7 +215,7 @@ void tst_Percorsi::FileConModello_cartellaMancante()
 void tst_Percorsi::FileConModello_unFile()
 {
     Scrive(QStringLiteral("ini"));
-    QCOMPARE(Errore([this] {
+    QCOMPARE(ErroreDi([this] {
                  Percorsi::FileConModello(In(QStringLiteral("ini")), QStringLiteral("*.mod"));
              }),
              ErroreSistema::PercorsoNonTrovato);
@@ -273,18 +223,14 @@ void tst_Percorsi::FileConModello_unFile()
 
 void tst_Percorsi::FileConModello_illeggibile()
 {
-#ifdef Q_OS_UNIX
-    Scrive(QStringLiteral("a.mod"));
-    int numero = 0;
-    {
-        const SenzaDescrittori nessuno;
-        numero = Errore(
-            [this] { Percorsi::FileConModello(cartella_->path(), QStringLiteral("*.mod")); });
-    }
-    QCOMPARE(numero, ErroreSistema::AccessoFile);
-#else
-    QSKIP("needs a limit on open files");
-#endif
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("chiusa")));
+    QVERIFY(QFile::setPermissions(cartella_->path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(In(QStringLiteral("chiusa")), Permessi::Nessuno));
+    const UtenteComune utente;
+    QCOMPARE(ErroreDi([this] {
+                 Percorsi::FileConModello(In(QStringLiteral("chiusa")), QStringLiteral("*.mod"));
+             }),
+             ErroreSistema::AccessoFile);
 }
 
 void tst_Percorsi::Copia()
@@ -335,7 +281,7 @@ void tst_Percorsi::Copia_origineCartella()
 {
     QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("c.mod")));
     QCOMPARE(
-        Errore([this] { Percorsi::Copia(In(QStringLiteral("c.mod")), In(QStringLiteral("a"))); }),
+        ErroreDi([this] { Percorsi::Copia(In(QStringLiteral("c.mod")), In(QStringLiteral("a"))); }),
         ErroreSistema::AccessoFile);
     QVERIFY(!QFile::exists(In(QStringLiteral("a"))));
 }
@@ -344,16 +290,17 @@ void tst_Percorsi::Copia_destinazioneCartella()
 {
     Scrive(QStringLiteral("da"));
     QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("c.mod")));
-    QCOMPARE(
-        Errore([this] { Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("c.mod"))); }),
-        ErroreSistema::AccessoFile);
+    QCOMPARE(ErroreDi([this] {
+                 Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("c.mod")));
+             }),
+             ErroreSistema::AccessoFile);
     QCOMPARE(QDir(cartella_->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
 void tst_Percorsi::Copia_cartellaDiDestinazioneMancante()
 {
     Scrive(QStringLiteral("da"));
-    QCOMPARE(Errore([this] {
+    QCOMPARE(ErroreDi([this] {
                  Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("manca/a")));
              }),
              ErroreSistema::PercorsoNonTrovato);
@@ -361,24 +308,17 @@ void tst_Percorsi::Copia_cartellaDiDestinazioneMancante()
 
 void tst_Percorsi::Copia_discoPieno()
 {
-#ifdef Q_OS_UNIX
     Scrive(QStringLiteral("da"), QByteArray(10000, 'x'));
     Scrive(QStringLiteral("a"), "vecchio");
-    signal(SIGXFSZ, SIG_IGN);
-    rlimit prima{};
-    getrlimit(RLIMIT_FSIZE, &prima);
-    rlimit poco = prima;
-    poco.rlim_cur = 4096;
-    setrlimit(RLIMIT_FSIZE, &poco);
-    const int numero =
-        Errore([this] { Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("a"))); });
-    setrlimit(RLIMIT_FSIZE, &prima);
-    QCOMPARE(numero, ErroreSistema::DiscoPieno);
+    {
+        const LimiteFile poco(4096);
+        QCOMPARE(ErroreDi([this] {
+                     Percorsi::Copia(In(QStringLiteral("da")), In(QStringLiteral("a")));
+                 }),
+                 ErroreSistema::DiscoPieno);
+    }
     QCOMPARE(Legge(QStringLiteral("a")), QByteArray("vecchio"));
-    QCOMPARE(QDir(cartella_->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
-#else
-    QSKIP("needs a limit on file sizes");
-#endif
+    QCOMPARE(NomiIn(cartella_->path()).size(), 2);
 }
 
 void tst_Percorsi::Elimina()
@@ -390,16 +330,32 @@ void tst_Percorsi::Elimina()
 
 void tst_Percorsi::Elimina_mancante()
 {
-    QCOMPARE(Errore([this] { Percorsi::Elimina(In(QStringLiteral("a.Mod"))); }),
+    QCOMPARE(ErroreDi([this] { Percorsi::Elimina(In(QStringLiteral("a.Mod"))); }),
              ErroreSistema::FileNonTrovato);
 }
 
 void tst_Percorsi::Elimina_cartella()
 {
     QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("a.Mod")));
-    QCOMPARE(Errore([this] { Percorsi::Elimina(In(QStringLiteral("a.Mod"))); }),
+    QCOMPARE(ErroreDi([this] { Percorsi::Elimina(In(QStringLiteral("a.Mod"))); }),
              ErroreSistema::AccessoFile);
     QVERIFY(QFile::exists(In(QStringLiteral("a.Mod"))));
+}
+
+void tst_Percorsi::Elimina_cartellaSenzaDiritti()
+{
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("c")));
+    Scrive(QStringLiteral("c/a.Mod"));
+    QVERIFY(QFile::setPermissions(cartella_->path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(In(QStringLiteral("c")), Permessi::SolaLettura));
+    int numero = 0;
+    {
+        const UtenteComune utente;
+        numero = ErroreDi([this] { Percorsi::Elimina(In(QStringLiteral("c/a.Mod"))); });
+    }
+    QVERIFY(QFile::setPermissions(In(QStringLiteral("c")), Permessi::PerTutti));
+    QCOMPARE(numero, ErroreSistema::AutorizzazioneNegata);
+    QVERIFY(QFile::exists(In(QStringLiteral("c/a.Mod"))));
 }
 
 QTEST_MAIN(tst_Percorsi)
