@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+
+#include <memory>
+
+class QLabel;
+class QStringListModel;
+
+namespace Ui {
+class Sfoglia;
+}
+
+/// The path chosen in the browser, or the name handed in when the user closed it without choosing.
+/// Program-wide: it outlives the browser, and confirming without a choice leaves it as it was.
+QString &RisultatoSfoglia();
+
+/// Path of a file of the folder. A folder that is one of the roots as it stands, or followed by the
+/// separator, ends in a separator already.
+QString PercorsoNellaCartella(const QStringList &radici, const QString &cartella,
+                              const QString &nome, const QString &separatore);
+
+/// The program's own modal file browser. The caller sets the text of FileEntrata, runs exec() and
+/// reads RisultatoSfoglia().
+class Sfoglia : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit Sfoglia(QWidget *padre = nullptr);
+    ~Sfoglia() override;
+
+    /// The label that holds the full file name handed in.
+    QLabel *FileEntrata() const;
+    /// The open folder, as the folder list shows it; a root ends in a separator.
+    QString CartellaAperta() const { return cartella_; }
+
+    void done(int esito) override;
+
+protected:
+    void showEvent(QShowEvent *evento) override;
+
+private:
+    void CollegaSegnali();
+    void Form_Activate();
+    void Form_Unload();
+    void Drive1_Change();
+    void Dir1_Change();
+    void File1_Click();
+    void Command8_Click();
+    void Command7_Click();
+
+    void ApreCartellaIniziale();
+    void ApreCartellaScelta();
+    void SaleDiUnaCartella();
+    /// ApreCartella with the busy pointer; a folder that cannot be read is reported.
+    void MostraCartella(const QString &cartella);
+    /// Lists the folder. False when it cannot be read; the lists then stay as they were.
+    bool ApreCartella(const QString &cartella);
+    void ElencaCartelle();
+    void SelezionaDrive();
+    QStringList Radici() const;
+
+    std::unique_ptr<Ui::Sfoglia> ui_;
+    QStringListModel *file_;
+    QString cartella_;
+    QStringList nomiFile_;  ///< of the open folder, read together with it
+    qint16 confermato_ = 0; ///< Vero or Falso
+};
