@@ -1,0 +1,122 @@
+// The creation of a model, from the choice of its kind to the copied file.
+
+#include "catalogue/SelezioneArchivifrm.h"
+
+#include "ui_SelezioneArchivifrm.h"
+
+#include "base/Ansi.h"
+#include "base/ErroreSistema.h"
+#include "catalogue/ElencoModelli.h"
+#include "catalogue/ModelliTipo.h"
+#include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
+
+#include <QFileInfo>
+
+void SelezioneArchivifrm::Nuovo_Click()
+{
+    if (!ArchivioScelto()) {
+        Messaggi::Mostra(this, QStringLiteral("Selezionare una cartella"));
+        return;
+    }
+    const std::optional<Richiesta> richiesta = RichiestaScelta();
+    if (!richiesta) {
+        return;
+    }
+    const QString nome = ChiedeNome(*richiesta);
+    if (nome.isEmpty() || !NomeAccettato(nome)) {
+        return;
+    }
+    const QString nuovoNome = nome + ElencoModelli::Estensione;
+    if (!SovrascritturaAccettata(nuovoNome)) {
+        return;
+    }
+    // A failure reaches the guard, whose message names the number and the file.
+    Percorsi::Copia(stato_.CartellaModelli + richiesta->fileTipo,
+                    stato_.CartellaModelli + nuovoNome);
+    stato_.Aperto.NomeFile = nuovoNome;
+    Consegna();
+}
+
+std::optional<SelezioneArchivifrm::Richiesta> SelezioneArchivifrm::RichiestaScelta()
+{
+    std::optional<Richiesta> richiesta;
+    for (const ModelloTipo &tipo : ModelliTipo()) {
+        if (findChild<QRadioButton *>(tipo.opzione)->isChecked()) {
+            richiesta =
+                Richiesta{tipo.file, QStringLiteral("Creazione nuovo Modello:\n") + tipo.titolo,
+                          tipo.nomeProposto};
+        }
+    }
+    if (ui_->OptDuplico->isChecked()) {
+        if (!ModelloSelezionato()) {
+            Messaggi::Mostra(this, QStringLiteral("Selezionare un modello esistente"));
+            return std::nullopt;
+        }
+        const QString &originale = stato_.Aperto.NomeFile;
+        // The proposed name keeps the extension of the original: users know it so.
+        richiesta = Richiesta{originale,
+                              QStringLiteral("Creazione nuovo modello duplicando:\n") + originale,
+                              originale + QLatin1String("_nuovo")};
+    }
+    return richiesta;
+}
+
+QString SelezioneArchivifrm::ChiedeNome(const Richiesta &richiesta)
+{
+    return Messaggi::ChiedeTesto(this, QStringLiteral("Nuovo modello di stampa"),
+                                 richiesta.testo +
+                                     QStringLiteral("\n\nDigitare un nome per il nuovo modello"),
+                                 richiesta.nomeProposto)
+        .value_or(QString());
+}
+
+bool SelezioneArchivifrm::NomeAccettato(const QString &nome)
+{
+    // Vastrel, too, must be able to open a file of this name.
+    if (!Percorsi::NomeFileValido(nome) || !Ansi::Rappresentabile(nome)) {
+        Messaggi::Mostra(
+            this, QStringLiteral("\"%1\" non è un nome valido per un modello.\n\nUn nome non può "
+                                 "contenere \\ / : * ? \" < > | né caratteri che Vastrel non "
+                                 "conosce, non può finire con un punto o uno spazio e non può "
+                                 "essere un nome riservato di Windows (CON, PRN, AUX, NUL, COM1, "
+                                 "LPT1...).")
+                      .arg(nome));
+        return false;
+    }
+    // Compared with the extension in place, so none of these ever matches: the reserved names can
+    // be used, and archives hold models that are called so.
+    const QString maiuscolo = (nome + ElencoModelli::Estensione).toUpper();
+    if (maiuscolo == QLatin1String("FATTURA") || maiuscolo == QLatin1String("FATTURAACCOMPAGN") ||
+        maiuscolo == QLatin1String("DDT")) {
+        Messaggi::Mostra(this, QStringLiteral("inserire un mome diverso"));
+        return false;
+    }
+    return true;
+}
+
+bool SelezioneArchivifrm::SovrascritturaAccettata(const QString &nuovoNome)
+{
+    const QString percorso = Percorsi::Risolve(stato_.CartellaModelli + nuovoNome);
+    if (QFileInfo(percorso).isDir()) {
+        Messaggi::Mostra(this, QStringLiteral("%1 è il nome di una cartella: scegliere un nome "
+                                              "diverso per il modello")
+                                   .arg(nuovoNome));
+        return false;
+    }
+    return !Esiste(percorso) ||
+           Messaggi::Domanda(this, nuovoNome + QStringLiteral(" esiste già \nLO VUOI SOSTITUIRE?"),
+                             Messaggi::Risposta::No);
+}
+
+bool SelezioneArchivifrm::Esiste(const QString &percorso)
+{
+    const QFileInfo file(percorso);
+    if (file.isFile() && file.size() != 0) {
+        return true;
+    }
+    const ErroreSistema assente(ErroreSistema::FileNonTrovato);
+    Messaggi::MostraCritico(this, assente.Messaggio() + QStringLiteral("\nnon esiste il file ") +
+                                      percorso);
+    return false;
+}

@@ -1,0 +1,228 @@
+#include "catalogue/SelezioneArchivifrm.h"
+
+#include "ui_SelezioneArchivifrm.h"
+
+#include "base/ErroreSistema.h"
+#include "catalogue/ApriManuale.h"
+#include "catalogue/ElencoModelli.h"
+#include "catalogue/TabellaFont.h"
+#include "platform/Finestre.h"
+#include "platform/Guardia.h"
+#include "platform/IconaGuida.h"
+#include "platform/Impostazioni.h"
+#include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
+#include "platform/Stampanti.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFontInfo>
+#include <QShortcut>
+
+namespace {
+
+constexpr QLatin1String ArchivioAbituale("Contabilita");
+constexpr QLatin1String CartellaIni("ini");
+constexpr double CarattereRidotto = 0.85; ///< of the window's own font size
+
+} // namespace
+
+SelezioneArchivifrm::SelezioneArchivifrm(StatoProgramma &stato, QWidget *padre)
+    : QWidget(padre)
+    , stato_(stato)
+    , ui_(std::make_unique<Ui::SelezioneArchivifrm>())
+{
+    ui_->setupUi(this);
+    QFont piccolo = ui_->Label3->font();
+    piccolo.setPointSizeF(QFontInfo(piccolo).pointSizeF() * CarattereRidotto);
+    ui_->Label3->setFont(piccolo);
+    ui_->Image1->setIcon(IconaGuida(ui_->Image1->iconSize().width()));
+    CollegaSegnali();
+}
+
+SelezioneArchivifrm::~SelezioneArchivifrm() = default;
+
+void SelezioneArchivifrm::CollegaSegnali()
+{
+    using Questa = SelezioneArchivifrm;
+    Collega(ui_->List1, &QListWidget::itemSelectionChanged, this, &Questa::List1_Click);
+    Collega(ui_->List2, &QListWidget::itemSelectionChanged, this, &Questa::List2_Click);
+    Collega(ui_->List2, &QListWidget::itemDoubleClicked, this, &Questa::Apri_Click);
+    Collega(ui_->Apri, &QPushButton::clicked, this, &Questa::Apri_Click);
+    Collega(ui_->Nuovo, &QPushButton::clicked, this, &Questa::Nuovo_Click);
+    Collega(ui_->Image1, &QToolButton::clicked, this, &Questa::Image1_Click);
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto *invio = new QShortcut(tasto, ui_->List2);
+        invio->setContext(Qt::WidgetShortcut);
+        Collega(invio, &QShortcut::activated, this, &Questa::Apri_Click);
+    }
+}
+
+bool SelezioneArchivifrm::Form_Load(const QString &datiIndicati)
+{
+    PosizionaFinestra();
+    ImpostaHelp(this);
+    ui_->Label3->setText(CartellaProgramma());
+    ui_->Label3->setToolTip(CartellaProgramma());
+    if (!istanza_.Acquisisce()) {
+        Messaggi::Mostra(this, QStringLiteral("programma già in esecuzione"));
+        return false;
+    }
+    if (!LeggeCartellaDati(datiIndicati)) {
+        Messaggi::Mostra(this, QStringLiteral("non esiste dirtxt in reg conf"));
+        return false;
+    }
+    ElencaArchivi();
+    SelezionaArchivioPredefinito();
+    RiempieElencoFont(this, Stampanti::ElencoFont(), stato_.ElencoFont);
+    return true;
+}
+
+void SelezioneArchivifrm::PosizionaFinestra()
+{
+    // The content scrolls on a screen that is too small for it, and only there.
+    QLayout *disposizione = ui_->Contenuto->layout();
+    disposizione->activate();
+    const int larghezza = disposizione->totalSizeHint().width();
+    resize(EntroLoSchermo(this, {larghezza, disposizione->totalHeightForWidth(larghezza)}));
+    CentraForm(this);
+}
+
+bool SelezioneArchivifrm::LeggeCartellaDati(const QString &datiIndicati)
+{
+    const QString cartella = datiIndicati.isEmpty() ? Impostazioni::Dirtxt() : datiIndicati;
+    if (cartella.isEmpty()) {
+        return false;
+    }
+    stato_.CartellaModelli =
+        QDir::toNativeSeparators(QFileInfo(Percorsi::Risolve(cartella)).absoluteFilePath());
+    return true;
+}
+
+void SelezioneArchivifrm::ElencaArchivi()
+{
+    ui_->Dir1->clear();
+    ui_->List1->clear();
+    if (!QFileInfo(stato_.CartellaModelli).isDir()) {
+        Messaggi::Mostra(this, QStringLiteral("impossibile leggere la cartella dei dati\n%1\n%2")
+                                   .arg(stato_.CartellaModelli,
+                                        DescrizioneErrore(ErroreSistema::PercorsoNonTrovato)));
+        return;
+    }
+    ui_->Dir1->addItems(Percorsi::SottoCartelle(stato_.CartellaModelli));
+    for (int i = 0; i < ui_->Dir1->count(); ++i) {
+        auto *archivio = new QListWidgetItem(ui_->Dir1->item(i)->text(), ui_->List1);
+        archivio->setToolTip(archivio->text());
+    }
+}
+
+void SelezioneArchivifrm::SelezionaArchivioPredefinito()
+{
+    if (stato_.ArchivioPredefinito.isEmpty()) {
+        stato_.ArchivioPredefinito = ArchivioAbituale;
+    }
+    const QString predefinito = stato_.ArchivioPredefinito.toUpper();
+    for (int i = 0; i < ui_->List1->count(); ++i) {
+        if (Percorsi::ToglieUltimaBarra(ui_->List1->item(i)->text()).toUpper() == predefinito) {
+            ui_->List1->setCurrentRow(i);
+            return;
+        }
+    }
+}
+
+void SelezioneArchivifrm::showEvent(QShowEvent *evento)
+{
+    QWidget::showEvent(evento);
+    Guardia(this, [this] {
+        if (riapertura_) {
+            riapertura_ = false;
+            RiprendeModelli();
+        }
+        if (ArchivioScelto()) {
+            ui_->List2->setFocus();
+        } else {
+            ui_->List1->setFocus();
+        }
+    });
+}
+
+void SelezioneArchivifrm::RiprendeModelli()
+{
+    ElencaModelli();
+    for (int i = 0; i < ui_->List2->count(); ++i) {
+        const QString nomeFile = ui_->List2->item(i)->text() + ElencoModelli::Estensione;
+        if (nomeFile.compare(stato_.Aperto.NomeFile, Qt::CaseInsensitive) == 0) {
+            ui_->List2->setCurrentRow(i);
+            return;
+        }
+    }
+}
+
+void SelezioneArchivifrm::ElencaModelli()
+{
+    ui_->File1->clear();
+    ui_->List2->clear();
+    try {
+        const QStringList file =
+            Percorsi::FileConModello(stato_.CartellaModelli, QStringLiteral("*.mod"));
+        ui_->File1->addItems(file);
+        ui_->List2->addItems(ElencoModelli::Nomi(file));
+    } catch (const ErroreSistema &errore) {
+        Messaggi::Mostra(this, QStringLiteral("impossibile leggere la cartella dei modelli\n%1\n%2")
+                                   .arg(stato_.CartellaModelli, errore.descrizione));
+    }
+}
+
+void SelezioneArchivifrm::List1_Click()
+{
+    if (!ArchivioScelto()) {
+        return;
+    }
+    const QString archivio = ui_->List1->selectedItems().constFirst()->text();
+    const QString barra = Percorsi::Separatore();
+    stato_.CartellaModelli = Percorsi::Risolve(archivio + barra + CartellaIni + barra);
+    ElencaModelli();
+}
+
+void SelezioneArchivifrm::List2_Click()
+{
+    if (ModelloSelezionato()) {
+        stato_.Aperto.NomeFile =
+            ui_->List2->selectedItems().constFirst()->text() + ElencoModelli::Estensione;
+    }
+}
+
+void SelezioneArchivifrm::Apri_Click()
+{
+    if (!ArchivioScelto()) {
+        Messaggi::Mostra(this, QStringLiteral("Selezionare una cartella"));
+        return;
+    }
+    if (!ModelloSelezionato()) {
+        Messaggi::Mostra(this, QStringLiteral("Selezionare un modello"));
+        return;
+    }
+    Consegna();
+}
+
+void SelezioneArchivifrm::Image1_Click()
+{
+    ApriManuale(ChiaveManuale);
+}
+
+bool SelezioneArchivifrm::ArchivioScelto() const
+{
+    return !ui_->List1->selectedItems().isEmpty();
+}
+
+bool SelezioneArchivifrm::ModelloSelezionato() const
+{
+    return !ui_->List2->selectedItems().isEmpty();
+}
+
+void SelezioneArchivifrm::Consegna()
+{
+    riapertura_ = true;
+    close();
+    emit ModelloScelto();
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+#include "platform/IstanzaUnica.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace Ui {
+class SelezioneArchivifrm;
+}
+
+/// The start window and catalogue of models: the user picks an archive, then opens one of its
+/// models or makes a new one. It lives as long as the program and holds the lock of the one running
+/// instance.
+class SelezioneArchivifrm : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit SelezioneArchivifrm(StatoProgramma &stato, QWidget *padre = nullptr);
+    ~SelezioneArchivifrm() override;
+
+    /// The start-up steps. datiIndicati, when not empty, stands in for Vastrel's setting of the
+    /// data folder. False when the program must end; the user has been told why.
+    bool Form_Load(const QString &datiIndicati);
+
+signals:
+    /// A model was opened or created: CartellaModelli and Aperto.NomeFile are set and the window
+    /// has closed itself.
+    void ModelloScelto();
+
+protected:
+    /// Shown again after the editor, it lists the archive's models afresh.
+    void showEvent(QShowEvent *evento) override;
+
+private:
+    /// What the user asks to create.
+    struct Richiesta
+    {
+        QString fileTipo; ///< file to copy, in the models folder
+        QString testo;    ///< first part of the request for a name
+        QString nomeProposto;
+    };
+
+    void CollegaSegnali();
+    void PosizionaFinestra();
+    bool LeggeCartellaDati(const QString &datiIndicati);
+    void ElencaArchivi();
+    void SelezionaArchivioPredefinito();
+    void ElencaModelli();
+    void RiprendeModelli();
+
+    void List1_Click();
+    void List2_Click();
+    void Apri_Click();
+    void Nuovo_Click();
+    void Image1_Click();
+
+    bool ArchivioScelto() const;
+    bool ModelloSelezionato() const;
+    std::optional<Richiesta> RichiestaScelta();
+    QString ChiedeNome(const Richiesta &richiesta);
+    bool NomeAccettato(const QString &nome);
+    bool SovrascritturaAccettata(const QString &nuovoNome);
+    bool Esiste(const QString &percorso);
+    void Consegna();
+
+    StatoProgramma &stato_;
+    std::unique_ptr<Ui::SelezioneArchivifrm> ui_;
+    IstanzaUnica istanza_;
+    bool riapertura_ = false; ///< the next showing follows the editor's closing
+};

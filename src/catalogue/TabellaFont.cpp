@@ -1,0 +1,12 @@
+#include "catalogue/TabellaFont.h"
+
+#include "platform/Messaggi.h"
+#include "platform/Stampanti.h"
+
+void RiempieElencoFont(QWidget *padre, const QStringList &font, QStringList &elenco)
+{
+    elenco = font.mid(0, Stampanti::FontAlMassimo);
+    if (font.size() > Stampanti::FontAlMassimo) {
+        Messaggi::Mostra(padre, QStringLiteral("troppi fonts installati"));
+    }
+}
