@@ -44,14 +44,18 @@ QByteArray Ansi::InByte(QStringView testo)
 
 void Ansi::Aggiunge(QByteArray &byte, QStringView testo)
 {
+    const qsizetype inizio = byte.size();
+    byte.resize(inizio + testo.size());
+    char *posto = byte.data() + inizio;
     for (qsizetype i = 0; i < testo.size(); ++i) {
         const int valore = ByteDi(testo[i].unicode());
-        byte.append(valore == Assente ? '?' : static_cast<char>(valore));
+        *posto++ = valore == Assente ? '?' : static_cast<char>(valore);
         // A pair of surrogates is one character to the reader, hence one "?".
         if (testo[i].isHighSurrogate() && i + 1 < testo.size() && testo[i + 1].isLowSurrogate()) {
             ++i;
         }
     }
+    byte.truncate(posto - byte.constData());
 }
 
 bool Ansi::Rappresentabile(QChar carattere)

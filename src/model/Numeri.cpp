@@ -5,6 +5,8 @@
 #include <QVarLengthArray>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -115,10 +117,20 @@ private:
 /// The value with at most so many significant digits, and the decimal separator of the locale.
 QString Testo(double valore, int cifre, const QLocale &locale)
 {
-    const double scrivibile = std::clamp(valore, -MassimoScrivibile, MassimoScrivibile);
     // Adding 0 turns a negative zero into the plain one, which is what its text must be.
-    QString testo = QString::number(scrivibile + 0.0, 'g', cifre).toUpper();
-    testo.replace(u'.', locale.decimalPoint());
+    const double scrivibile = std::clamp(valore, -MassimoScrivibile, MassimoScrivibile) + 0.0;
+    // Sign, digits, point, up to five zeros before the digits, or an exponent.
+    std::array<char, 32> ascii{};
+    const auto [fine, esito] = std::to_chars(ascii.data(), ascii.data() + ascii.size(), scrivibile,
+                                             std::chars_format::general, cifre);
+    Q_ASSERT(esito == std::errc{});
+    QString testo(fine - ascii.data(), Qt::Uninitialized);
+    std::transform(ascii.data(), fine, testo.begin(),
+                   [](char c) { return c == 'e' ? QChar(u'E') : QChar(QLatin1Char(c)); });
+    const qsizetype punto = testo.indexOf(u'.');
+    if (punto >= 0) {
+        testo.replace(punto, 1, locale.decimalPoint());
+    }
     return testo;
 }
 
