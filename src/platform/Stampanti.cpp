@@ -72,6 +72,9 @@ std::unique_ptr<QPrinter> Stampanti::Predefinita()
         throw ErroreSistema(ErroreSistema::Stampante);
     }
     stampante->setFullPage(false);
+    // A new printer object keeps 10 points free even where the printer could reach further.
+    const QPageLayout pagina = stampante->pageLayout();
+    stampante->setPageMargins(pagina.minimumMargins(), pagina.units());
     return stampante;
 }
 

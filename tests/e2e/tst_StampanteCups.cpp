@@ -1,0 +1,292 @@
+#include "print/FoglioDiProva.h"
+#include "support/CodaDiStampa.h"
+#include "support/Errori.h"
+
+#include <QPrinterInfo>
+#include <QTest>
+
+#include <optional>
+
+using namespace ImmaginiDiProva;
+
+namespace {
+
+constexpr double MillimetriPerPunto = 25.4 / 72;
+
+const QString Prova = QStringLiteral("Prova");
+const QString Stretta = QStringLiteral("Stretta");
+
+} // namespace
+
+/// The test print on a real print queue, measured on the sheet that comes out of it.
+class tst_StampanteCups : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void areaStampabile_data();
+    void areaStampabile();
+    void foglioNormale_data();
+    void foglioNormale();
+    void modelloPiuGrandeDelFoglio();
+    void immagineMancante();
+    void retino();
+    void nomeDelLavoro();
+    void senzaPredefinita();
+    void svanitaPrimaDiStampare();
+    void svanitaMentreStampa();
+    void serverMorto();
+
+private:
+    /// Prints and gives the only sheet back.
+    LettorePdf Stampa(FoglioDiProva &foglio);
+    LettorePdf UnicoFoglio();
+
+    std::optional<CodaDiStampa> coda_;
+};
+
+void tst_StampanteCups::initTestCase()
+{
+    if (!CodaDiStampa::Installata()) {
+        QSKIP("CUPS and its PDF printer (packages cups, printer-driver-cups-pdf) are missing");
+    }
+    try {
+        coda_.emplace();
+    } catch (const std::exception &errore) {
+        QFAIL(errore.what());
+    }
+    qputenv("CUPS_SERVER", coda_->Server().toUtf8());
+    qunsetenv("LPDEST");
+    qunsetenv("PRINTER");
+}
+
+void tst_StampanteCups::init()
+{
+    if (coda_) {
+        coda_->Aggiunge(Prova, {});
+        coda_->Aggiunge(Stretta, {10.3, 7.6, 20.9, 30.2});
+        coda_->Predefinita(Prova);
+    }
+}
+
+LettorePdf tst_StampanteCups::UnicoFoglio()
+{
+    const QStringList fogli = coda_->Fogli();
+    if (fogli.size() != 1) {
+        qFatal("%d sheets instead of one", int(fogli.size()));
+    }
+    return LettorePdf(fogli.first());
+}
+
+LettorePdf tst_StampanteCups::Stampa(FoglioDiProva &foglio)
+{
+    const auto stampante = Stampanti::Predefinita();
+    StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
+                  [&](const QString &testo) { foglio.Avvisi.append(testo); });
+    return UnicoFoglio();
+}
+
+void tst_StampanteCups::areaStampabile_data()
+{
+    QTest::addColumn<QString>("coda");
+    QTest::addColumn<QRectF>("punti");
+    QTest::newRow("whole points") << Prova << QRectF(12, 14, 595 - 24, 842 - 28);
+    QTest::newRow("fractions of a point")
+        << Stretta << QRectF(10.3, 7.6, 595 - 10.3 - 20.9, 842 - 7.6 - 30.2);
+}
+
+void tst_StampanteCups::areaStampabile()
+{
+    QFETCH(QString, coda);
+    QFETCH(QRectF, punti);
+    coda_->Predefinita(coda);
+    const auto stampante = Stampanti::Predefinita();
+    QCOMPARE(stampante->printerName(), coda);
+    const QRectF area = stampante->pageRect(QPrinter::Millimeter);
+    const QRectF attesa(punti.topLeft() * MillimetriPerPunto, punti.size() * MillimetriPerPunto);
+    QVERIFY2(Vicini(area.left(), attesa.left()) && Vicini(area.top(), attesa.top()), Testo(area));
+    // The description's sheet is rounded to whole points, the printer object's is a true A4.
+    QVERIFY2(Vicini(area, attesa, 0.15), Testo(area));
+}
+
+void tst_StampanteCups::foglioNormale_data()
+{
+    QTest::addColumn<QString>("coda");
+    QTest::addColumn<QPointF>("angolo");
+    QTest::newRow("whole points") << Prova << QPointF(12, 14) * MillimetriPerPunto;
+    QTest::newRow("fractions of a point") << Stretta << QPointF(10.3, 7.6) * MillimetriPerPunto;
+}
+
+void tst_StampanteCups::foglioNormale()
+{
+    QFETCH(QString, coda);
+    QFETCH(QPointF, angolo);
+    coda_->Predefinita(coda);
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("HHH"), 30, 40, 11);
+    Campo &scuro = foglio.ConCampo(QStringLiteral("B"), QStringLiteral("HHH"), 30, 60, 20);
+    scuro.Grassetto = Vero;
+    foglio.ConCornice({50, 100, 100, 100}, 1.5);
+    foglio.ConCornice({50, 220, 100, 10}, 2.2, 12);
+    foglio.ConImmagine(QStringLiteral("a.bmp"), InFormato(Tinta({9, 9}, qRgb(0, 0, 255)), "bmp"),
+                       {100, 30, 40, 25});
+    foglio.ConCornice({20, 250, 30, 8}, 2.9, 14);
+    foglio.ConImmagine(QStringLiteral("b.bmp"), InFormato(Tinta({9, 9}, qRgb(0, 255, 255)), "bmp"),
+                       {30, 245, 10, 15});
+    const LettorePdf pdf = Stampa(foglio);
+    QCOMPARE(pdf.Pagine(), 1);
+    QVERIFY(Vicini(pdf.Foglio().width(), 210, 0.3) && Vicini(pdf.Foglio().height(), 297, 0.3));
+
+    const QRectF quadro =
+        pdf.Inchiostro(QRectF(angolo + QPointF(45, 95), QSizeF(110, 110))).translated(-angolo);
+    QVERIFY2(Vicini(quadro, QRectF(50, 100, 100.5, 100.5)), Testo(quadro));
+    const QRectF linea =
+        pdf.Inchiostro(QRectF(angolo + QPointF(45, 215), QSizeF(110, 20))).translated(-angolo);
+    QVERIFY2(Vicini(linea, QRectF(50, 220, 100, 0.2)), Testo(linea));
+    const QRectF figura =
+        pdf.Inchiostro(QRectF(angolo + QPointF(95, 25), QSizeF(50, 40))).translated(-angolo);
+    QVERIFY2(Vicini(figura, QRectF(100, 30, 40, 25)), Testo(figura));
+    // Text loses its letters' names on the way through PostScript, so its ink is measured: capitals
+    // of Arial are 0.688 em high, stand 0.905 em below the top of the line and begin 0.079 em in.
+    const double em = 11 * MillimetriPerPunto;
+    const QRectF campo =
+        pdf.Inchiostro(QRectF(angolo + QPointF(28, 38), QSizeF(20, 8))).translated(-angolo);
+    QVERIFY2(Vicini(campo.left(), 30 + 0.079 * em) && Vicini(campo.bottom(), 40 + 0.905 * em) &&
+                 Vicini(campo.height(), 0.688 * em),
+             Testo(campo));
+    const double emScuro = 20 * MillimetriPerPunto;
+    const QRectF lettere =
+        pdf.Inchiostro(QRectF(angolo + QPointF(28, 58), QSizeF(60, 14))).translated(-angolo);
+    QVERIFY2(Vicini(lettere.height(), 0.688 * emScuro), Testo(lettere));
+    QVERIFY2(Vicini(lettere.bottom(), 60 + 0.905 * emScuro), Testo(lettere));
+    // The stem of a bold H is 0.14 em wide, a normal one's 0.09.
+    const QRectF asta =
+        pdf.Inchiostro(QRectF(angolo + lettere.topLeft(), QSizeF(0.3 * emScuro, 0.2 * emScuro)));
+    QVERIFY2(Vicini(asta.width(), 0.14 * emScuro), Testo(asta));
+
+    const auto colore = [&](double x, double y) {
+        return pdf.Colore(angolo.x() + x, angolo.y() + y);
+    };
+    QCOMPARE(colore(120, 40), qRgb(0, 0, 255));
+    QCOMPARE(colore(35, 250.5), qRgb(0, 255, 0)); // cyan AND yellow
+    QCOMPARE(colore(25, 250.5), qRgb(255, 255, 0));
+    QCOMPARE(colore(35, 247), qRgb(0, 255, 255));
+}
+
+void tst_StampanteCups::modelloPiuGrandeDelFoglio()
+{
+    FoglioDiProva foglio;
+    foglio.ConCornice({50, 50, 100, 100}, 1);
+    foglio.ConCornice({100, 160, 240, 350}, 1); // goes far beyond A4
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("fuori"), 235, 340);
+    const LettorePdf pdf = Stampa(foglio);
+    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    const QRectF quadro =
+        pdf.Inchiostro(QRectF(angolo + QPointF(45, 45), QSizeF(110, 110))).translated(-angolo);
+    QVERIFY2(Vicini(quadro, QRectF(50, 50, 100.3, 100.3)), Testo(quadro));
+    QCOMPARE(foglio.Avvisi, (QStringList{QStringLiteral("x"), QStringLiteral("y")}));
+    QVERIFY(Vicini(pdf.Foglio().width(), 210, 0.3));
+    QCOMPARE(pdf.Pagine(), 1);
+}
+
+void tst_StampanteCups::immagineMancante()
+{
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("resto"), 10, 10);
+    foglio.ConImmagine(QStringLiteral("manca.jpg"), {}, {10, 30, 10, 10});
+    foglio.ConImmagine(QStringLiteral("c.bmp"), InFormato(Tinta({9, 9}, 0), "bmp"),
+                       {50, 30, 10, 10});
+    const LettorePdf pdf = Stampa(foglio);
+    QCOMPARE(foglio.Avvisi.size(), 1);
+    QVERIFY(foglio.Avvisi.first().startsWith(QLatin1String("StampaImmagine: ")));
+    QVERIFY(foglio.Avvisi.first().contains(QLatin1String("ERRORE 53")));
+    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    QVERIFY(!pdf.Inchiostro(QRectF(angolo + QPointF(10, 10), QSizeF(20, 5))).isEmpty());
+    QCOMPARE(pdf.Colore(60, 40), qRgb(0, 0, 0));
+}
+
+void tst_StampanteCups::retino()
+{
+    const auto stampante = Stampanti::Predefinita();
+    StampaRetino(*stampante);
+    const LettorePdf pdf = UnicoFoglio();
+    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    // The grid lines at 20 and at 180 mm, and the numbered tick at 100 mm.
+    for (const double x : {20.0, 180.0}) {
+        const QRectF linea =
+            pdf.Inchiostro(QRectF(angolo + QPointF(x - 2, 32), QSizeF(4, 4))).translated(-angolo);
+        QVERIFY2(Vicini(linea.center().x(), x), Testo(linea));
+    }
+    const QRectF tacca =
+        pdf.Inchiostro(QRectF(angolo + QPointF(99, 1), QSizeF(2, 1))).translated(-angolo);
+    QVERIFY2(Vicini(tacca.center().x(), 100), Testo(tacca));
+}
+
+void tst_StampanteCups::nomeDelLavoro()
+{
+    FoglioDiProva foglio;
+    foglio.Aperto.NomeFile = QStringLiteral("Fattura 2026.Mod");
+    const auto stampante = Stampanti::Predefinita();
+    StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false, [](const QString &) {});
+    QVERIFY(coda_->Fogli().value(0).contains(QLatin1String("Fattura")));
+}
+
+void tst_StampanteCups::senzaPredefinita()
+{
+    coda_->Toglie(Prova);
+    coda_->Toglie(Stretta);
+    QCOMPARE(ErroreDi([] { Stampanti::Predefinita(); }), int(ErroreSistema::Stampante));
+    // The program goes on, and finds the printer when there is one again.
+    coda_->Aggiunge(Prova, {});
+    QCOMPARE(ErroreDi([] { Stampanti::Predefinita(); }), int(ErroreSistema::Stampante));
+    coda_->Predefinita(Prova);
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("ancora"), 10, 10);
+    QVERIFY(!Stampa(foglio).Inchiostro().isEmpty());
+}
+
+void tst_StampanteCups::svanitaPrimaDiStampare()
+{
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("a"), 500, 10);
+    const auto stampante = Stampanti::Predefinita();
+    coda_->Toglie(Prova);
+    QCOMPARE(ErroreDi([&] {
+                 StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
+                               [&](const QString &testo) { foglio.Avvisi.append(testo); });
+             }),
+             int(ErroreSistema::Stampante));
+    QVERIFY(foglio.Avvisi.isEmpty());
+    QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampanteCups::svanitaMentreStampa()
+{
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("a"), 500, 10);
+    const auto stampante = Stampanti::Predefinita();
+    QCOMPARE(ErroreDi([&] {
+                 StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
+                               [&](const QString &) { coda_->Toglie(Prova); });
+             }),
+             int(ErroreSistema::Stampante));
+    QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampanteCups::serverMorto()
+{
+    FoglioDiProva foglio;
+    const auto stampante = Stampanti::Predefinita();
+    coda_.reset();
+    QCOMPARE(ErroreDi([&] {
+                 StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
+                               [](const QString &) {});
+             }),
+             int(ErroreSistema::Stampante));
+    QCOMPARE(ErroreDi([] { Stampanti::Predefinita(); }), int(ErroreSistema::Stampante));
+}
+
+QTEST_MAIN(tst_StampanteCups)
+#include "tst_StampanteCups.moc"

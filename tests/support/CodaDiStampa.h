@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// A print server of its own with real queues, whose printed sheets arrive as PDF files in a
+/// folder. Server, spool and sheets live in a temporary folder and end with the object; the
+/// system's own print server is not touched. For POSIX systems with CUPS and its PDF printer; needs
+/// root, like every print server that starts that printer.
+class CodaDiStampa
+{
+public:
+    /// Margins that no printer can reach, in points.
+    struct Bordi
+    {
+        double Sinistra = 12;
+        double Sopra = 14;
+        double Destra = 12;
+        double Sotto = 14;
+    };
+
+    /// True when the server and the PDF printer are installed at all.
+    static bool Installata();
+
+    /// Starts the server; throws std::runtime_error with the reason when it does not come up.
+    CodaDiStampa();
+    ~CodaDiStampa();
+    Q_DISABLE_COPY_MOVE(CodaDiStampa)
+
+    /// What the environment variable CUPS_SERVER of a printing program must hold.
+    QString Server() const;
+    /// The folder in which the sheets arrive.
+    QString CartellaFogli() const;
+
+    /// Adds a queue for A4 sheets. Throws std::runtime_error.
+    void Aggiunge(const QString &nome, const Bordi &bordi);
+    void Predefinita(const QString &nome);
+    void Toglie(const QString &nome);
+
+    /// Waits until no job is left, then names the sheets that have come since the last call, oldest
+    /// first. Throws std::runtime_error when the queue does not come to rest.
+    QStringList Fogli();
+
+private:
+    void Prepara();
+    QByteArray Comando(const QString &programma, const QStringList &argomenti) const;
+    QString In(const QString &nome) const { return dir_.filePath(nome); }
+
+    QTemporaryDir dir_;
+    QString istanza_;      ///< name of the PDF printer's own settings
+    QString impostazioni_; ///< their file, which that printer only looks for in the system's folder
+    QProcess server_;
+    QStringList visti_;
+};
