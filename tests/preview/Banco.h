@@ -107,7 +107,7 @@ public:
     }
     void CliccaDueVolte(QPointF punto)
     {
-        Clicca(punto);
+        Muove(punto);
         QTest::mouseDClick(frm->windowHandle(), Qt::LeftButton, {}, Locale(punto));
     }
     /// Press at da, move through a few points to a, release there.
