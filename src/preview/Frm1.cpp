@@ -54,7 +54,7 @@ double ZoomScritto(const QString &testo)
         return Numeri::Val(testo);
     } catch (const ErroreSistema &) {
         // Beyond a double is beyond the range, which the box corrects without a message.
-        return testo.trimmed().startsWith(u'-') ? GeometriaAnteprima::ZoomMinimo - 1
+        return testo.trimmed().startsWith(u'-') ? -GeometriaAnteprima::ZoomMinimo
                                                 : GeometriaAnteprima::ZoomMassimo + 1;
     }
 }
