@@ -24,24 +24,25 @@ bool Guardia(QWidget *padre, Azione &&azione)
     }
 }
 
-/// Connects a signal to a member function of a window, run inside the guard. The member takes
-/// either the signal's arguments or none.
+/// Connects a signal to a member function of a window, or to a function object that lives with it,
+/// run inside the guard. It takes either the signal's arguments or none.
 template <typename Mittente, typename... Argomenti, typename Classe, typename Ricevente,
           typename Slot>
 QMetaObject::Connection Collega(const Mittente *mittente, void (Classe::*segnale)(Argomenti...),
                                 Ricevente *ricevente, Slot slot)
 {
-    return QObject::connect(mittente, segnale, ricevente,
-                            [ricevente, slot](Argomenti... argomenti) {
-                                Guardia(ricevente, [&] {
-                                    if constexpr (std::is_invocable_v<Slot, Ricevente *,
-                                                                      Argomenti...>) {
-                                        std::invoke(slot, ricevente, argomenti...);
-                                    } else if constexpr (std::is_invocable_v<Slot, Ricevente *>) {
-                                        std::invoke(slot, ricevente);
-                                    } else {
-                                        slot();
-                                    }
-                                });
-                            });
+    return QObject::connect(
+        mittente, segnale, ricevente, [ricevente, slot](Argomenti... argomenti) {
+            Guardia(ricevente, [&] {
+                if constexpr (std::is_invocable_v<Slot, Ricevente *, Argomenti...>) {
+                    std::invoke(slot, ricevente, argomenti...);
+                } else if constexpr (std::is_invocable_v<Slot, Argomenti...>) {
+                    slot(argomenti...);
+                } else if constexpr (std::is_invocable_v<Slot, Ricevente *>) {
+                    std::invoke(slot, ricevente);
+                } else {
+                    slot();
+                }
+            });
+        });
 }

@@ -1,6 +1,8 @@
 #include "platform/Messaggi.h"
 
+#include <QCloseEvent>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -30,6 +32,56 @@ void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icon
     riquadro.exec();
 }
 
+/// A question with the system's buttons in Italian.
+class RiquadroDomanda : public QMessageBox
+{
+public:
+    RiquadroDomanda(QWidget *padre, const QString &testo, StandardButtons bottoni)
+        : QMessageBox(QMessageBox::Question, Messaggi::Titolo, testo, bottoni, padre)
+    {
+        setTextFormat(Qt::PlainText);
+        Intitola(Yes, QStringLiteral("&Sì"));
+        Intitola(No, QStringLiteral("&No"));
+        Intitola(Cancel, QStringLiteral("Annulla"));
+    }
+
+    /// Neither Escape nor the close box answers: a No that nobody chose would lose work.
+    void VuoleRisposta() { vuoleRisposta_ = true; }
+
+    void reject() override
+    {
+        if (!vuoleRisposta_) {
+            QMessageBox::reject();
+        }
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent *evento) override
+    {
+        if (!vuoleRisposta_ || evento->key() != Qt::Key_Escape) {
+            QMessageBox::keyPressEvent(evento);
+        }
+    }
+    void closeEvent(QCloseEvent *evento) override
+    {
+        if (vuoleRisposta_) {
+            evento->ignore();
+        } else {
+            QMessageBox::closeEvent(evento);
+        }
+    }
+
+private:
+    void Intitola(StandardButton quale, const QString &titolo)
+    {
+        if (QAbstractButton *bottone = button(quale)) {
+            bottone->setText(titolo);
+        }
+    }
+
+    bool vuoleRisposta_ = false;
+};
+
 } // namespace
 
 void Messaggi::Mostra(QWidget *padre, const QString &testo)
@@ -47,14 +99,36 @@ bool Messaggi::Domanda(QWidget *padre, const QString &testo, Risposta predefinit
     if (soloErroreStandard) {
         return predefinita == Risposta::Si;
     }
-    QMessageBox riquadro(QMessageBox::Question, Titolo, testo, QMessageBox::Yes | QMessageBox::No,
-                         padre);
-    riquadro.setTextFormat(Qt::PlainText);
-    riquadro.button(QMessageBox::Yes)->setText(QStringLiteral("&Sì"));
-    riquadro.button(QMessageBox::No)->setText(QStringLiteral("&No"));
+    RiquadroDomanda riquadro(padre, testo, QMessageBox::Yes | QMessageBox::No);
     riquadro.setDefaultButton(predefinita == Risposta::Si ? QMessageBox::Yes : QMessageBox::No);
-    riquadro.setEscapeButton(QMessageBox::No);
+    if (predefinita == Risposta::No) {
+        riquadro.setEscapeButton(QMessageBox::No);
+    } else {
+        riquadro.VuoleRisposta();
+    }
     return riquadro.exec() == QMessageBox::Yes;
+}
+
+Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &testo,
+                                              Scelta predefinita)
+{
+    if (soloErroreStandard) {
+        return Scelta::No;
+    }
+    RiquadroDomanda riquadro(padre, testo,
+                             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    riquadro.setDefaultButton(predefinita == Scelta::Si   ? QMessageBox::Yes
+                              : predefinita == Scelta::No ? QMessageBox::No
+                                                          : QMessageBox::Cancel);
+    riquadro.setEscapeButton(QMessageBox::Cancel);
+    switch (riquadro.exec()) {
+    case QMessageBox::Yes:
+        return Scelta::Si;
+    case QMessageBox::No:
+        return Scelta::No;
+    default:
+        return Scelta::Annulla;
+    }
 }
 
 std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &titolo,

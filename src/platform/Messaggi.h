@@ -6,8 +6,8 @@
 
 class QWidget;
 
-/// Message boxes and questions: title = the program's name, Italian buttons on every system. Without
-/// windows (the command-line printing) the texts go to standard error instead.
+/// Message boxes and questions: title = the program's name, Italian buttons on every system.
+/// Without windows (the command-line printing) the texts go to standard error instead.
 namespace Messaggi {
 
 inline constexpr QLatin1String Titolo("Plakera");
@@ -19,8 +19,14 @@ void Mostra(QWidget *padre, const QString &testo);
 /// OK button only, critical icon.
 void MostraCritico(QWidget *padre, const QString &testo);
 
-/// Yes/No; the window's close box and Escape answer No. Without windows: the default.
+/// Yes/No. Where No is the default, the close box and Escape answer No; otherwise they do nothing,
+/// because a No that nobody chose would lose work. Without windows: the default.
 bool Domanda(QWidget *padre, const QString &testo, Risposta predefinita);
+
+enum class Scelta { Si, No, Annulla };
+
+/// Yes/No/Cancel; the window's close box and Escape cancel. Without windows: No.
+Scelta DomandaAnnullabile(QWidget *padre, const QString &testo, Scelta predefinita);
 
 /// A text-input box; nothing when the user cancels (always nothing without windows).
 std::optional<QString> ChiedeTesto(QWidget *padre, const QString &titolo, const QString &richiesta,

@@ -56,7 +56,7 @@ Robot &Robot::Digita(const QString &testo)
 
 Robot &Robot::Annulla()
 {
-    return Agisce([](QDialog *d) { d->reject(); });
+    return Agisce([](QDialog *d) { d->done(QDialog::Rejected); });
 }
 
 Robot &Robot::Agisce(std::function<void(QDialog *)> azione)
@@ -68,36 +68,39 @@ Robot &Robot::Agisce(std::function<void(QDialog *)> azione)
 void Robot::Guarda()
 {
     auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (dialogo == nullptr || !dialogo->isVisible()) {
-        ultimo_ = nullptr;
+    if (dialogo == nullptr || !dialogo->isVisible() || visti_.contains(dialogo)) {
         return;
     }
-    if (dialogo == ultimo_) {
+    visti_.append(dialogo);
+    // The same object shown again, or another one at the same address, is a new box.
+    connect(dialogo, &QDialog::finished, this, [this, dialogo] { visti_.removeAll(dialogo); });
+    connect(dialogo, &QObject::destroyed, this, [this, dialogo] { visti_.removeAll(dialogo); });
+    Annota(dialogo);
+    if (risposte_.isEmpty()) {
+        ++inattesi_;
+        // Also a question that neither Escape nor its close box ends must not hold the test up.
+        dialogo->done(QDialog::Rejected);
         return;
     }
-    ultimo_ = dialogo;
+    // Queued, because an answer may open a further box, and this timer does not fire while it is
+    // being handled.
+    QMetaObject::invokeMethod(
+        dialogo, [dialogo, risposta = risposte_.takeFirst()] { risposta(dialogo); },
+        Qt::QueuedConnection);
+}
+
+void Robot::Annota(QDialog *dialogo)
+{
     titoli_.append(dialogo->windowTitle());
     if (const auto *riquadro = qobject_cast<QMessageBox *>(dialogo)) {
         testi_.append(riquadro->text());
-        predefiniti_.append(
-            riquadro->defaultButton() != nullptr ? riquadro->defaultButton()->text() : QString());
+        predefiniti_.append(riquadro->defaultButton() != nullptr ? riquadro->defaultButton()->text()
+                                                                 : QString());
     } else if (const auto *ingresso = qobject_cast<QInputDialog *>(dialogo)) {
         testi_.append(ingresso->labelText());
         predefiniti_.append(ingresso->textValue());
     } else {
         testi_.append(dialogo->objectName());
         predefiniti_.append(QString());
-    }
-    if (risposte_.isEmpty()) {
-        ++inattesi_;
-        dialogo->reject();
-        return;
-    }
-    const auto risposta = risposte_.takeFirst();
-    // An answer may open a further box and run its own event loop: a box opened in the same place
-    // of memory must count as new.
-    risposta(dialogo);
-    if (QApplication::activeModalWidget() != dialogo) {
-        ultimo_ = nullptr;
     }
 }

@@ -37,12 +37,13 @@ public:
 
 private:
     void Guarda();
+    void Annota(QDialog *dialogo);
 
     QTimer timer_;
     QList<std::function<void(QDialog *)>> risposte_;
     QStringList testi_;
     QStringList titoli_;
     QStringList predefiniti_;
-    QDialog *ultimo_ = nullptr;
+    QList<const QObject *> visti_;
     int inattesi_ = 0;
 };

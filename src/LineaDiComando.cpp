@@ -1,0 +1,140 @@
+#include "LineaDiComando.h"
+
+#include "base/ErroreSistema.h"
+#include "editor/Form2.h"
+#include "model/FileModello.h"
+#include "model/Numeri.h"
+#include "platform/Guardia.h"
+#include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
+#include "platform/Stampanti.h"
+#include "preview/Frm1.h"
+#include "print/StampaProva.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QPixmap>
+
+namespace {
+
+struct Opzioni
+{
+    QCommandLineOption aiuto{{QStringLiteral("h"), QStringLiteral("help")},
+                             QStringLiteral("Mostra questo aiuto.")};
+    QCommandLineOption versione{{QStringLiteral("v"), QStringLiteral("version")},
+                                QStringLiteral("Mostra la versione.")};
+    QCommandLineOption dati{
+        QStringLiteral("dati"),
+        QStringLiteral("Usa questa cartella dati al posto di quella di Vastrel."),
+        QStringLiteral("cartella")};
+    QCommandLineOption modello{QStringLiteral("modello"),
+                               QStringLiteral("Modello da stampare senza aprire finestre."),
+                               QStringLiteral("file")};
+    QCommandLineOption pdf{QStringLiteral("pdf"),
+                           QStringLiteral("Stampa di prova del modello in un file PDF."),
+                           QStringLiteral("file")};
+    QCommandLineOption anteprima{QStringLiteral("anteprima"),
+                                 QStringLiteral("Salva l'anteprima del modello in un file PNG."),
+                                 QStringLiteral("file")};
+    QCommandLineOption nomi{QStringLiteral("nomi"),
+                            QStringLiteral("Stampa il nome dei campi invece del testo di prova.")};
+};
+
+QString Errore(const QString &testo)
+{
+    return QStringLiteral("plakera: ") + testo + u'\n';
+}
+
+/// The contradiction between the options, if any.
+QString Contraddizione(const Richieste &richieste)
+{
+    if (richieste.SenzaFinestre() && richieste.modello.isEmpty()) {
+        return QStringLiteral("--pdf e --anteprima vogliono un --modello");
+    }
+    if (!richieste.SenzaFinestre() && !richieste.modello.isEmpty()) {
+        return QStringLiteral("--modello vuole --pdf o --anteprima");
+    }
+    return {};
+}
+
+QString CartellaDi(const QString &percorso)
+{
+    return QFileInfo(percorso).absolutePath() + Percorsi::Separatore();
+}
+
+void StampaPdf(const Modello &modello, const QString &cartella, const Richieste &richieste)
+{
+    const auto stampante = Stampanti::SuPdf(richieste.pdf);
+    StampaModello(modello, cartella, *stampante, richieste.nomi,
+                  [](const QString &testo) { Messaggi::Mostra(nullptr, testo); });
+}
+
+void SalvaAnteprima(StatoProgramma &stato, const Richieste &richieste)
+{
+    Form2 editor(stato);
+    if (!editor.Form_Load()) {
+        return;
+    }
+    auto *foglio = editor.Anteprima()->findChild<QWidget *>(QStringLiteral("P1"));
+    if (!foglio->grab().save(richieste.anteprima, "PNG")) {
+        throw ErroreSistema(ErroreSistema::AccessoFile,
+                            QStringLiteral("impossibile scrivere ") + richieste.anteprima);
+    }
+}
+
+} // namespace
+
+LetturaArgomenti LeggeArgomenti(const QStringList &argomenti)
+{
+    const Opzioni opzioni;
+    QCommandLineParser lettore;
+    lettore.setApplicationDescription(
+        QStringLiteral("Plakera - Modelli stampa per gestionale Vastrel"));
+    lettore.addOptions({opzioni.aiuto, opzioni.versione, opzioni.dati, opzioni.modello, opzioni.pdf,
+                        opzioni.anteprima, opzioni.nomi});
+    if (!lettore.parse(argomenti)) {
+        return {std::nullopt, Errore(lettore.errorText()), 1};
+    }
+    if (lettore.isSet(opzioni.aiuto)) {
+        return {std::nullopt, lettore.helpText(), 0};
+    }
+    if (lettore.isSet(opzioni.versione)) {
+        return {std::nullopt, QStringLiteral("plakera " PLAKERA_VERSIONE "\n"), 0};
+    }
+    if (!lettore.positionalArguments().isEmpty()) {
+        return {std::nullopt,
+                Errore(QStringLiteral("argomento inatteso: ") +
+                       lettore.positionalArguments().constFirst()),
+                1};
+    }
+    Richieste richieste{lettore.value(opzioni.dati), lettore.value(opzioni.modello),
+                        lettore.value(opzioni.pdf), lettore.value(opzioni.anteprima),
+                        lettore.isSet(opzioni.nomi)};
+    if (const QString contraddizione = Contraddizione(richieste); !contraddizione.isEmpty()) {
+        return {std::nullopt, Errore(contraddizione), 1};
+    }
+    return {std::move(richieste), {}, 0};
+}
+
+int StampaSenzaFinestre(const Richieste &richieste)
+{
+    Messaggi::SoloErroreStandard();
+    Guardia(nullptr, [&] {
+        const QString percorso = Percorsi::Risolve(richieste.modello);
+        StatoProgramma stato;
+        stato.CartellaModelli = CartellaDi(percorso);
+        stato.Aperto.NomeFile = QFileInfo(percorso).fileName();
+        if (!richieste.pdf.isEmpty()) {
+            if (!FileModello::LeggeModello(stato.Aperto, percorso, [](const QString &testo) {
+                    Messaggi::Mostra(nullptr, testo);
+                })) {
+                return;
+            }
+            StampaPdf(stato.Aperto, stato.CartellaModelli, richieste);
+        }
+        if (!richieste.anteprima.isEmpty()) {
+            SalvaAnteprima(stato, richieste);
+        }
+    });
+    return Messaggi::Emessi() == 0 ? 0 : 1;
+}

@@ -1,0 +1,65 @@
+#include "Plakera.h"
+
+#include "catalogue/ApriManuale.h"
+#include "catalogue/SelezioneArchivifrm.h"
+#include "editor/Form2.h"
+#include "platform/Finestre.h"
+#include "platform/Guardia.h"
+#include "preview/Frm1.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+Plakera::Plakera(QObject *padre)
+    : QObject(padre)
+{
+    qApp->installEventFilter(this);
+}
+
+Plakera::~Plakera() = default;
+
+bool Plakera::Avvia(const QString &datiIndicati)
+{
+    scelta_ = std::make_unique<SelezioneArchivifrm>(stato_);
+    bool avviato = false;
+    if (!Guardia(nullptr, [&] { avviato = scelta_->Form_Load(datiIndicati); }) || !avviato) {
+        return false;
+    }
+    connect(scelta_.get(), &SelezioneArchivifrm::ModelloScelto, this, &Plakera::ApreEditor);
+    scelta_->show();
+    return true;
+}
+
+void Plakera::ApreEditor()
+{
+    editor_ = std::make_unique<Form2>(stato_);
+    bool caricato = false;
+    if (!Guardia(nullptr, [&] { caricato = editor_->Form_Load(); }) || !caricato) {
+        ChiudeEditor();
+        return;
+    }
+    connect(editor_.get(), &Form2::Chiuso, this, &Plakera::ChiudeEditor);
+    editor_->Anteprima()->show();
+    editor_->show();
+    editor_->activateWindow();
+}
+
+void Plakera::ChiudeEditor()
+{
+    scelta_->show();
+    // The editor may be the sender of the signal that brought us here.
+    if (editor_) {
+        editor_.release()->deleteLater();
+    }
+}
+
+bool Plakera::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (evento->type() == QEvent::KeyPress && oggetto->isWidgetType() &&
+        static_cast<QKeyEvent *>(evento)->key() == Qt::Key_F1) {
+        auto *controllo = static_cast<QWidget *>(oggetto);
+        Guardia(controllo->window(), [&] { ApriGuida(ArgomentoDi(controllo)); });
+        return true;
+    }
+    return QObject::eventFilter(oggetto, evento);
+}

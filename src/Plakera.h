@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+
+#include <QObject>
+
+#include <memory>
+
+class Form2;
+class SelezioneArchivifrm;
+
+/// The program: owns the open model, the font table and the windows, and wires them. The windows do
+/// not know each other: each says what happened, and Plakera reacts.
+class Plakera : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Plakera(QObject *padre = nullptr);
+    ~Plakera() override;
+
+    /// Loads and shows the start window. datiIndicati stands in for Vastrel's data folder when it
+    /// is not empty. False when the program must end; the reason has been shown.
+    bool Avvia(const QString &datiIndicati);
+
+protected:
+    /// F1 opens the help topic of the control that has the focus.
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
+
+private:
+    void ApreEditor();
+    void ChiudeEditor();
+
+    StatoProgramma stato_;
+    std::unique_ptr<SelezioneArchivifrm> scelta_;
+    std::unique_ptr<Form2> editor_;
+};

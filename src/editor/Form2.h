@@ -1,0 +1,110 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class CopiaRecupero;
+class FrmCampo;
+class FrmCarattere;
+class FrmElemento;
+class Frm1;
+class PaginaElementi;
+class PaginaRighe;
+class PaginaSfondo;
+class PaginaSpostamento;
+
+namespace Ui {
+class Form2;
+}
+
+/// The editor of the one open model: a strip across the top of the screen, with the preview below
+/// it. It owns the preview and opens the property dialogs.
+class Form2 : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit Form2(StatoProgramma &stato, QWidget *padre = nullptr);
+    ~Form2() override;
+
+    /// Reads the model and fills the lists and the preview. False when the model cannot be read
+    /// (the reader has reported it); the editor must then be closed.
+    bool Form_Load();
+
+    Frm1 *Anteprima() const { return anteprima_.get(); }
+
+    /// The modified flag.
+    bool Variato = false;
+
+    void Aggiungicampo_Click();
+    void AggiungiCornice_Click();
+    void AggiungiImmagine_Click();
+    void VariazioneCampo_Click();
+    void VariazioneCornice_Click();
+    void VariazioneImmagine_Click();
+    /// Index 0, the separator, opens nothing.
+    void ApreFrmCampo(int indice);
+    void ApreFrmCornice(int indice);
+    void ApreFrmImmagine(int indice);
+
+    /// Selects the font, or Arial after a message when the list lacks it, and the first size with
+    /// the same numeric value.
+    void SettaFont(FrmCarattere &dialogo, const QString &font, const QString &dimensione);
+    /// Selects the first catalogue entry whose mask, up to the blank, is the dialog's mask.
+    void SettaComboMask(FrmCampo &dialogo);
+
+    void Salva_Click();
+    /// Asks when Variato is set, and writes on Yes. False only when the writing failed (reported).
+    bool SalvareVariazioni();
+    void Elimina_Click();
+    void Stampa_Click();
+    void StampaRetino_Click();
+    void Command7_Click(); ///< delete all frames
+    void Image1_Click();
+    void SSTab1_Click();
+    /// Hides the selection markers and restacks images, frames and fields by area.
+    void PPPP();
+
+signals:
+    /// The editor has closed itself: the start window shows again.
+    void Chiuso();
+
+protected:
+    void closeEvent(QCloseEvent *evento) override;
+
+private:
+    void Collegamenti();
+    void CollegaAnteprima();
+    void CollegaDialogo(FrmElemento &dialogo);
+    PaginaElementi &Pagina(Genere genere) const;
+    void CreaPagine();
+    void MostraElementi(Genere genere);
+    void AccogliNuovo(Genere genere, int n, const QString &voce);
+    void ApreProprieta(Genere genere, int indice);
+    void Modifica(Genere genere);
+    void MostraDialogo(FrmElemento &dialogo);
+    void EliminaElemento(Genere genere, int n);
+    void SegnaVariato();
+    bool LeggeModello();
+    enum class Recupero { Nessuno, Ripreso, Annullato };
+    Recupero OffreRecupero();
+    bool PuoSovrascrivere();
+    void ModificaConclusa();
+    void SistemaFinestre();
+    bool Form_Unload();
+
+    std::unique_ptr<Ui::Form2> ui_;
+    StatoProgramma &stato_;
+    std::unique_ptr<Frm1> anteprima_;
+    std::array<PaginaElementi *, 3> pagineElementi_{};
+    PaginaRighe *righe_ = nullptr;
+    PaginaSpostamento *spostamento_ = nullptr;
+    PaginaSfondo *sfondo_ = nullptr;
+    std::unique_ptr<CopiaRecupero> copia_;
+    bool copiaMancata_ = false; ///< its failure has been shown
+    QString percorso_;          ///< the model's file, spelled as on disk
+    bool chiuso_ = false;
+};

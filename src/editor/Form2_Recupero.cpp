@@ -1,0 +1,85 @@
+// Reading the model, and the safety copies of unsaved work.
+
+#include "base/ErroreSistema.h"
+#include "editor/Form2.h"
+#include "model/CopiaRecupero.h"
+#include "model/FileModello.h"
+#include "platform/CartellaStato.h"
+#include "platform/Messaggi.h"
+
+#include <QLocale>
+
+bool Form2::LeggeModello()
+{
+    const bool letto = FileModello::LeggeModello(
+        stato_.Aperto, percorso_, [](const QString &testo) { Messaggi::Mostra(nullptr, testo); });
+    copia_ = std::make_unique<CopiaRecupero>(CartellaStato(), percorso_);
+    const Recupero recupero = OffreRecupero();
+    if (recupero == Recupero::Annullato || (!letto && recupero != Recupero::Ripreso)) {
+        return false;
+    }
+    copia_->Parte();
+    if (recupero == Recupero::Ripreso) {
+        Variato = true;
+        ModificaConclusa();
+    }
+    return true;
+}
+
+Form2::Recupero Form2::OffreRecupero()
+{
+    const QList<CopiaRecupero::Trovata> trovate = copia_->Cerca();
+    for (const CopiaRecupero::Trovata &trovata : trovate) {
+        QString domanda =
+            QStringLiteral("Il modello %1 ha modifiche non salvate del %2, rimaste da una chiusura "
+                           "imprevista.\nVuoi riprenderle?")
+                .arg(stato_.Aperto.NomeFile,
+                     QLocale(QLocale::Italian).toString(trovata.scritta, QLocale::ShortFormat));
+        if (trovata.fileCambiato) {
+            domanda += QStringLiteral("\n\nAttenzione: da allora il file è cambiato; riprendendo "
+                                      "queste modifiche e salvando, i cambiamenti andranno persi.");
+        }
+        const auto predefinita = trovata.fileCambiato ? Messaggi::Scelta::No : Messaggi::Scelta::Si;
+        switch (Messaggi::DomandaAnnullabile(nullptr, domanda, predefinita)) {
+        case Messaggi::Scelta::Si: {
+            const QString nome = stato_.Aperto.NomeFile;
+            stato_.Aperto = trovata.modello;
+            stato_.Aperto.NomeFile = nome;
+            return Recupero::Ripreso;
+        }
+        case Messaggi::Scelta::No:
+            break;
+        case Messaggi::Scelta::Annulla:
+            return Recupero::Annullato;
+        }
+    }
+    return Recupero::Nessuno;
+}
+
+void Form2::ModificaConclusa()
+{
+    if (!Variato || !copia_) {
+        return;
+    }
+    try {
+        copia_->Scrive(stato_.Aperto);
+    } catch (const ErroreSistema &errore) {
+        // Told once: the work itself goes on, and a box at every edit would stop it.
+        if (!copiaMancata_) {
+            copiaMancata_ = true;
+            Messaggi::Mostra(this, QStringLiteral("copia di recupero non scritta: ") +
+                                       errore.Messaggio());
+        }
+    }
+}
+
+bool Form2::PuoSovrascrivere()
+{
+    return !copia_->FileCambiato() ||
+           Messaggi::Domanda(
+               this,
+               QStringLiteral("Il file %1 è stato cambiato da un altro programma dopo "
+                              "l'apertura.\nLO VUOI SOSTITUIRE?")
+                   .arg(stato_.Aperto.NomeFile),
+               Messaggi::Risposta::No);
+}

@@ -1,0 +1,83 @@
+#include "editor/PaginaRighe.h"
+
+#include "editor/RigheSimulate.h"
+#include "editor/TestiEsplicativi.h"
+#include "model/Numeri.h"
+#include "platform/Guardia.h"
+#include "ui_PaginaRighe.h"
+
+#include <QSignalBlocker>
+
+PaginaRighe::PaginaRighe(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
+    : QWidget(padre)
+    , ui_(std::make_unique<Ui::PaginaRighe>())
+    , stato_(stato)
+    , anteprima_(anteprima)
+{
+    ui_->setupUi(this);
+    ui_->Text2->setPlainText(TestiEsplicativi::Righe());
+    Collegamenti();
+}
+
+PaginaRighe::~PaginaRighe() = default;
+
+void PaginaRighe::Collegamenti()
+{
+    Collega(ui_->ConfermaPosizioneRighe, &QPushButton::clicked, this,
+            &PaginaRighe::ConfermaPosizioneRighe_Click);
+    Collega(ui_->OptSimuloRighe, &QCheckBox::clicked, this, &PaginaRighe::OptSimuloRighe_Click);
+}
+
+void PaginaRighe::Mostra()
+{
+    // The boxes are read with "." as the decimal separator, so they are filled with it.
+    const auto testo = [](double valore) { return Numeri::NumeroPiano(valore, QLocale::c()); };
+    const ParametriRighe &righe = stato_.Aperto.Righe;
+    ui_->yInizio->setText(testo(righe.yInizio));
+    ui_->yFine->setText(testo(righe.yFine));
+    ui_->Interlinea->setText(testo(righe.Interlinea));
+    ui_->InterlineaDescr->setText(testo(righe.InterlineaDescr));
+    ui_->SeguePag->setText(righe.SeguePag);
+    ui_->OptSimuloRighe->setChecked(false);
+}
+
+void PaginaRighe::ConfermaPosizioneRighe_Click()
+{
+    const double yInizio = Numeri::Val(ui_->yInizio->text());
+    const double yFine = Numeri::Val(ui_->yFine->text());
+    const double interlinea = Numeri::Val(ui_->Interlinea->text());
+    const double interlineaDescr = Numeri::Val(ui_->InterlineaDescr->text());
+    ParametriRighe &righe = stato_.Aperto.Righe;
+    righe.yInizio = yInizio;
+    righe.yFine = yFine;
+    righe.Interlinea = interlinea;
+    righe.InterlineaDescr = interlineaDescr;
+    if (ui_->SeguePag->isModified()) {
+        righe.SeguePag = ui_->SeguePag->text();
+    }
+    emit Variato();
+    for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Campo); ++k) {
+        if (CampoDiRiga(stato_.Aperto.Campi[k])) {
+            stato_.Aperto.Campi[k].Y = righe.yInizio;
+            anteprima_.PosizionaCampo(k, true);
+        }
+    }
+    SimuloRighe();
+    emit ModificaConclusa();
+}
+
+void PaginaRighe::OptSimuloRighe_Click()
+{
+    ConfermaPosizioneRighe_Click();
+}
+
+void PaginaRighe::SimuloRighe()
+{
+    anteprima_.TogliRigheSimulate();
+    if (!ui_->OptSimuloRighe->isChecked()) {
+        return;
+    }
+    anteprima_.AggiungeRigheSimulate(RigheSimulate(stato_.Aperto, stato_.zoom, [this](int campo) {
+        return anteprima_.MisuraControllo(Genere::Campo, campo).width();
+    }));
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class Frm1;
+
+namespace Ui {
+class PaginaRighe;
+}
+
+/// The page "Posizione righe": the body-row area and its simulation on the preview.
+class PaginaRighe : public QWidget
+{
+    Q_OBJECT
+public:
+    PaginaRighe(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre = nullptr);
+    ~PaginaRighe() override;
+
+    /// Shows the model's values; the simulation is off in a freshly opened model.
+    void Mostra();
+
+    void ConfermaPosizioneRighe_Click();
+    void OptSimuloRighe_Click();
+    /// Removes the simulated rows and, when the box is ticked, draws them again.
+    void SimuloRighe();
+
+signals:
+    void Variato();
+    void ModificaConclusa();
+
+private:
+    void Collegamenti();
+
+    std::unique_ptr<Ui::PaginaRighe> ui_;
+    StatoProgramma &stato_;
+    Frm1 &anteprima_;
+};

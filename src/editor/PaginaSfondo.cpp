@@ -1,0 +1,230 @@
+#include "editor/PaginaSfondo.h"
+
+#include "base/ErroreSistema.h"
+#include "catalogue/Sfoglia.h"
+#include "editor/TestiEsplicativi.h"
+#include "model/Numeri.h"
+#include "platform/Finestre.h"
+#include "platform/Guardia.h"
+#include "platform/Immagini.h"
+#include "platform/Messaggi.h"
+#include "preview/Frm1.h"
+#include "ui_PaginaSfondo.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr double PassoSpostamento = 0.5; // mm
+
+// Read back with "." as the decimal separator, whatever the user's locale.
+QString TestoNumero(double valore)
+{
+    return Numeri::NumeroPiano(valore, QLocale::c());
+}
+
+void MostraTesto(QLineEdit *casella, const QString &testo)
+{
+    // Filling a box is no edit: the model keeps the text that was read.
+    const QSignalBlocker muto(casella);
+    casella->setText(testo);
+}
+
+} // namespace
+
+PaginaSfondo::PaginaSfondo(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
+    : QWidget(padre)
+    , ui_(std::make_unique<Ui::PaginaSfondo>())
+    , stato_(stato)
+    , anteprima_(anteprima)
+{
+    ui_->setupUi(this);
+    ui_->Text6->setPlainText(TestiEsplicativi::Sfondo());
+    Collegamenti();
+}
+
+PaginaSfondo::~PaginaSfondo() = default;
+
+void PaginaSfondo::Collegamenti()
+{
+    Collega(ui_->VisualizzaImmagineSfondo, &QCheckBox::clicked, this,
+            &PaginaSfondo::VisualizzaImmagineSfondo_Click);
+    Collega(ui_->Command8, &QPushButton::clicked, this, &PaginaSfondo::Command8_Click);
+    Collega(ui_->SfondoSfoglia, &QPushButton::clicked, this, &PaginaSfondo::SfondoSfoglia_Click);
+    Collega(ui_->SfondoSpostaSx, &QToolButton::clicked, this, &PaginaSfondo::SfondoSpostaSx_Click);
+    Collega(ui_->SfondoSpostaDx, &QToolButton::clicked, this, &PaginaSfondo::SfondoSpostaDx_Click);
+    Collega(ui_->SfondoSpostaSu, &QToolButton::clicked, this, &PaginaSfondo::SfondoSpostaSu_Click);
+    Collega(ui_->SfondoSpostaGiu, &QToolButton::clicked, this,
+            &PaginaSfondo::SfondoSpostaGiu_Click);
+    LegaTesto(ui_->SfondoFileImmagine, &ImmagineSfondo::File);
+    LegaTesto(ui_->SfondoXimmagine, &ImmagineSfondo::Ximmagine);
+    LegaTesto(ui_->SfondoYImmagine, &ImmagineSfondo::Yimmagine);
+    LegaTesto(ui_->SfondoXPosImm, &ImmagineSfondo::XPos);
+    LegaTesto(ui_->SfondoYPosImm, &ImmagineSfondo::YPos);
+    ui_->VisualizzaImmagineSfondo->installEventFilter(this);
+    ui_->SfondoXimmagine->installEventFilter(this);
+    ui_->SfondoYImmagine->installEventFilter(this);
+}
+
+void PaginaSfondo::LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro)
+{
+    connect(casella, &QLineEdit::textChanged, this,
+            [this, membro](const QString &testo) { stato_.Aperto.Sfondo.*membro = testo; });
+    connect(casella, &QLineEdit::textEdited, this, &PaginaSfondo::Variato);
+    Collega(casella, &QLineEdit::editingFinished, this,
+            [this, casella] { RidisegnaSeModificata(casella); });
+}
+
+void PaginaSfondo::RidisegnaSeModificata(QLineEdit *casella)
+{
+    if (!casella->isModified()) {
+        return;
+    }
+    casella->setModified(false);
+    ImpostaImmagineSfondo(false);
+    emit ModificaConclusa();
+}
+
+void PaginaSfondo::Mostra()
+{
+    const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
+    MostraTesto(ui_->SfondoFileImmagine, sfondo.File);
+    MostraTesto(ui_->SfondoXimmagine, sfondo.Ximmagine);
+    MostraTesto(ui_->SfondoYImmagine, sfondo.Yimmagine);
+    MostraTesto(ui_->SfondoXPosImm, sfondo.XPos);
+    MostraTesto(ui_->SfondoYPosImm, sfondo.YPos);
+    // Value 2, the greyed box, is shown as such and stays until the user clicks.
+    constexpr qint16 Ingrigita = 2;
+    ui_->VisualizzaImmagineSfondo->setTristate(sfondo.Visualizza == Ingrigita);
+    ui_->VisualizzaImmagineSfondo->setCheckState(sfondo.Visualizza == Ingrigita
+                                                     ? Qt::PartiallyChecked
+                                                 : sfondo.Visualizza != 0 ? Qt::Checked
+                                                                          : Qt::Unchecked);
+}
+
+void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
+{
+    anteprima_.PulisceSfondo();
+    const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
+    if (sfondo.Visualizza == 0 || sfondo.File.isEmpty()) {
+        return;
+    }
+    try {
+        if (chiedeDimensione) {
+            ChiedeDimensione();
+        }
+        const PuntatoreOccupato occupato;
+        anteprima_.DipingeSfondo(
+            sfondo.File, QRectF(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
+                                Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine)));
+    } catch (const ErroreSistema &errore) {
+        anteprima_.PulisceSfondo();
+        Messaggi::Mostra(window(),
+                         QStringLiteral("impossibile caricare l'immagine di sfondo %1\n%2")
+                             .arg(sfondo.File, errore.Messaggio()));
+    }
+}
+
+void PaginaSfondo::ChiedeDimensione()
+{
+    const QString file = stato_.Aperto.Sfondo.File;
+    const QSizeF naturali = Immagini::DimensioniNaturali(file);
+    const std::optional<QString> risposta = Messaggi::ChiedeTesto(
+        window(), QStringLiteral("caricamento immagine ") + file,
+        QStringLiteral("Impostare la % di riduzione delle dimensioni dell'immagine"),
+        QStringLiteral("100"));
+    if (!risposta) {
+        return; // cancelled: the sizes stay as they are
+    }
+    const double percentuale = Numeri::Val(*risposta);
+    ui_->SfondoXimmagine->setText(TestoNumero(naturali.width() * percentuale / 100));
+    ui_->SfondoYImmagine->setText(TestoNumero(naturali.height() * percentuale / 100));
+    emit Variato();
+}
+
+void PaginaSfondo::VisualizzaImmagineSfondo_Click()
+{
+    ui_->VisualizzaImmagineSfondo->setTristate(false);
+    stato_.Aperto.Sfondo.Visualizza = ui_->VisualizzaImmagineSfondo->isChecked() ? 1 : 0;
+    emit Variato();
+    ImpostaImmagineSfondo(false);
+    emit ModificaConclusa();
+}
+
+void PaginaSfondo::Command8_Click()
+{
+    ImpostaImmagineSfondo(true);
+    emit ModificaConclusa();
+}
+
+void PaginaSfondo::SfondoSfoglia_Click()
+{
+    Sfoglia sfoglia(window());
+    sfoglia.FileEntrata()->setText(stato_.Aperto.Sfondo.File);
+    sfoglia.exec();
+    const QString scelto = RisultatoSfoglia();
+    if (scelto == stato_.Aperto.Sfondo.File) {
+        return;
+    }
+    ui_->SfondoFileImmagine->setText(scelto);
+    emit Variato();
+    ImpostaImmagineSfondo(true);
+    emit ModificaConclusa();
+}
+
+void PaginaSfondo::SfondoSpostaSx_Click()
+{
+    Sposta(ui_->SfondoXPosImm, -PassoSpostamento);
+}
+
+void PaginaSfondo::SfondoSpostaDx_Click()
+{
+    Sposta(ui_->SfondoXPosImm, PassoSpostamento);
+}
+
+void PaginaSfondo::SfondoSpostaSu_Click()
+{
+    Sposta(ui_->SfondoYPosImm, -PassoSpostamento);
+}
+
+void PaginaSfondo::SfondoSpostaGiu_Click()
+{
+    Sposta(ui_->SfondoYPosImm, PassoSpostamento);
+}
+
+void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
+{
+    emit Variato();
+    casella->setText(TestoNumero(Numeri::Val(casella->text()) + passo));
+    ImpostaImmagineSfondo(false);
+    emit ModificaConclusa();
+}
+
+void PaginaSfondo::TogliFile()
+{
+    if (stato_.Aperto.Sfondo.File.isEmpty()) {
+        return;
+    }
+    ui_->SfondoFileImmagine->clear();
+    emit Variato();
+    ImpostaImmagineSfondo(false);
+    emit ModificaConclusa();
+}
+
+bool PaginaSfondo::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (oggetto == ui_->VisualizzaImmagineSfondo && evento->type() == QEvent::MouseButtonPress) {
+        if (static_cast<QMouseEvent *>(evento)->button() == Qt::RightButton) {
+            Guardia(window(), [this] { TogliFile(); });
+            return true;
+        }
+    } else if (evento->type() == QEvent::FocusIn) {
+        if (auto *casella = qobject_cast<QLineEdit *>(oggetto)) {
+            // Queued, because the press that brings the focus still places the cursor afterwards.
+            QMetaObject::invokeMethod(casella, &QLineEdit::selectAll, Qt::QueuedConnection);
+        }
+    }
+    return QWidget::eventFilter(oggetto, evento);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class Frm1;
+class QLineEdit;
+
+namespace Ui {
+class PaginaSfondo;
+}
+
+/// The page "Immagine sfondo": the scan of a pre-printed form behind the preview. What the controls
+/// hold is the model's ImmagineSfondo, text for text.
+class PaginaSfondo : public QWidget
+{
+    Q_OBJECT
+public:
+    PaginaSfondo(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre = nullptr);
+    ~PaginaSfondo() override;
+
+    void Mostra();
+
+    /// Draws the scan; chiedeDimensione asks first for the percentage of its natural size. A file
+    /// that cannot be loaded gives a message and no background.
+    void ImpostaImmagineSfondo(bool chiedeDimensione);
+
+    void SfondoSfoglia_Click();
+    void VisualizzaImmagineSfondo_Click();
+    void Command8_Click();
+    void SfondoSpostaSx_Click();
+    void SfondoSpostaDx_Click();
+    void SfondoSpostaSu_Click();
+    void SfondoSpostaGiu_Click();
+
+signals:
+    void Variato();
+    void ModificaConclusa();
+
+protected:
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
+
+private:
+    void Collegamenti();
+    void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
+    void RidisegnaSeModificata(QLineEdit *casella);
+    void ChiedeDimensione();
+    void Sposta(QLineEdit *casella, double passo);
+    void TogliFile();
+
+    std::unique_ptr<Ui::PaginaSfondo> ui_;
+    StatoProgramma &stato_;
+    Frm1 &anteprima_;
+};

@@ -1,0 +1,75 @@
+#include "editor/PaginaSpostamento.h"
+
+#include "editor/TestiEsplicativi.h"
+#include "model/Numeri.h"
+#include "platform/Finestre.h"
+#include "platform/Guardia.h"
+#include "preview/Frm1.h"
+#include "ui_PaginaSpostamento.h"
+
+PaginaSpostamento::PaginaSpostamento(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
+    : QWidget(padre)
+    , ui_(std::make_unique<Ui::PaginaSpostamento>())
+    , stato_(stato)
+    , anteprima_(anteprima)
+{
+    ui_->setupUi(this);
+    ui_->Text5->setPlainText(TestiEsplicativi::Spostamento());
+    Collegamenti();
+}
+
+PaginaSpostamento::~PaginaSpostamento() = default;
+
+void PaginaSpostamento::Collegamenti()
+{
+    Collega(ui_->Command2, &QPushButton::clicked, this, &PaginaSpostamento::Command2_Click);
+    Collega(ui_->Command5, &QPushButton::clicked, this, &PaginaSpostamento::Command5_Click);
+    Collega(ui_->Command6, &QPushButton::clicked, this, &PaginaSpostamento::Command6_Click);
+}
+
+void PaginaSpostamento::Mostra()
+{
+    ui_->Spostamento->setText(QStringLiteral("1"));
+}
+
+void PaginaSpostamento::Command2_Click()
+{
+    Sposta(Genere::Campo);
+}
+
+void PaginaSpostamento::Command5_Click()
+{
+    Sposta(Genere::Cornice);
+}
+
+void PaginaSpostamento::Command6_Click()
+{
+    Sposta(Genere::Immagine);
+}
+
+void PaginaSpostamento::Sposta(Genere genere)
+{
+    const PuntatoreOccupato occupato;
+    const double passo = Numeri::Val(ui_->Spostamento->text());
+    double dx = 0;
+    double dy = 0;
+    if (ui_->OptDx->isChecked()) {
+        dx += passo;
+    }
+    if (ui_->OptSx->isChecked()) {
+        dx -= passo;
+    }
+    if (ui_->OptSu->isChecked()) {
+        dy -= passo;
+    }
+    if (ui_->OptGiu->isChecked()) {
+        dy += passo;
+    }
+    // Deleted elements keep their slots and move with the others.
+    for (int k = 1; k <= stato_.Aperto.UltimoSlot(genere); ++k) {
+        stato_.Aperto.X(genere, k) += dx;
+        stato_.Aperto.Y(genere, k) += dy;
+        anteprima_.Posiziona(genere, k, true);
+    }
+    emit ModificaConclusa();
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "model/StatoProgramma.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class Frm1;
+
+namespace Ui {
+class PaginaSpostamento;
+}
+
+/// The page "Spostamento": shifts all elements of a kind by a fixed distance.
+class PaginaSpostamento : public QWidget
+{
+    Q_OBJECT
+public:
+    PaginaSpostamento(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre = nullptr);
+    ~PaginaSpostamento() override;
+
+    /// The shift of a freshly opened model: 1 mm.
+    void Mostra();
+
+    void Command2_Click(); ///< all fields
+    void Command5_Click(); ///< all frames and labels
+    void Command6_Click(); ///< all images
+
+signals:
+    void ModificaConclusa();
+
+private:
+    void Collegamenti();
+    void Sposta(Genere genere);
+
+    std::unique_ptr<Ui::PaginaSpostamento> ui_;
+    StatoProgramma &stato_;
+    Frm1 &anteprima_;
+};

@@ -1,0 +1,50 @@
+#include "LineaDiComando.h"
+#include "Plakera.h"
+#include "base/Disco.h"
+#include "platform/Finestre.h"
+#include "platform/SenzaFinestre.h"
+#include "platform/SuDisco.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QIcon>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+LetturaArgomenti LeggeArgomentiDi(int &argc, char **argv)
+{
+    // Read before any window system is touched, so that --help works without one.
+    const QCoreApplication applicazione(argc, argv);
+    return LeggeArgomenti(QCoreApplication::arguments());
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const LetturaArgomenti lettura = LeggeArgomentiDi(argc, argv);
+    if (!lettura.richieste) {
+        std::fputs(qUtf8Printable(lettura.testo), lettura.stato == 0 ? stdout : stderr);
+        return lettura.stato;
+    }
+    if (lettura.richieste->SenzaFinestre()) {
+        SenzaFinestre();
+    }
+    QApplication applicazione(argc, argv);
+    Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
+    QApplication::setApplicationName(QStringLiteral("Plakera"));
+    QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/plakera.png")));
+    ImpostaLingua();
+    if (lettura.richieste->SenzaFinestre()) {
+        return StampaSenzaFinestre(*lettura.richieste);
+    }
+    Plakera plakera;
+    if (!plakera.Avvia(lettura.richieste->dati)) {
+        return 1;
+    }
+    return QApplication::exec();
+}

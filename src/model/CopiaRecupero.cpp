@@ -1,0 +1,160 @@
+#include "model/CopiaRecupero.h"
+
+#include "base/Disco.h"
+#include "base/ErroreSistema.h"
+#include "model/FileModello.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace {
+
+constexpr QByteArrayView Firma = "plakera-recupero 1";
+constexpr QLatin1String Estensione(".recupero");
+constexpr qint64 DimensioneMassima = FileModello::DimensioneMassima + 4096;
+constexpr int RigheIntestazione = 4;
+constexpr const char *Assente = "assente";
+
+QByteArray Somma(const QByteArray &byte)
+{
+    return QCryptographicHash::hash(byte, QCryptographicHash::Sha256).toHex();
+}
+
+/// The head of a copy: signature, path of the model, checksum of the model file, checksum of the
+/// body; one line each. The path is percent-encoded, since it may hold a line feed.
+QByteArray Intestazione(const QString &percorso, const QByteArray &impronta,
+                        const QByteArray &corpo)
+{
+    return Firma.toByteArray() + '\n' + QUrl::toPercentEncoding(percorso) + '\n' + impronta + '\n' +
+           Somma(corpo) + '\n';
+}
+
+struct Letta
+{
+    QString percorso;
+    QByteArray impronta;
+    QByteArray corpo;
+};
+
+std::optional<Letta> Legge(const QString &file)
+{
+    const QByteArray byte = Disco::Legge(file, DimensioneMassima);
+    QList<QByteArray> righe;
+    qsizetype inizio = 0;
+    while (righe.size() < RigheIntestazione) {
+        const qsizetype fine = byte.indexOf('\n', inizio);
+        if (fine < 0) {
+            return std::nullopt;
+        }
+        righe.append(byte.mid(inizio, fine - inizio));
+        inizio = fine + 1;
+    }
+    const QByteArray corpo = byte.mid(inizio);
+    if (righe[0] != Firma || righe[3] != Somma(corpo)) {
+        return std::nullopt;
+    }
+    return Letta{QUrl::fromPercentEncoding(righe[1]), righe[2], corpo};
+}
+
+} // namespace
+
+CopiaRecupero::CopiaRecupero(QString cartella, const QString &percorsoModello)
+    : cartella_(std::move(cartella))
+    , percorsoModello_(QFileInfo(percorsoModello).absoluteFilePath())
+    , radice_(QString::fromLatin1(
+          QCryptographicHash::hash(percorsoModello_.toUtf8(), QCryptographicHash::Sha1).toHex()))
+{
+}
+
+QByteArray CopiaRecupero::Impronta() const
+{
+    try {
+        return Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima));
+    } catch (const ErroreSistema &) {
+        // Not there, or not to be read: equal to no file that ever was.
+        return QByteArray(Assente);
+    }
+}
+
+QStringList CopiaRecupero::FileDelModello() const
+{
+    const QDir cartella(cartella_);
+    QStringList file;
+    const QStringList nomi =
+        cartella.entryList({radice_ + QStringLiteral("-*") + Estensione}, QDir::Files, QDir::Time);
+    for (const QString &nome : nomi) {
+        file.append(cartella.filePath(nome));
+    }
+    return file;
+}
+
+QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca() const
+{
+    QList<Trovata> trovate;
+    const QByteArray attuale = Impronta();
+    for (const QString &file : FileDelModello()) {
+        try {
+            const std::optional<Letta> letta = Legge(file);
+            if (!letta || letta->percorso != percorsoModello_) {
+                continue;
+            }
+            Trovata trovata{file, QFileInfo(file).lastModified(), letta->impronta != attuale, {}};
+            FileModello::Analizza(letta->corpo, trovata.modello);
+            trovate.append(std::move(trovata));
+        } catch (const ErroreSistema &) {
+            // A copy that cannot be read is none; it stays where it is and harms nobody.
+            continue;
+        }
+    }
+    return trovate;
+}
+
+void CopiaRecupero::Parte()
+{
+    impronta_ = Impronta();
+    propria_.clear();
+}
+
+bool CopiaRecupero::FileCambiato() const
+{
+    const QByteArray attuale = Impronta();
+    return attuale != Assente && attuale != impronta_;
+}
+
+void CopiaRecupero::Scrive(const Modello &modello)
+{
+    if (propria_.isEmpty()) {
+        if (!QDir().mkpath(cartella_)) {
+            throw ErroreSistema(ErroreSistema::AccessoFile);
+        }
+        // A name of its own, so that an earlier copy, declined or not, is not written over.
+        int numero = 1;
+        do {
+            propria_ =
+                QDir(cartella_).filePath(radice_ + u'-' + QString::number(numero++) + Estensione);
+        } while (QFileInfo::exists(propria_));
+    }
+    // The copy is read back whatever the locale, so it is written with a point: nothing is rounded
+    // away by going through it.
+    const QByteArray corpo = FileModello::Componi(modello, QLocale::c());
+    Disco::Sostituisce(propria_, Intestazione(percorsoModello_, impronta_, corpo) + corpo);
+}
+
+void CopiaRecupero::EliminaPropria()
+{
+    if (!propria_.isEmpty()) {
+        QFile::remove(propria_);
+        propria_.clear();
+    }
+}
+
+void CopiaRecupero::EliminaTutte()
+{
+    for (const QString &file : FileDelModello()) {
+        QFile::remove(file);
+    }
+    propria_.clear();
+}

@@ -1,0 +1,495 @@
+#include "base/ErroreSistema.h"
+#include "editor/Form2.h"
+#include "model/CopiaRecupero.h"
+#include "model/FileModello.h"
+#include "preview/Frm1.h"
+#include "support/ArchivioDiProva.h"
+#include "support/Finestre.h"
+#include "support/Robot.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <csignal>
+#include <cstdio>
+
+namespace {
+
+constexpr QLatin1String ArgomentoFiglio("--modifica");
+
+QStringList Copie(const ArchivioDiProva &prova)
+{
+    return QDir(prova.CartellaStato() + QStringLiteral("/plakera"))
+        .entryList({QStringLiteral("*.recupero")}, QDir::Files);
+}
+
+/// One finished edit: field 1 goes to x, as at the release of a drag.
+void Modifica(Form2 &editor, StatoProgramma &stato, double x)
+{
+    stato.Aperto.Campi[1].X = x;
+    editor.Anteprima()->PosizionaCampo(1, true);
+    emit editor.Anteprima()->ModificaConclusa();
+}
+
+/// An editor that has made the edit and then died: nothing of its closing runs.
+void ModificaEMuore(ArchivioDiProva &prova, double x)
+{
+    StatoProgramma stato = prova.Stato();
+    Form2 editor(stato);
+    QVERIFY(editor.Form_Load());
+    Modifica(editor, stato, x);
+}
+
+/// The child process: edits without end, and says the number of each finished edit.
+int ModificaSenzaFine(const QString &cartella, const QString &nome)
+{
+    StatoProgramma stato;
+    stato.CartellaModelli = cartella;
+    stato.Aperto.NomeFile = nome;
+    stato.ElencoFont = {QStringLiteral("Arial")};
+    Form2 editor(stato);
+    if (!editor.Form_Load()) {
+        return 1;
+    }
+    for (int n = 1;; ++n) {
+        Modifica(editor, stato, n);
+        std::printf("%d\n", n);
+        std::fflush(stdout);
+    }
+}
+
+} // namespace
+
+class tst_Recupero : public QObject
+{
+    Q_OBJECT
+private slots:
+    void NessunaCopiaSenzaModifiche();
+    void CopiaAllaFineDiOgniModifica();
+    void CopiaAncheDaiControlliDellEditor();
+    void CadutaERipresa();
+    void CadutaDueVolte();
+    void Rifiutata();
+    void Annullata();
+    void FileCambiatoDaAllora();
+    void FileSparito();
+    void UnAltroModelloNonLaRiceve();
+    void DiscoPieno();
+    void ViaDopoIlSalvataggio();
+    void ViaDopoLaChiusuraSenzaSalvare();
+    void CopiaTroncaOGuastaNonSiOffre();
+    void DecimaliIntattiNellaCopia();
+    void FileCambiatoDaAltriPrimaDiSalvare();
+    void FileSparitoPrimaDiSalvare();
+    void DuecentoUccisioni();
+};
+
+void tst_Recupero::NessunaCopiaSenzaModifiche()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(3);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    emit editor.Anteprima()->ModificaConclusa();
+    QVERIFY(Copie(prova).isEmpty());
+}
+
+void tst_Recupero::CopiaAllaFineDiOgniModifica()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    prova.Aperto().Campi[1].X = 77;
+    editor.Anteprima()->PosizionaCampo(1, true);
+    QVERIFY2(Copie(prova).isEmpty(), "a move step is no finished edit");
+    emit editor.Anteprima()->ModificaConclusa();
+    QCOMPARE(Copie(prova).size(), 1);
+    QVERIFY2(QDir(prova.Stato().CartellaModelli)
+                     .entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot) ==
+                 QStringList{prova.Aperto().NomeFile},
+             "the archive holds the model and nothing else");
+    const auto trovate =
+        CopiaRecupero(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso()).Cerca();
+    QCOMPARE(trovate.size(), 1);
+    QCOMPARE(trovate.constFirst().modello.Campi[1].X, 77.0);
+    QVERIFY(!trovate.constFirst().fileCambiato);
+}
+
+void tst_Recupero::CopiaAncheDaiControlliDellEditor()
+{
+    const auto lasciaCopia = [](const std::function<void(Form2 &)> &azione) {
+        ArchivioDiProva prova;
+        prova.Riempie(1);
+        prova.Scrive();
+        Form2 editor(prova.Stato());
+        return editor.Form_Load() && (azione(editor), Copie(prova).size() == 1);
+    };
+    QVERIFY(lasciaCopia([](Form2 &e) { Preme(e, "ConfermaPosizioneRighe"); }));
+    QVERIFY(lasciaCopia([](Form2 &e) { Preme(e, "Command2"); }));
+    QVERIFY(lasciaCopia([](Form2 &e) { Preme(e, "SfondoSpostaDx"); }));
+    QVERIFY(lasciaCopia([](Form2 &e) {
+        auto *tipo = Trova<QLineEdit>(e, "Tipo");
+        QTest::keyClicks(tipo, QStringLiteral("x"));
+        QTest::keyClick(tipo, Qt::Key_Return);
+    }));
+    QVERIFY(lasciaCopia([](Form2 &e) {
+        Robot robot;
+        robot.Annulla();
+        Preme(e, "Aggiungicampo");
+    }));
+    QVERIFY(lasciaCopia([](Form2 &e) {
+        Robot robot;
+        robot.Agisce([](QDialog *d) { Preme(*d, "PConfemaCampo"); });
+        e.ApreFrmCampo(1);
+    }));
+    QVERIFY(lasciaCopia([](Form2 &e) {
+        Robot robot;
+        robot.Agisce([](QDialog *d) { Preme(*d, "Elimina"); }).Si();
+        e.ApreFrmCornice(1);
+    }));
+}
+
+void tst_Recupero::CadutaERipresa()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    const QByteArray prima = prova.ByteDelFile();
+    ModificaEMuore(prova, 123);
+    QCOMPARE(prova.ByteDelFile(), prima);
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Si().Si();
+    QVERIFY(editor.Form_Load());
+    QVERIFY2(robot.Testi().constFirst().startsWith(
+                 QStringLiteral("Il modello Prova.Mod ha modifiche non salvate del ")),
+             qPrintable(robot.Testi().constFirst()));
+    QCOMPARE(robot.Predefiniti().constFirst(), QStringLiteral("&Sì"));
+    QVERIFY(editor.Variato);
+    QCOMPARE(prova.Aperto().Campi[1].X, 123.0);
+    QCOMPARE(prova.Aperto().NomeFile, QStringLiteral("Prova.Mod"));
+    QCOMPARE(ElementoAnteprima(*editor.Anteprima(), QStringLiteral("C1(1)"))->pos().x(), 123.0);
+    Preme(editor, "Salva");
+    QCOMPARE(prova.Riletto().Campi[1].X, 123.0);
+    QVERIFY(Copie(prova).isEmpty());
+}
+
+void tst_Recupero::CadutaDueVolte()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    {
+        StatoProgramma stato = prova.Stato();
+        Form2 editor(stato);
+        Robot robot;
+        robot.Si();
+        QVERIFY(editor.Form_Load());
+        QCOMPARE(stato.Aperto.Campi[1].X, 50.0);
+        stato.Aperto.Campi[2].X = 60;
+        editor.Anteprima()->PosizionaCampo(2, true);
+        emit editor.Anteprima()->ModificaConclusa();
+    }
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Si();
+    QVERIFY(editor.Form_Load());
+    QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
+    QCOMPARE(prova.Aperto().Campi[2].X, 60.0);
+}
+
+void tst_Recupero::Rifiutata()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    const double prima = prova.Aperto().Campi[1].X;
+    ModificaEMuore(prova, 50);
+    {
+        StatoProgramma stato = prova.Stato();
+        Form2 editor(stato);
+        Robot robot;
+        robot.No();
+        QVERIFY(editor.Form_Load());
+        QVERIFY(!editor.Variato);
+        QCOMPARE(stato.Aperto.Campi[1].X, prima);
+        // The next edit has a copy of its own: the declined one is not written over.
+        Modifica(editor, stato, 70);
+        QCOMPARE(Copie(prova).size(), 2);
+    }
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.No().Si();
+    QVERIFY(editor.Form_Load());
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
+}
+
+void tst_Recupero::Annullata()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    const QStringList copie = Copie(prova);
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Annulla();
+    QVERIFY2(!editor.Form_Load(), "cancelling leaves the model closed");
+    QCOMPARE(Copie(prova), copie);
+}
+
+void tst_Recupero::FileCambiatoDaAllora()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    prova.Aperto().Tipo = QStringLiteral("cambiato");
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.No();
+    QVERIFY(editor.Form_Load());
+    QVERIFY2(robot.Testi().constFirst().contains(QStringLiteral("da allora il file è cambiato")),
+             qPrintable(robot.Testi().constFirst()));
+    QCOMPARE(robot.Predefiniti().constFirst(), QStringLiteral("&No"));
+    QCOMPARE(prova.Aperto().Tipo, QStringLiteral("cambiato"));
+}
+
+void tst_Recupero::FileSparito()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    QVERIFY(QFile::remove(prova.Percorso()));
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Ok().Si().Si();
+    QVERIFY(editor.Form_Load());
+    QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
+    QCOMPARE(prova.Aperto().NumCornici, qint16(2));
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Riletto().Campi[1].X, 50.0);
+}
+
+void tst_Recupero::UnAltroModelloNonLaRiceve()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    prova.Aperto().NomeFile = QStringLiteral("Altra.Mod");
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    Robot robot;
+    QVERIFY(editor.Form_Load());
+    QVERIFY(robot.Testi().isEmpty());
+    Modifica(editor, prova.Stato(), 60);
+    robot.Si();
+    Preme(editor, "Salva");
+    QCOMPARE(Copie(prova).size(), 1); // that of the other model stays
+}
+
+void tst_Recupero::DiscoPieno()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    // A file where the folder should be: nothing can be written there, not even by root.
+    QFile ostacolo(prova.CartellaStato());
+    QVERIFY(ostacolo.open(QIODevice::WriteOnly));
+    ostacolo.close();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Robot robot;
+    robot.Ok().Si();
+    Modifica(editor, prova.Stato(), 50);
+    Modifica(editor, prova.Stato(), 51);
+    QCOMPARE(robot.Testi().size(), 1);
+    QVERIFY2(robot.Testi().constFirst().startsWith(
+                 QStringLiteral("copia di recupero non scritta: errore ")),
+             qPrintable(robot.Testi().constFirst()));
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Riletto().Campi[1].X, 51.0);
+}
+
+void tst_Recupero::ViaDopoIlSalvataggio()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.No().Si();
+    QVERIFY(editor.Form_Load());
+    Modifica(editor, prova.Stato(), 60);
+    QCOMPARE(Copie(prova).size(), 2);
+    Preme(editor, "Salva");
+    QVERIFY(Copie(prova).isEmpty());
+    Modifica(editor, prova.Stato(), 61);
+    QCOMPARE(Copie(prova).size(), 1);
+}
+
+void tst_Recupero::ViaDopoLaChiusuraSenzaSalvare()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    editor.show();
+    Modifica(editor, prova.Stato(), 60);
+    Robot robot;
+    robot.No();
+    QVERIFY(editor.close());
+    QVERIFY(Copie(prova).isEmpty());
+}
+
+void tst_Recupero::CopiaTroncaOGuastaNonSiOffre()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    QFile copia(prova.CartellaStato() + QStringLiteral("/plakera/") + Copie(prova).constFirst());
+    QVERIFY(copia.open(QIODevice::ReadOnly));
+    const QByteArray intera = copia.readAll();
+    copia.close();
+    const CopiaRecupero copie(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
+    QCOMPARE(copie.Cerca().size(), 1);
+    for (qsizetype n = 0; n < intera.size(); n += 7) {
+        QVERIFY(copia.open(QIODevice::WriteOnly));
+        copia.write(intera.left(n));
+        copia.close();
+        QVERIFY2(copie.Cerca().isEmpty(), qPrintable(QString::number(n)));
+    }
+    QByteArray guasta = intera;
+    guasta[guasta.size() - 30] = '#';
+    QVERIFY(copia.open(QIODevice::WriteOnly));
+    copia.write(guasta);
+    copia.close();
+    QVERIFY(copie.Cerca().isEmpty());
+}
+
+void tst_Recupero::DecimaliIntattiNellaCopia()
+{
+    const QLocale precedente;
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    CopiaRecupero copia(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
+    copia.Parte();
+    prova.Aperto().Immagini[1].X = 12.75;
+    prova.Aperto().Righe.Interlinea = 4.5;
+    copia.Scrive(prova.Aperto());
+    const auto trovata = copia.Cerca().constFirst();
+    QCOMPARE(trovata.modello.Immagini[1].X, 12.75);
+    QCOMPARE(trovata.modello.Righe.Interlinea, 4.5);
+    QLocale::setDefault(precedente);
+}
+
+void tst_Recupero::FileCambiatoDaAltriPrimaDiSalvare()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Modello altrui = prova.Aperto();
+    altrui.Tipo = QStringLiteral("di un altro");
+    FileModello::Salva(altrui, prova.Percorso(), QLocale::c());
+    const QByteArray altro = prova.ByteDelFile();
+    Robot robot;
+    robot.Si().No();
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constLast(),
+             QStringLiteral("Il file Prova.Mod è stato cambiato da un altro programma dopo "
+                            "l'apertura.\nLO VUOI SOSTITUIRE?"));
+    QCOMPARE(robot.Predefiniti().constLast(), QStringLiteral("&No"));
+    QCOMPARE(prova.ByteDelFile(), altro);
+    QVERIFY(editor.Variato);
+    robot.Si().Si();
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(prova.Riletto().Tipo.isEmpty());
+}
+
+void tst_Recupero::FileSparitoPrimaDiSalvare()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    QVERIFY(QFile::remove(prova.Percorso()));
+    Robot robot;
+    robot.Si();
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Riletto().NumCampi, qint16(1));
+}
+
+void tst_Recupero::DuecentoUccisioni()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(30);
+    prova.Scrive();
+    const QByteArray intatto = prova.ByteDelFile();
+    constexpr int Uccisioni = 200;
+    for (int giro = 0; giro < Uccisioni; ++giro) {
+        QProcess figlio;
+        figlio.start(QCoreApplication::applicationFilePath(),
+                     {ArgomentoFiglio, prova.Stato().CartellaModelli, prova.Aperto().NomeFile});
+        QVERIFY(figlio.waitForReadyRead(30000));
+        QTest::qWait(QRandomGenerator::global()->bounded(20));
+        figlio.kill();
+        QVERIFY(figlio.waitForFinished(30000));
+        const QList<QByteArray> righe = figlio.readAllStandardOutput().split('\n');
+        // The last line may be torn; the one before it is a finished edit.
+        const int finita = righe.value(righe.size() - 2).toInt();
+        QVERIFY(finita > 0);
+        CopiaRecupero copie(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
+        const auto trovate = copie.Cerca();
+        QCOMPARE(trovate.size(), 1);
+        const double ripresa = trovate.constFirst().modello.Campi[1].X;
+        // The edit after the last one told may have been finished too.
+        QVERIFY2(ripresa == finita || ripresa == finita + 1,
+                 qPrintable(QStringLiteral("%1 after %2").arg(ripresa).arg(finita)));
+        QCOMPARE(trovate.constFirst().modello.NumImmagini, qint16(30));
+        QCOMPARE(prova.ByteDelFile(), intatto);
+        copie.EliminaTutte();
+    }
+    const auto resti = QDir(prova.CartellaStato() + QStringLiteral("/plakera"))
+                           .entryList(QDir::Files | QDir::Hidden);
+    QVERIFY2(resti.size() <= 20, "temporary files pile up");
+}
+
+int main(int argc, char *argv[])
+{
+    QApplication applicazione(argc, argv);
+    const QStringList argomenti = QCoreApplication::arguments();
+    if (argomenti.value(1) == ArgomentoFiglio) {
+        return ModificaSenzaFine(argomenti.value(2), argomenti.value(3));
+    }
+    tst_Recupero prova;
+    return QTest::qExec(&prova, argc, argv);
+}
+
+#include "tst_Recupero.moc"
