@@ -5,15 +5,19 @@
 #include "support/FileDiProva.h"
 #include "support/ModelloDiProva.h"
 
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <memory>
 
 #include <sys/wait.h>
+#include <unistd.h>
 
 /// Saving while the system fails, or while the program is killed: the file holds the old model or
 /// the new one, whole, whatever happens.
@@ -52,19 +56,60 @@ QByteArray Byte(int elementi)
 }
 
 /// A child of this process that saves two models in turn, the given one first, until it is killed.
-pid_t SalvaSenzaFine(const QString &percorso, int elementi)
+class Salvatore
 {
-    const pid_t figlio = fork();
-    if (figlio == 0) {
-        const Modello primo = ModelloDiProva(elementi);
-        const Modello secondo = ModelloDiProva(ElementiVecchi + ElementiNuovi - elementi);
-        for (;;) {
-            FileModello::Salva(primo, percorso, QLocale::c());
-            FileModello::Salva(secondo, percorso, QLocale::c());
+public:
+    Salvatore(const QString &percorso, const Modello &primo, const Modello &secondo)
+    {
+        if (pipe(tubo_) != 0) {
+            qFatal("no pipe");
+        }
+        figlio_ = fork();
+        if (figlio_ == 0) {
+            for (;;) {
+                Annuncia();
+                FileModello::Salva(primo, percorso, QLocale::c());
+                Annuncia();
+                FileModello::Salva(secondo, percorso, QLocale::c());
+            }
         }
     }
-    return figlio;
-}
+    ~Salvatore()
+    {
+        close(tubo_[0]);
+        close(tubo_[1]);
+    }
+    Salvatore(const Salvatore &) = delete;
+    Salvatore &operator=(const Salvatore &) = delete;
+
+    /// Waits until the next save begins.
+    bool AttendeUnSalvataggio() const
+    {
+        char byte = 0;
+        return read(tubo_[0], &byte, 1) == 1;
+    }
+
+    /// False when it had ended by itself, which a failed save would make it do.
+    bool Uccide() const
+    {
+        int stato = 0;
+        return figlio_ > 0 && kill(figlio_, SIGKILL) == 0 &&
+               waitpid(figlio_, &stato, 0) == figlio_ && WIFSIGNALED(stato) &&
+               WTERMSIG(stato) == SIGKILL;
+    }
+
+private:
+    void Annuncia() const
+    {
+        const char byte = 's';
+        if (write(tubo_[1], &byte, 1) != 1) {
+            _exit(1);
+        }
+    }
+
+    int tubo_[2]{};
+    pid_t figlio_ = -1;
+};
 
 } // namespace
 
@@ -159,26 +204,37 @@ void tst_SalvataggioGuasti::OgniChiamataFallita()
 void tst_SalvataggioGuasti::MilleUccisioni()
 {
     constexpr int Uccisioni = 1000;
-    constexpr int MicrosecondiAlMassimo = 10'000;
+    const Modello vecchio = ModelloDiProva(ElementiVecchi);
+    const Modello nuovo = ModelloDiProva(ElementiNuovi);
     const QByteArray vecchi = Byte(ElementiVecchi);
     const QByteArray nuovi = Byte(ElementiNuovi);
     ScriveFile(File(), vecchi);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
 
+    // However slow machine and build are, the kills shall spread over the first saves of a child.
+    QElapsedTimer tempo;
+    {
+        const Salvatore primo(File(), nuovo, vecchio);
+        QVERIFY(primo.AttendeUnSalvataggio());
+        tempo.start();
+        QVERIFY(primo.AttendeUnSalvataggio());
+        QVERIFY(primo.AttendeUnSalvataggio());
+        QVERIFY(primo.Uccide());
+    }
+    const int microsecondi =
+        static_cast<int>(std::clamp<qint64>(tempo.nsecsElapsed() / 1000, 100, 40'000));
+
     QRandomGenerator caso(20260101);
     int conResti = 0;
     int cambiati = 0;
-    QByteArray ultimi = vecchi;
+    QByteArray ultimi = ByteDi(File());
     for (int i = 0; i < Uccisioni; ++i) {
         const qsizetype prima = NomiIn(cartella_->path()).size();
-        const pid_t figlio =
-            SalvaSenzaFine(File(), ultimi == vecchi ? ElementiNuovi : ElementiVecchi);
-        QVERIFY(figlio > 0);
-        usleep(static_cast<useconds_t>(caso.bounded(MicrosecondiAlMassimo)));
-        QCOMPARE(kill(figlio, SIGKILL), 0);
-        int stato = 0;
-        QCOMPARE(waitpid(figlio, &stato, 0), figlio);
-        QVERIFY2(WIFSIGNALED(stato), "the child ended by itself: a save failed");
+        const Salvatore salvatore(File(), ultimi == vecchi ? nuovo : vecchio,
+                                  ultimi == vecchi ? vecchio : nuovo);
+        QVERIFY(salvatore.AttendeUnSalvataggio());
+        usleep(static_cast<useconds_t>(caso.bounded(microsecondi)));
+        QVERIFY2(salvatore.Uccide(), "a save failed by itself");
 
         const QByteArray trovati = ByteDi(File());
         QVERIFY2(trovati == vecchi || trovati == nuovi,
