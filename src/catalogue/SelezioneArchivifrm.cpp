@@ -113,6 +113,8 @@ void SelezioneArchivifrm::ElencaArchivi()
     for (int i = 0; i < ui_->Dir1->count(); ++i) {
         auto *archivio = new QListWidgetItem(ui_->Dir1->item(i)->text(), ui_->List1);
         archivio->setToolTip(archivio->text());
+        // No wider than the list: of a long path the beginning is left out, not the archive's name.
+        archivio->setSizeHint({0, ui_->List1->sizeHintForRow(i)});
     }
 }
 

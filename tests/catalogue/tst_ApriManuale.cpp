@@ -18,7 +18,6 @@ private slots:
     void AccantoAlProgramma();
     void SottoK19_data();
     void SottoK19();
-    void SottoK19_chiudereDiceNo();
     void DocumentoMancante();
     void ApriGuida_fileDiVastrel();
     void ApriGuida_fileDiVastrelMancante();
@@ -139,15 +138,6 @@ void tst_ApriManuale::SottoK19()
     QCOMPARE(robot.Testi(), QStringList{QStringLiteral("apro Word")});
     QCOMPARE(robot.Titoli(), QStringList{QStringLiteral("Plakera")});
     QCOMPARE(aperti_, QStringList{documento});
-}
-
-void tst_ApriManuale::SottoK19_chiudereDiceNo()
-{
-    Robot robot;
-    robot.Annulla();
-    ApriManuale(ChiaveManuale, QStringLiteral("C:\\K19"), Annota());
-    QVERIFY(robot.Soddisfatto());
-    QVERIFY(aperti_.value(0).endsWith(QLatin1String(".pdf")));
 }
 
 void tst_ApriManuale::DocumentoMancante()
