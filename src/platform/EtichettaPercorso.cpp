@@ -1,4 +1,4 @@
-#include "dialogs/EtichettaPercorso.h"
+#include "platform/EtichettaPercorso.h"
 
 #include <QPainter>
 #include <QStyle>
