@@ -15,6 +15,20 @@
 
 #include <memory>
 
+/// mm of screen of one device-independent pixel.
+inline constexpr double MillimetriPerPixel = 25.4 / 96;
+
+/// The pixel of a picture taken of a window that shows a point, whatever the scale of the screen.
+inline QPoint PuntoFoto(const QImage &foto, QPointF millimetri)
+{
+    return (millimetri / MillimetriPerPixel * foto.devicePixelRatio()).toPoint();
+}
+
+inline QRgb ColoreFoto(const QImage &foto, QPointF millimetri)
+{
+    return foto.pixel(PuntoFoto(foto, millimetri)) & 0xffffff;
+}
+
 /// A preview window on the screen with a model of its own, worked with the mouse and the keys
 /// through its window, as a user does. Points are mm of screen on the sheet.
 class Banco
@@ -137,8 +151,6 @@ public:
     {
         return Vista()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
-
-    static constexpr double MillimetriPerPixel = 25.4 / 96;
 
     QTemporaryDir cartella;
     StatoProgramma stato;

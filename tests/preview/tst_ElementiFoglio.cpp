@@ -13,15 +13,10 @@ namespace {
 
 const QChar RitornoCarrello(13);
 
-QRgb Pixel(const QImage &immagine, QPointF millimetri)
-{
-    return immagine.pixel((millimetri / Banco::MillimetriPerPixel).toPoint()) & 0xffffff;
-}
-
 /// True when a horizontal line of the colour crosses the column at x near y (mm).
 bool LineaOrizzontale(const QImage &immagine, double x, double y, QRgb colore)
 {
-    const QPoint p = (QPointF(x, y) / Banco::MillimetriPerPixel).toPoint();
+    const QPoint p = PuntoFoto(immagine, QPointF(x, y));
     for (int dy = -1; dy <= 1; ++dy) {
         if ((immagine.pixel(p.x(), p.y() + dy) & 0xffffff) == colore) {
             return true;
@@ -181,13 +176,13 @@ void tst_ElementiFoglio::BordoDipintoNelColoreDellaCornice()
     const QImage foglio = banco.Fotografia();
     QVERIFY(LineaOrizzontale(foglio, 30, 10, 0xff0000));
     QVERIFY(LineaOrizzontale(foglio, 30, 30, 0xff0000));
-    QCOMPARE(Pixel(foglio, {30, 20}), 0xffffffu);
+    QCOMPARE(ColoreFoto(foglio, {30, 20}), 0xffffffu);
     // One pixel thick, whatever the thickness on paper.
     int rossi = 0;
     for (int y = 0; y < foglio.height(); ++y) {
-        rossi += (foglio.pixel(banco.Pixel({30, 0}).x(), y) & 0xffffff) == 0xff0000 ? 1 : 0;
+        rossi += (foglio.pixel(PuntoFoto(foglio, {30, 0}).x(), y) & 0xffffff) == 0xff0000 ? 1 : 0;
     }
-    QCOMPARE(rossi, 2);
+    QCOMPARE(rossi, 2 * static_cast<int>(foglio.devicePixelRatio()));
 }
 
 void tst_ElementiFoglio::ScrittaCorniceDoveSuCarta_data()
@@ -386,12 +381,15 @@ void tst_ElementiFoglio::ImmagineRiempieIlRiquadro()
     meta.save(banco.cartella.filePath(QStringLiteral("Logo.BMP")));
     banco.Immagine(20, 20, 60, 30, QStringLiteral("logo.bmp"));
     const QImage foglio = banco.Fotografia();
-    QCOMPARE(Pixel(foglio, {23, 35}), 0xff0000u);
-    QCOMPARE(Pixel(foglio, {48, 23}), 0xff0000u);
-    QCOMPARE(Pixel(foglio, {52, 47}), 0x0000ffu);
-    QCOMPARE(Pixel(foglio, {77, 35}), 0x0000ffu);
-    QCOMPARE(Pixel(foglio, {82, 35}), 0xffffffu);
-    QCOMPARE(banco.C3(1)->Figura().size(), QSize(227, 113)); // decoded at the size on the screen
+    QCOMPARE(ColoreFoto(foglio, {23, 35}), 0xff0000u);
+    QCOMPARE(ColoreFoto(foglio, {48, 23}), 0xff0000u);
+    QCOMPARE(ColoreFoto(foglio, {52, 47}), 0x0000ffu);
+    QCOMPARE(ColoreFoto(foglio, {77, 35}), 0x0000ffu);
+    QCOMPARE(ColoreFoto(foglio, {82, 35}), 0xffffffu);
+    // Decoded at the size on the screen.
+    const QSizeF misura = QSizeF(60, 30) / MillimetriPerPixel * foglio.devicePixelRatio();
+    QVERIFY(std::abs(banco.C3(1)->Figura().width() - misura.width()) <= 1);
+    QVERIFY(std::abs(banco.C3(1)->Figura().height() - misura.height()) <= 1);
 }
 
 void tst_ElementiFoglio::ImmagineMancanteTieneLaPrecedente_data()
@@ -414,16 +412,16 @@ void tst_ElementiFoglio::ImmagineMancanteTieneLaPrecedente()
         ImmaginiDiProva::Scrive(banco.cartella.filePath(nome), byte);
     }
     banco.Immagine(20, 20, 60, 30, QStringLiteral("verde.bmp"));
-    QCOMPARE(Pixel(banco.Fotografia(), {50, 35}), 0x00ff00u);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
     banco.modello.Immagini[1].Nome = nome;
     banco.frm->PosizionaImmagine(1, false);
-    QCOMPARE(Pixel(banco.Fotografia(), {50, 35}), 0x00ff00u);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
     banco.modello.Immagini[1].Larghezza = 90;
     banco.frm->PosizionaImmagine(1, false);
-    QCOMPARE(Pixel(banco.Fotografia(), {105, 35}), 0x00ff00u);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {105, 35}), 0x00ff00u);
     // A box that never had one stays empty.
     banco.Immagine(120, 20, 60, 30, nome);
-    QCOMPARE(Pixel(banco.Fotografia(), {150, 35}), 0xffffffu);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {150, 35}), 0xffffffu);
 }
 
 void tst_ElementiFoglio::ImmagineRilettaSoloSeCambiata()
@@ -446,7 +444,7 @@ void tst_ElementiFoglio::ImmagineRilettaSoloSeCambiata()
                              QFileDevice::FileModificationTime));
     file.close();
     banco.frm->PosizionaImmagine(1, true);
-    QCOMPARE(Pixel(banco.Fotografia(), {80, 35}), 0x0000ffu);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {80, 35}), 0x0000ffu);
 }
 
 void tst_ElementiFoglio::ImmagineFuoriCartellaIgnorata()
@@ -456,7 +454,7 @@ void tst_ElementiFoglio::ImmagineFuoriCartellaIgnorata()
     ImmaginiDiProva::Tinta({8, 8}, 0xff00ff00).save(altra.filePath(QStringLiteral("x.bmp")));
     banco.Immagine(20, 20, 60, 30,
                    QStringLiteral("../%1/x.bmp").arg(QFileInfo(altra.path()).fileName()));
-    QCOMPARE(Pixel(banco.Fotografia(), {50, 35}), 0xffffffu);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0xffffffu);
 }
 
 void tst_ElementiFoglio::ElementoNascostoNascondeLaManiglia()
@@ -591,7 +589,8 @@ void tst_ElementiFoglio::RigheSimulateDavantiATutto()
     // The caption of 200 characters is clipped: it paints in its row and nowhere else.
     const QImage dopo = banco.Fotografia();
     QVERIFY(dopo != prima);
-    const QRect posto(banco.Pixel({20, 30}), banco.Pixel({100, 35}) + QPoint(1, 1));
+    const QRect posto(PuntoFoto(dopo, {20, 30}) - QPoint(1, 1),
+                      PuntoFoto(dopo, {100, 35}) + QPoint(2, 2));
     for (int y = 0; y < dopo.height(); ++y) {
         for (int x = 0; x < dopo.width(); ++x) {
             if (dopo.pixel(x, y) != prima.pixel(x, y)) {

@@ -12,11 +12,6 @@
 
 namespace {
 
-QRgb Colore(const QImage &foglio, QPointF millimetri)
-{
-    return foglio.pixel((millimetri / Banco::MillimetriPerPixel).toPoint()) & 0xffffff;
-}
-
 /// Sends an event as one that comes from the window system.
 void MandaDaFuori(QWidget *controllo, QEvent &evento)
 {
@@ -121,8 +116,8 @@ void tst_Frm1::AperturaAllZoomDelMomento()
     QCOMPARE(ScrollX->maximum(), massimoX);
     QCOMPARE(ScrollY->minimum(), 0);
     QCOMPARE(ScrollY->maximum(), massimoY);
-    const QSize foglio(qRound(240 / zoom / Banco::MillimetriPerPixel),
-                       qRound(350 / zoom / Banco::MillimetriPerPixel));
+    const QSize foglio(qRound(240 / zoom / MillimetriPerPixel),
+                       qRound(350 / zoom / MillimetriPerPixel));
     QCOMPARE(Trova<QWidget>(*banco.frm, "P1")->size(), foglio);
     QCOMPARE(Trova<QWidget>(*banco.frm, "RighelloX")->width(), foglio.width());
     QCOMPARE(Trova<QWidget>(*banco.frm, "RighelloY")->height(), foglio.height());
@@ -143,8 +138,8 @@ void tst_Frm1::DisposizioneDellaFinestra()
     const QRect P1 = posto("P1");
     QCOMPARE(P1.top(), posto("RighelloX").bottom() + 1);
     QCOMPARE(P1.left(), posto("RighelloY").right() + 1);
-    QVERIFY(posto("RighelloX").height() * Banco::MillimetriPerPixel >= 6);
-    QVERIFY(posto("RighelloY").width() * Banco::MillimetriPerPixel >= 6);
+    QVERIFY(posto("RighelloX").height() * MillimetriPerPixel >= 6);
+    QVERIFY(posto("RighelloY").width() * MillimetriPerPixel >= 6);
     QCOMPARE(posto("ScrollY").right(), interna.right());
     QCOMPARE(posto("LL").right(), interna.right());
     for (const char *nome : {"Text1", "PX", "PY"}) {
@@ -203,7 +198,7 @@ void tst_Frm1::ScorreEsattamenteInMillimetri()
     const QPoint P1Posto0 = P1->pos();
     const QPoint X0 = RighelloX->pos();
     const QPoint Y0 = RighelloY->pos();
-    const int pixel = qRound(valore / Banco::MillimetriPerPixel);
+    const int pixel = qRound(valore / MillimetriPerPixel);
     Trova<QScrollBar>(*banco.frm, "ScrollX")->setValue(valore);
     QCOMPARE(P1->pos(), P1Posto0 - QPoint(pixel, 0));
     QCOMPARE(RighelloX->pos(), X0 - QPoint(pixel, 0));
@@ -429,17 +424,17 @@ void tst_Frm1::SfondoDipintoEPulito()
     ImmaginiDiProva::Tinta({20, 20}, 0xff00ffff).save(percorso);
     banco.frm->DipingeSfondo(percorso, QRectF(20, 10, 50, 40));
     QImage foglio = banco.Fotografia();
-    QCOMPARE(Colore(foglio, {20.5, 10.5}), 0x00ffffu);
-    QCOMPARE(Colore(foglio, {69.5, 49.5}), 0x00ffffu);
-    QCOMPARE(Colore(foglio, {19.5, 10.5}), 0xffffffu);
-    QCOMPARE(Colore(foglio, {70.5, 30}), 0xffffffu);
+    QCOMPARE(ColoreFoto(foglio, {20.5, 10.5}), 0x00ffffu);
+    QCOMPARE(ColoreFoto(foglio, {69.5, 49.5}), 0x00ffffu);
+    QCOMPARE(ColoreFoto(foglio, {19.5, 10.5}), 0xffffffu);
+    QCOMPARE(ColoreFoto(foglio, {70.5, 30}), 0xffffffu);
     // Nudged: the same picture half a millimetre further, and nothing left behind.
     banco.frm->DipingeSfondo(percorso, QRectF(22, 10, 50, 40));
     foglio = banco.Fotografia();
-    QCOMPARE(Colore(foglio, {21, 30}), 0xffffffu);
-    QCOMPARE(Colore(foglio, {71, 30}), 0x00ffffu);
+    QCOMPARE(ColoreFoto(foglio, {21, 30}), 0xffffffu);
+    QCOMPARE(ColoreFoto(foglio, {71, 30}), 0x00ffffu);
     banco.frm->PulisceSfondo();
-    QCOMPARE(Colore(banco.Fotografia(), {40, 30}), 0xffffffu);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {40, 30}), 0xffffffu);
 }
 
 void tst_Frm1::SfondoSegueLoZoom()
@@ -450,9 +445,9 @@ void tst_Frm1::SfondoSegueLoZoom()
     banco.frm->DipingeSfondo(percorso, QRectF(20, 10, 50, 40));
     banco.Zoom(QStringLiteral("2"));
     const QImage foglio = banco.Fotografia();
-    QCOMPARE(Colore(foglio, {10.5, 5.5}), 0x00ffffu);
-    QCOMPARE(Colore(foglio, {34.5, 24.5}), 0x00ffffu);
-    QCOMPARE(Colore(foglio, {35.6, 20}), 0xffffffu);
+    QCOMPARE(ColoreFoto(foglio, {10.5, 5.5}), 0x00ffffu);
+    QCOMPARE(ColoreFoto(foglio, {34.5, 24.5}), 0x00ffffu);
+    QCOMPARE(ColoreFoto(foglio, {35.6, 20}), 0xffffffu);
 }
 
 void tst_Frm1::SfondoDietroGliElementi()
@@ -477,7 +472,7 @@ void tst_Frm1::SfondoDietroGliElementi()
     }
     QVERIFY(rossiSenza > 100);
     QCOMPARE(rossiCon, rossiSenza);
-    QCOMPARE(Colore(con, {40, 25}), 0x00ffffu); // seen through the frame
+    QCOMPARE(ColoreFoto(con, {40, 25}), 0x00ffffu); // seen through the frame
 }
 
 void tst_Frm1::SfondoErrato_data()
@@ -502,7 +497,7 @@ void tst_Frm1::SfondoErrato()
     for (const QRectF &posto : {QRectF(0, 0, 100, 100), QRectF(0, 0, 0, 0)}) {
         banco.frm->DipingeSfondo(buono, QRectF(0, 0, 100, 100));
         QCOMPARE(ErroreDi([&] { banco.frm->DipingeSfondo(cattivo, posto); }), errore);
-        QCOMPARE(Colore(banco.Fotografia(), {40, 30}), 0xffffffu);
+        QCOMPARE(ColoreFoto(banco.Fotografia(), {40, 30}), 0xffffffu);
     }
 }
 

@@ -512,8 +512,8 @@ void tst_ManiSulFoglio::LineeGuidaDuranteIlTrascinamento()
     QCOMPARE(LineYY->Posto(), QRectF(angolo.x(), 0, 0, 350));
     const QImage foglio = banco.Fotografia();
     const QRgb colore = banco.S(2)->Sfondo().rgb();
-    QCOMPARE(foglio.pixel(10, banco.Pixel(angolo).y()), colore);
-    QCOMPARE(foglio.pixel(banco.Pixel(angolo).x(), 10), colore);
+    QCOMPARE(foglio.pixel(10, PuntoFoto(foglio, angolo).y()), colore);
+    QCOMPARE(foglio.pixel(PuntoFoto(foglio, angolo).x(), 10), colore);
     banco.Rilascia({80, 70});
     QVERIFY(!LineXX->isVisible() && !LineYY->isVisible());
 }

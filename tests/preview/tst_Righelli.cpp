@@ -37,10 +37,11 @@ QImage Dipinto(Qt::Orientation verso, double zoom)
 /// True when the line of the ruler at a place (mm along, mm across) is a tick.
 bool Verde(const QImage &righello, Qt::Orientation verso, double lungo, double traverso)
 {
-    const int l =
-        std::min<int>(qRound(lungo * Pixel),
-                      (verso == Qt::Horizontal ? righello.width() : righello.height()) - 1);
-    const int t = static_cast<int>(traverso * Pixel);
+    const double dpr = righello.devicePixelRatio();
+    const double scala = Pixel * dpr;
+    const int lunghezza = verso == Qt::Horizontal ? righello.width() : righello.height();
+    const int l = std::min(qRound(lungo * scala), qRound(lunghezza - dpr));
+    const int t = static_cast<int>(traverso * scala);
     const QRgb colore = verso == Qt::Horizontal ? righello.pixel(l, t) : righello.pixel(t, l);
     return (colore & 0xffffff) == Tavolozza::Rgb(Tavolozza::VerdeScuro);
 }
@@ -172,10 +173,11 @@ void tst_Righelli::ScritteDentroIlRighello()
     QVERIFY(misure.horizontalAdvance(QStringLiteral("24")) <= 2.2 * Pixel);
     // The digits of "10" stand in the two millimetres before the tick and nowhere below 4 mm.
     const QImage immagine = Dipinto(Qt::Horizontal, 1);
-    const QRgb sfondo = immagine.pixel(qRound(96.5 * Pixel), 1);
+    const double scala = Pixel * immagine.devicePixelRatio();
+    const QRgb sfondo = immagine.pixel(qRound(96.5 * scala), 1);
     int scuri = 0;
-    for (int x = qRound(98 * Pixel); x < qRound(99.9 * Pixel); ++x) {
-        for (int y = 0; y < qRound(3 * Pixel); ++y) {
+    for (int x = qRound(98 * scala); x < qRound(99.9 * scala); ++x) {
+        for (int y = 0; y < qRound(3 * scala); ++y) {
             scuri += immagine.pixel(x, y) != sfondo ? 1 : 0;
         }
     }
