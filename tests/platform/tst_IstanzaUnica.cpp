@@ -1,9 +1,9 @@
 #include "platform/IstanzaUnica.h"
+#include "support/FileDiProva.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -42,7 +42,7 @@ private slots:
     void SecondaIstanzaDopoLaFineDellaPrima();
     void ProcessoUcciso();
     void LucchettoVuoto();
-    void CartellaNonScrivibile();
+    void DiscoPieno();
     void RestaAcquisita();
 
 private:
@@ -132,14 +132,11 @@ void tst_IstanzaUnica::LucchettoVuoto()
     QTRY_COMPARE(altro.state(), QProcess::NotRunning);
 }
 
-void tst_IstanzaUnica::CartellaNonScrivibile()
+void tst_IstanzaUnica::DiscoPieno()
 {
-    // Nobody can make a file there, not even root.
-    qputenv("XDG_RUNTIME_DIR", "/proc/self");
-    qputenv("XDG_DATA_HOME", "/proc/self");
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("runtime directory")));
+    const LimiteFile nessunByte(0);
     IstanzaUnica istanza;
-    QVERIFY(istanza.Acquisisce());
+    QVERIFY2(istanza.Acquisisce(), "a full disk is no second instance");
 }
 
 void tst_IstanzaUnica::RestaAcquisita()
