@@ -1,3 +1,4 @@
+#include "base/ErroreSistema.h"
 #include "model/FileModello.h"
 
 #include "support/ModelloDiProva.h"
@@ -6,6 +7,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <ctime>
 #include <vector>
 
 /// Reading and composing a model of 300 elements, in memory.
@@ -18,6 +20,8 @@ private slots:
     void Componi();
     void ComponiConLaVirgola();
     void EntroIlMillisecondo();
+    void RigaPiuLunga_data();
+    void RigaPiuLunga();
 };
 
 namespace {
@@ -89,6 +93,36 @@ void bench_Modello::EntroIlMillisecondo()
           static_cast<long long>(byte.size()), analizza, componi);
     QVERIFY(analizza <= Microsecondi);
     QVERIFY(componi <= Microsecondi);
+}
+
+void bench_Modello::RigaPiuLunga_data()
+{
+    QTest::addColumn<QByteArray>("inizio");
+    QTest::addColumn<char>("resto");
+
+    const QByteArray righeVuote = QByteArray("\r\n").repeated(7);
+    QTest::newRow("testo") << QByteArray() << 'x';
+    QTest::newRow("cifre") << righeVuote << '9';
+    QTest::newRow("decimali") << righeVuote + "0." << '3';
+    QTest::newRow("esponente") << righeVuote + "1E-" << '9';
+    QTest::newRow("blank") << righeVuote << ' ';
+}
+
+void bench_Modello::RigaPiuLunga()
+{
+    QFETCH(QByteArray, inizio);
+    QFETCH(char, resto);
+    constexpr qint64 Millisecondi = 1000;
+    // A file of the size still read, of one line that never ends.
+    const QByteArray byte =
+        inizio + QByteArray(FileModello::DimensioneMassima - inizio.size(), resto);
+    Modello modello;
+    // The processor's time, so that what the machine does besides does not count.
+    const std::clock_t prima = std::clock();
+    QVERIFY_EXCEPTION_THROWN(FileModello::Analizza(byte, modello), ErroreSistema);
+    const qint64 trascorsi = qint64(std::clock() - prima) * 1000 / CLOCKS_PER_SEC;
+    qInfo("refused after %lld ms", static_cast<long long>(trascorsi));
+    QVERIFY(trascorsi <= Millisecondi);
 }
 
 QTEST_GUILESS_MAIN(bench_Modello)

@@ -12,7 +12,7 @@ namespace FileModello {
 
 /// In bytes. More than a model can hold whose every text fills its text box; what is larger is no
 /// model and is not read into memory.
-inline constexpr qint64 DimensioneMassima = 64 * 1024 * 1024;
+inline constexpr qint64 DimensioneMassima = qint64(64) * 1024 * 1024;
 
 /// Parses byte into modello: the counts start from 0, NomeFile stays. Throws ErroreSistema (62 past
 /// the end, 9 beyond 100 elements, 6 or 380 for a value that cannot be stored); what was read until

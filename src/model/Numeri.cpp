@@ -57,22 +57,41 @@ public:
         bool valido = false;
         const double valore =
             QByteArrayView(accettato_.data(), accettato_.size()).toDouble(&valido);
-        if (!valido) {
-            return FuoriDaiDoppi();
+        if (!valido && Grandezza() > 0) {
+            throw ErroreSistema(ErroreSistema::Overflow);
         }
-        return valore;
+        // What is invalid for being too small is simply 0.
+        return valido ? valore : 0;
     }
 
 private:
-    /// Too large throws, too small is simply 0; reading bytes does not tell them apart.
-    double FuoriDaiDoppi() const
+    /// The number is a fraction between 0.1 and 1 times this power of ten; 0 for zero.
+    qint64 Grandezza() const
     {
-        const double valore =
-            QLocale::c().toDouble(QString::fromLatin1(accettato_.data(), accettato_.size()));
-        if (!std::isfinite(valore)) {
-            throw ErroreSistema(ErroreSistema::Overflow);
+        const auto fine = esponente_ ? accettato_.begin() + postoEsponente_ : accettato_.end();
+        const auto punto = std::find(accettato_.begin(), fine, '.');
+        const auto prima =
+            std::find_if(accettato_.begin(), fine, [](char c) { return c >= '1' && c <= '9'; });
+        if (prima == fine) {
+            return 0;
         }
-        return valore;
+        return (prima < punto ? punto - prima : punto - prima + 1) + Esponente();
+    }
+
+    qint64 Esponente() const
+    {
+        if (!cifreEsponente_) {
+            return 0;
+        }
+        // Far beyond what any number of digits could make up for.
+        constexpr qint64 Massimo = 1'000'000'000'000;
+        qint64 valore = 0;
+        for (qsizetype i = postoEsponente_ + 1; i < accettato_.size() && valore < Massimo; ++i) {
+            if (Cifra(static_cast<unsigned char>(accettato_[i]))) {
+                valore = valore * 10 + (accettato_[i] - '0');
+            }
+        }
+        return accettato_[postoEsponente_ + 1] == '-' ? -valore : valore;
     }
 
     static char16_t InCarattere(QChar c) { return c.unicode(); }

@@ -104,6 +104,10 @@ void tst_Numeri::LettureTolleranti_data()
     uguali("1e300", "1E300", 1e300);
     uguali("-1e300", "-1E300", -1e300);
     uguali("sotto il piu' piccolo doppio", "1E-400", 0);
+    uguali("zero con un esponente enorme", "0E400", 0);
+    uguali("zeri attorno al punto ed esponente enorme", "00.000E99999999999999999999", 0);
+    uguali("grande per le cifre, piccolo per l'esponente", "1000E-400", 0);
+    uguali("esponente che supera 64 bit", "1E-99999999999999999999", 0);
     uguali("byte alti", "5\xE8", 5);
     uguali("spazio fisso",
            "\xA0"
@@ -143,6 +147,13 @@ void tst_Numeri::OltreUnDoppio_data()
     QTest::newRow("-1e309") << QStringLiteral("-1E309");
     QTest::newRow("1d999999999999") << QStringLiteral("1D999999999999");
     QTest::newRow("1000 cifre") << QString(1000, u'9');
+    QTest::newRow("zeri davanti") << QString(1000, u'0') + QStringLiteral("1E309");
+    QTest::newRow("piccolo per le cifre, grande per l'esponente")
+        << QStringLiteral("0.") + QString(100, u'0') + QStringLiteral("1E500");
+    QTest::newRow("esponente che supera 64 bit") << QStringLiteral("1E+99999999999999999999");
+    QTest::newRow("un milione di cifre") << QString(1'000'000, u'9');
+    QTest::newRow("esponente di un milione di cifre")
+        << QStringLiteral("1E") + QString(1'000'000, u'9');
 }
 
 void tst_Numeri::OltreUnDoppio()
