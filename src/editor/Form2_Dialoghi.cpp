@@ -100,7 +100,7 @@ void Form2::MostraDialogo(FrmElemento &dialogo)
     const QSize misura = dialogo.sizeHint();
     constexpr int Distanza = 20; // device-independent pixels
     const int sinistra = qMax(schermo.left(), schermo.right() - misura.width() - Distanza);
-    const int sopra = qMax(schermo.top(), qMin(frameGeometry().bottom() + 1,
+    const int sopra = qMax(schermo.top(), qMin(anteprima_->frameGeometry().top(),
                                                schermo.bottom() - misura.height() - 2 * Distanza));
     dialogo.move(sinistra, sopra);
     dialogo.exec();

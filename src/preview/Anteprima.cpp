@@ -15,6 +15,7 @@ namespace {
 
 constexpr int PassoFreccia = 5; // mm of screen, one click on a scroll bar's arrow
 constexpr double PuntiStriscia = 8;
+constexpr double PuntiAngolo = 6.5;
 
 QWidget *CreaArea(QWidget *finestra, const QString &nome)
 {
@@ -108,9 +109,12 @@ void Anteprima::CreaStriscia(QWidget *finestra)
                      true);
     for (QWidget *parte : std::initializer_list<QWidget *>{Text1, PX, PY, Label1, TextZoom, LL}) {
         QFont carattere = parte->font();
-        carattere.setPointSizeF(PuntiStriscia);
+        // The box in the corner is as narrow as the scroll bar and still shows "C1(100)".
+        carattere.setPointSizeF(parte == LL ? PuntiAngolo : PuntiStriscia);
         parte->setFont(carattere);
     }
+    LL->setFrame(false);
+    LL->setAlignment(Qt::AlignCenter);
 }
 
 void Anteprima::Dispone(QSize interna)
