@@ -44,14 +44,23 @@ QRectF Ingombro(const Segno &segno, QPaintDevice *stampante)
     return std::get<Barra>(segno).Posto;
 }
 
-/// Where pictures meet coloured marks or earlier pictures.
-QList<QRectF> Incontri(const Foglio &foglio, QPaintDevice *stampante, const QRectF &area)
+QList<QRectF> Ingombri(const Foglio &foglio, QPaintDevice *stampante)
+{
+    QList<QRectF> ingombri;
+    for (const Segno &segno : foglio.Segni) {
+        // One pixel more: the edges of letters may be rounded outwards.
+        ingombri.append(Ingombro(segno, stampante).adjusted(-1, -1, 1, 1));
+    }
+    return ingombri;
+}
+
+/// Where pictures meet coloured marks or earlier pictures. ingombri are those of the marks.
+QList<QRectF> Incontri(const Foglio &foglio, const QList<QRectF> &ingombri, const QRectF &area)
 {
     QList<QRectF> ostacoli;
-    for (const Segno &segno : foglio.Segni) {
-        if (Colore(segno) != Nero) {
-            // One pixel more: the edges of letters may be rounded outwards.
-            ostacoli.append(Ingombro(segno, stampante).adjusted(-1, -1, 1, 1));
+    for (qsizetype i = 0; i < ingombri.size(); ++i) {
+        if (Colore(foglio.Segni.at(i)) != Nero) {
+            ostacoli.append(ingombri.at(i));
         }
     }
     QList<QRectF> incontri;
@@ -119,7 +128,8 @@ void SovrapponeStriscia(QImage &pagina, int prima, const Figura &figura,
     }
 }
 
-QImage Compone(const Foglio &foglio, const QRect &rettangolo, double scala)
+QImage Compone(const Foglio &foglio, const QList<QRectF> &ingombri, const QRect &rettangolo,
+               double scala)
 {
     QImage pagina(rettangolo.size(), QImage::Format_RGB32);
     if (pagina.isNull()) {
@@ -129,11 +139,17 @@ QImage Compone(const Foglio &foglio, const QRect &rettangolo, double scala)
     QTransform trasformazione;
     trasformazione.translate(-rettangolo.x(), -rettangolo.y());
     trasformazione.scale(scala, scala);
+    const QRectF coperto =
+        trasformazione.inverted().mapRect(QRectF(0, 0, pagina.width(), pagina.height()));
     {
         // No smoothing: a half-covered pixel ANDed with a colour would be neither of the two.
         QPainter pittore(&pagina);
         pittore.setTransform(trasformazione);
-        for (const Segno &segno : foglio.Segni) {
+        for (qsizetype i = 0; i < ingombri.size(); ++i) {
+            const Segno &segno = foglio.Segni.at(i);
+            if (!ingombri.at(i).intersects(coperto)) {
+                continue;
+            }
             if (const auto *testo = std::get_if<Testo>(&segno)) {
                 ScriveComeTracciato(pittore, *testo);
             } else {
@@ -141,8 +157,6 @@ QImage Compone(const Foglio &foglio, const QRect &rettangolo, double scala)
             }
         }
     }
-    const QRectF coperto =
-        trasformazione.inverted().mapRect(QRectF(0, 0, pagina.width(), pagina.height()));
     for (const Figura &figura : foglio.Figure) {
         if (figura.Posto.intersects(coperto)) {
             for (int y = 0; y < pagina.height(); y += RigheStriscia) {
@@ -177,7 +191,11 @@ void Sovrapposizione::Dipinge(QPainter &pittore, const Segno &segno)
 QList<Sovrapposizione::Pezza> Sovrapposizione::Pezze(const Foglio &foglio, QPaintDevice *stampante,
                                                      const QRectF &area, double puntiPerPollice)
 {
-    const QList<QRectF> incontri = Incontri(foglio, stampante, area);
+    if (foglio.Figure.isEmpty()) {
+        return {};
+    }
+    const QList<QRectF> ingombri = Ingombri(foglio, stampante);
+    const QList<QRectF> incontri = Incontri(foglio, ingombri, area);
     if (incontri.isEmpty()) {
         return {};
     }
@@ -191,7 +209,7 @@ QList<Sovrapposizione::Pezza> Sovrapposizione::Pezze(const Foglio &foglio, QPain
     for (const QRect &rettangolo : regione) {
         pezze.append({QRectF(rettangolo.x() / scala, rettangolo.y() / scala,
                              rettangolo.width() / scala, rettangolo.height() / scala),
-                      Compone(foglio, rettangolo, scala)});
+                      Compone(foglio, ingombri, rettangolo, scala)});
     }
     return pezze;
 }

@@ -1,0 +1,128 @@
+#include "print/StampaProva.h"
+
+#include "platform/Stampanti.h"
+#include "print/Retino.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <vector>
+
+/// The test print of 300 elements (100 fields, 100 frames, 100 different pictures) into a PDF file.
+class bench_Stampa : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void Stampa();
+    void StampaConSovrapposizioni();
+    void Retino();
+    void EntroUnDecimoDiSecondo();
+
+private:
+    void StampaUnaVolta(const Modello &modello);
+
+    QTemporaryDir dir_;
+    Modello modello_;
+};
+
+namespace {
+
+constexpr int PerGenere = 100;
+
+QImage Figura(int i)
+{
+    QImage figura(64, 48, QImage::Format_RGB32);
+    for (int y = 0; y < figura.height(); ++y) {
+        for (int x = 0; x < figura.width(); ++x) {
+            figura.setPixel(x, y, qRgb(255 - x * i % 200, 255 - y * 3, (x * y + i) % 256));
+        }
+    }
+    return figura;
+}
+
+} // namespace
+
+void bench_Stampa::initTestCase()
+{
+    for (int i = 0; i < PerGenere; ++i) {
+        const double colonna = i % 10 * 20;
+        const double riga = i / 10 * 27;
+        Campo &campo = modello_.Campi[modello_.AggiungeCampo(5 + i % 5 * 40, 5 + i / 5 * 13.5)];
+        campo.Testo = QStringLiteral("Testo di prova %1").arg(i);
+        campo.Grassetto = i % 2 == 0 ? Falso : Vero;
+        campo.Dimensione = static_cast<qint16>(7 + i % 6);
+        Cornice &cornice = modello_.Cornici[modello_.AggiungeCornice(3 + colonna, 3 + riga, 1, 1)];
+        cornice.Testo = QStringLiteral("Cornice %1").arg(i);
+        cornice.Larghezza = 18;
+        cornice.Altezza = 24;
+        cornice.Bordo = 1 + i % 5 * 0.1;
+        cornice.ColoreCornice = static_cast<qint16>(i % 16);
+        Immagine &immagine = modello_.Immagini[modello_.AggiungeImmagine(8 + colonna, 13 + riga)];
+        immagine.Nome = QStringLiteral("figura%1.%2")
+                            .arg(i)
+                            .arg(i % 2 == 0 ? QLatin1String("jpg") : QLatin1String("bmp"));
+        immagine.Larghezza = 10;
+        immagine.Altezza = 7;
+        QVERIFY(Figura(i).save(dir_.filePath(immagine.Nome)));
+    }
+}
+
+void bench_Stampa::StampaUnaVolta(const Modello &modello)
+{
+    const auto stampante = Stampanti::SuPdf(dir_.filePath(QStringLiteral("foglio.pdf")));
+    StampaModello(modello, dir_.path() + QLatin1Char('/'), *stampante, false,
+                  [](const QString &testo) { QFAIL(qPrintable(testo)); });
+}
+
+void bench_Stampa::Stampa()
+{
+    QBENCHMARK
+    {
+        StampaUnaVolta(modello_);
+    }
+}
+
+void bench_Stampa::StampaConSovrapposizioni()
+{
+    Modello modello = modello_;
+    for (int i = 1; i <= PerGenere; ++i) {
+        modello.Immagini[i].Larghezza = 30; // each over its neighbour and over coloured bars
+    }
+    QBENCHMARK
+    {
+        StampaUnaVolta(modello);
+    }
+}
+
+void bench_Stampa::Retino()
+{
+    const auto stampante = Stampanti::SuPdf(dir_.filePath(QStringLiteral("retino.pdf")));
+    QBENCHMARK
+    {
+        StampaRetino(*stampante);
+    }
+}
+
+void bench_Stampa::EntroUnDecimoDiSecondo()
+{
+    constexpr std::size_t Prove = 21;
+    constexpr double Obiettivo = 100;
+    std::vector<double> tempi;
+    for (std::size_t i = 0; i < Prove; ++i) {
+        QElapsedTimer tempo;
+        tempo.start();
+        StampaUnaVolta(modello_);
+        tempi.push_back(static_cast<double>(tempo.nsecsElapsed()) / 1e6);
+    }
+    std::nth_element(tempi.begin(), tempi.begin() + Prove / 2, tempi.end());
+    qInfo("300 elements to PDF: %.1f ms, goal %.0f ms", tempi[Prove / 2], Obiettivo);
+    QVERIFY(tempi[Prove / 2] <= Obiettivo);
+}
+
+QTEST_MAIN(bench_Stampa)
+#include "bench_Stampa.moc"
