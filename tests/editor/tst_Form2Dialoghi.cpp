@@ -1,0 +1,319 @@
+#include "dialogs/FrmCampo.h"
+#include "dialogs/FrmCornice.h"
+#include "editor/Form2.h"
+#include "preview/Frm1.h"
+#include "support/ArchivioDiProva.h"
+#include "support/Finestre.h"
+#include "support/Robot.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QTest>
+
+namespace {
+
+/// The editor over a field, a frame and an image, two of the kind where that matters.
+class EditorDiProva
+{
+public:
+    EditorDiProva()
+    {
+        prova.AggiungeCampo(QStringLiteral("Data"), 20, 30);
+        prova.AggiungeCampo(QStringLiteral("Totale"), 60, 30);
+        prova.AggiungeCornice(QStringLiteral("Riquadro"), 30, 40, 20, 10);
+        prova.AggiungeCornice(QStringLiteral("Scritta"), 30, 60, 20, 10);
+        prova.AggiungeImmagine(QStringLiteral("logo.bmp"), 40, 50, 20, 10);
+        Campo &totale = prova.Aperto().Campi[2];
+        totale.Testo = QStringLiteral("1.234,50");
+        totale.Maschera = QStringLiteral("###.###,###");
+        totale.MascheraDefault = totale.Maschera;
+        totale.Dimensione = 9;
+        totale.Grassetto = Vero;
+        prova.Scrive();
+        editor = std::make_unique<Form2>(prova.Stato());
+        caricato = editor->Form_Load();
+    }
+    ~EditorDiProva() { editor->Variato = false; }
+
+    Modello &Aperto() { return prova.Aperto(); }
+    QGraphicsObject *Controllo(const char *nome)
+    {
+        return ElementoAnteprima(*editor->Anteprima(), QString::fromLatin1(nome));
+    }
+
+    ArchivioDiProva prova;
+    std::unique_ptr<Form2> editor;
+    bool caricato = false;
+};
+
+QString Testo(QDialog *dialogo, const char *nome)
+{
+    return Trova<QLineEdit>(*dialogo, nome)->text();
+}
+
+} // namespace
+
+class tst_Form2Dialoghi : public QObject
+{
+    Q_OBJECT
+private slots:
+    void IlCampoRiempieIlDialogo();
+    void CampoNonStampato();
+    void ConfermaAggiornaAnteprimaEVoce();
+    void MascheraPredefinitaRipresa();
+    void EliminaCampo();
+    void EliminaCornice();
+    void EliminaImmagine();
+    void FontSconosciutoDiventaArial();
+    void DimensioneFuoriElencoNonSiSceglie();
+    void DimensioniConUnaCifra();
+    void MascheraFuoriCatalogo();
+    void FontSuTuttiICampi();
+    void DialogoDentroLoSchermo_data();
+    void DialogoDentroLoSchermo();
+    void IndiceZeroNonApre();
+};
+
+void tst_Form2Dialoghi::IlCampoRiempieIlDialogo()
+{
+    EditorDiProva e;
+    QVERIFY(e.caricato);
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        QCOMPARE(d->windowTitle(), QStringLiteral("Modifica impostazioni Campo"));
+        QCOMPARE(Testo(d, "Num"), QStringLiteral("2"));
+        QCOMPARE(Testo(d, "Nome"), QStringLiteral("Totale"));
+        QCOMPARE(Testo(d, "Testo"), QStringLiteral("1.234,50"));
+        QCOMPARE(Testo(d, "Maschera"), QStringLiteral("###.###,###"));
+        QCOMPARE(Testo(d, "MascheraDefault"), QStringLiteral("###.###,###"));
+        QCOMPARE(Testo(d, "X"), QStringLiteral("60"));
+        QCOMPARE(Testo(d, "Y"), QStringLiteral("30"));
+        QVERIFY(Trova<QCheckBox>(*d, "Bold")->isChecked());
+        QCOMPARE(Trova<QComboBox>(*d, "ComboFont")->currentText(), QStringLiteral("Arial"));
+        QCOMPARE(Trova<QComboBox>(*d, "ComboDim")->currentText(), QStringLiteral(" 9"));
+        QCOMPARE(Trova<QComboBox>(*d, "ComboMask")->currentText(),
+                 QStringLiteral("###.###,### 2 decimali"));
+        QCOMPARE(Trova<QAbstractButton>(*d, "NonStampaCampo")->text().remove(u'&'),
+                 QStringLiteral("non stampare campo"));
+        d->reject();
+    });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!e.editor->Variato);
+}
+
+void tst_Form2Dialoghi::CampoNonStampato()
+{
+    EditorDiProva e;
+    e.Aperto().Campi[2].Maschera = QStringLiteral("No");
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        QCOMPARE(Trova<QAbstractButton>(*d, "NonStampaCampo")->text().remove(u'&'),
+                 QStringLiteral("ripristina stampa campo"));
+        QCOMPARE(Trova<QComboBox>(*d, "ComboMask")->currentText(), QStringLiteral("No non stampa"));
+        d->reject();
+    });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+}
+
+void tst_Form2Dialoghi::ConfermaAggiornaAnteprimaEVoce()
+{
+    EditorDiProva e;
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        Trova<QLineEdit>(*d, "Nome")->setText(QStringLiteral("Importo"));
+        Trova<QLineEdit>(*d, "X")->setText(QStringLiteral("70.4"));
+        Preme(*d, "PConfemaCampo");
+    });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(e.editor->Variato);
+    QCOMPARE(e.Aperto().Campi[2].X, 70.0); // the placing rounds to whole millimetres
+    QCOMPARE(e.Controllo("C1(2)")->pos().x(), 70.0);
+    QCOMPARE(Trova<QComboBox>(*e.editor, "ComboCampi")->currentText(), QStringLiteral("Importo"));
+    QCOMPARE(Voci(*e.editor, "ComboCampi").value(2), QStringLiteral("Importo"));
+}
+
+void tst_Form2Dialoghi::MascheraPredefinitaRipresa()
+{
+    EditorDiProva e;
+    e.Aperto().Campi[2].Maschera = QStringLiteral("No");
+    Robot robot;
+    robot.Agisce([](QDialog *d) { Preme(*d, "NonStampaCampo"); });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(e.Aperto().Campi[2].Maschera, QStringLiteral("###.###,###"));
+    static const QRegularExpression esempio(QStringLiteral("^\\d{3}\\.\\d{3},\\d{2}$"));
+    QVERIFY2(esempio.match(e.Aperto().Campi[2].Testo).hasMatch(),
+             qPrintable(e.Aperto().Campi[2].Testo));
+}
+
+void tst_Form2Dialoghi::EliminaCampo()
+{
+    EditorDiProva e;
+    e.editor->Anteprima()->SelezionaCampo(1);
+    Robot robot;
+    robot.Agisce([](QDialog *d) { Preme(*d, "PEliminaCampo"); }).Si();
+    e.editor->ApreFrmCampo(1);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().value(1), QStringLiteral("Elimino il campo Data"));
+    QVERIFY(e.editor->Variato);
+    QCOMPARE(Trova<QComboBox>(*e.editor, "ComboCampi")->currentText(),
+             QStringLiteral(" ELIMINATO: Data"));
+    QVERIFY(!e.Controllo("C1(1)")->isVisible());
+    QVERIFY(!e.Controllo("S1")->isVisible());
+    QCOMPARE(e.Aperto().NumCampi, qint16(2));
+    Preme(*e.editor, "VariazioneCampo"); // an item that is deleted opens nothing
+    QCOMPARE(robot.Testi().size(), 2);
+}
+
+void tst_Form2Dialoghi::EliminaCornice()
+{
+    EditorDiProva e;
+    Robot robot;
+    robot.Agisce([](QDialog *d) { Preme(*d, "Elimina"); }).Si();
+    e.editor->ApreFrmCornice(2);
+    QCOMPARE(robot.Testi().value(1), QStringLiteral("Elimino Cornice Scritta"));
+    QCOMPARE(Voci(*e.editor, "ComboCornici").value(2), QStringLiteral(" ELIMINATO: Scritta"));
+    QVERIFY(!e.Controllo("C2(2)")->isVisible());
+    QVERIFY(e.Aperto().Cornici[2].Nome.isEmpty());
+}
+
+void tst_Form2Dialoghi::EliminaImmagine()
+{
+    EditorDiProva e;
+    Robot robot;
+    robot.Agisce([](QDialog *d) { Preme(*d, "Elimina"); }).Si();
+    e.editor->ApreFrmImmagine(1);
+    QCOMPARE(robot.Testi().value(1), QStringLiteral("Elimino Immagine logo.bmp"));
+    QCOMPARE(Voci(*e.editor, "ComboImmagini").value(1), QStringLiteral(" ELIMINATO: logo.bmp"));
+    QVERIFY(!e.Controllo("C3(1)")->isVisible());
+}
+
+void tst_Form2Dialoghi::FontSconosciutoDiventaArial()
+{
+    EditorDiProva e;
+    e.Aperto().Campi[2].Font = QStringLiteral("Inesistente");
+    Robot robot;
+    robot.Ok().Agisce([](QDialog *d) {
+        QCOMPARE(Trova<QComboBox>(*d, "ComboFont")->currentText(), QStringLiteral("Arial"));
+        d->reject();
+    });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constFirst(),
+             QStringLiteral("font Inesistente non esistente: verrà impostato Arial"));
+    QCOMPARE(e.Aperto().Campi[2].Font, QStringLiteral("Inesistente"));
+}
+
+void tst_Form2Dialoghi::DimensioneFuoriElencoNonSiSceglie()
+{
+    EditorDiProva e;
+    e.Aperto().Cornici[1].Dimensione = 60;
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        QCOMPARE(Trova<QComboBox>(*d, "ComboDim")->currentIndex(), -1);
+        d->reject();
+    });
+    e.editor->ApreFrmCornice(1);
+    QVERIFY(robot.Soddisfatto());
+}
+
+void tst_Form2Dialoghi::DimensioniConUnaCifra()
+{
+    EditorDiProva e;
+    FrmCornice dialogo(e.prova.Stato(), nullptr);
+    dialogo.RiempieComboImpostazioni();
+    e.editor->SettaFont(dialogo, QStringLiteral("DejaVu Sans"), QStringLiteral("6"));
+    QCOMPARE(dialogo.Font()->currentText(), QStringLiteral("DejaVu Sans"));
+    QCOMPARE(dialogo.Dimensioni()->currentText(), QStringLiteral(" 6"));
+    e.editor->SettaFont(dialogo, QStringLiteral("Arial"), QStringLiteral("40"));
+    QCOMPARE(dialogo.Dimensioni()->currentText(), QStringLiteral("40"));
+}
+
+void tst_Form2Dialoghi::MascheraFuoriCatalogo()
+{
+    EditorDiProva e;
+    e.Aperto().Campi[1].Maschera = QStringLiteral("##/##/####");
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        QCOMPARE(Trova<QComboBox>(*d, "ComboMask")->currentIndex(), -1);
+        QCOMPARE(Testo(d, "Maschera"), QStringLiteral("##/##/####"));
+        d->reject();
+    });
+    e.editor->ApreFrmCampo(1);
+    QVERIFY(robot.Soddisfatto());
+}
+
+void tst_Form2Dialoghi::FontSuTuttiICampi()
+{
+    EditorDiProva e;
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        auto *font = Trova<QComboBox>(*d, "ComboFont");
+        font->setCurrentIndex(font->findText(QStringLiteral("DejaVu Sans")));
+        Preme(*d, "Command2");
+        d->reject();
+    });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+    for (int k = 1; k <= 2; ++k) {
+        QCOMPARE(e.Aperto().Campi[k].Font, QStringLiteral("DejaVu Sans"));
+        QCOMPARE(e.Aperto().Campi[k].Dimensione, qint16(9));
+        QCOMPARE(e.Aperto().Campi[k].Grassetto, Vero);
+    }
+    QVERIFY(e.editor->Variato);
+}
+
+void tst_Form2Dialoghi::DialogoDentroLoSchermo_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::newRow("campo") << Genere::Campo;
+    QTest::newRow("cornice") << Genere::Cornice;
+    QTest::newRow("immagine") << Genere::Immagine;
+}
+
+void tst_Form2Dialoghi::DialogoDentroLoSchermo()
+{
+    QFETCH(const Genere, genere);
+    EditorDiProva e;
+    e.editor->show();
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        const QRect schermo = d->screen()->availableGeometry();
+        // The offscreen screen is 800 pixels wide; a dialog that fits stands inside it.
+        QVERIFY2(d->pos().x() >= schermo.left() && d->pos().y() >= schermo.top() &&
+                     d->frameGeometry().right() <= schermo.right() &&
+                     d->frameGeometry().bottom() <= schermo.bottom(),
+                 qPrintable(QStringLiteral("%1,%2").arg(d->pos().x()).arg(d->pos().y())));
+        d->reject();
+    });
+    switch (genere) {
+    case Genere::Campo:
+        e.editor->ApreFrmCampo(1);
+        break;
+    case Genere::Cornice:
+        e.editor->ApreFrmCornice(1);
+        break;
+    case Genere::Immagine:
+        e.editor->ApreFrmImmagine(1);
+        break;
+    }
+    QVERIFY(robot.Soddisfatto());
+}
+
+void tst_Form2Dialoghi::IndiceZeroNonApre()
+{
+    EditorDiProva e;
+    Robot robot;
+    e.editor->ApreFrmCampo(0);
+    e.editor->ApreFrmCornice(0);
+    e.editor->ApreFrmImmagine(0);
+    QVERIFY(robot.Testi().isEmpty());
+}
+
+QTEST_MAIN(tst_Form2Dialoghi)
+#include "tst_Form2Dialoghi.moc"
