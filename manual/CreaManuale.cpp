@@ -232,7 +232,7 @@ int main(int argc, char **argv)
     html.replace(QStringLiteral("{VERSIONE}"), parole.at(3));
     html = SistemaFigure(html, QDir(parole.at(2)));
 
-    const QString nomeUscita = parole.at(4);
+    const QString &nomeUscita = parole.at(4);
     if (!QFileInfo(nomeUscita).absoluteDir().mkpath(QStringLiteral(".")))
         return Fallisce(nomeUscita + QStringLiteral(": its folder cannot be made"));
     QPdfWriter uscita(nomeUscita);
