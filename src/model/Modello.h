@@ -137,34 +137,37 @@ struct Modello
     int AggiungeCampo(double x, double y);
     int AggiungeCornice(double x, double y, int minuto, int secondo);
     int AggiungeImmagine(double x, double y);
+
+private:
+    /// One body for the constant and the changeable model.
+    template <typename Questo, typename Azione>
+    static decltype(auto) ConTabella(Questo &questo, Genere genere, Azione &&azione);
 };
+
+template <typename Questo, typename Azione>
+decltype(auto) Modello::ConTabella(Questo &questo, Genere genere, Azione &&azione)
+{
+    switch (genere) {
+    case Genere::Campo:
+        return azione(questo.Campi);
+    case Genere::Cornice:
+        return azione(questo.Cornici);
+    case Genere::Immagine:
+        break;
+    }
+    return azione(questo.Immagini);
+}
 
 template <typename Azione>
 decltype(auto) Modello::Con(Genere genere, Azione &&azione)
 {
-    switch (genere) {
-    case Genere::Campo:
-        return azione(Campi);
-    case Genere::Cornice:
-        return azione(Cornici);
-    case Genere::Immagine:
-        break;
-    }
-    return azione(Immagini);
+    return ConTabella(*this, genere, std::forward<Azione>(azione));
 }
 
 template <typename Azione>
 decltype(auto) Modello::Con(Genere genere, Azione &&azione) const
 {
-    switch (genere) {
-    case Genere::Campo:
-        return azione(Campi);
-    case Genere::Cornice:
-        return azione(Cornici);
-    case Genere::Immagine:
-        break;
-    }
-    return azione(Immagini);
+    return ConTabella(*this, genere, std::forward<Azione>(azione));
 }
 
 /// True for a body-row field: the name begins with "R_", upper case.
