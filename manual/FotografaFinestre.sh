@@ -3,7 +3,7 @@
 #
 # FotografaFinestre.sh [BUILD_FOLDER]   default: build/debug
 #
-# Needs Xvfb, openbox, xdotool and ImageMagick. The pictures go to BUILD_FOLDER/manuale/figure; the
+# Needs Xvfb, openbox, xdotool, ImageMagick and poppler-utils. The pictures go to BUILD_FOLDER/manuale/figure; the
 # next build makes the manual with them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -190,8 +190,16 @@ pagina 5
 ritraeSchermo ImmagineSfondo
 chiudeEditor
 
+# The test print, without and with the names of the fields, side by side.
+fattura=$dati/Contabilita/ini/Fattura_Rossi.Mod
+"$programma" --modello "$fattura" --pdf "$prova/testi.pdf"
+"$programma" --modello "$fattura" --pdf "$prova/nomi.pdf" --nomi
+for f in testi nomi; do pdftoppm -r 110 -png -singlefile "$prova/$f.pdf" "$prova/$f"; done
+convert "$prova/testi.png" "$prova/nomi.png" -bordercolor gray -border 2 \
+  -bordercolor white -border 12 +append "$figure/StampaProva.png"
+
 for f in FinestraIniziale NuovoModello FinestraLavoro ImpostazioniCampo ImpostazioniCornice \
-         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento ImmagineSfondo; do
+         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento ImmagineSfondo StampaProva; do
   [ -s "$figure/$f.png" ] || { echo "FotografaFinestre: no $f" >&2; exit 1; }
 done
 echo "pictures in $figure"
