@@ -18,10 +18,10 @@ constexpr int MarcatoreSos = 0xDA;
 constexpr int MarcatoreEoi = 0xD9;
 /// Progressive pictures have about ten scans; a file made of hundreds would decode for minutes.
 constexpr int ScansioniMassime = 64;
-/// Steps that a walk over a file takes at most: no picture needs more, and a file made only to be
-/// walked over must not hold the program up.
+/// Parts of a header, and blocks of a GIF's picture, that are walked over at most: no picture has
+/// more, and a file made only to be walked over must not hold the program up.
 constexpr int SegmentiMassimi = 1 << 14;
-constexpr int PassiMassimi = 1 << 18;
+constexpr int BlocchiMassimi = 1 << 18;
 
 QByteArray Byte(QIODevice &file, qint64 posto, qint64 quanti)
 {
@@ -98,7 +98,7 @@ qint64 DopoTavolaGif(qint64 posto, int opzioni)
 /// The offset after a chain of sub-blocks, -1 when the file ends before it.
 qint64 DopoBlocchiGif(QIODevice &file, qint64 posto)
 {
-    for (int passo = 0; passo < PassiMassimi; ++passo) {
+    for (int passo = 0; passo < BlocchiMassimi; ++passo) {
         const QByteArray lunghezza = Byte(file, posto, 1);
         if (lunghezza.isEmpty()) {
             return -1;
@@ -118,7 +118,7 @@ bool GifIntera(QIODevice &file)
         return false;
     }
     qint64 posto = DopoTavolaGif(13, quint8(testa.at(10)));
-    for (int passo = 0; passo < PassiMassimi; ++passo) {
+    for (int passo = 0; passo < SegmentiMassimi; ++passo) {
         const QByteArray blocco = Byte(file, posto, 10);
         if (blocco.startsWith('\x21')) { // extension: label, then sub-blocks
             posto = DopoBlocchiGif(file, posto + 2);

@@ -84,6 +84,8 @@ private slots:
     void gifConFotogrammaPiccolo();
     void scalata_data();
     void scalata();
+    void entro();
+    void percorsoInCartella();
     void scansione35Megapixel_data();
     void scansione35Megapixel();
     void nonEsiste();
@@ -231,6 +233,32 @@ void tst_Immagini::scalata()
     QCOMPARE(letta.size(), pixel);
     QCOMPARE(letta.format(), QImage::Format_RGB32);
     QVERIFY(Simili(letta.pixel(pixel.width() / 2, pixel.height() / 2), qRgb(30, 160, 90)));
+}
+
+void tst_Immagini::entro()
+{
+    for (const char *formato : {"jpeg", "bmp"}) {
+        const QString percorso = Scrivi(InFormato(Tinta({400, 200}, qRgb(30, 160, 90)), formato));
+        QCOMPARE(Immagini::CaricaEntro(percorso, {1000, 1000}).size(), QSize(400, 200));
+        QCOMPARE(Immagini::CaricaEntro(percorso, {1000, 50}).size(), QSize(400, 50));
+        const QImage piccola = Immagini::CaricaEntro(percorso, {40, 30});
+        QCOMPARE(piccola.size(), QSize(40, 30));
+        QVERIFY(Simili(piccola.pixel(20, 15), qRgb(30, 160, 90)));
+    }
+}
+
+void tst_Immagini::percorsoInCartella()
+{
+    const QString cartella = dir_.path() + QLatin1Char('/');
+    Scrive(cartella + QStringLiteral("LOGO.Bmp"), "x");
+    QCOMPARE(Immagini::PercorsoInCartella(cartella, QStringLiteral("logo.bmp")),
+             cartella + QStringLiteral("LOGO.Bmp"));
+    QCOMPARE(Immagini::PercorsoInCartella(cartella, QStringLiteral("manca.bmp")),
+             cartella + QStringLiteral("manca.bmp"));
+    for (const char *nome : {"", "..", "../a.bmp", "..\\a.bmp", "x/../../a.bmp", "."}) {
+        QCOMPARE(Errore([&] { Immagini::PercorsoInCartella(cartella, QString::fromLatin1(nome)); }),
+                 ErroreSistema::FileNonTrovato);
+    }
 }
 
 void tst_Immagini::scansione35Megapixel_data()
