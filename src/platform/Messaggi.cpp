@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <cstdio>
 
@@ -143,6 +144,10 @@ std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &tito
     riquadro.setTextValue(proposta);
     riquadro.setOkButtonText(QStringLiteral("OK"));
     riquadro.setCancelButtonText(QStringLiteral("Annulla"));
+    // The title says what is asked for: it must not be cut between the frame's icon and buttons.
+    constexpr int IconaEBottoni = 160; // device-independent pixels
+    riquadro.setMinimumWidth(qMin(riquadro.fontMetrics().horizontalAdvance(titolo) + IconaEBottoni,
+                                  riquadro.screen()->availableGeometry().width()));
     if (riquadro.exec() != QDialog::Accepted) {
         return std::nullopt;
     }
