@@ -190,10 +190,12 @@ void ElementiFoglio::Seleziona(Genere genere, int i)
 void ElementiFoglio::AncoraManiglia(Genere genere, int i)
 {
     const QRectF posto = Elemento(genere, i).Posto();
-    // A handle as large as its element would leave nothing of it to point at.
-    const double metaDelMinore = std::min(posto.width(), posto.height()) / 2;
-    const double lato = std::clamp(metaDelMinore, geometria_.Millimetri(LatoMinimoManiglia),
-                                   geometria_.Millimetri(LatoManiglia));
+    // A handle as large as its element would leave nothing of it to point at. A field is taken by
+    // its handle only, never by an edge, so its handle may be as high as its line.
+    const double altezza = genere == Genere::Campo ? posto.height() : posto.height() / 2;
+    const double lato =
+        std::clamp(std::min(posto.width() / 2, altezza), geometria_.Millimetri(LatoMinimoManiglia),
+                   geometria_.Millimetri(LatoManiglia));
     ManigliaDi(genere).Colloca(QRectF(posto.topLeft(), QSizeF(lato, lato)));
 }
 
