@@ -58,7 +58,10 @@ bool Plakera::eventFilter(QObject *oggetto, QEvent *evento)
     if (evento->type() == QEvent::KeyPress && oggetto->isWidgetType() &&
         static_cast<QKeyEvent *>(evento)->key() == Qt::Key_F1) {
         auto *controllo = static_cast<QWidget *>(oggetto);
-        Guardia(controllo->window(), [&] { ApriGuida(ArgomentoDi(controllo)); });
+        // A key held down is still one request.
+        if (!static_cast<QKeyEvent *>(evento)->isAutoRepeat()) {
+            Guardia(controllo->window(), [&] { ApriGuida(ArgomentoDi(controllo)); });
+        }
         return true;
     }
     return QObject::eventFilter(oggetto, evento);

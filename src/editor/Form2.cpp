@@ -15,14 +15,16 @@
 #include "platform/Percorsi.h"
 #include "platform/Stampanti.h"
 #include "preview/Frm1.h"
+#include "preview/GeometriaAnteprima.h"
 #include "print/Retino.h"
 #include "print/StampaProva.h"
 #include "ui_Form2.h"
 
 #include <QCloseEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
-#include <QStyle>
 #include <QTime>
+#include <QWindow>
 
 namespace {
 
@@ -161,7 +163,10 @@ void Form2::Collegamenti()
     connect(righe_, &PaginaRighe::Variato, this, &Form2::SegnaVariato);
     connect(sfondo_, &PaginaSfondo::Variato, this, &Form2::SegnaVariato);
     Collega(righe_, &PaginaRighe::ModificaConclusa, this, &Form2::ModificaConclusa);
-    Collega(spostamento_, &PaginaSpostamento::ModificaConclusa, this, &Form2::ModificaConclusa);
+    Collega(spostamento_, &PaginaSpostamento::ModificaConclusa, this, [this] {
+        RidisegnaRighe();
+        ModificaConclusa();
+    });
     Collega(sfondo_, &PaginaSfondo::ModificaConclusa, this, &Form2::ModificaConclusa);
 }
 
@@ -177,10 +182,12 @@ void Form2::CollegaAnteprima()
     Collega(anteprima, &Frm1::RichiestaProprieta, this, &Form2::ApreProprieta);
     Collega(anteprima, &Frm1::SfondoDaRidisegnare, this,
             [this] { sfondo_->ImpostaImmagineSfondo(false); });
-    Collega(anteprima, &Frm1::RigheDaRidisegnare, this, [this] { righe_->SimuloRighe(); });
+    Collega(anteprima, &Frm1::RigheDaRidisegnare, this, &Form2::RidisegnaRighe);
     // An editor without its preview is of no use: closing the preview closes the editor, with its
     // question about unsaved work. Queued, because the preview is in the middle of its own event.
-    connect(anteprima, &Frm1::ChiusuraRichiesta, this, &QWidget::close, Qt::QueuedConnection);
+    connect(
+        anteprima, &Frm1::ChiusuraRichiesta, this, [this] { Guardia(this, [this] { Chiude(); }); },
+        Qt::QueuedConnection);
 }
 
 void Form2::SegnaVariato()
@@ -235,7 +242,10 @@ void Form2::AccogliNuovo(Genere genere, int n, const QString &voce)
     anteprima_->Seleziona(genere, n);
     Pagina(genere).AggiungeVoce(voce);
     Pagina(genere).Seleziona(n);
-    anteprima_->PrimoPiano(genere);
+    if (genere != Genere::Campo) {
+        anteprima_->PrimoPiano(genere);
+    }
+    // A new field stays in front of all others, where it was created, however large its text.
     ModificaConclusa();
 }
 
@@ -273,16 +283,18 @@ bool Form2::SalvareVariazioni()
         !Messaggi::Domanda(this, QStringLiteral("salvare le variazioni"), Messaggi::Risposta::Si)) {
         return true;
     }
-    if (!PuoSovrascrivere()) {
-        return false;
-    }
-    return Guardia(this, [this] {
-        const PuntatoreOccupato occupato;
-        FileModello::ScriveModello(stato_.Aperto, percorso_);
-        Variato = false;
-        copia_->EliminaTutte();
-        copia_->Parte();
+    bool salvato = false;
+    Guardia(this, [&] {
+        if (PuoSovrascrivere()) {
+            const PuntatoreOccupato occupato;
+            FileModello::ScriveModello(stato_.Aperto, percorso_);
+            Variato = false;
+            salvato = true;
+            copia_->EliminaTutte();
+            copia_->Parte();
+        }
     });
+    return salvato;
 }
 
 void Form2::Elimina_Click()
@@ -309,7 +321,9 @@ void Form2::Command7_Click()
     for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Cornice); ++k) {
         EliminaElemento(Genere::Cornice, k);
     }
-    close();
+    anteprima_->NascondiMarcatori();
+    ModificaConclusa();
+    Chiude();
 }
 
 void Form2::EliminaElemento(Genere genere, int n)
@@ -345,8 +359,19 @@ void Form2::Image1_Click()
     ApriManuale(QStringLiteral("zPlakera-XtHelp"));
 }
 
+void Form2::Chiude()
+{
+    if (chiuso_ || Form_Unload()) {
+        close();
+    }
+}
+
 bool Form2::Form_Unload()
 {
+    if (chiude_) {
+        return false; // asked already
+    }
+    const QScopedValueRollback<bool> chiude(chiude_, true);
     if (!SalvareVariazioni()) {
         return false; // the error was shown; closing now would lose the work
     }
@@ -362,23 +387,61 @@ bool Form2::Form_Unload()
 
 void Form2::closeEvent(QCloseEvent *evento)
 {
-    if (!chiuso_ && !Form_Unload()) {
-        evento->ignore();
-        return;
-    }
-    evento->accept();
-    emit Chiuso();
+    evento->ignore();
+    Guardia(this, [&] {
+        if (chiuso_ || Form_Unload()) {
+            evento->accept();
+            emit Chiuso();
+        }
+    });
+}
+
+void Form2::RidisegnaRighe()
+{
+    righe_->SimuloRighe();
 }
 
 void Form2::SistemaFinestre()
 {
-    // The editor takes the strip that the preview, which fills the rest of the screen, leaves free.
-    const QRect schermo = screen()->geometry();
-    constexpr double PollicePerTwip = 1.0 / 1440;
-    constexpr int AltezzaStriscia = 3000; // twips
-    const int altezza = qRound(AltezzaStriscia * PollicePerTwip * screen()->logicalDotsPerInchY());
-    const int titolo = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect schermo = screen()->availableGeometry();
     move(schermo.topLeft());
-    resize(schermo.width(), altezza - titolo);
-    anteprima_->move(schermo.left(), schermo.top() + altezza);
+    AdattaAllaCornice();
+    anteprima_->move(schermo.left(), schermo.top() + AltezzaStriscia());
+}
+
+int Form2::AltezzaStriscia() const
+{
+    constexpr double PollicePerTwip = 1.0 / 1440;
+    constexpr int Twip = 3000;
+    return qRound(Twip * PollicePerTwip * screen()->logicalDotsPerInchY());
+}
+
+void Form2::AdattaAllaCornice()
+{
+    // The editor takes the strip that the preview, which fills the rest of the screen, leaves free;
+    // the window's frame belongs to the strip.
+    resize(screen()->availableGeometry().width() - cornice_.left() - cornice_.right(),
+           AltezzaStriscia() - cornice_.top() - cornice_.bottom());
+}
+
+void Form2::GuardaCornice()
+{
+    const QMargins cornice =
+        windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+    // Only then: the size is the user's afterwards.
+    if (cornice != cornice_) {
+        cornice_ = cornice;
+        AdattaAllaCornice();
+    }
+}
+
+void Form2::showEvent(QShowEvent *)
+{
+    Guardia(this, [this] { GuardaCornice(); });
+}
+
+void Form2::moveEvent(QMoveEvent *)
+{
+    // The frame is known only once the window manager has drawn it, and it moves the window then.
+    Guardia(this, [this] { GuardaCornice(); });
 }

@@ -2,6 +2,7 @@
 
 #include "model/StatoProgramma.h"
 
+#include <QMargins>
 #include <QWidget>
 
 #include <array>
@@ -74,6 +75,8 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *evento) override;
+    void showEvent(QShowEvent *evento) override;
+    void moveEvent(QMoveEvent *evento) override;
 
 private:
     void Collegamenti();
@@ -94,7 +97,14 @@ private:
     bool PuoSovrascrivere();
     void ModificaConclusa();
     void SistemaFinestre();
+    int AltezzaStriscia() const; ///< of the editor with its frame, device-independent pixels
+    void AdattaAllaCornice();
+    void GuardaCornice();
+    void RidisegnaRighe();
     bool Form_Unload();
+    /// Asks about unsaved work, then closes. The question stands before close(), because while a
+    /// close of the program's own is under way the window manager's would go through unasked.
+    void Chiude();
 
     std::unique_ptr<Ui::Form2> ui_;
     StatoProgramma &stato_;
@@ -106,5 +116,7 @@ private:
     std::unique_ptr<CopiaRecupero> copia_;
     bool copiaMancata_ = false; ///< its failure has been shown
     QString percorso_;          ///< the model's file, spelled as on disk
+    bool chiude_ = false;       ///< the question about unsaved work is open
     bool chiuso_ = false;
+    QMargins cornice_; ///< the window manager's, as far as it is known
 };

@@ -104,6 +104,7 @@ void Form2::MostraDialogo(FrmElemento &dialogo)
                                                schermo.bottom() - misura.height() - 2 * Distanza));
     dialogo.move(sinistra, sopra);
     dialogo.exec();
+    RidisegnaRighe();
     ModificaConclusa();
 }
 

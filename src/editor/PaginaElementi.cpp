@@ -33,36 +33,36 @@ const Descrizione &DescrizioneDi(Genere genere)
     static const Descrizione campi{"ComboCampi",
                                    "elenco campi disponibili",
                                    "Aggiungicampo",
-                                   "Aggiungi Campo",
+                                   "&Aggiungi Campo",
                                    "VariazioneCampo",
-                                   "Modifica impostazioni",
+                                   "&Modifica impostazioni",
                                    "posizione, tipo di font, ecc. ",
                                    "Command1",
-                                   "mette in primo piano campi secondo la superfice",
+                                   "mette in primo p&iano campi secondo la superfice",
                                    "",
                                    "Text1",
                                    &TestiEsplicativi::Campi};
     static const Descrizione cornici{"ComboCornici",
                                      "elenco cornici ed etichette",
                                      "AggiungiCornice",
-                                     "Aggiungi cornice/etichetta",
+                                     "&Aggiungi cornice/etichetta",
                                      "VariazioneCornice",
-                                     "Modifica impostazioni",
+                                     "&Modifica impostazioni",
                                      "posizione, scritta, colori, ecc.",
                                      "Command3",
-                                     "mette in primo piano cornici secondo la superfice",
+                                     "mette in primo p&iano cornici secondo la superfice",
                                      "Command7",
                                      "Text3",
                                      &TestiEsplicativi::Cornici};
     static const Descrizione immagini{"ComboImmagini",
                                       "elenco immagini",
                                       "AggiungiImmagine",
-                                      "Aggiungi immagine",
+                                      "&Aggiungi immagine",
                                       "VariazioneImmagine",
-                                      "Modifica impostaz.Immagine",
+                                      "&Modifica impostaz.Immagine",
                                       "file, posizione, dimensioni",
                                       "Command4",
-                                      "mette in primo piano immagini secondo la superfice",
+                                      "mette in primo p&iano immagini secondo la superfice",
                                       "",
                                       "Text4",
                                       &TestiEsplicativi::Immagini};
@@ -77,7 +77,7 @@ const Descrizione &DescrizioneDi(Genere genere)
     return immagini;
 }
 
-QString Latino(const char *testo)
+QString Italiano(const char *testo)
 {
     return QString::fromUtf8(testo);
 }
@@ -91,20 +91,20 @@ PaginaElementi::PaginaElementi(Genere genere, QWidget *padre)
 {
     ui_->setupUi(this);
     const Descrizione &d = DescrizioneDi(genere);
-    ui_->combo->setObjectName(Latino(d.combo));
-    ui_->combo->setToolTip(Latino(d.aiutoCombo));
-    ui_->combo->setAccessibleName(Latino(d.aiutoCombo));
-    ui_->aggiungi->setObjectName(Latino(d.aggiungi));
-    ui_->aggiungi->setText(Latino(d.titoloAggiungi));
-    ui_->modifica->setObjectName(Latino(d.modifica));
-    ui_->modifica->setText(Latino(d.titoloModifica));
-    ui_->modifica->setToolTip(Latino(d.aiutoModifica));
-    ui_->primoPiano->setObjectName(Latino(d.primoPiano));
-    ui_->primoPiano->setText(Latino(d.titoloPrimoPiano));
-    ui_->eliminaTutte->setObjectName(Latino(d.eliminaTutte));
-    ui_->eliminaTutte->setText(QStringLiteral("Elimina tutte le cornici"));
+    ui_->combo->setObjectName(Italiano(d.combo));
+    ui_->combo->setToolTip(Italiano(d.aiutoCombo));
+    ui_->combo->setAccessibleName(Italiano(d.aiutoCombo));
+    ui_->aggiungi->setObjectName(Italiano(d.aggiungi));
+    ui_->aggiungi->setText(Italiano(d.titoloAggiungi));
+    ui_->modifica->setObjectName(Italiano(d.modifica));
+    ui_->modifica->setText(Italiano(d.titoloModifica));
+    ui_->modifica->setToolTip(Italiano(d.aiutoModifica));
+    ui_->primoPiano->setObjectName(Italiano(d.primoPiano));
+    ui_->primoPiano->setText(Italiano(d.titoloPrimoPiano));
+    ui_->eliminaTutte->setObjectName(Italiano(d.eliminaTutte));
+    ui_->eliminaTutte->setText(QStringLiteral("Elimina tutte le &cornici"));
     ui_->eliminaTutte->setVisible(*d.eliminaTutte != '\0');
-    ui_->testo->setObjectName(Latino(d.testo));
+    ui_->testo->setObjectName(Italiano(d.testo));
     ui_->testo->setPlainText(d.contenuto());
     ui_->testo->setAccessibleName(QStringLiteral("Spiegazione"));
     Svuota();

@@ -6,8 +6,6 @@
 #include "platform/Guardia.h"
 #include "ui_PaginaRighe.h"
 
-#include <QSignalBlocker>
-
 PaginaRighe::PaginaRighe(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
     : QWidget(padre)
     , ui_(std::make_unique<Ui::PaginaRighe>())
@@ -25,6 +23,11 @@ void PaginaRighe::Collegamenti()
 {
     Collega(ui_->ConfermaPosizioneRighe, &QPushButton::clicked, this,
             &PaginaRighe::ConfermaPosizioneRighe_Click);
+    for (const QLineEdit *casella :
+         {ui_->yInizio, ui_->yFine, ui_->Interlinea, ui_->InterlineaDescr, ui_->SeguePag}) {
+        Collega(casella, &QLineEdit::returnPressed, this,
+                &PaginaRighe::ConfermaPosizioneRighe_Click);
+    }
     Collega(ui_->OptSimuloRighe, &QCheckBox::clicked, this, &PaginaRighe::OptSimuloRighe_Click);
 }
 

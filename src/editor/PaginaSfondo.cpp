@@ -83,6 +83,9 @@ void PaginaSfondo::RidisegnaSeModificata(QLineEdit *casella)
         return;
     }
     casella->setModified(false);
+    if (casella == ui_->SfondoFileImmagine) {
+        RiprendeMessaggi();
+    }
     ImpostaImmagineSfondo(false);
     emit ModificaConclusa();
 }
@@ -115,15 +118,31 @@ void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
         if (chiedeDimensione) {
             ChiedeDimensione();
         }
-        const PuntatoreOccupato occupato;
-        anteprima_.DipingeSfondo(
-            sfondo.File, QRectF(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
-                                Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine)));
     } catch (const ErroreSistema &errore) {
-        anteprima_.PulisceSfondo();
+        SegnalaGuasto(errore);
+        return;
+    }
+    const QRectF posto(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
+                       Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine));
+    try {
+        const PuntatoreOccupato occupato;
+        anteprima_.DipingeSfondo(sfondo.File, posto);
+        guastoMostrato_.clear();
+    } catch (const ErroreSistema &errore) {
+        SegnalaGuasto(errore);
+    }
+}
+
+void PaginaSfondo::SegnalaGuasto(const ErroreSistema &errore)
+{
+    const QString file = stato_.Aperto.Sfondo.File;
+    anteprima_.PulisceSfondo();
+    // Told once: every zoom and every nudge draws the background again.
+    if (guastoMostrato_ != file) {
+        guastoMostrato_ = file;
         Messaggi::Mostra(window(),
                          QStringLiteral("impossibile caricare l'immagine di sfondo %1\n%2")
-                             .arg(sfondo.File, errore.Messaggio()));
+                             .arg(file, errore.Messaggio()));
     }
 }
 
@@ -146,6 +165,7 @@ void PaginaSfondo::ChiedeDimensione()
 
 void PaginaSfondo::VisualizzaImmagineSfondo_Click()
 {
+    RiprendeMessaggi();
     ui_->VisualizzaImmagineSfondo->setTristate(false);
     stato_.Aperto.Sfondo.Visualizza = ui_->VisualizzaImmagineSfondo->isChecked() ? 1 : 0;
     emit Variato();
@@ -155,6 +175,7 @@ void PaginaSfondo::VisualizzaImmagineSfondo_Click()
 
 void PaginaSfondo::Command8_Click()
 {
+    RiprendeMessaggi();
     ImpostaImmagineSfondo(true);
     emit ModificaConclusa();
 }

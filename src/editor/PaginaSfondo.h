@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class ErroreSistema;
 class Frm1;
 class QLineEdit;
 
@@ -48,10 +49,14 @@ private:
     void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
     void RidisegnaSeModificata(QLineEdit *casella);
     void ChiedeDimensione();
+    void SegnalaGuasto(const ErroreSistema &errore);
     void Sposta(QLineEdit *casella, double passo);
     void TogliFile();
+    /// From now on a file that cannot be loaded is told again.
+    void RiprendeMessaggi() { guastoMostrato_.clear(); }
 
     std::unique_ptr<Ui::PaginaSfondo> ui_;
     StatoProgramma &stato_;
     Frm1 &anteprima_;
+    QString guastoMostrato_; ///< the file whose failure the user has been told
 };

@@ -1,12 +1,14 @@
 #include "editor/RigheSimulate.h"
 
+#include "preview/GeometriaAnteprima.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace {
 
-constexpr double AltezzaFoglio = 350; // mm of paper
 // Below this spacing rows are no longer told apart, and a mistyped value would flood the preview.
 constexpr double InterlineaMinima = 0.5; // mm
 // Farther away a spacing is lost in the last digit of a double, and the rows would not advance.
@@ -24,7 +26,7 @@ std::optional<Fascia> FasciaRighe(const Modello &modello, double zoom,
                                   const std::function<double(int)> &larghezzaCampo)
 {
     constexpr double OltreOgniFoglio = 9999; // mm
-    Fascia fascia{0, OltreOgniFoglio, 0};
+    Fascia fascia{0, OltreOgniFoglio, -std::numeric_limits<double>::infinity()};
     for (int i = 1; i <= modello.UltimoSlot(Genere::Campo); ++i) {
         const Campo &campo = modello.Campi[i];
         if (!CampoDiRiga(campo)) {
@@ -55,7 +57,7 @@ QList<Frm1::RigaSimulata> RigheSimulate(const Modello &modello, double zoom,
         return righe;
     }
     const Campo &primo = modello.Campi[fascia->primo];
-    const double fine = std::min(modello.Righe.yFine, AltezzaFoglio);
+    const double fine = std::min(modello.Righe.yFine, GeometriaAnteprima::AltezzaCarta);
     // Rows whose whole band lies above the sheet are skipped at once.
     const double saltate = std::max(0.0, std::floor(-modello.Righe.yInizio / interlinea) - 1);
     for (double n = saltate + 1;; ++n) {

@@ -10,8 +10,8 @@ namespace Impostazioni {
 /// Value of "dirtxt", the data folder; empty when missing.
 QString Dirtxt();
 
-/// Vastrel's installation folder. Windows: a fixed path below C:\K19; elsewhere key "INI/dirvastrel",
-/// empty when missing.
+/// Vastrel's installation folder. Windows: a fixed path below C:\K19; elsewhere key
+/// "INI/dirvastrel", empty when missing.
 QString CartellaVastrel();
 
 } // namespace Impostazioni

@@ -1,6 +1,7 @@
 #include "platform/Messaggi.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -21,6 +22,25 @@ void ScriveErroreStandard(QString testo)
     ++emessi;
 }
 
+/// While a box is open the pointer is the normal one, even in the middle of a busy command.
+class PuntatoreNormale
+{
+public:
+    PuntatoreNormale() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~PuntatoreNormale() { QGuiApplication::restoreOverrideCursor(); }
+    PuntatoreNormale(const PuntatoreNormale &) = delete;
+    PuntatoreNormale &operator=(const PuntatoreNormale &) = delete;
+};
+
+int Esegue(QDialog &riquadro)
+{
+    if (QGuiApplication::overrideCursor() == nullptr) {
+        return riquadro.exec();
+    }
+    const PuntatoreNormale normale;
+    return riquadro.exec();
+}
+
 void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icona)
 {
     if (soloErroreStandard) {
@@ -30,7 +50,7 @@ void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icon
     QMessageBox riquadro(icona, Messaggi::Titolo, testo, QMessageBox::Ok, padre);
     riquadro.setTextFormat(Qt::PlainText);
     riquadro.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
-    riquadro.exec();
+    Esegue(riquadro);
 }
 
 /// A question with the system's buttons in Italian.
@@ -107,7 +127,7 @@ bool Messaggi::Domanda(QWidget *padre, const QString &testo, Risposta predefinit
     } else {
         riquadro.VuoleRisposta();
     }
-    return riquadro.exec() == QMessageBox::Yes;
+    return Esegue(riquadro) == QMessageBox::Yes;
 }
 
 Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &testo,
@@ -122,7 +142,7 @@ Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &tes
                               : predefinita == Scelta::No ? QMessageBox::No
                                                           : QMessageBox::Cancel);
     riquadro.setEscapeButton(QMessageBox::Cancel);
-    switch (riquadro.exec()) {
+    switch (Esegue(riquadro)) {
     case QMessageBox::Yes:
         return Scelta::Si;
     case QMessageBox::No:
@@ -148,7 +168,7 @@ std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &tito
     constexpr int IconaEBottoni = 160; // device-independent pixels
     riquadro.setMinimumWidth(qMin(riquadro.fontMetrics().horizontalAdvance(titolo) + IconaEBottoni,
                                   riquadro.screen()->availableGeometry().width()));
-    if (riquadro.exec() != QDialog::Accepted) {
+    if (Esegue(riquadro) != QDialog::Accepted) {
         return std::nullopt;
     }
     return riquadro.textValue();

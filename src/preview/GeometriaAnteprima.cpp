@@ -8,8 +8,6 @@
 namespace {
 
 constexpr int PixelMassimo = 30000; // X11 windows end at 32767
-constexpr double TwipPerMillimetro = 1440 / 25.4;
-constexpr double AltezzaEditorTwip = 3000;
 
 // Sizes of the controls, mm of screen.
 constexpr double AltezzaStriscia = 5;
@@ -86,7 +84,7 @@ GeometriaAnteprima::Disposizione GeometriaAnteprima::Dispone(double larghezza, d
 
 QSize GeometriaAnteprima::MisuraInterna(QSize schermo, const QMargins &cornice) const
 {
-    const int editor = Pixel(AltezzaEditorTwip / TwipPerMillimetro);
+    const int editor = Pixel(AltezzaEditor);
     return QSize(schermo.width() - cornice.left() - cornice.right(),
                  schermo.height() - editor - cornice.top() - cornice.bottom())
         .expandedTo(QSize(1, 1));

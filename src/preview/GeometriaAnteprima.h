@@ -12,6 +12,8 @@ class GeometriaAnteprima
 public:
     static constexpr double LarghezzaCarta = 240; ///< mm of paper, every model's sheet
     static constexpr double AltezzaCarta = 350;   ///< mm of paper
+    /// Height of the editor's strip across the top of the screen, its frame included: 3000 twips.
+    static constexpr double AltezzaEditor = 3000 * 25.4 / 1440;
     static constexpr double SpessoreRighello = 6.5;
     static constexpr double ZoomMinimo = 1;
     static constexpr double ZoomMassimo = 3;

@@ -132,24 +132,30 @@ void StampaProva::StampaImmagine(int i)
 void StampaProva::StampaImmagineX(const QString &NomeFile, int xMillimetri, int yMillimetri,
                                   int WidthMillimetri, int HeightMillimetri)
 {
-    QSizeF misura(WidthMillimetri, HeightMillimetri);
-    if (WidthMillimetri == 0 && HeightMillimetri == 0) {
-        misura = {pagina_.Larghezza(), pagina_.Altezza()};
-    } else if (WidthMillimetri <= 0 || HeightMillimetri <= 0) {
+    const QSizeF misura = MisuraFigura(WidthMillimetri, HeightMillimetri);
+    if (misura.isEmpty()) {
         throw ErroreSistema(ErroreSistema::ArgomentoNonValido);
     }
     pagina_.FiguraAnd(NomeFile, QRectF(QPointF(xMillimetri, yMillimetri), misura));
 }
 
+QSizeF StampaProva::MisuraFigura(double larghezza, double altezza) const
+{
+    return larghezza == 0 && altezza == 0 ? QSizeF(pagina_.Larghezza(), pagina_.Altezza())
+                                          : QSizeF(larghezza, altezza);
+}
+
 QString StampaProva::Diagnosi(const Immagine &immagine, const ErroreSistema &errore) const
 {
     const auto intero = [](double v) { return Testo(Numeri::PariPiuVicino(v)); };
+    const QSizeF misura = MisuraFigura(Numeri::PariPiuVicino(immagine.Larghezza),
+                                       Numeri::PariPiuVicino(immagine.Altezza));
     return QStringLiteral("StampaImmagine:  pos. mm. x,y=%1,%2\n"
                           " area stampabile Width,Height = %3, %4\n"
                           " xtar=%5, %6\n"
                           "ERRORE %7 %8\n%9")
         .arg(intero(immagine.X), intero(immagine.Y), Testo(pagina_.Larghezza()),
-             Testo(pagina_.Altezza()), intero(immagine.Larghezza), intero(immagine.Altezza),
+             Testo(pagina_.Altezza()), Testo(misura.width()), Testo(misura.height()),
              QString::number(errore.numero), errore.descrizione, cartellaModelli_ + immagine.Nome);
 }
 

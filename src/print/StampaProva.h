@@ -46,6 +46,8 @@ public:
                          int WidthMillimetri = 0, int HeightMillimetri = 0);
 
 private:
+    /// The size that a picture is printed at, mm: both 0 stand for the whole printable area.
+    QSizeF MisuraFigura(double larghezza, double altezza) const;
     QString Diagnosi(const Immagine &immagine, const ErroreSistema &errore) const;
 
     const Modello &modello_;

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -38,6 +39,7 @@ private slots:
     void VociUgualiAiNomiConIndiceUguale();
     void PagineNellOrdine();
     void TestiETooltip();
+    void NessunaLetteraDoppiaPerPagina();
     void TestiEsplicativiCominciano();
     void ModelloAppenaApertoNonVariato();
     void FileMancanteChiudeLEditor();
@@ -70,6 +72,11 @@ private slots:
     void FuocoSulComboNascondeIlMarcatore();
     void LAnteprimaGuidaComboEPagina();
     void ElementiAssentiNonSiVedono();
+    void NuovoCampoDavantiATutti();
+    void CambioPaginaRiordina();
+    void StampaDomandaESenzaStampante();
+    void GrigliaSenzaStampante();
+    void ChiusuraDuranteLaDomanda();
 };
 
 void tst_Form2::ModelloNuovoMostraTreComboColSoloSeparatore()
@@ -148,6 +155,43 @@ void tst_Form2::TestiETooltip()
     QCOMPARE(aiuto("Elimina"), QStringLiteral("ELIMINA DEFINITIVAMENTE UN TRACCIATO"));
     QCOMPARE(aiuto("ComboCampi"), QStringLiteral("elenco campi disponibili"));
     QCOMPARE(aiuto("VariazioneCampo"), QStringLiteral("posizione, tipo di font, ecc. "));
+}
+
+void tst_Form2::NessunaLetteraDoppiaPerPagina()
+{
+    ArchivioDiProva prova;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
+    for (int pagina = 0; pagina < pagine->count(); ++pagina) {
+        QHash<QChar, QString> lettere;
+        const auto raccoglie = [&](const QString &testo) {
+            const qsizetype segno = testo.indexOf(u'&');
+            if (segno < 0) {
+                return true;
+            }
+            const QChar lettera = testo.at(segno + 1).toUpper();
+            const bool libera = !lettere.contains(lettera);
+            lettere.insert(lettera, testo);
+            return libera;
+        };
+        const auto visibile = [&](const QWidget *controllo) {
+            const bool esterno = !pagine->isAncestorOf(controllo);
+            return esterno || pagine->widget(pagina)->isAncestorOf(controllo);
+        };
+        for (const auto *bottone : editor.findChildren<QAbstractButton *>()) {
+            if (visibile(bottone) && !bottone->isHidden()) {
+                QVERIFY2(raccoglie(bottone->text()), qPrintable(bottone->text()));
+            }
+        }
+        for (const auto *etichetta : editor.findChildren<QLabel *>()) {
+            if (visibile(etichetta) && etichetta->buddy() != nullptr) {
+                QVERIFY2(raccoglie(etichetta->text()), qPrintable(etichetta->text()));
+            }
+        }
+        QVERIFY(lettere.size() >= 5);
+    }
 }
 
 void tst_Form2::TestiEsplicativiCominciano()
@@ -722,6 +766,116 @@ void tst_Form2::ElementiAssentiNonSiVedono()
     QCOMPARE(prova.Aperto().NumCampi, qint16(2));
     QVERIFY(!Controllo(editor, QStringLiteral("C1(1)"))->isVisible());
     QVERIFY(Controllo(editor, QStringLiteral("C1(2)"))->isVisible());
+}
+
+void tst_Form2::NuovoCampoDavantiATutti()
+{
+    ArchivioDiProva prova;
+    prova.AggiungeCampo(QStringLiteral("x"), 10, 10); // smaller than the new one
+    prova.AggiungeCornice(QStringLiteral("c"), 10, 10, 5, 5);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Robot robot;
+    robot.Annulla();
+    Preme(editor, "Aggiungicampo");
+    const double nuovo = Controllo(editor, QStringLiteral("C1(2)"))->zValue();
+    QVERIFY(nuovo > Controllo(editor, QStringLiteral("C1(1)"))->zValue());
+    QVERIFY(nuovo > Controllo(editor, QStringLiteral("C2(1)"))->zValue());
+    QVERIFY(Controllo(editor, QStringLiteral("S1"))->zValue() > nuovo);
+    editor.Variato = false;
+}
+
+void tst_Form2::CambioPaginaRiordina()
+{
+    ArchivioDiProva prova;
+    prova.AggiungeCornice(QStringLiteral("piccola"), 10, 10, 20, 20);
+    prova.AggiungeCornice(QStringLiteral("grande"), 10, 10, 100, 50);
+    prova.AggiungeCampo(QStringLiteral("campo"), 10, 10);
+    prova.AggiungeImmagine(QStringLiteral("i.bmp"), 10, 10, 1, 1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    const auto quota = [&](const char *nome) {
+        return Controllo(editor, QString::fromLatin1(nome))->zValue();
+    };
+    const auto inOrdine = [&] {
+        return quota("C3(1)") < quota("C2(2)") && quota("C2(2)") < quota("C2(1)") &&
+               quota("C2(1)") < quota("C1(1)");
+    };
+    QVERIFY(inOrdine());
+    Controllo(editor, QStringLiteral("C2(2)"))->setZValue(1e6);
+    Controllo(editor, QStringLiteral("C3(1)"))->setZValue(2e6);
+    QVERIFY(!inOrdine());
+    Trova<QTabWidget>(editor, "SSTab1")->setCurrentIndex(1);
+    QVERIFY(inOrdine());
+    // The restack button of a kind brings that kind to the front.
+    Preme(editor, "Command4");
+    QVERIFY(quota("C3(1)") > quota("C1(1)"));
+    Preme(editor, "Command3");
+    QVERIFY(quota("C2(2)") > quota("C3(1)"));
+    Preme(editor, "Command1");
+    QVERIFY(quota("C1(1)") > quota("C2(1)"));
+}
+
+void tst_Form2::StampaDomandaESenzaStampante()
+{
+    // No print server answers at this address, so there is no default printer.
+    qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Robot robot;
+    robot.No().Ok();
+    Preme(editor, "Stampa");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(),
+             QStringList({QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
+                          QStringLiteral("errore 482 ") + DescrizioneErrore(482)}));
+    QCOMPARE(robot.Predefiniti().constFirst(), QStringLiteral("&No"));
+    QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+}
+
+void tst_Form2::GrigliaSenzaStampante()
+{
+    qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+    ArchivioDiProva prova;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Robot robot;
+    robot.Ok();
+    Preme(editor, "StampaRetino");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(), QStringList{QStringLiteral("errore 482 ") + DescrizioneErrore(482)});
+}
+
+void tst_Form2::ChiusuraDuranteLaDomanda()
+{
+    ArchivioDiProva prova;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    editor.show();
+    editor.Variato = true;
+    QVERIFY(QDir(prova.Stato().CartellaModelli).removeRecursively());
+    Robot robot;
+    // The window manager's close of the editor comes while the question of the preview's is open.
+    robot.Agisce([&](QDialog *domanda) {
+        QCloseEvent seconda;
+        QSpontaneKeyEvent::setSpontaneous(&seconda);
+        qApp->notify(&editor, &seconda);
+        QVERIFY(!seconda.isAccepted());
+        qobject_cast<QMessageBox *>(domanda)->button(QMessageBox::Yes)->click();
+    });
+    robot.Ok();
+    emit editor.Anteprima()->ChiusuraRichiesta();
+    QTRY_VERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().size(), 2); // the question once, and the error of the failed save
+    QVERIFY(editor.isVisible());
+    editor.Variato = false;
 }
 
 QTEST_MAIN(tst_Form2)

@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -80,10 +81,15 @@ private slots:
     void ConfermaScriveEAllinea();
     void ConfermaTestoSenzaNumeroDaZero();
     void SimulazioneAccesaESpenta();
+    void SimulazioneSegueGliAltriComandi();
+    void InvioConfermaLeRighe();
+    void NumeroTroppoGrande();
+    void TooltipDellePagine();
     void SpostamentoPredefinito();
     void SpostamentoCampi_data();
     void SpostamentoCampi();
     void SpostamentoConLaVirgola();
+    void SpostamentoCorniciEImmagini_data();
     void SpostamentoCorniciEImmagini();
     void SpostamentoMuoveGliEliminati();
     void TestiDelloSpostamento();
@@ -97,6 +103,8 @@ private slots:
     void SfondoFuocoSelezionaTutto_data();
     void SfondoFuocoSelezionaTutto();
     void SfondoFileMancante();
+    void SfondoFileGuasto();
+    void SfondoSiSpostaSulFoglio();
     void SfondoSceltoConSfoglia();
     void SfondoCaratteriDiControlloIntatti();
 };
@@ -165,6 +173,93 @@ void tst_Pagine::SimulazioneAccesaESpenta()
     QCOMPARE(e.Aperto().Campi[1].Y, 90.0);
 }
 
+void tst_Pagine::SimulazioneSegueGliAltriComandi()
+{
+    EditorDiProva e;
+    e.Scrive("yFine", QStringLiteral("130"));
+    Trova<QCheckBox>(*e.editor, "OptSimuloRighe")->click();
+    const auto sinistra = [&] {
+        double minimo = 1e9;
+        const auto tutti = Trova<QGraphicsView>(*e.editor->Anteprima(), "P1")->scene()->items();
+        for (const QGraphicsItem *i : tutti) {
+            // Only the simulated rows stand one spacing below the row fields.
+            if (i->isVisible() && qFuzzyCompare(i->pos().y(), 105.0)) {
+                minimo = qMin(minimo, i->pos().x());
+            }
+        }
+        return minimo;
+    };
+    QCOMPARE(sinistra(), 10.0);
+    e.Scrive("Spostamento", QStringLiteral("3"));
+    Preme(*e.editor, "OptDx");
+    Preme(*e.editor, "Command2");
+    QCOMPARE(sinistra(), 13.0);
+    Robot robot;
+    robot.Agisce([](QDialog *d) {
+        Trova<QLineEdit>(*d, "X")->setText(QStringLiteral("44"));
+        Preme(*d, "PConfemaCampo");
+    });
+    e.editor->ApreFrmCampo(1);
+    QCOMPARE(sinistra(), 44.0);
+}
+
+void tst_Pagine::InvioConfermaLeRighe()
+{
+    EditorDiProva e;
+    e.Scrive("yInizio", QStringLiteral("120"));
+    QTest::keyClick(Trova<QLineEdit>(*e.editor, "yInizio"), Qt::Key_Return);
+    QCOMPARE(e.Aperto().Righe.yInizio, 120.0);
+}
+
+void tst_Pagine::NumeroTroppoGrande()
+{
+    EditorDiProva e;
+    e.Scrive("yInizio", QStringLiteral("120"));
+    e.Scrive("yFine", QStringLiteral("1e999"));
+    e.Scrive("Spostamento", QStringLiteral("1e999"));
+    Robot robot;
+    robot.Ok().Ok();
+    Preme(*e.editor, "ConfermaPosizioneRighe");
+    Preme(*e.editor, "Command2");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(robot.Testi().constFirst().startsWith(QStringLiteral("errore 6 ")));
+    QCOMPARE(e.Aperto().Righe.yInizio, 100.0);
+    QCOMPARE(e.Aperto().Campi[2].X, 20.0);
+    QVERIFY(!e.editor->Variato);
+}
+
+void tst_Pagine::TooltipDellePagine()
+{
+    EditorDiProva e;
+    const QHash<const char *, QString> attesi{
+        {"yInizio", QStringLiteral("posizione in millimetri inizio righe nel corpo fattura/ddt")},
+        {"yFine", QStringLiteral("posizione in millimetri fine righe nel corpo fattura/ddt")},
+        {"Interlinea",
+         QStringLiteral("Interlinea in millimetri tra le righe nel corpo fattura/ddt")},
+        {"VisualizzaImmagineSfondo",
+         QStringLiteral("per visualizzare nell'anteprima l'immagine acqusita da scanner della "
+                        "fattura o ddt per facilitare il posizionamento dei campi")},
+        {"SfondoFileImmagine", QStringLiteral("nome del file dove è stata salvata l'immagine")},
+        {"SfondoXimmagine",
+         QStringLiteral("dimensioni in millimetri dell'immagine della scansione fattura/ddt")},
+        {"SfondoYImmagine",
+         QStringLiteral("dimensioni in millimetri dell'immagine della scansione fattura/ddt")},
+        {"SfondoXPosImm",
+         QStringLiteral("per posizionare correttamente l'immagine sull'anteprima")},
+        {"SfondoYPosImm",
+         QStringLiteral("per posizionare correttamente l'immagine sull'anteprima")}};
+    for (auto it = attesi.begin(); it != attesi.end(); ++it) {
+        QCOMPARE(Trova<QWidget>(*e.editor, it.key())->toolTip(), it.value());
+    }
+    const auto testo = [&](const char *nome) {
+        return Trova<QAbstractButton>(*e.editor, nome)->text().remove(u'&');
+    };
+    QCOMPARE(testo("OptSimuloRighe"), QStringLiteral("Simulo righe su anteprima"));
+    QCOMPARE(testo("ConfermaPosizioneRighe"), QStringLiteral("Conferma Posizione Righe"));
+    QCOMPARE(testo("VisualizzaImmagineSfondo"), QStringLiteral("Visualizza Immagine di sfondo"));
+    QCOMPARE(testo("SfondoSfoglia"), QStringLiteral("Sfoglia"));
+}
+
 void tst_Pagine::SpostamentoPredefinito()
 {
     EditorDiProva e;
@@ -209,17 +304,33 @@ void tst_Pagine::SpostamentoConLaVirgola()
     QCOMPARE(e.Aperto().Campi[2].X, 22.0);
 }
 
+void tst_Pagine::SpostamentoCorniciEImmagini_data()
+{
+    QTest::addColumn<QByteArray>("verso");
+    QTest::addColumn<QPointF>("passo");
+    QTest::newRow("destra") << QByteArray("OptDx") << QPointF(100, 0);
+    QTest::newRow("sinistra") << QByteArray("OptSx") << QPointF(-100, 0);
+    QTest::newRow("alto") << QByteArray("OptSu") << QPointF(0, -100);
+    QTest::newRow("basso") << QByteArray("OptGiu") << QPointF(0, 100);
+}
+
 void tst_Pagine::SpostamentoCorniciEImmagini()
 {
+    QFETCH(const QByteArray, verso);
+    QFETCH(const QPointF, passo);
     EditorDiProva e;
-    Preme(*e.editor, "OptSx");
+    Preme(*e.editor, verso.constData());
     e.Scrive("Spostamento", QStringLiteral("100"));
     Preme(*e.editor, "Command5");
-    QCOMPARE(e.Aperto().Cornici[1].X, -70.0); // no bound is applied
+    const Cornice &cornice = e.Aperto().Cornici[1];
+    QCOMPARE(QPointF(cornice.X, cornice.Y), QPointF(30, 40) + passo); // no bound is applied
+    const Immagine &immagine = e.Aperto().Immagini[1];
+    QCOMPARE(QPointF(immagine.X, immagine.Y), QPointF(40.5, 50.5));
     e.Scrive("Spostamento", QStringLiteral("0.25"));
     Preme(*e.editor, "Command6");
-    QCOMPARE(e.Aperto().Immagini[1].X, 40.25);
+    QCOMPARE(QPointF(immagine.X, immagine.Y), QPointF(40.5, 50.5) + passo / 400);
     QCOMPARE(e.Aperto().Campi[2].X, 20.0);
+    QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
 }
 
 void tst_Pagine::SpostamentoMuoveGliEliminati()
@@ -420,6 +531,54 @@ void tst_Pagine::SfondoFileMancante()
                  QStringLiteral("impossibile caricare l'immagine di sfondo /non/esiste.jpg\n")),
              qPrintable(robot.Testi().constFirst()));
     QCOMPARE(e.Colore(50, 10), QColor(Qt::white));
+}
+
+void tst_Pagine::SfondoFileGuasto()
+{
+    EditorDiProva e;
+    const QString percorso = e.prova.Stato().CartellaModelli + QStringLiteral("guasta.jpg");
+    QFile file(percorso);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("\xFF\xD8\xFF nothing of a picture");
+    file.close();
+    e.Scrive("SfondoFileImmagine", percorso);
+    Robot robot;
+    robot.Ok();
+    Preme(*e.editor, "VisualizzaImmagineSfondo");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY2(robot.Testi().constFirst().contains(QStringLiteral("errore 481")),
+             qPrintable(robot.Testi().constFirst()));
+    // Told once: neither a nudge nor a zoom says it again.
+    Preme(*e.editor, "SfondoSpostaDx");
+    auto *zoom = Trova<QLineEdit>(*e.editor->Anteprima(), "TextZoom");
+    zoom->setText(QStringLiteral("2"));
+    QTest::keyClick(zoom, Qt::Key_End);
+    QCOMPARE(e.prova.Stato().zoom, 2.0);
+    QVERIFY(robot.Soddisfatto());
+    robot.Ok();
+    Preme(*e.editor, "Command8"); // asked for, so told
+    QVERIFY(robot.Soddisfatto());
+}
+
+void tst_Pagine::SfondoSiSpostaSulFoglio()
+{
+    EditorDiProva e;
+    e.Aperto().Sfondo = {e.Scansione(),         QStringLiteral("100"), QStringLiteral("50"),
+                         QStringLiteral("100"), QStringLiteral("150"), 1};
+    e.prova.Scrive();
+    e.editor = std::make_unique<Form2>(e.prova.Stato());
+    QVERIFY(e.editor->Form_Load());
+    QCOMPARE(e.Colore(101, 160), QColor(Qt::red));
+    for (int i = 0; i < 4; ++i) {
+        Preme(*e.editor, "SfondoSpostaDx");
+    }
+    QCOMPARE(e.Colore(101, 160), QColor(Qt::white));
+    QCOMPARE(e.Colore(103, 160), QColor(Qt::red));
+    QCOMPARE(e.Colore(201, 160), QColor(Qt::red));
+    e.editor->Variato = false;
+    QTest::mouseClick(Trova<QCheckBox>(*e.editor, "VisualizzaImmagineSfondo"), Qt::RightButton);
+    QCOMPARE(e.Colore(103, 160), QColor(Qt::white));
+    QVERIFY(e.editor->Variato);
 }
 
 void tst_Pagine::SfondoSceltoConSfoglia()

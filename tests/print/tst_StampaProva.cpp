@@ -74,6 +74,7 @@ private slots:
     void diagnosi_data();
     void diagnosi();
     void diagnosiTesto();
+    void diagnosiConMisureZero();
     void immagineFuoriDallaCartella();
     void immagineSenzaRiguardoAlleMaiuscole();
     void unSoloFoglio();
@@ -466,6 +467,16 @@ void tst_StampaProva::diagnosiTesto()
                                                        "ERRORE 53 %1\n%2")
                                             .arg(DescrizioneErrore(53),
                                                  foglio.Cartella() + QStringLiteral("manca.jpg"))});
+}
+
+void tst_StampaProva::diagnosiConMisureZero()
+{
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("manca.jpg"), {}, {10, 20, 0, 0});
+    foglio.Stampa();
+    QCOMPARE(foglio.Avvisi.size(), 1);
+    QVERIFY2(foglio.Avvisi.first().contains(QStringLiteral(" xtar=210, 297\n")),
+             qPrintable(foglio.Avvisi.first()));
 }
 
 void tst_StampaProva::immagineFuoriDallaCartella()
