@@ -39,6 +39,7 @@ private slots:
     void VociUgualiAiNomiConIndiceUguale();
     void PagineNellOrdine();
     void TestiETooltip();
+    void OgniPaginaHaScorciatoieDiverse();
     void NessunaLetteraDoppiaPerPagina();
     void TestiEsplicativiCominciano();
     void ModelloAppenaApertoNonVariato();
@@ -191,6 +192,33 @@ void tst_Form2::NessunaLetteraDoppiaPerPagina()
             }
         }
         QVERIFY(lettere.size() >= 5);
+    }
+}
+
+void tst_Form2::OgniPaginaHaScorciatoieDiverse()
+{
+    ArchivioDiProva prova;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    editor.show();
+    auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
+    for (int p = 0; p < pagine->count(); ++p) {
+        pagine->setCurrentIndex(p);
+        QStringList lettere;
+        for (const auto *bottone : editor.findChildren<QAbstractButton *>()) {
+            if (bottone->isVisible()) {
+                lettere.append(bottone->shortcut().toString());
+            }
+        }
+        for (const auto *etichetta : editor.findChildren<QLabel *>()) {
+            if (etichetta->isVisible() && etichetta->buddy() != nullptr) {
+                lettere.append(QKeySequence::mnemonic(etichetta->text()).toString());
+            }
+        }
+        lettere.removeAll(QString());
+        QVERIFY(lettere.size() >= 5);
+        QCOMPARE(lettere.removeDuplicates(), 0);
     }
 }
 
