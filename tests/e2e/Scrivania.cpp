@@ -1,0 +1,226 @@
+#include "Scrivania.h"
+
+#include "support/CodaDiStampa.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+
+#include <csignal>
+#include <stdexcept>
+
+const QString Scrivania::TitoloInizio = QStringLiteral("^Plakera - Modelli stampa");
+const QString Scrivania::TitoloEditor = QStringLiteral("^Plakera: Modello ");
+const QString Scrivania::TitoloAnteprima = QStringLiteral("^Anteprima Plakera$");
+const QString Scrivania::TitoloRiquadro = QStringLiteral("^Plakera$");
+
+namespace {
+
+constexpr double PixelPerMillimetro = 96 / 25.4;
+
+void Pretende(bool vale, const QString &altrimenti)
+{
+    if (!vale) {
+        throw std::runtime_error(altrimenti.toStdString());
+    }
+}
+
+void CopiaCartella(const QString &da, const QString &a)
+{
+    QDirIterator file(da, QDir::Files, QDirIterator::Subdirectories);
+    while (file.hasNext()) {
+        const QString copia = a + file.next().mid(da.size());
+        Pretende(QDir().mkpath(QFileInfo(copia).path()) && QFile::copy(file.filePath(), copia) &&
+                     QFile::setPermissions(copia, QFile::ReadOwner | QFile::WriteOwner),
+                 QStringLiteral("cannot copy ") + file.filePath());
+    }
+}
+
+} // namespace
+
+Scrivania::Scrivania(QSize pixel, double scala)
+    : schermo_(std::make_unique<Schermo>(pixel))
+    , scala_(scala)
+    , ambiente_(QProcessEnvironment::systemEnvironment())
+{
+    CopiaCartella(QStringLiteral(CARTELLA_CAMPIONE), Dati());
+    const QString esecuzione = In(QStringLiteral("esecuzione"));
+    for (const QString &cartella : {Impostazioni(), Stato(), esecuzione}) {
+        Pretende(QDir().mkpath(cartella), QStringLiteral("cannot make ") + cartella);
+    }
+    QFile::setPermissions(esecuzione, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile vastrel(Impostazioni() + QStringLiteral("/vastrel.ini"));
+    Pretende(vastrel.open(QIODevice::WriteOnly), vastrel.errorString());
+    vastrel.write("[INI]\ndirtxt=" + Dati().toUtf8() + '\n');
+
+    ambiente_.insert(QStringLiteral("DISPLAY"), schermo_->Nome());
+    ambiente_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    ambiente_.insert(QStringLiteral("HOME"), dir_.path());
+    ambiente_.insert(QStringLiteral("XDG_CONFIG_HOME"), Impostazioni());
+    ambiente_.insert(QStringLiteral("XDG_STATE_HOME"), Stato());
+    ambiente_.insert(QStringLiteral("XDG_RUNTIME_DIR"), esecuzione);
+    ambiente_.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    // No printer of the machine: those of a test come from its own server.
+    ambiente_.insert(QStringLiteral("CUPS_SERVER"), In(QStringLiteral("nessuno")));
+    for (const char *nome :
+         {"WAYLAND_DISPLAY", "QT_SCALE_FACTOR", "LPDEST", "PRINTER", "DBUS_SESSION_BUS_ADDRESS"}) {
+        ambiente_.remove(QString::fromLatin1(nome));
+    }
+    if (scala_ != 1) {
+        ambiente_.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(scala_));
+    }
+}
+
+Scrivania::~Scrivania()
+{
+    if (programma_ && programma_->state() != QProcess::NotRunning) {
+        Uccide();
+    }
+    programma_.reset();
+}
+
+std::unique_ptr<QProcess> Scrivania::Nuovo(const QStringList &argomenti) const
+{
+    auto programma = std::make_unique<QProcess>();
+    programma->setProcessEnvironment(ambiente_);
+    LegaAllaProva(*programma);
+    programma->start(QStringLiteral(PROGRAMMA), argomenti);
+    Pretende(programma->waitForStarted(), programma->errorString());
+    return programma;
+}
+
+void Scrivania::Avvia()
+{
+    programma_ = Nuovo();
+}
+
+int Scrivania::EsitoDi(QProcess &programma)
+{
+    AttendeChe(QStringLiteral("the end of the program"),
+               [&] { return programma.waitForFinished(0) || programma.state() == 0; });
+    return programma.exitStatus() == QProcess::NormalExit ? programma.exitCode() : -1;
+}
+
+void Scrivania::Uccide()
+{
+    programma_->kill();
+    programma_->waitForFinished();
+}
+
+void Scrivania::CollegaStampante(const CodaDiStampa &coda)
+{
+    ambiente_.insert(QStringLiteral("CUPS_SERVER"), coda.Server());
+}
+
+void Scrivania::ApreModello(const QString &nome)
+{
+    schermo_->Attende(TitoloInizio);
+    const QStringList file =
+        QDir(CartellaModelli())
+            .entryList({QStringLiteral("*.mod")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+    const auto posto = file.indexOf(nome + QStringLiteral(".Mod"));
+    Pretende(posto >= 0, QStringLiteral("no model ") + nome);
+    schermo_->Tasti({QStringLiteral("End"), QStringLiteral("Home")});
+    schermo_->Tasto(QStringLiteral("Down"), static_cast<int>(posto));
+    schermo_->Tasti({QStringLiteral("alt+a")});
+    schermo_->Attende(TitoloEditor + nome + QStringLiteral("\\.Mod$"));
+    zoom_ = 1;
+    CercaFoglio();
+}
+
+void Scrivania::CercaFoglio()
+{
+    const QRect finestra = Anteprima().Interno;
+    // At rest the sheet is the first white area from the window's corner, and its margin is empty.
+    constexpr int Lato = 12;
+    AttendeChe(QStringLiteral("the sheet on the preview"), [&] {
+        const QImage foto = schermo_->Foto();
+        const auto bianco = [&](int x, int y) {
+            for (int i = 0; i < Lato; ++i) {
+                if ((foto.pixel(x + i, y) & 0xFFFFFF) != 0xFFFFFF ||
+                    (foto.pixel(x, y + i) & 0xFFFFFF) != 0xFFFFFF) {
+                    return false;
+                }
+            }
+            return true;
+        };
+        for (int y = finestra.top(); y < finestra.top() + 100; ++y) {
+            for (int x = finestra.left(); x < finestra.left() + 100; ++x) {
+                if (bianco(x, y)) {
+                    origine_ = {x, y};
+                    return true;
+                }
+            }
+        }
+        return false;
+    });
+}
+
+void Scrivania::ChiudeEditor()
+{
+    Editor();
+    schermo_->Tasti({QStringLiteral("alt+F4")});
+    schermo_->Attende(TitoloInizio);
+}
+
+void Scrivania::ChiudeInizio()
+{
+    schermo_->Attende(TitoloInizio);
+    schermo_->Tasti({QStringLiteral("alt+F4")});
+}
+
+void Scrivania::Pagina(int pagina)
+{
+    Editor();
+    // From the box "Tipo" over the help icon to the tabs, there to the first one.
+    schermo_->Tasti({QStringLiteral("alt+p"), QStringLiteral("Tab"), QStringLiteral("Tab")});
+    schermo_->Tasto(QStringLiteral("Left"), 5);
+    if (pagina > 0) {
+        schermo_->Tasto(QStringLiteral("Right"), pagina);
+    }
+}
+
+void Scrivania::Salva()
+{
+    Editor();
+    schermo_->Tasti({QStringLiteral("alt+v")});
+    schermo_->Attende(TitoloRiquadro);
+    schermo_->Tasti({QStringLiteral("alt+s")});
+    schermo_->Attende(TitoloEditor);
+}
+
+void Scrivania::Zoom(const QString &scala)
+{
+    // The zoom box is the only control of the preview that holds the keyboard.
+    Anteprima();
+    schermo_->Tasti({QStringLiteral("ctrl+a")});
+    schermo_->Scrive(scala);
+    zoom_ = scala.toDouble();
+}
+
+QPoint Scrivania::SulFoglio(QPointF millimetri) const
+{
+    return origine_ + QPoint(qRound(Pixel(millimetri.x())), qRound(Pixel(millimetri.y())));
+}
+
+double Scrivania::Pixel(double millimetri) const
+{
+    return millimetri / zoom_ * PixelPerMillimetro * scala_;
+}
+
+void Scrivania::Trascina(QPoint da, QPoint a) const
+{
+    QList<QPoint> punti;
+    constexpr int Passi = 8;
+    for (int i = 0; i <= Passi; ++i) {
+        punti.append(da + (a - da) * i / Passi);
+    }
+    schermo_->Trascina(punti);
+}
+
+Schermo::Finestra Scrivania::Proprieta(QPointF millimetri, const QString &titolo)
+{
+    Anteprima();
+    schermo_->Clic(SulFoglio(millimetri), 3);
+    return schermo_->Attende(titolo);
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Schermo.h"
+
+#include <QProcessEnvironment>
+
+#include <memory>
+
+class CodaDiStampa;
+
+/// The desk of a user of the real program: a screen, folders of its own for data, settings and
+/// state, and the program on it. Nothing of the user who runs the tests is read or written.
+class Scrivania
+{
+public:
+    /// scala: the screen's pixels for one of the program's.
+    explicit Scrivania(QSize pixel = {1366, 768}, double scala = 1);
+    ~Scrivania();
+    Q_DISABLE_COPY_MOVE(Scrivania)
+
+    Schermo &Video() { return *schermo_; }
+    /// The archives, a copy of the sample ones.
+    QString Dati() const { return In(QStringLiteral("Dati")); }
+    QString CartellaModelli() const { return Dati() + QStringLiteral("/Contabilita/ini/"); }
+    QString Impostazioni() const { return In(QStringLiteral("impostazioni")); }
+    QString Stato() const { return In(QStringLiteral("stato")); }
+    QString In(const QString &nome) const { return dir_.filePath(nome); }
+    /// What the program is started with; to be changed before the start.
+    QProcessEnvironment &Ambiente() { return ambiente_; }
+
+    /// A started program; ended with the object at the latest.
+    std::unique_ptr<QProcess> Nuovo(const QStringList &argomenti = {}) const;
+    /// The one program of this desk.
+    void Avvia();
+    QProcess &Programma() { return *programma_; }
+    /// Waits for the end of the program and gives its exit status, -1 after a crash.
+    static int EsitoDi(QProcess &programma);
+    /// As the system kills: without a word.
+    void Uccide();
+
+    /// Lets the program print into the queue.
+    void CollegaStampante(const CodaDiStampa &coda);
+
+    // What the user does.
+
+    /// Opens the model of the selected archive from the start window.
+    void ApreModello(const QString &nome);
+    Schermo::Finestra Editor() { return schermo_->Attiva(TitoloEditor); }
+    Schermo::Finestra Anteprima() { return schermo_->Attiva(TitoloAnteprima); }
+    /// Closes the editor, which must not ask anything.
+    void ChiudeEditor();
+    void ChiudeInizio();
+    /// Turns to a page of the editor, 0 to 5; the keyboard is on its tab.
+    void Pagina(int pagina);
+    /// Saves with the button and answers the question with Yes.
+    void Salva();
+    /// Types the scale and waits until the preview shows it.
+    void Zoom(const QString &scala);
+    /// The pixel of a point of the paper, in mm, while the preview is not scrolled.
+    QPoint SulFoglio(QPointF millimetri) const;
+    /// Pixels of so many mm of paper.
+    double Pixel(double millimetri) const;
+    /// Drags with a few steps in between.
+    void Trascina(QPoint da, QPoint a) const;
+    /// Opens the dialog of what lies at the point of the paper.
+    Schermo::Finestra Proprieta(QPointF millimetri, const QString &titolo);
+
+    static const QString TitoloInizio;
+    static const QString TitoloEditor;
+    static const QString TitoloAnteprima;
+    static const QString TitoloRiquadro;
+
+private:
+    void CercaFoglio();
+
+    QTemporaryDir dir_;
+    std::unique_ptr<Schermo> schermo_;
+    double scala_;
+    QProcessEnvironment ambiente_;
+    std::unique_ptr<QProcess> programma_;
+    QPoint origine_; ///< of the sheet, once it has been seen
+    double zoom_ = 1;
+};
