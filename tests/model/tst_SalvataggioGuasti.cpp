@@ -5,7 +5,6 @@
 #include "support/FileDiProva.h"
 #include "support/ModelloDiProva.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -77,7 +76,9 @@ public:
     ~Salvatore()
     {
         close(tubo_[0]);
-        close(tubo_[1]);
+        if (tubo_[1] >= 0) {
+            close(tubo_[1]);
+        }
     }
     Salvatore(const Salvatore &) = delete;
     Salvatore &operator=(const Salvatore &) = delete;
@@ -96,6 +97,18 @@ public:
         return figlio_ > 0 && kill(figlio_, SIGKILL) == 0 &&
                waitpid(figlio_, &stato, 0) == figlio_ && WIFSIGNALED(stato) &&
                WTERMSIG(stato) == SIGKILL;
+    }
+
+    /// After the kill: how many saves began beyond those waited for.
+    int AltriIniziati()
+    {
+        close(tubo_[1]);
+        tubo_[1] = -1;
+        int iniziati = 0;
+        while (AttendeUnSalvataggio()) {
+            ++iniziati;
+        }
+        return iniziati;
     }
 
 private:
@@ -211,18 +224,11 @@ void tst_SalvataggioGuasti::MilleUccisioni()
     ScriveFile(File(), vecchi);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
 
-    // However slow machine and build are, the kills shall spread over the first saves of a child.
-    QElapsedTimer tempo;
-    {
-        const Salvatore primo(File(), nuovo, vecchio);
-        QVERIFY(primo.AttendeUnSalvataggio());
-        tempo.start();
-        QVERIFY(primo.AttendeUnSalvataggio());
-        QVERIFY(primo.AttendeUnSalvataggio());
-        QVERIFY(primo.Uccide());
-    }
-    const int microsecondi =
-        static_cast<int>(std::clamp<qint64>(tempo.nsecsElapsed() / 1000, 100, 40'000));
+    // However slow machine and build are, and however their speed changes meanwhile, about half of
+    // the kills shall come before a child's first save is done and half after: the wait follows
+    // what the kills find.
+    constexpr double Passo = 1.03;
+    double microsecondi = 2000;
 
     QRandomGenerator caso(20260101);
     int conResti = 0;
@@ -230,8 +236,8 @@ void tst_SalvataggioGuasti::MilleUccisioni()
     QByteArray ultimi = ByteDi(File());
     for (int i = 0; i < Uccisioni; ++i) {
         const qsizetype prima = NomiIn(cartella_->path()).size();
-        const Salvatore salvatore(File(), ultimi == vecchi ? nuovo : vecchio,
-                                  ultimi == vecchi ? vecchio : nuovo);
+        Salvatore salvatore(File(), ultimi == vecchi ? nuovo : vecchio,
+                            ultimi == vecchi ? vecchio : nuovo);
         QVERIFY(salvatore.AttendeUnSalvataggio());
         usleep(static_cast<useconds_t>(caso.bounded(microsecondi)));
         QVERIFY2(salvatore.Uccide(), "a save failed by itself");
@@ -241,6 +247,8 @@ void tst_SalvataggioGuasti::MilleUccisioni()
                  "torn after " + QByteArray::number(i) + " kills");
         conResti += NomiIn(cartella_->path()).size() > prima ? 1 : 0;
         cambiati += trovati != ultimi ? 1 : 0;
+        microsecondi *= salvatore.AltriIniziati() > 0 ? 1 / Passo : Passo;
+        microsecondi = std::clamp(microsecondi, 100.0, 100'000.0);
         ultimi = trovati;
     }
     // The kills did hit saves on their way, before and after the rename.
