@@ -1,5 +1,6 @@
 #include "Schermo.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
@@ -9,6 +10,7 @@
 #include <stdexcept>
 
 #include <sys/prctl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -177,12 +179,24 @@ QString Schermo::Attiva() const
     return numero && tastiera.uscita.trimmed().toUInt() == id ? attiva.first() : QString();
 }
 
+void Schermo::AttendeQui(const QString &cosa, const std::function<bool()> &condizione) const
+{
+    try {
+        AttendeChe(cosa, condizione);
+    } catch (const std::runtime_error &errore) {
+        const QString foto =
+            QDir::temp().filePath(QStringLiteral("plakera-e2e-%1.png").arg(getpid()));
+        Foto().save(foto);
+        throw std::runtime_error(errore.what() + (" (see " + foto.toStdString() + ')'));
+    }
+}
+
 Schermo::Finestra Schermo::Attende(const QString &titolo) const
 {
     const QRegularExpression cercato(titolo);
     Finestra prima;
     Finestra trovata;
-    AttendeChe(QStringLiteral("the window ") + titolo, [&] {
+    AttendeQui(QStringLiteral("the window ") + titolo, [&] {
         prima = trovata;
         const QString attiva = Attiva();
         const QList<Finestra> finestre = Finestre();
@@ -201,7 +215,7 @@ Schermo::Finestra Schermo::Attende(const QString &titolo) const
 Schermo::Finestra Schermo::Attiva(const QString &titolo) const
 {
     const QRegularExpression cercato(titolo);
-    AttendeChe(QStringLiteral("the window ") + titolo, [&] {
+    AttendeQui(QStringLiteral("the window ") + titolo, [&] {
         const QList<Finestra> finestre = Finestre();
         for (const Finestra &finestra : finestre) {
             if (cercato.match(finestra.Titolo).hasMatch()) {
@@ -217,7 +231,7 @@ Schermo::Finestra Schermo::Attiva(const QString &titolo) const
 
 void Schermo::AttendeChiusa(const QString &titolo) const
 {
-    AttendeChe(QStringLiteral("the end of the window ") + titolo, [&] { return !Vede(titolo); });
+    AttendeQui(QStringLiteral("the end of the window ") + titolo, [&] { return !Vede(titolo); });
 }
 
 QImage Schermo::Foto() const
@@ -236,7 +250,7 @@ QImage Schermo::FotoFerma() const
 {
     QImage prima = Foto();
     QImage dopo;
-    AttendeChe(QStringLiteral("a still picture"), [&] {
+    AttendeQui(QStringLiteral("a still picture"), [&] {
         dopo = Foto();
         return std::exchange(prima, dopo) == dopo;
     });

@@ -53,6 +53,9 @@ public:
     Finestra Attiva(const QString &titolo) const;
     void AttendeChiusa(const QString &titolo) const;
 
+    /// AttendeChe that leaves a picture of the screen behind when it fails.
+    void AttendeQui(const QString &cosa, const std::function<bool()> &condizione) const;
+
     QImage Foto() const;
     /// Waits until the picture no longer changes, and gives it.
     QImage FotoFerma() const;

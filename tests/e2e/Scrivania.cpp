@@ -13,6 +13,9 @@ const QString Scrivania::TitoloInizio = QStringLiteral("^Plakera - Modelli stamp
 const QString Scrivania::TitoloEditor = QStringLiteral("^Plakera: Modello ");
 const QString Scrivania::TitoloAnteprima = QStringLiteral("^Anteprima Plakera$");
 const QString Scrivania::TitoloRiquadro = QStringLiteral("^Plakera$");
+const QString Scrivania::TitoloCampo = QStringLiteral("^Modifica impostazioni Campo$");
+const QString Scrivania::TitoloCornice = QStringLiteral("^Modifica impostazioni Cornice");
+const QString Scrivania::TitoloImmagine = QStringLiteral("^Modifica impostazioni Immagine$");
 
 namespace {
 
@@ -189,6 +192,15 @@ void Scrivania::Salva()
     schermo_->Attende(TitoloEditor);
 }
 
+void Scrivania::Stampa()
+{
+    Editor();
+    schermo_->Tasti({QStringLiteral("alt+t")});
+    schermo_->Attende(TitoloRiquadro);
+    schermo_->Tasti({QStringLiteral("alt+n")});
+    schermo_->Attende(TitoloEditor);
+}
+
 void Scrivania::Zoom(const QString &scala)
 {
     // The zoom box is the only control of the preview that holds the keyboard.
@@ -218,9 +230,62 @@ void Scrivania::Trascina(QPoint da, QPoint a) const
     schermo_->Trascina(punti);
 }
 
-Schermo::Finestra Scrivania::Proprieta(QPointF millimetri, const QString &titolo)
+void Scrivania::PuntaCampo(QPointF millimetri)
+{
+    Anteprima();
+    const QPoint punto = SulFoglio(millimetri);
+    int passo = 0;
+    schermo_->AttendeQui(QStringLiteral("a field that lights up"), [&] {
+        schermo_->Sposta(punto + QPoint(passo++ % 2, 0));
+        const QImage foto = schermo_->Foto();
+        constexpr int Intorno = 12;
+        for (int dy = -Intorno; dy <= Intorno; ++dy) {
+            for (int dx = -Intorno; dx <= Intorno; ++dx) {
+                const QRgb colore = foto.pixel(punto + QPoint(dx, dy));
+                if (qBlue(colore) > 200 && qRed(colore) < 90 && qGreen(colore) < 90) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    });
+}
+
+void Scrivania::TrascinaCampo(QPointF campo, QPointF a)
+{
+    // The text itself, past the handle that will appear at its corner.
+    constexpr QPointF SulTesto(8, 2);
+    PuntaCampo(campo + SulTesto);
+    const QPoint maniglia(qRound(2 * scala_), qRound(2 * scala_));
+    Trascina(SulFoglio(campo) + maniglia, SulFoglio(a));
+}
+
+void Scrivania::AllargaCornice(QPointF dentro, QPointF bordo, int pixel)
+{
+    Anteprima();
+    schermo_->Clic(SulFoglio(dentro));
+    const QPoint presa = SulFoglio(bordo) - QPoint(qRound(scala_), 0);
+    schermo_->Sposta(presa);
+    Trascina(presa, presa + QPoint(qRound(pixel * scala_), 0));
+}
+
+Schermo::Finestra Scrivania::ProprietaCampo(QPointF millimetri)
+{
+    PuntaCampo(millimetri);
+    schermo_->Clic(SulFoglio(millimetri), 3);
+    return schermo_->Attende(TitoloCampo);
+}
+
+Schermo::Finestra Scrivania::ProprietaCornice(QPointF millimetri)
 {
     Anteprima();
     schermo_->Clic(SulFoglio(millimetri), 3);
-    return schermo_->Attende(titolo);
+    return schermo_->Attende(TitoloCornice);
+}
+
+Schermo::Finestra Scrivania::ProprietaImmagine(QPointF millimetri)
+{
+    Anteprima();
+    schermo_->Clic(SulFoglio(millimetri), 3);
+    return schermo_->Attende(TitoloImmagine);
 }

@@ -52,6 +52,8 @@ public:
     void ChiudeInizio();
     /// Turns to a page of the editor, 0 to 5; the keyboard is on its tab.
     void Pagina(int pagina);
+    /// Starts the test print with the button, of the test texts.
+    void Stampa();
     /// Saves with the button and answers the question with Yes.
     void Salva();
     /// Types the scale and waits until the preview shows it.
@@ -60,18 +62,29 @@ public:
     QPoint SulFoglio(QPointF millimetri) const;
     /// Pixels of so many mm of paper.
     double Pixel(double millimetri) const;
-    /// Drags with a few steps in between.
-    void Trascina(QPoint da, QPoint a) const;
-    /// Opens the dialog of what lies at the point of the paper.
-    Schermo::Finestra Proprieta(QPointF millimetri, const QString &titolo);
+    /// Points at a field until it lights up. Frames in front of it give way one at a time.
+    void PuntaCampo(QPointF millimetri);
+    /// Points at a field, takes it by its handle and drops it where its corner comes to lie on the
+    /// other point; both in mm of paper.
+    void TrascinaCampo(QPointF campo, QPointF a);
+    /// Selects a frame by a click, then drags its right edge by so many of the program's pixels.
+    void AllargaCornice(QPointF dentro, QPointF bordo, int pixel);
+    /// Opens the dialog of the field, frame or image at the point of the paper.
+    Schermo::Finestra ProprietaCampo(QPointF millimetri);
+    Schermo::Finestra ProprietaCornice(QPointF millimetri);
+    Schermo::Finestra ProprietaImmagine(QPointF millimetri);
 
     static const QString TitoloInizio;
     static const QString TitoloEditor;
     static const QString TitoloAnteprima;
     static const QString TitoloRiquadro;
+    static const QString TitoloCampo;
+    static const QString TitoloCornice;
+    static const QString TitoloImmagine;
 
 private:
     void CercaFoglio();
+    void Trascina(QPoint da, QPoint a) const;
 
     QTemporaryDir dir_;
     std::unique_ptr<Schermo> schermo_;
