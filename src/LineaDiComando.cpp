@@ -54,6 +54,9 @@ QString Contraddizione(const Richieste &richieste)
     if (!richieste.SenzaFinestre() && !richieste.modello.isEmpty()) {
         return QStringLiteral("--modello vuole --pdf o --anteprima");
     }
+    if (richieste.nomi && richieste.pdf.isEmpty()) {
+        return QStringLiteral("--nomi vuole --pdf");
+    }
     return {};
 }
 

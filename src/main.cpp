@@ -18,6 +18,7 @@ LetturaArgomenti LeggeArgomentiDi(int &argc, char **argv)
 {
     // Read before any window system is touched, so that --help works without one.
     const QCoreApplication applicazione(argc, argv);
+    ImpostaLingua();
     return LeggeArgomenti(QCoreApplication::arguments());
 }
 
@@ -32,6 +33,9 @@ int main(int argc, char *argv[])
     }
     if (lettura.richieste->SenzaFinestre()) {
         SenzaFinestre();
+    } else if (!SchermoPresente()) {
+        std::fputs("plakera: nessuno schermo; per stampare senza finestre vedi --help\n", stderr);
+        return 1;
     }
     QApplication applicazione(argc, argv);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza);

@@ -81,7 +81,7 @@ int ArgomentoDi(const QWidget *controllo)
 void ImpostaLingua()
 {
     CaricaRisorse();
-    auto *testi = new QTranslator(qApp);
+    auto *testi = new QTranslator(QCoreApplication::instance());
     if (testi->load(QStringLiteral(":/qtbase_it.qm"))) {
         QCoreApplication::installTranslator(testi);
     }

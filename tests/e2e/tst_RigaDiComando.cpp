@@ -1,0 +1,255 @@
+#include "support/FileDiProva.h"
+#include "support/LettorePdf.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QTest>
+
+/// The program without windows, where there is no display at all.
+class tst_RigaDiComando : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void aiuto();
+    void versione();
+    void stampaInPdf();
+    void stampaConINomi();
+    void anteprima();
+    void pdfEAnteprimaInsieme();
+    void modelloMancante();
+    void modelloTroppoCorto();
+    void immagineMancante();
+    void pdfNonScrivibile();
+    void anteprimaNonScrivibile();
+    void finestreSenzaSchermo();
+    void opzioniSbagliate_data();
+    void opzioniSbagliate();
+    void nonToccaLaCartellaDelModello();
+
+private:
+    struct Esito
+    {
+        int stato;
+        QString uscita;
+        QString errori;
+    };
+    Esito Esegue(const QStringList &argomenti) const;
+    QString In(const QString &nome) const { return dir_->filePath(nome); }
+    QString Modello() const { return In(QStringLiteral("Fattura_Rossi.Mod")); }
+
+    std::unique_ptr<QTemporaryDir> dir_;
+};
+
+void tst_RigaDiComando::init()
+{
+    dir_ = std::make_unique<QTemporaryDir>();
+    const QDir campione(QStringLiteral(CARTELLA_CAMPIONE "/Contabilita/ini"));
+    for (const char *nome : {"Fattura_Rossi.Mod", "LogoCascinalta.gif"}) {
+        QVERIFY(QFile::copy(campione.filePath(QString::fromLatin1(nome)),
+                            In(QString::fromLatin1(nome))));
+    }
+}
+
+tst_RigaDiComando::Esito tst_RigaDiComando::Esegue(const QStringList &argomenti) const
+{
+    QProcess programma;
+    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+    for (const char *nome : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR"}) {
+        ambiente.remove(QString::fromLatin1(nome));
+    }
+    ambiente.insert(QStringLiteral("HOME"), dir_->path());
+    ambiente.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir_->path());
+    ambiente.insert(QStringLiteral("XDG_STATE_HOME"), In(QStringLiteral("stato")));
+    ambiente.insert(QStringLiteral("XDG_CONFIG_HOME"), In(QStringLiteral("impostazioni")));
+    ambiente.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    programma.setProcessEnvironment(ambiente);
+    programma.start(QStringLiteral(PROGRAMMA), argomenti);
+    if (!programma.waitForFinished(60'000) || programma.exitStatus() != QProcess::NormalExit) {
+        return {-1, {}, programma.errorString()};
+    }
+    return {programma.exitCode(), QString::fromUtf8(programma.readAllStandardOutput()),
+            QString::fromUtf8(programma.readAllStandardError())};
+}
+
+void tst_RigaDiComando::aiuto()
+{
+    const Esito esito = Esegue({QStringLiteral("--help")});
+    QCOMPARE(esito.stato, 0);
+    QCOMPARE(esito.errori, QString());
+    QVERIFY(esito.uscita.contains(QStringLiteral("Opzioni:")));
+    for (const char *opzione : {"--help", "--version", "--dati <cartella>", "--modello <file>",
+                                "--pdf <file>", "--anteprima <file>", "--nomi"}) {
+        QVERIFY2(esito.uscita.contains(QString::fromLatin1(opzione)), opzione);
+    }
+    QVERIFY(esito.uscita.contains(QStringLiteral("Modello da stampare senza aprire finestre.")));
+}
+
+void tst_RigaDiComando::versione()
+{
+    const Esito esito = Esegue({QStringLiteral("--version")});
+    QCOMPARE(esito.stato, 0);
+    QVERIFY(QRegularExpression(QStringLiteral("^plakera \\d+\\.\\d+\\.\\d+\n$"))
+                .match(esito.uscita)
+                .hasMatch());
+}
+
+void tst_RigaDiComando::stampaInPdf()
+{
+    const QString pdf = In(QStringLiteral("foglio.pdf"));
+    const Esito esito =
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"), pdf});
+    QCOMPARE(esito.errori, QString());
+    QCOMPARE(esito.stato, 0);
+    const LettorePdf foglio(pdf);
+    QCOMPARE(foglio.Pagine(), 1);
+    QCOMPARE(foglio.Immagini(), 1);
+    // The document's number at 104, 44 mm, without a margin.
+    const QRectF numero = foglio.Parola1(QStringLiteral("128/A"));
+    QVERIFY(std::abs(numero.left() - 104) < 0.1);
+    QVERIFY(std::abs(foglio.Foglio().width() - 210) < 0.2);
+}
+
+void tst_RigaDiComando::stampaConINomi()
+{
+    const QString pdf = In(QStringLiteral("foglio.pdf"));
+    const Esito esito = Esegue({QStringLiteral("--nomi"), QStringLiteral("--modello"), Modello(),
+                                QStringLiteral("--pdf"), pdf});
+    QCOMPARE(esito.stato, 0);
+    const LettorePdf foglio(pdf);
+    QVERIFY(foglio.Testi().contains(QStringLiteral("Doc_Numero")));
+    QVERIFY(!foglio.Testi().contains(QStringLiteral("128/A")));
+}
+
+void tst_RigaDiComando::anteprima()
+{
+    const QString png = In(QStringLiteral("anteprima.png"));
+    const Esito esito =
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--anteprima"), png});
+    QCOMPARE(esito.errori, QString());
+    QCOMPARE(esito.stato, 0);
+    const QImage figura(png);
+    // The whole sheet, 240 x 350 mm.
+    QVERIFY(std::abs(figura.height() * 240.0 / figura.width() - 350) < 1);
+    // The blue of the logo's corner, 10, 7 mm.
+    const double pixel = figura.width() / 240.0;
+    const QColor logo(figura.pixel(int(12 * pixel), int(9 * pixel)));
+    QVERIFY2(logo.blue() > logo.red() + 40, qPrintable(logo.name()));
+}
+
+void tst_RigaDiComando::pdfEAnteprimaInsieme()
+{
+    const Esito esito = Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"),
+                                In(QStringLiteral("a.pdf")), QStringLiteral("--anteprima"),
+                                In(QStringLiteral("a.png"))});
+    QCOMPARE(esito.stato, 0);
+    QVERIFY(QFile::exists(In(QStringLiteral("a.pdf"))));
+    QVERIFY(QFile::exists(In(QStringLiteral("a.png"))));
+}
+
+void tst_RigaDiComando::modelloMancante()
+{
+    const QString pdf = In(QStringLiteral("a.pdf"));
+    const Esito esito = Esegue({QStringLiteral("--modello"), In(QStringLiteral("Manca.Mod")),
+                                QStringLiteral("--pdf"), pdf});
+    QCOMPARE(esito.stato, 1);
+    QCOMPARE(esito.uscita, QString());
+    QVERIFY2(esito.errori.startsWith(QStringLiteral("impossibile leggere file Manca.Mod 53 ")),
+             qPrintable(esito.errori));
+    QVERIFY(!QFile::exists(pdf));
+}
+
+void tst_RigaDiComando::modelloTroppoCorto()
+{
+    ScriveFile(Modello(), "Fattura\r\n\r\n");
+    const Esito esito = Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"),
+                                In(QStringLiteral("a.pdf"))});
+    QCOMPARE(esito.stato, 1);
+    QVERIFY2(
+        esito.errori.startsWith(QStringLiteral("impossibile leggere file Fattura_Rossi.Mod 62 ")),
+        qPrintable(esito.errori));
+}
+
+void tst_RigaDiComando::immagineMancante()
+{
+    QVERIFY(QFile::remove(In(QStringLiteral("LogoCascinalta.gif"))));
+    const QString pdf = In(QStringLiteral("a.pdf"));
+    const Esito esito =
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"), pdf});
+    QCOMPARE(esito.stato, 1);
+    QVERIFY2(esito.errori.startsWith(QStringLiteral("StampaImmagine: ")) &&
+                 esito.errori.contains(QStringLiteral("ERRORE 53")),
+             qPrintable(esito.errori));
+    // The rest of the sheet is printed all the same.
+    QVERIFY(LettorePdf(pdf).Testi().contains(QStringLiteral("128/A")));
+}
+
+void tst_RigaDiComando::pdfNonScrivibile()
+{
+    const Esito esito = Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"),
+                                In(QStringLiteral("non/esiste/a.pdf"))});
+    QCOMPARE(esito.stato, 1);
+    QVERIFY2(esito.errori.contains(QStringLiteral("482")), qPrintable(esito.errori));
+}
+
+void tst_RigaDiComando::anteprimaNonScrivibile()
+{
+    const QString png = In(QStringLiteral("non/esiste/a.png"));
+    const Esito esito =
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--anteprima"), png});
+    QCOMPARE(esito.stato, 1);
+    QVERIFY2(esito.errori.contains(QStringLiteral("impossibile scrivere ") + png),
+             qPrintable(esito.errori));
+}
+
+void tst_RigaDiComando::finestreSenzaSchermo()
+{
+    const Esito esito = Esegue({QStringLiteral("--dati"), dir_->path()});
+    QCOMPARE(esito.stato, 1);
+    QCOMPARE(esito.errori,
+             QStringLiteral("plakera: nessuno schermo; per stampare senza finestre vedi --help\n"));
+}
+
+void tst_RigaDiComando::opzioniSbagliate_data()
+{
+    QTest::addColumn<QStringList>("argomenti");
+    QTest::addColumn<QString>("errore");
+    const auto riga = [](const char *nome, const char *argomenti, const char *errore) {
+        QTest::newRow(nome) << QString::fromUtf8(argomenti).split(u' ')
+                            << QStringLiteral("plakera: ") + QString::fromUtf8(errore) + u'\n';
+    };
+    riga("pdf without a model", "--pdf a.pdf", "--pdf e --anteprima vogliono un --modello");
+    riga("picture without a model", "--anteprima a.png",
+         "--pdf e --anteprima vogliono un --modello");
+    riga("model without an output", "--modello a.Mod", "--modello vuole --pdf o --anteprima");
+    riga("names of nothing", "--nomi", "--nomi vuole --pdf");
+    riga("names on a picture", "--modello a.Mod --anteprima a.png --nomi", "--nomi vuole --pdf");
+    riga("unknown option", "--stampa", "Opzione sconosciuta 'stampa'.");
+    riga("stray argument", "Fattura.Mod", "argomento inatteso: Fattura.Mod");
+}
+
+void tst_RigaDiComando::opzioniSbagliate()
+{
+    QFETCH(QStringList, argomenti);
+    QFETCH(QString, errore);
+    const Esito esito = Esegue(argomenti);
+    QCOMPARE(esito.errori, errore);
+    QCOMPARE(esito.uscita, QString());
+    QCOMPARE(esito.stato, 1);
+}
+
+void tst_RigaDiComando::nonToccaLaCartellaDelModello()
+{
+    const QByteArray prima = ByteDi(Modello());
+    const QStringList nomi = NomiIn(dir_->path());
+    Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"),
+            In(QStringLiteral("non/esiste/a.pdf")), QStringLiteral("--anteprima"),
+            In(QStringLiteral("non/esiste/a.png"))});
+    QCOMPARE(ByteDi(Modello()), prima);
+    QCOMPARE(NomiIn(dir_->path()), nomi);
+}
+
+QTEST_GUILESS_MAIN(tst_RigaDiComando)
+#include "tst_RigaDiComando.moc"
