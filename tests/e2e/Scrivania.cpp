@@ -1,6 +1,7 @@
 #include "Scrivania.h"
 
 #include "support/CodaDiStampa.h"
+#include "support/LettorePdf.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -115,7 +116,7 @@ void Scrivania::CollegaStampante(const CodaDiStampa &coda)
     ambiente_.insert(QStringLiteral("CUPS_SERVER"), coda.Server());
 }
 
-void Scrivania::ApreModello(const QString &nome)
+void Scrivania::SceglieModello(const QString &nome)
 {
     schermo_->Attende(TitoloInizio);
     const QStringList file =
@@ -126,6 +127,11 @@ void Scrivania::ApreModello(const QString &nome)
     schermo_->Tasti({QStringLiteral("End"), QStringLiteral("Home")});
     schermo_->Tasto(QStringLiteral("Down"), static_cast<int>(posto));
     schermo_->Tasti({QStringLiteral("alt+a")});
+}
+
+void Scrivania::ApreModello(const QString &nome)
+{
+    SceglieModello(nome);
     schermo_->Attende(TitoloEditor + nome + QStringLiteral("\\.Mod$"));
     zoom_ = 1;
     CercaFoglio();
@@ -192,13 +198,35 @@ void Scrivania::Salva()
     schermo_->Attende(TitoloEditor);
 }
 
-void Scrivania::Stampa()
+LettorePdf Scrivania::StampaInCoda(CodaDiStampa &coda)
 {
     Editor();
     schermo_->Tasti({QStringLiteral("alt+t")});
     schermo_->Attende(TitoloRiquadro);
     schermo_->Tasti({QStringLiteral("alt+n")});
     schermo_->Attende(TitoloEditor);
+    return UnicoFoglio(coda);
+}
+
+LettorePdf Scrivania::UnicoFoglio(CodaDiStampa &coda)
+{
+    QStringList fogli;
+    AttendeChe(QStringLiteral("the printed sheet"), [&] {
+        fogli += coda.Fogli();
+        return !fogli.isEmpty();
+    });
+    Pretende(fogli.size() == 1, QStringLiteral("more than one sheet"));
+    return LettorePdf(fogli.first());
+}
+
+LettorePdf Scrivania::StampaInPdf(const QString &modello) const
+{
+    const QString pdf = In(QStringLiteral("foglio.pdf"));
+    const auto programma =
+        Nuovo({QStringLiteral("--modello"), CartellaModelli() + modello + QStringLiteral(".Mod"),
+               QStringLiteral("--pdf"), pdf});
+    Pretende(EsitoDi(*programma) == 0, QString::fromUtf8(programma->readAllStandardError()));
+    return LettorePdf(pdf);
 }
 
 void Scrivania::Zoom(const QString &scala)

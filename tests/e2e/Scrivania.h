@@ -7,6 +7,7 @@
 #include <memory>
 
 class CodaDiStampa;
+class LettorePdf;
 
 /// The desk of a user of the real program: a screen, folders of its own for data, settings and
 /// state, and the program on it. Nothing of the user who runs the tests is read or written.
@@ -43,7 +44,9 @@ public:
 
     // What the user does.
 
-    /// Opens the model of the selected archive from the start window.
+    /// Picks the model of the selected archive in the start window and presses the button.
+    void SceglieModello(const QString &nome);
+    /// The same, when nothing is asked.
     void ApreModello(const QString &nome);
     Schermo::Finestra Editor() { return schermo_->Attiva(TitoloEditor); }
     Schermo::Finestra Anteprima() { return schermo_->Attiva(TitoloAnteprima); }
@@ -52,8 +55,12 @@ public:
     void ChiudeInizio();
     /// Turns to a page of the editor, 0 to 5; the keyboard is on its tab.
     void Pagina(int pagina);
-    /// Starts the test print with the button, of the test texts.
-    void Stampa();
+    /// Prints the test texts with the button and gives the sheet that came.
+    LettorePdf StampaInCoda(CodaDiStampa &coda);
+    /// Waits for the one sheet that the queue prints now.
+    static LettorePdf UnicoFoglio(CodaDiStampa &coda);
+    /// Prints the saved model without windows. Throws what the program says against it.
+    LettorePdf StampaInPdf(const QString &modello) const;
     /// Saves with the button and answers the question with Yes.
     void Salva();
     /// Types the scale and waits until the preview shows it.

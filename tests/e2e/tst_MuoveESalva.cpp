@@ -45,8 +45,6 @@ private slots:
 private:
     void CambiaMaschera(Scrivania &scrivania);
     void CambiaLogo(Scrivania &scrivania);
-    static LettorePdf StampaInCoda(Scrivania &scrivania, CodaDiStampa &coda);
-    static LettorePdf StampaInPdf(Scrivania &scrivania);
 };
 
 void tst_MuoveESalva::initTestCase()
@@ -80,30 +78,6 @@ void tst_MuoveESalva::CambiaLogo(Scrivania &scrivania)
     scrivania.Video().AttendeChiusa(Scrivania::TitoloImmagine);
 }
 
-LettorePdf tst_MuoveESalva::StampaInCoda(Scrivania &scrivania, CodaDiStampa &coda)
-{
-    scrivania.Stampa();
-    QStringList fogli;
-    AttendeChe(QStringLiteral("the printed sheet"), [&] {
-        fogli += coda.Fogli();
-        return !fogli.isEmpty();
-    });
-    return LettorePdf(fogli.first());
-}
-
-LettorePdf tst_MuoveESalva::StampaInPdf(Scrivania &scrivania)
-{
-    const QString pdf = scrivania.In(QStringLiteral("foglio.pdf"));
-    const auto programma =
-        scrivania.Nuovo({QStringLiteral("--modello"),
-                         scrivania.CartellaModelli() + Fattura + QStringLiteral(".Mod"),
-                         QStringLiteral("--pdf"), pdf});
-    if (Scrivania::EsitoDi(*programma) != 0) {
-        throw std::runtime_error(programma->readAllStandardError().toStdString());
-    }
-    return LettorePdf(pdf);
-}
-
 void tst_MuoveESalva::unaGiornataDiLavoro()
 {
     CodaDiStampa coda;
@@ -116,7 +90,7 @@ void tst_MuoveESalva::unaGiornataDiLavoro()
                         logo));
     const QString file = scrivania.CartellaModelli() + Fattura + QStringLiteral(".Mod");
     const RigheFile prima(file);
-    const LettorePdf fogliPrima = StampaInPdf(scrivania);
+    const LettorePdf fogliPrima = scrivania.StampaInPdf(Fattura);
 
     scrivania.Avvia();
     scrivania.ApreModello(Fattura);
@@ -147,9 +121,9 @@ void tst_MuoveESalva::unaGiornataDiLavoro()
 
     scrivania.ChiudeEditor();
     scrivania.ApreModello(Fattura);
-    const LettorePdf coda1 = StampaInCoda(scrivania, coda);
+    const LettorePdf coda1 = scrivania.StampaInCoda(coda);
     QCOMPARE(coda1.Pagine(), 1);
-    const LettorePdf foglio = StampaInPdf(scrivania);
+    const LettorePdf foglio = scrivania.StampaInPdf(Fattura);
 
     const QString data = QStringLiteral("02/03/2026");
     const QRectF parola = foglio.Parola1(data);
