@@ -1,15 +1,16 @@
+#include "catalogue/PercorsoNellaCartella.h"
 #include "catalogue/Sfoglia.h"
 #include "model/Modello.h"
 #include "support/Controlli.h"
 #include "support/FileDiProva.h"
 #include "support/Permessi.h"
 #include "support/Robot.h"
+#include "support/Tempi.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QListView>
@@ -448,12 +449,11 @@ void tst_Sfoglia::DiecimilaFile()
         QVERIFY(file.open(QIODevice::WriteOnly));
     }
     Sfoglia s;
-    QElapsedTimer orologio;
-    orologio.start();
+    const TempoDiLavoro orologio;
     Mostra(s, In(QStringLiteral("scansioni/bozze/scan9999.jpg")));
     QCOMPARE(NomiFile(s).size(), Molti);
     QCOMPARE(FileScelto(s), QStringLiteral("scan9999.jpg"));
-    QVERIFY2(orologio.elapsed() < 2000, qPrintable(QString::number(orologio.elapsed())));
+    QVERIFY2(orologio.Entro(2000), qPrintable(QString::number(orologio.MilliSecondi())));
 }
 
 void tst_Sfoglia::GuidaNonAssegnata()
