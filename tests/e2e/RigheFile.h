@@ -44,13 +44,13 @@ public:
     /// A line of the head, counted from 1.
     void MetteTesta(int numero, const QByteArray &testo) { righe_[numero - 1] = testo + '\r'; }
     QByteArray Testa(int numero) const { return righe_[numero - 1].chopped(1); }
-    QList<QByteArray> Nomi(const QByteArray &inizio) const
+    QList<QByteArray> NomiCampi() const
     {
         QList<QByteArray> nomi;
-        for (qsizetype i = 1; i < righe_.size(); ++i) {
-            if (righe_[i - 1] == "\r" && righe_[i].startsWith(inizio)) {
-                nomi.append(righe_[i].chopped(1));
-            }
+        constexpr qsizetype Testata = 51;
+        constexpr qsizetype RigheCampo = 12;
+        for (qsizetype i = Testata; righe_[i] != "FINECAMPI\r"; i += RigheCampo) {
+            nomi.append(righe_[i + 1].chopped(1));
         }
         return nomi;
     }

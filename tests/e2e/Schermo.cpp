@@ -246,17 +246,6 @@ QImage Schermo::Foto() const
     return immagine.convertToFormat(QImage::Format_RGB32);
 }
 
-QImage Schermo::FotoFerma() const
-{
-    QImage prima = Foto();
-    QImage dopo;
-    AttendeQui(QStringLiteral("a still picture"), [&] {
-        dopo = Foto();
-        return std::exchange(prima, dopo) == dopo;
-    });
-    return dopo;
-}
-
 void Schermo::Sposta(QPoint punto) const
 {
     Xdotool({QStringLiteral("mousemove"), QString::number(punto.x()), QString::number(punto.y())});
@@ -284,7 +273,9 @@ void Schermo::Trascina(const QList<QPoint> &punti) const
 
 void Schermo::Tasti(const QStringList &tasti) const
 {
-    Xdotool(QStringList{QStringLiteral("key")} + tasti);
+    if (!tasti.isEmpty()) {
+        Xdotool(QStringList{QStringLiteral("key")} + tasti);
+    }
 }
 
 void Schermo::Tasto(const QString &tasto, int volte) const

@@ -57,8 +57,6 @@ public:
     void AttendeQui(const QString &cosa, const std::function<bool()> &condizione) const;
 
     QImage Foto() const;
-    /// Waits until the picture no longer changes, and gives it.
-    QImage FotoFerma() const;
 
     void Sposta(QPoint punto) const;
     void Clic(QPoint punto, int bottone = 1, int volte = 1) const;

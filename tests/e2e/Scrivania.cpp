@@ -184,9 +184,7 @@ void Scrivania::Pagina(int pagina)
     // From the box "Tipo" over the help icon to the tabs, there to the first one.
     schermo_->Tasti({QStringLiteral("alt+p"), QStringLiteral("Tab"), QStringLiteral("Tab")});
     schermo_->Tasto(QStringLiteral("Left"), 5);
-    if (pagina > 0) {
-        schermo_->Tasto(QStringLiteral("Right"), pagina);
-    }
+    schermo_->Tasto(QStringLiteral("Right"), pagina);
 }
 
 void Scrivania::Salva()

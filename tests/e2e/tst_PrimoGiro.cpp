@@ -71,11 +71,16 @@ void tst_PrimoGiro::finestraIniziale()
     const QPoint scarto = inizio.Ingombro().center() - scrivania.Video().Pixel().center();
     QVERIFY2(scarto.manhattanLength() <= 30, qPrintable(QString::number(scarto.manhattanLength())));
     // Of the two archives the second is selected: one row's height below the top of its list.
-    const QImage foto = scrivania.Video().FotoFerma();
     const QRect archivi(inizio.Interno.topLeft(),
                         QSize(inizio.Interno.width() / 3, inizio.Interno.height()));
-    const QRect elenco = Macchia(foto, archivi, 0xFFFFFF);
-    const QRect scelto = Macchia(foto, archivi, 0x308CC6);
+    QRect elenco;
+    QRect scelto;
+    scrivania.Video().AttendeQui(QStringLiteral("a selected archive"), [&] {
+        const QImage foto = scrivania.Video().Foto();
+        elenco = Macchia(foto, archivi, 0xFFFFFF);
+        scelto = Macchia(foto, archivi, 0x308CC6);
+        return !scelto.isNull();
+    });
     QVERIFY2(elenco.contains(scelto) && scelto.height() < elenco.height() / 4, Testo(scelto));
     const double riga = double(scelto.top() - elenco.top()) / scelto.height();
     QVERIFY2(riga > 0.8 && riga < 1.5, Testo(scelto));
