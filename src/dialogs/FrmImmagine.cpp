@@ -131,9 +131,9 @@ void FrmImmagine::ImpostaImmagine()
 
 QSizeF FrmImmagine::MisuraImmagine() const
 {
-    const QString percorso =
-        Percorsi::Risolve(Stato().CartellaModelli + Caselle().Testo(ui_->Nome));
     try {
+        const QString percorso =
+            Immagini::PercorsoInCartella(Stato().CartellaModelli, Caselle().Testo(ui_->Nome));
         // The header alone would also measure a picture whose rest is damaged.
         Immagini::CaricaScalata(percorso, {1, 1});
         return Immagini::DimensioniNaturali(percorso);

@@ -165,10 +165,12 @@ QImage Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
 
 QString Immagini::PercorsoInCartella(const QString &cartella, const QString &nome)
 {
-    const QString base = QDir::cleanPath(Percorsi::Risolve(cartella)) + u'/';
-    const QString percorso = QDir::cleanPath(Percorsi::Risolve(cartella + nome));
-    if (nome.isEmpty() || !percorso.startsWith(base)) {
+    // Decided on the text: not even a look may leave the folder.
+    const QString relativo =
+        QDir::cleanPath(QStringLiteral("./") + QString(nome).replace(u'\\', u'/'));
+    if (relativo == QLatin1String(".") || relativo == QLatin1String("..") ||
+        relativo.startsWith(QLatin1String("../")) || nome.contains(QChar::Null)) {
         throw ErroreSistema(ErroreSistema::FileNonTrovato);
     }
-    return percorso;
+    return QDir::cleanPath(Percorsi::Risolve(cartella + relativo));
 }

@@ -23,9 +23,9 @@ QImage CaricaScalata(const QString &percorso, const QSize &pixel);
 /// down to it in the direction that exceeds. Throws ErroreSistema 53 or 481.
 QImage CaricaEntro(const QString &percorso, const QSize &massimo);
 
-/// Full path, in the spelling found on disk, of a picture of the models folder. Throws
-/// ErroreSistema 53 when the name is empty or leads out of the folder; whether the file exists is
-/// not looked at.
+/// Full path, in the spelling found on disk, of a picture of the models folder, which ends in a
+/// separator. Throws ErroreSistema 53 when the name is empty or leads out of the folder, before
+/// anything on disk is looked at; whether the file exists is not looked at.
 QString PercorsoInCartella(const QString &cartella, const QString &nome);
 
 } // namespace Immagini

@@ -21,7 +21,7 @@ bool Separa(QChar carattere)
 }
 
 /// Position of the last separator, -1 when there is none.
-qsizetype UltimaBarra(const QString &percorso)
+qsizetype UltimaBarra(QStringView percorso)
 {
     const auto barra = std::find_if(percorso.rbegin(), percorso.rend(), Separa);
     return std::distance(barra, percorso.rend()) - 1;
@@ -45,12 +45,17 @@ bool Precede(const QString &a, const QString &b)
     return confronto != 0 ? confronto < 0 : a < b;
 }
 
-QStringList Ordinati(QStringList nomi)
+/// The names in a folder that the program can form paths with, in order. Elsewhere than on Windows
+/// a name may hold "\\": put after its folder it would be taken for a path, even one that leads out
+/// of the folder.
+QStringList Elencati(QStringList nomi)
 {
+    nomi.removeIf([](const QString &nome) { return nome.contains(u'\\'); });
     std::sort(nomi.begin(), nomi.end(), Precede);
     return nomi;
 }
 
+/// The spelling of the name in the folder; empty when the folder has no such name.
 QString NomeSuDisco(const QString &cartella, const QString &nome)
 {
     const QStringList nomi =
@@ -62,19 +67,16 @@ QString NomeSuDisco(const QString &cartella, const QString &nome)
             trovato = altro;
         }
     }
-    return trovato.isEmpty() ? nome : trovato;
+    return trovato;
 }
 
-/// Resolves a native path without a closing separator.
-QString RisolveParti(const QString &percorso)
+/// Length of the path without its closing separators; a root keeps one.
+qsizetype SenzaBarreFinali(const QString &percorso, qsizetype fine)
 {
-    const QString nome = Percorsi::EstraeNomeFile(percorso);
-    if (nome.isEmpty() || Esiste(percorso)) {
-        return percorso;
+    while (fine > 1 && Separa(percorso[fine - 1])) {
+        --fine;
     }
-    const QString prima = percorso.chopped(nome.size());
-    const QString cartella = prima.isEmpty() ? QString() : Percorsi::Risolve(prima);
-    return cartella + NomeSuDisco(cartella.isEmpty() ? QStringLiteral(".") : cartella, nome);
+    return fine;
 }
 
 /// The same failure, its description naming the file.
@@ -119,11 +121,30 @@ QString Percorsi::Separatore()
 QString Percorsi::Risolve(const QString &percorso)
 {
     const QString nativo = Nativo(percorso);
-    qsizetype fine = nativo.size();
-    while (fine > 1 && Separa(nativo[fine - 1])) {
-        --fine;
+    const qsizetype fine = SenzaBarreFinali(nativo, nativo.size());
+    // Back to the part that exists as given; a text may hold thousands of components, so no
+    // recursion.
+    qsizetype esistente = fine;
+    QList<qsizetype> inizi; // of the components after it, last first
+    while (esistente > 0 && !Separa(nativo[esistente - 1]) && !Esiste(nativo.left(esistente))) {
+        inizi.append(UltimaBarra(QStringView(nativo).left(esistente)) + 1);
+        esistente = SenzaBarreFinali(nativo, inizi.last());
     }
-    return RisolveParti(nativo.left(fine)) + nativo.mid(fine);
+    QString risolto = nativo.left(esistente);
+    qsizetype scritti = esistente; // characters of nativo that risolto stands for
+    while (!inizi.isEmpty()) {
+        const qsizetype inizio = inizi.takeLast();
+        const qsizetype dopo = inizi.isEmpty() ? fine : SenzaBarreFinali(nativo, inizi.last());
+        const QString prima = risolto + nativo.mid(scritti, inizio - scritti);
+        const QString nome = NomeSuDisco(prima.isEmpty() ? QStringLiteral(".") : prima,
+                                         nativo.mid(inizio, dopo - inizio));
+        if (nome.isEmpty()) {
+            break; // nothing below a part that does not exist can exist either
+        }
+        risolto = prima + nome;
+        scritti = dopo;
+    }
+    return risolto + nativo.mid(scritti);
 }
 
 QStringList Percorsi::SottoCartelle(const QString &cartella)
@@ -137,7 +158,7 @@ QStringList Percorsi::SottoCartelle(const QString &cartella)
     }
     QStringList percorsi;
     for (const QString &nome :
-         Ordinati(QDir(prefisso).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted))) {
+         Elencati(QDir(prefisso).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted))) {
         percorsi.append(prefisso + nome);
     }
     return percorsi;
@@ -147,7 +168,7 @@ QStringList Percorsi::FileConModello(const QString &cartella, const QString &mod
 {
     const QString nativa = Nativo(cartella);
     VerificaElencabile(nativa);
-    return Ordinati(QDir(nativa).entryList(modelli.split(u';', Qt::SkipEmptyParts), QDir::Files,
+    return Elencati(QDir(nativa).entryList(modelli.split(u';', Qt::SkipEmptyParts), QDir::Files,
                                            QDir::Unsorted));
 }
 

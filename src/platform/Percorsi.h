@@ -4,7 +4,8 @@
 #include <QStringList>
 
 /// Files of archives. Names come from Windows, so they are compared without regard to case even on
-/// a file system that minds it, and "\" separates as well as the native separator everywhere.
+/// a file system that minds it, and "\" separates as well as the native separator everywhere: a
+/// file or folder whose name holds one is not listed.
 namespace Percorsi {
 
 /// The native separator, as one character.

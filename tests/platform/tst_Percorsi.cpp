@@ -1,7 +1,9 @@
 #include "platform/Percorsi.h"
+
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
 #include "support/Permessi.h"
+#include "support/Tempi.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,6 +24,8 @@ private slots:
     void Risolve();
     void Risolve_duplicatiPerMaiuscole();
     void Risolve_rispettaIlCollegamentoRotto();
+    void Risolve_migliaiaDiCartelle_data();
+    void Risolve_migliaiaDiCartelle();
     void SottoCartelle();
     void SottoCartelle_mancante();
     void FileConModello();
@@ -29,6 +33,7 @@ private slots:
     void FileConModello_cartellaMancante();
     void FileConModello_unFile();
     void FileConModello_illeggibile();
+    void NomiConBarraDiWindowsNonEsistono();
     void Copia();
     void Copia_senzaBadareAlleMaiuscole();
     void Copia_suSeStesso();
@@ -160,6 +165,25 @@ void tst_Percorsi::Risolve_rispettaIlCollegamentoRotto()
     QCOMPARE(Percorsi::Risolve(In(QStringLiteral("a.mod"))), In(QStringLiteral("a.mod")));
 }
 
+void tst_Percorsi::Risolve_migliaiaDiCartelle_data()
+{
+    QTest::addColumn<QString>("pezzo");
+    QTest::newRow("cartelle che mancano") << QStringLiteral("\\a");
+    QTest::newRow("barre") << QStringLiteral("\\\\");
+    QTest::newRow("cartella corrente") << QStringLiteral("\\.");
+    QTest::newRow("cartella sopra") << QStringLiteral("\\a\\..");
+}
+
+void tst_Percorsi::Risolve_migliaiaDiCartelle()
+{
+    QFETCH(QString, pezzo);
+    // As long as a text box lets a path become.
+    const QString lungo = In(QString()) + pezzo.repeated(32000 / pezzo.size()) + u'x';
+    const TempoDiLavoro tempo;
+    QCOMPARE(Percorsi::Risolve(lungo), QString(lungo).replace(u'\\', QDir::separator()));
+    QVERIFY(tempo.Entro(1000));
+}
+
 void tst_Percorsi::SottoCartelle()
 {
     for (const char *nome : {"zeta", "Alfa", "beta", ".nascosta"}) {
@@ -231,6 +255,20 @@ void tst_Percorsi::FileConModello_illeggibile()
                  Percorsi::FileConModello(In(QStringLiteral("chiusa")), QStringLiteral("*.mod"));
              }),
              ErroreSistema::AccessoFile);
+}
+
+void tst_Percorsi::NomiConBarraDiWindowsNonEsistono()
+{
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("ini")));
+    if (!QDir(cartella_->path()).mkdir(QStringLiteral("ini\\x"))) {
+        QSKIP("here a folder cannot have such a name");
+    }
+    // Put after a folder it would be read as a way out of it.
+    Scrive(QStringLiteral("ini/..\\fuori.mod"));
+    Scrive(QStringLiteral("ini/dentro.mod"));
+    QCOMPARE(Percorsi::FileConModello(In(QStringLiteral("ini")), QStringLiteral("*.mod")),
+             QStringList{QStringLiteral("dentro.mod")});
+    QCOMPARE(Percorsi::SottoCartelle(cartella_->path()), QStringList{In(QStringLiteral("ini"))});
 }
 
 void tst_Percorsi::Copia()

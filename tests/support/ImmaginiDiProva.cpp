@@ -58,3 +58,45 @@ QString ImmaginiDiProva::Scrive(const QString &percorso, const QByteArray &byte)
     }
     return percorso;
 }
+
+QList<ImmaginiDiProva::Bomba> ImmaginiDiProva::Bombe()
+{
+    QList<Bomba> bombe;
+    const QByteArray bmp = InFormato(Tinta({8, 8}, 0), "bmp");
+    QByteArray enorme = bmp;
+    enorme.replace(18, 8, QByteArray("\0\0\1\0\0\0\1\0", 8));
+    bombe.append({"bmp of 65536 x 65536", enorme});
+    QByteArray grande = bmp;
+    grande.replace(18, 8, QByteArray("\x10\x27\0\0\x10\x27\0\0", 8));
+    bombe.append({"bmp of 10000 x 10000", grande});
+    QByteArray negativa = bmp;
+    negativa.replace(18, 8, QByteArray("\x10\x27\0\0\xF0\xD8\xFF\xFF", 8));
+    bombe.append({"bmp of 10000 x -10000", negativa});
+    QByteArray minima = bmp;
+    minima.replace(18, 8, QByteArray("\xFF\xFF\xFF\x7F\0\0\0\x80", 8));
+    bombe.append({"bmp of the largest and smallest number", minima});
+
+    QByteArray gif = GifTrasparente();
+    gif.replace(6, 4, "\xFF\xFF\xFF\xFF");
+    bombe.append({"gif of 65535 x 65535", gif});
+    gif.replace(6, 4, "\x10\x27\x10\x27");
+    bombe.append({"gif of 10000 x 10000", gif});
+
+    QByteArray jpeg = InFormato(Tinta({64, 64}, 0), "jpeg");
+    const qsizetype sof = jpeg.indexOf("\xFF\xC0");
+    jpeg.replace(sof + 5, 4, "\xFF\xDC\xFF\xDC");
+    bombe.append({"jpeg of 65500 x 65500", jpeg});
+    jpeg.replace(sof + 5, 4, "\x27\x10\x27\x10");
+    bombe.append({"jpeg of 10000 x 10000", jpeg});
+
+    bombe.append({"jpeg of 60 MB of fill bytes", "\xFF\xD8" + QByteArray(60'000'000, '\xFF')});
+    bombe.append({"gif of 60 MB of empty extensions",
+                  GifTrasparente().left(19) + QByteArray("\x21\xF9\0", 3).repeated(20'000'000)});
+
+    QByteArray scansioni = InFormato(Tinta({64, 64}, 0), "jpeg");
+    const qsizetype sos = scansioni.indexOf("\xFF\xDA");
+    const QByteArray scansione = scansioni.mid(sos, scansioni.size() - 2 - sos);
+    scansioni.insert(sos, scansione.repeated(5000));
+    bombe.append({"jpeg of 5000 scans", scansioni});
+    return bombe;
+}

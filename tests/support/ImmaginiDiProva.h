@@ -19,6 +19,14 @@ QByteArray JpegCmyk();
 QByteArray InFormato(const QImage &immagine, const char *formato, double puntiPerPollice = 0);
 QImage Tinta(const QSize &pixel, QRgb colore);
 
+/// A small file, or one made only to be walked over, that claims or costs far more than a picture.
+struct Bomba
+{
+    const char *Nome;
+    QByteArray Byte;
+};
+QList<Bomba> Bombe();
+
 /// Writes the bytes and returns the path. Ends the test program when the disk refuses.
 QString Scrive(const QString &percorso, const QByteArray &byte);
 
