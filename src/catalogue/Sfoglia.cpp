@@ -3,6 +3,7 @@
 #include "ui_Sfoglia.h"
 
 #include "base/ErroreSistema.h"
+#include "catalogue/PercorsoNellaCartella.h"
 #include "model/Modello.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
@@ -71,15 +72,6 @@ QString &RisultatoSfoglia()
 {
     static QString risultato;
     return risultato;
-}
-
-QString PercorsoNellaCartella(const QStringList &radici, const QString &cartella,
-                              const QString &nome, const QString &separatore)
-{
-    const bool radice = std::any_of(radici.begin(), radici.end(), [&](const QString &voce) {
-        return voce + separatore == cartella || (voce == cartella && voce.endsWith(separatore));
-    });
-    return cartella + (radice ? QString() : separatore) + nome;
 }
 
 Sfoglia::Sfoglia(QWidget *padre)

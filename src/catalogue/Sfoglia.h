@@ -16,11 +16,6 @@ class Sfoglia;
 /// Program-wide: it outlives the browser, and confirming without a choice leaves it as it was.
 QString &RisultatoSfoglia();
 
-/// Path of a file of the folder. A folder that is one of the roots as it stands, or followed by the
-/// separator, ends in a separator already.
-QString PercorsoNellaCartella(const QStringList &radici, const QString &cartella,
-                              const QString &nome, const QString &separatore);
-
 /// The program's own modal file browser. The caller sets the text of FileEntrata, runs exec() and
 /// reads RisultatoSfoglia().
 class Sfoglia : public QDialog
