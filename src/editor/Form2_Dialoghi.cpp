@@ -97,12 +97,13 @@ void Form2::MostraDialogo(FrmElemento &dialogo)
     // Beside the controls of the editor, towards the right edge, so that the sheet's left part,
     // where most elements stand, stays in sight.
     const QRect schermo = screen()->availableGeometry();
-    const QSize misura = dialogo.sizeHint();
+    // The dialog gets a frame like the editor's; its position is taken as that of its inside.
+    const QSize misura = dialogo.sizeHint().grownBy(cornice_);
     constexpr int Distanza = 20; // device-independent pixels
     const int sinistra = qMax(schermo.left(), schermo.right() - misura.width() - Distanza);
     const int sopra = qMax(schermo.top(), qMin(anteprima_->frameGeometry().top(),
-                                               schermo.bottom() - misura.height() - 2 * Distanza));
-    dialogo.move(sinistra, sopra);
+                                               schermo.bottom() - misura.height() - Distanza));
+    dialogo.move(sinistra + cornice_.left(), sopra + cornice_.top());
     dialogo.exec();
     RidisegnaRighe();
     ModificaConclusa();

@@ -20,6 +20,7 @@ public:
     Q_DISABLE_COPY_MOVE(Scrivania)
 
     Schermo &Video() { return *schermo_; }
+    double Scala() const { return scala_; }
     /// The archives, a copy of the sample ones.
     QString Dati() const { return In(QStringLiteral("Dati")); }
     QString CartellaModelli() const { return Dati() + QStringLiteral("/Contabilita/ini/"); }
