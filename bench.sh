@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds with the optimiser on, and prints one table: figure, measured,
+# goal, measured/goal. Exit status 1 when a goal is missed.
+set -euo pipefail
+cd "$(dirname "$0")"
+cmake/installa.sh build test
+cmake --preset release -DPLAKERA_BENCHMARKS=ON >/dev/null
+cmake --build --preset release --target benchmarks
+export XDG_RUNTIME_DIR=$PWD/build/release/benchmarks/runtime LC_ALL=C.UTF-8
+mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+misure=$(mktemp)
+trap 'rm -f "$misure"' EXIT
+for nome in Modello Stampa Anteprima Editor Programma; do
+  xvfb-run -a -s '-screen 0 1366x768x24' build/release/benchmarks/bench_$nome >>"$misure" 2>&1 || true
+done
+if grep -E '^(QFATAL|XPASS)|Segmentation' "$misure"; then
+  cat "$misure"
+  exit 2
+fi
+awk -F';' '/misura;/ {
+    rapporto = $4 > 0 ? sprintf("%.2f", $3 / $4) : "-"
+    esito = $3 + 0 <= $4 + 0 ? "" : "MISSED"
+    if (esito != "") mancate++
+    if (!n++) printf "%-52s %12s %12s %7s\n", "figure", "measured", "goal", "ratio"
+    printf "%-52s %12s %12s %7s %s\n", $2, $3 " " $5, $4 " " $5, rapporto, esito
+  }
+  END { exit n == 0 ? 2 : mancate > 0 }' "$misure"
