@@ -55,6 +55,9 @@ void FrmCarattere::Nome_DblClick()
 
 FrmCarattere::Carattere FrmCarattere::CarattereScelto() const
 {
+    if (carattere_.ComboFont->currentText().isEmpty()) {
+        throw Rifiuto{QStringLiteral("Font: nessuno scelto"), carattere_.ComboFont};
+    }
     return {carattere_.ComboFont->currentText(), carattere_.Bold->isChecked() ? Vero : Falso,
             Intero16(carattere_.ComboDim, carattere_.ComboDim->currentText())};
 }

@@ -177,6 +177,9 @@ double FrmImmagine::ChiedePercentuale()
 
 void FrmImmagine::ScriveSubito()
 {
+    if (ui_->Nome->text().isEmpty()) {
+        return; // measuring nothing must not make the picture absent unasked
+    }
     Immagine &immagine = Aperto().Immagini[Indice()];
     immagine.Nome = Caselle().Testo(ui_->Nome);
     // A size that is no number is passed over here and reported by the confirm.

@@ -177,8 +177,7 @@ void Form2::CollegaAnteprima()
     Collega(anteprima, &Frm1::ModificaConclusa, this, &Form2::ModificaConclusa);
     Collega(anteprima, &Frm1::ElementoPuntato, this,
             [this](Genere genere, int i) { Pagina(genere).Seleziona(i); });
-    Collega(anteprima, &Frm1::PaginaRichiesta, this,
-            [this](Genere genere) { ui_->SSTab1->setCurrentIndex(PaginaDi(genere)); });
+    Collega(anteprima, &Frm1::PaginaRichiesta, this, &Form2::MostraPaginaDi);
     Collega(anteprima, &Frm1::RichiestaProprieta, this, &Form2::ApreProprieta);
     Collega(anteprima, &Frm1::SfondoDaRidisegnare, this,
             [this] { sfondo_->ImpostaImmagineSfondo(false); });
@@ -396,9 +395,22 @@ void Form2::closeEvent(QCloseEvent *evento)
     });
 }
 
+void Form2::MostraPaginaDi(Genere genere)
+{
+    if (ui_->SSTab1->currentIndex() == PaginaDi(genere)) {
+        return;
+    }
+    ui_->SSTab1->setCurrentIndex(PaginaDi(genere));
+    // Changing the page hides the markers; the element that the user has in hand keeps its own.
+    if (const int indice = Pagina(genere).Indice(); indice > 0) {
+        anteprima_->Seleziona(genere, indice);
+    }
+}
+
 void Form2::RidisegnaRighe()
 {
     righe_->SimuloRighe();
+    anteprima_->RiancoraManiglie();
 }
 
 void Form2::SistemaFinestre()

@@ -100,6 +100,9 @@ private:
     int AltezzaStriscia() const; ///< of the editor with its frame, device-independent pixels
     void AdattaAllaCornice();
     void GuardaCornice();
+    void MostraPaginaDi(Genere genere);
+    /// After a command that moved elements: the simulation follows, and each handle stands on its
+    /// own element again.
     void RidisegnaRighe();
     bool Form_Unload();
     /// Asks about unsaved work, then closes. The question stands before close(), because while a

@@ -98,7 +98,9 @@ void Form2::MostraDialogo(FrmElemento &dialogo)
     // where most elements stand, stays in sight.
     const QRect schermo = screen()->availableGeometry();
     // The dialog gets a frame like the editor's; its position is taken as that of its inside.
-    const QSize misura = dialogo.sizeHint().grownBy(cornice_);
+    // Left to itself it would be squeezed into two thirds of a small screen.
+    dialogo.resize(EntroLoSchermo(this, dialogo.sizeHint()));
+    const QSize misura = dialogo.size().grownBy(cornice_);
     constexpr int Distanza = 20; // device-independent pixels
     const int sinistra = qMax(schermo.left(), schermo.right() - misura.width() - Distanza);
     const int sopra = qMax(schermo.top(), qMin(anteprima_->frameGeometry().top(),
@@ -117,6 +119,11 @@ void Form2::SettaFont(FrmCarattere &dialogo, const QString &font, const QString 
         Messaggi::Mostra(this,
                          QStringLiteral("font %1 non esistente: verrà impostato Arial").arg(font));
         posto = caratteri->findText(QStringLiteral("Arial"), Qt::MatchFixedString);
+        if (posto < 0) {
+            // A system without Arial still writes its name: Vastrel prints elsewhere too.
+            caratteri->addItem(QStringLiteral("Arial"));
+            posto = caratteri->count() - 1;
+        }
     }
     caratteri->setCurrentIndex(posto);
     QComboBox *dimensioni = dialogo.Dimensioni();

@@ -199,6 +199,11 @@ void Frm1::TextZoom_KeyUp()
     parti_->P1->viewport()->update(); // the background follows the zoom by itself
 }
 
+void Frm1::RiancoraManiglie()
+{
+    elementi_->RiancoraManiglie();
+}
+
 void Frm1::MostraPuntatore(QPointF punto)
 {
     parti_->PX->setText(NumeroSingolo(punto.x()));

@@ -65,6 +65,9 @@ public:
     void PrimoPianoCornici() { PrimoPiano(Genere::Cornice); }
     void PrimoPianoImmagini() { PrimoPiano(Genere::Immagine); }
 
+    /// Puts every visible handle back on its own element, after a walk that placed others too.
+    void RiancoraManiglie();
+
     /// One drag step of element i by the pointer offset (x, y) inside its handle.
     void Sposta(Genere genere, int i, Qt::MouseButtons bottoni, Qt::KeyboardModifiers tasti,
                 double x, double y);

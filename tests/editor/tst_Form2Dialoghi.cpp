@@ -74,6 +74,9 @@ private slots:
     void DialogoDentroLoSchermo_data();
     void DialogoDentroLoSchermo();
     void IndiceZeroNonApre();
+    void FontSuTutteLeCorniciTieneIlMarcatore();
+    void SenzaArialNellElenco();
+    void CambioPaginaDallAnteprimaTieneIlMarcatore();
 };
 
 void tst_Form2Dialoghi::IlCampoRiempieIlDialogo()
@@ -313,6 +316,46 @@ void tst_Form2Dialoghi::IndiceZeroNonApre()
     e.editor->ApreFrmCornice(0);
     e.editor->ApreFrmImmagine(0);
     QVERIFY(robot.Testi().isEmpty());
+}
+
+void tst_Form2Dialoghi::FontSuTutteLeCorniciTieneIlMarcatore()
+{
+    EditorDiProva e;
+    e.editor->Anteprima()->SelezionaCornice(1);
+    Robot robot;
+    robot.Agisce([](QDialog *d) { Preme(*d, "Command2"); });
+    e.editor->ApreFrmCornice(1);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(e.Controllo("S2")->isVisible());
+    QCOMPARE(e.Controllo("S2")->pos(), e.Controllo("C2(1)")->pos());
+    // The same after a bulk move, which places every frame.
+    Preme(*e.editor, "OptGiu");
+    Preme(*e.editor, "Command5");
+    QCOMPARE(e.Controllo("S2")->pos(), e.Controllo("C2(1)")->pos());
+}
+
+void tst_Form2Dialoghi::SenzaArialNellElenco()
+{
+    EditorDiProva e;
+    e.prova.Stato().ElencoFont = {QStringLiteral("DejaVu Sans")};
+    e.Aperto().Campi[2].Font = QStringLiteral("Inesistente");
+    Robot robot;
+    robot.Ok().Agisce([](QDialog *d) { Preme(*d, "PConfemaCampo"); });
+    e.editor->ApreFrmCampo(2);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(e.Aperto().Campi[2].Font, QStringLiteral("Arial"));
+}
+
+void tst_Form2Dialoghi::CambioPaginaDallAnteprimaTieneIlMarcatore()
+{
+    EditorDiProva e;
+    Frm1 &anteprima = *e.editor->Anteprima();
+    // As a click on the image makes it, with the page of the fields in front.
+    emit anteprima.ElementoPuntato(Genere::Immagine, 1);
+    anteprima.SelezionaImmagine(1);
+    emit anteprima.PaginaRichiesta(Genere::Immagine);
+    QVERIFY(e.Controllo("S3")->isVisible());
+    QCOMPARE(e.Controllo("S3")->pos(), e.Controllo("C3(1)")->pos());
 }
 
 QTEST_MAIN(tst_Form2Dialoghi)
