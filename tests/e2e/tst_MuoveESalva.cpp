@@ -1,3 +1,4 @@
+#include "Misure.h"
 #include "RigheFile.h"
 #include "Scrivania.h"
 #include "support/CodaDiStampa.h"
@@ -10,19 +11,7 @@
 
 namespace {
 
-constexpr double MillimetriPerPunto = 25.4 / 72;
-const QPointF AngoloStampabile = QPointF(12, 14) * MillimetriPerPunto;
 const QString Fattura = QStringLiteral("Fattura_Rossi");
-
-QByteArray Testo(const QRectF &r)
-{
-    return QStringLiteral("%1,%2 %3x%4")
-        .arg(r.x())
-        .arg(r.y())
-        .arg(r.width())
-        .arg(r.height())
-        .toUtf8();
-}
 
 bool Vicini(const QRectF &a, const QRectF &b)
 {

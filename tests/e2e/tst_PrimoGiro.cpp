@@ -1,3 +1,4 @@
+#include "Misure.h"
 #include "Scrivania.h"
 
 #include <QDir>
@@ -46,16 +47,6 @@ QRect Macchia(const QImage &foto, const QRect &zona, QRgb colore)
         }
     }
     return macchia;
-}
-
-QByteArray Testo(const QRect &r)
-{
-    return QStringLiteral("%1,%2 %3x%4")
-        .arg(r.x())
-        .arg(r.y())
-        .arg(r.width())
-        .arg(r.height())
-        .toUtf8();
 }
 
 } // namespace

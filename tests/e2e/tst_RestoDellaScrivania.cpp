@@ -1,3 +1,4 @@
+#include "Misure.h"
 #include "RigheFile.h"
 #include "Scrivania.h"
 #include "support/CodaDiStampa.h"
@@ -10,19 +11,7 @@
 
 namespace {
 
-constexpr double MillimetriPerPunto = 25.4 / 72;
-const QPointF AngoloStampabile = QPointF(12, 14) * MillimetriPerPunto;
 const QString Ddt = QStringLiteral("DDT_prestampato");
-
-QByteArray Testo(const QRectF &r)
-{
-    return QStringLiteral("%1,%2 %3x%4")
-        .arg(r.x())
-        .arg(r.y())
-        .arg(r.width())
-        .arg(r.height())
-        .toUtf8();
-}
 
 /// The smallest rectangle around the pixels of the zone that differ.
 QRect Diversi(const QImage &a, const QImage &b, const QRect &zona)

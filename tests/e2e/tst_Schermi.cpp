@@ -1,3 +1,4 @@
+#include "Misure.h"
 #include "RigheFile.h"
 #include "Scrivania.h"
 #include "support/CodaDiStampa.h"
@@ -13,16 +14,6 @@ namespace {
 const QString Fattura = QStringLiteral("Fattura_Rossi");
 
 constexpr int StrisciaEditor = 200; // the program's pixels
-
-QByteArray Testo(const QRect &r)
-{
-    return QStringLiteral("%1,%2 %3x%4")
-        .arg(r.x())
-        .arg(r.y())
-        .arg(r.width())
-        .arg(r.height())
-        .toUtf8();
-}
 
 } // namespace
 
