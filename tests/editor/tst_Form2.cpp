@@ -40,6 +40,8 @@ private slots:
     void PagineNellOrdine();
     void TestiETooltip();
     void OgniPaginaHaScorciatoieDiverse();
+    void NessunControlloTagliato_data();
+    void NessunControlloTagliato();
     void NessunaLetteraDoppiaPerPagina();
     void TestiEsplicativiCominciano();
     void ModelloAppenaApertoNonVariato();
@@ -219,6 +221,48 @@ void tst_Form2::OgniPaginaHaScorciatoieDiverse()
         lettere.removeAll(QString());
         QVERIFY(lettere.size() >= 5);
         QCOMPARE(lettere.removeDuplicates(), 0);
+    }
+}
+
+void tst_Form2::NessunControlloTagliato_data()
+{
+    QTest::addColumn<int>("larghezza");
+    QTest::newRow("1366x768") << 1366;
+    QTest::newRow("1366x768, scale 1.25") << 1092;
+    QTest::newRow("1920x1080, scale 2") << 960;
+}
+
+void tst_Form2::NessunControlloTagliato()
+{
+    QFETCH(int, larghezza);
+    ArchivioDiProva prova;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    editor.show();
+    // What the usual frames leave of the strip of 200 pixels.
+    constexpr QSize Cornice(2, 28);
+    editor.resize(larghezza - Cornice.width(), 200 - Cornice.height());
+    QCOMPARE(editor.size(), QSize(larghezza - Cornice.width(), 200 - Cornice.height()));
+    auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
+    for (int p = 0; p < pagine->count(); ++p) {
+        pagine->setCurrentIndex(p);
+        QCoreApplication::processEvents();
+        int controllati = 0;
+        for (const auto *controllo : editor.findChildren<QWidget *>()) {
+            if (!controllo->isVisible() || controllo->objectName().startsWith(u"qt_")) {
+                continue;
+            }
+            const QByteArray nome = controllo->objectName().toUtf8();
+            const QSize minima = controllo->minimumSizeHint();
+            QVERIFY2(controllo->width() >= minima.width() && controllo->height() >= minima.height(),
+                     nome);
+            if (controllo->parentWidget() == pagine->currentWidget()) {
+                QVERIFY2(pagine->currentWidget()->rect().contains(controllo->geometry()), nome);
+            }
+            ++controllati;
+        }
+        QVERIFY(controllati > 15);
     }
 }
 
