@@ -118,13 +118,9 @@ void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
         if (chiedeDimensione) {
             ChiedeDimensione();
         }
-    } catch (const ErroreSistema &errore) {
-        SegnalaGuasto(errore);
-        return;
-    }
-    const QRectF posto(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
-                       Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine));
-    try {
+        // Any text may stand in the model: a number beyond a double must not keep it from opening.
+        const QRectF posto(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
+                           Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine));
         const PuntatoreOccupato occupato;
         anteprima_.DipingeSfondo(sfondo.File, posto);
         guastoMostrato_.clear();
@@ -217,8 +213,9 @@ void PaginaSfondo::SfondoSpostaGiu_Click()
 
 void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
 {
+    const double posto = Numeri::Val(casella->text()) + passo;
     emit Variato();
-    casella->setText(TestoNumero(Numeri::Val(casella->text()) + passo));
+    casella->setText(TestoNumero(posto));
     ImpostaImmagineSfondo(false);
     emit ModificaConclusa();
 }
@@ -244,7 +241,7 @@ bool PaginaSfondo::eventFilter(QObject *oggetto, QEvent *evento)
     } else if (evento->type() == QEvent::FocusIn) {
         if (auto *casella = qobject_cast<QLineEdit *>(oggetto)) {
             // Queued, because the press that brings the focus still places the cursor afterwards.
-            QMetaObject::invokeMethod(casella, &QLineEdit::selectAll, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(casella, "selectAll", Qt::QueuedConnection);
         }
     }
     return QWidget::eventFilter(oggetto, evento);

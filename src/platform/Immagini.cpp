@@ -58,7 +58,8 @@ public:
         if (!QFileInfo(percorso).isFile()) {
             throw ErroreSistema(ErroreSistema::FileNonTrovato);
         }
-        if (!file_.open(QIODevice::ReadOnly)) {
+        // A file of the system that is made while it is read has no size, and may never end.
+        if (file_.size() == 0 || !file_.open(QIODevice::ReadOnly)) {
             NonValida();
         }
         intestazione_ = IntestazioneImmagine::Legge(file_);

@@ -22,6 +22,26 @@ void ScriveErroreStandard(QString testo)
     ++emessi;
 }
 
+/// The text with the middle of what is too long left out. Names and paths come from files and may
+/// be of any length: a box taller than the screen would have its buttons outside of it.
+QString Leggibile(const QString &testo)
+{
+    constexpr qsizetype CaratteriPerRiga = 400;
+    constexpr qsizetype RigheMassime = 24;
+    const QString omesso = QStringLiteral(" […] ");
+    QStringList righe = testo.split(u'\n');
+    if (righe.size() > RigheMassime) {
+        righe.erase(righe.begin() + RigheMassime / 2, righe.end() - RigheMassime / 2);
+        righe.insert(RigheMassime / 2, omesso);
+    }
+    for (QString &riga : righe) {
+        if (riga.size() > CaratteriPerRiga) {
+            riga = riga.left(CaratteriPerRiga / 2) + omesso + riga.right(CaratteriPerRiga / 2);
+        }
+    }
+    return righe.join(u'\n');
+}
+
 /// While a box is open the pointer is the normal one, even in the middle of a busy command.
 class PuntatoreNormale
 {
@@ -47,7 +67,7 @@ void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icon
         ScriveErroreStandard(testo);
         return;
     }
-    QMessageBox riquadro(icona, Messaggi::Titolo, testo, QMessageBox::Ok, padre);
+    QMessageBox riquadro(icona, Messaggi::Titolo, Leggibile(testo), QMessageBox::Ok, padre);
     riquadro.setTextFormat(Qt::PlainText);
     riquadro.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
     Esegue(riquadro);
@@ -58,7 +78,7 @@ class RiquadroDomanda : public QMessageBox
 {
 public:
     RiquadroDomanda(QWidget *padre, const QString &testo, StandardButtons bottoni)
-        : QMessageBox(QMessageBox::Question, Messaggi::Titolo, testo, bottoni, padre)
+        : QMessageBox(QMessageBox::Question, Messaggi::Titolo, Leggibile(testo), bottoni, padre)
     {
         setTextFormat(Qt::PlainText);
         Intitola(Yes, QStringLiteral("&Sì"));
@@ -159,8 +179,8 @@ std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &tito
         return std::nullopt;
     }
     QInputDialog riquadro(padre);
-    riquadro.setWindowTitle(titolo);
-    riquadro.setLabelText(richiesta);
+    riquadro.setWindowTitle(Leggibile(titolo));
+    riquadro.setLabelText(Leggibile(richiesta));
     riquadro.setTextValue(proposta);
     riquadro.setOkButtonText(QStringLiteral("OK"));
     riquadro.setCancelButtonText(QStringLiteral("Annulla"));

@@ -6,7 +6,8 @@
 
 class QWidget;
 
-/// Message boxes and questions: title = the program's name, Italian buttons on every system.
+/// Message boxes and questions: title = the program's name, Italian buttons on every system. The
+/// middle of a text too long for any screen is left out.
 /// Without windows (the command-line printing) the texts go to standard error instead.
 namespace Messaggi {
 

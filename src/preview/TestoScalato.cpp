@@ -1,5 +1,6 @@
 #include "preview/TestoScalato.h"
 
+#include "platform/Testo.h"
 #include "preview/Tratti.h"
 
 #include <QFont>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr int PixelRiferimento = 100;
 constexpr double LarghezzaRiga = 1e7; // reference pixels; Qt's layout ends at 3.3e7
-constexpr qsizetype CaratteriMassimi = 50000;
 constexpr qsizetype GlifiPerPezzo = 64;
 constexpr double PuntiMinimi = 1;
 constexpr double PuntiMassimi = 3000;
@@ -24,19 +24,6 @@ constexpr double MillimetriPerPunto = 25.4 / 72;
 double Scala(double punti)
 {
     return TestoScalato::PuntiMostrabili(punti) * MillimetriPerPunto / PixelRiferimento;
-}
-
-QString SuUnaRiga(const QString &testo)
-{
-    QString riga = testo.left(CaratteriMassimi);
-    for (QChar &carattere : riga) {
-        if (carattere.category() == QChar::Other_Control ||
-            carattere == QChar(QChar::LineSeparator) ||
-            carattere == QChar(QChar::ParagraphSeparator)) {
-            carattere = u' ';
-        }
-    }
-    return riga;
 }
 
 QFont FontRiferimento(const TestoScalato::Aspetto &aspetto)

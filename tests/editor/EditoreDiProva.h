@@ -1,0 +1,93 @@
+#pragma once
+
+#include "editor/Form2.h"
+#include "platform/Stampanti.h"
+#include "preview/Frm1.h"
+#include "print/StampaProva.h"
+#include "support/ArchivioDiProva.h"
+#include "support/Finestre.h"
+#include "support/Robot.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTest>
+
+#include <memory>
+
+/// Closes a box that fits the screen with its buttons; fails the test otherwise.
+inline void ChiudeSeSulloSchermo(QDialog *dialogo)
+{
+    const QSize schermo = dialogo->screen()->availableSize();
+    if (dialogo->size().boundedTo(schermo) != dialogo->size()) {
+        const QString misura = QStringLiteral("a box of %1 x %2 does not fit the screen")
+                                   .arg(dialogo->width())
+                                   .arg(dialogo->height());
+        QTest::qFail(qPrintable(misura), __FILE__, __LINE__);
+    }
+    dialogo->reject();
+}
+
+/// An editor opened on a model in a real archive, and what its user meets: boxes are answered by
+/// the robot handed in.
+class EditoreDiProva
+{
+public:
+    ArchivioDiProva Archivio;
+
+    /// Writes the model and opens the editor and its preview, painted. False when it does not open.
+    bool Apre()
+    {
+        Archivio.Scrive();
+        return ApreComeSta();
+    }
+
+    /// As Apre, with the file as it stands.
+    bool ApreComeSta()
+    {
+        Editor = std::make_unique<Form2>(Archivio.Stato());
+        if (!Editor->Form_Load()) {
+            return false;
+        }
+        Editor->show();
+        Editor->Anteprima()->show();
+        Foto();
+        return true;
+    }
+
+    /// The preview as it is painted now.
+    QImage Foto() const
+    {
+        QCoreApplication::processEvents();
+        return Editor->Anteprima()->grab().toImage();
+    }
+
+    /// Types a scale into the zoom box, and paints.
+    void Zoom(const QString &testo) const
+    {
+        auto *casella = Trova<QLineEdit>(*Editor->Anteprima(), "TextZoom");
+        casella->setFocus();
+        casella->setText(testo);
+        QTest::keyClick(casella, Qt::Key_Return);
+        Foto();
+    }
+
+    /// Opens the property dialog of an element, as a double click on the preview does.
+    void ApreProprieta(Genere genere, int i) const
+    {
+        emit Editor->Anteprima()->RichiestaProprieta(genere, i);
+    }
+
+    /// Prints the model on an A4 sheet; the messages that the user would see.
+    QStringList Stampa() const
+    {
+        QStringList avvisi;
+        const QString pdf = Archivio.Stato().CartellaModelli + QStringLiteral("../foglio.pdf");
+        StampaModello(Archivio.Stato().Aperto, Archivio.Stato().CartellaModelli,
+                      *Stampanti::SuPdf(pdf), false,
+                      [&](const QString &testo) { avvisi.append(testo); });
+        return avvisi;
+    }
+
+    std::unique_ptr<Form2> Editor;
+};
