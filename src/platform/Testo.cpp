@@ -20,3 +20,17 @@ QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool
     const double scala = punti * MillimetriPerPunto / PixelDiRiferimento;
     return QSizeF(metrica.horizontalAdvance(testo), metrica.height()) * scala;
 }
+
+QString SuUnaRiga(const QString &testo)
+{
+    constexpr qsizetype CaratteriMassimi = 5000;
+    QString riga = testo.left(CaratteriMassimi);
+    for (QChar &carattere : riga) {
+        if (carattere.category() == QChar::Other_Control ||
+            carattere == QChar(QChar::LineSeparator) ||
+            carattere == QChar(QChar::ParagraphSeparator)) {
+            carattere = u' ';
+        }
+    }
+    return riga;
+}

@@ -3,6 +3,7 @@
 #include "base/ErroreSistema.h"
 #include "platform/Immagini.h"
 #include "platform/Stampanti.h"
+#include "platform/Testo.h"
 #include "print/Sovrapposizione.h"
 
 #include <QFontMetricsF>
@@ -95,7 +96,7 @@ void Pagina::Stampa(const QString &testo)
     if (!testo.isEmpty() && Raggiungibile(posizione_.x()) && Raggiungibile(posizione_.y())) {
         const QPointF base(InPixel(posizione_.x()), InPixel(posizione_.y() + ascendente_));
         const double scala = stampante_.resolution() / UnitaPerPollice;
-        foglio_.Segni.append(Tracciati::Testo{base, font_, scala, testo, colore_});
+        foglio_.Segni.append(Tracciati::Testo{base, font_, scala, SuUnaRiga(testo), colore_});
     }
     posizione_ = {0, posizione_.y() + interlinea_};
 }

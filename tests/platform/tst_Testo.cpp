@@ -26,6 +26,7 @@ private slots:
     void IlTestoVuotoHaSoloAltezza();
     void DimensioneZeroONegativaNonMisura();
     void UnFontCheNonEsisteSiMisuraLoStesso();
+    void SuUnaRigaSoloCioCheSiVede();
 };
 
 void TestTesto::MisuraComeLaStampante_data()
@@ -97,6 +98,16 @@ void TestTesto::UnFontCheNonEsisteSiMisuraLoStesso()
     QVERIFY(
         MisuraTesto(QStringLiteral("abc"), QStringLiteral("Font Mai Esistito"), 11, false).width() >
         0);
+}
+
+void TestTesto::SuUnaRigaSoloCioCheSiVede()
+{
+    QCOMPARE(SuUnaRiga(QStringLiteral("a\tb\nc\x01")), QStringLiteral("a b c "));
+    QCOMPARE(SuUnaRiga(QStringLiteral("perché no? €")), QStringLiteral("perché no? €"));
+    QVERIFY(SuUnaRiga(QString(100'000, u'i')).size() < 10'000);
+    // The narrowest letter in the smallest size still fills the widest sheet.
+    const QString righe = SuUnaRiga(QString(100'000, u'i'));
+    QVERIFY(MisuraTesto(righe, Arial, 1, false).width() > 300);
 }
 
 QTEST_MAIN(TestTesto)
