@@ -65,6 +65,12 @@ QString CartellaDi(const QString &percorso)
     return QFileInfo(percorso).absolutePath() + Percorsi::Separatore();
 }
 
+bool StessoFile(const QString &uno, const QString &altro)
+{
+    const QString canonico = QFileInfo(Percorsi::Risolve(uno)).canonicalFilePath();
+    return !canonico.isEmpty() && canonico == QFileInfo(altro).canonicalFilePath();
+}
+
 void StampaPdf(const Modello &modello, const QString &cartella, const Richieste &richieste)
 {
     const auto stampante = Stampanti::SuPdf(richieste.pdf);
@@ -127,6 +133,13 @@ int StampaSenzaFinestre(const Richieste &richieste)
         StatoProgramma stato;
         stato.CartellaModelli = CartellaDi(percorso);
         stato.Aperto.NomeFile = QFileInfo(percorso).fileName();
+        for (const QString &uscita : {richieste.pdf, richieste.anteprima}) {
+            if (!uscita.isEmpty() && StessoFile(uscita, percorso)) {
+                throw ErroreSistema(ErroreSistema::AccessoFile,
+                                    QStringLiteral("il modello non può essere sovrascritto: ") +
+                                        uscita);
+            }
+        }
         if (!richieste.pdf.isEmpty()) {
             if (!FileModello::LeggeModello(stato.Aperto, percorso, [](const QString &testo) {
                     Messaggi::Mostra(nullptr, testo);

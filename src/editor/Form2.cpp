@@ -355,7 +355,7 @@ void Form2::StampaRetino_Click()
 
 void Form2::Image1_Click()
 {
-    ApriManuale(QStringLiteral("zPlakera-XtHelp"));
+    ApriManuale(ChiaveManuale);
 }
 
 void Form2::Chiude()

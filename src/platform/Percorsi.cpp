@@ -222,7 +222,8 @@ QString Percorsi::EstraeNomeFile(const QString &percorso)
 
 bool Percorsi::NomeFileValido(const QString &nome)
 {
-    if (nome.isEmpty() || nome.endsWith(u'.') || nome.endsWith(u' ') || NomeDiDispositivo(nome)) {
+    if (nome.isEmpty() || nome.startsWith(u'.') || nome.endsWith(u'.') || nome.endsWith(u' ') ||
+        NomeDiDispositivo(nome)) {
         return false;
     }
     return std::none_of(nome.begin(), nome.end(), [](QChar c) {

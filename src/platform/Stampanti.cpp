@@ -48,14 +48,6 @@ QStringList Stampanti::ElencoFont()
         famiglie.append(Arial);
     }
     famiglie.sort(Qt::CaseInsensitive);
-    // Arial is the font of every new element: the limit must not be what loses it.
-    const bool conArial = famiglie.contains(Arial);
-    if (famiglie.size() > FontAlMassimo) {
-        famiglie.resize(FontAlMassimo);
-        if (conArial && !famiglie.contains(Arial)) {
-            famiglie.last() = Arial;
-        }
-    }
     return famiglie;
 }
 

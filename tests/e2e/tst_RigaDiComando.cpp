@@ -2,6 +2,7 @@
 #include "support/LettorePdf.h"
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTest>
@@ -24,6 +25,7 @@ private slots:
     void immagineMancante();
     void pdfNonScrivibile();
     void anteprimaNonScrivibile();
+    void modelloNonSovrascritto();
     void finestreSenzaSchermo();
     void opzioniSbagliate_data();
     void opzioniSbagliate();
@@ -202,6 +204,23 @@ void tst_RigaDiComando::anteprimaNonScrivibile()
     QCOMPARE(esito.stato, 1);
     QVERIFY2(esito.errori.contains(QStringLiteral("impossibile scrivere ") + png),
              qPrintable(esito.errori));
+}
+
+void tst_RigaDiComando::modelloNonSovrascritto()
+{
+    const auto byte = [this] {
+        QFile file(Modello());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray prima = byte();
+    for (const char *opzione : {"--pdf", "--anteprima"}) {
+        const Esito esito = Esegue(
+            {QStringLiteral("--modello"), Modello(), QString::fromLatin1(opzione), Modello()});
+        QCOMPARE(esito.stato, 1);
+        QVERIFY2(esito.errori.contains(QStringLiteral("il modello non può essere sovrascritto")),
+                 qPrintable(esito.errori));
+        QCOMPARE(byte(), prima);
+    }
 }
 
 void tst_RigaDiComando::finestreSenzaSchermo()

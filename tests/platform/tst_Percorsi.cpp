@@ -104,14 +104,15 @@ void tst_Percorsi::NomeFileValido_data()
         QTest::addRow("%s", QByteArray(nome).toPercentEncoding(" \\/:*?\"<>|").constData())
             << QString::fromUtf8(nome) << valido;
     };
-    for (const char *nome : {"DDT", "Fattura_pers", "Fattura_pers.Mod_nuovo", "Fattura è",
-                             " Fattura", "OrdineCliente-Offerta_Pers", ".nascosto", "Console",
-                             "COM", "COM10", "COM0", "a'b (2)"}) {
+    for (const char *nome :
+         {"DDT", "Fattura_pers", "Fattura_pers.Mod_nuovo", "Fattura è", " Fattura",
+          "OrdineCliente-Offerta_Pers", "Console", "COM", "COM10", "COM0", "a'b (2)"}) {
         riga(nome, true);
     }
-    for (const char *nome : {"",     ".",     "..",  "a/b", "a\\b",   "a:b",     "a*b",   "a?b",
-                             "a\"b", "a<b",   "a>b", "a|b", "a.",     "a ",      "..\\a", "a\tb",
-                             "a\nb", "a\x7f", "CON", "con", "lpt1.x", "NUL.Mod", "Com9"}) {
+    for (const char *nome :
+         {"",          ".",    "..",    "a/b", "a\\b", "a:b",    "a*b",     "a?b",
+          "a\"b",      "a<b",  "a>b",   "a|b", "a.",   "a ",     "..\\a",   "a\tb",
+          ".nascosto", "a\nb", "a\x7f", "CON", "con",  "lpt1.x", "NUL.Mod", "Com9"}) {
         riga(nome, false);
     }
 }
