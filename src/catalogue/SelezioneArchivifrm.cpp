@@ -46,6 +46,9 @@ void SelezioneArchivifrm::CollegaSegnali()
 {
     using Questa = SelezioneArchivifrm;
     Collega(ui_->List1, &QListWidget::itemSelectionChanged, this, &Questa::List1_Click);
+    // The selection changes with the press; the release ends the click.
+    ui_->List1->viewport()->installEventFilter(this);
+    Collega(ui_->List1, &QListWidget::itemClicked, this, &Questa::RipeteElenco);
     Collega(ui_->List2, &QListWidget::itemSelectionChanged, this, &Questa::List2_Click);
     Collega(ui_->List2, &QListWidget::itemDoubleClicked, this, &Questa::Apri_Click);
     Collega(ui_->Apri, &QPushButton::clicked, this, &Questa::Apri_Click);
@@ -148,6 +151,14 @@ void SelezioneArchivifrm::showEvent(QShowEvent *evento)
     });
 }
 
+bool SelezioneArchivifrm::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (oggetto == ui_->List1->viewport() && evento->type() == QEvent::MouseButtonPress) {
+        elencatoColClic_ = false;
+    }
+    return QWidget::eventFilter(oggetto, evento);
+}
+
 void SelezioneArchivifrm::RiprendeModelli()
 {
     ElencaModelli();
@@ -180,10 +191,18 @@ void SelezioneArchivifrm::List1_Click()
     if (!ArchivioScelto()) {
         return;
     }
+    elencatoColClic_ = true;
     const QString archivio = ui_->List1->selectedItems().constFirst()->text();
     const QString barra = Percorsi::Separatore();
     stato_.CartellaModelli = Percorsi::Risolve(archivio + barra + CartellaIni + barra);
     ElencaModelli();
+}
+
+void SelezioneArchivifrm::RipeteElenco()
+{
+    if (!elencatoColClic_) {
+        List1_Click();
+    }
 }
 
 void SelezioneArchivifrm::List2_Click()

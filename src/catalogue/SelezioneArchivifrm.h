@@ -34,6 +34,7 @@ signals:
 protected:
     /// Shown again after the editor, it lists the archive's models afresh.
     void showEvent(QShowEvent *evento) override;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     /// What the user asks to create.
@@ -53,6 +54,9 @@ private:
     void RiprendeModelli();
 
     void List1_Click();
+    /// The end of a click on an archive: lists its models again when the click has not done so by
+    /// selecting it.
+    void RipeteElenco();
     void List2_Click();
     void Apri_Click();
     void Nuovo_Click();
@@ -70,5 +74,6 @@ private:
     StatoProgramma &stato_;
     std::unique_ptr<Ui::SelezioneArchivifrm> ui_;
     IstanzaUnica istanza_;
-    bool riapertura_ = false; ///< the next showing follows the editor's closing
+    bool elencatoColClic_ = false; ///< the models were listed since the mouse was pressed on List1
+    bool riapertura_ = false;      ///< the next showing follows the editor's closing
 };

@@ -98,6 +98,9 @@ private slots:
     void Carica_font();
 
     void Archivio_scelto();
+    void Archivio_giaScelto();
+    void Archivio_unElencoPerClic_data();
+    void Archivio_unElencoPerClic();
     void Archivio_iniMaiuscolo();
     void Archivio_senzaIni();
     void Archivio_illeggibile();
@@ -445,6 +448,41 @@ void tst_SelezioneArchivifrm::Archivio_scelto()
     QCOMPARE(stato_->CartellaModelli, In(QStringLiteral("Altro/ini")) + QDir::separator());
     QCOMPARE(Voci("List2"), QStringList{QStringLiteral("Gamma")});
     QVERIFY(Lista("List2")->selectedItems().isEmpty());
+}
+
+void tst_SelezioneArchivifrm::Archivio_giaScelto()
+{
+    Carica();
+    Seleziona("List2", QStringLiteral("Alfa"));
+    ScriveFile(Ini(QStringLiteral("Aggiunto.Mod")), "nuovo");
+    QVERIFY(QFile::remove(Ini(QStringLiteral("Beta.mod"))));
+    Seleziona("List1", In(QStringLiteral("Contabilita")));
+    QCOMPARE(Voci("List2"), (QStringList{QStringLiteral("Aggiunto"), QStringLiteral("Alfa"),
+                                         QStringLiteral("TIFATTURA")}));
+    QCOMPARE(stato_->CartellaModelli, Ini());
+    QVERIFY(Lista("List2")->selectedItems().isEmpty());
+}
+
+void tst_SelezioneArchivifrm::Archivio_unElencoPerClic_data()
+{
+    QTest::addColumn<QString>("scelto");
+
+    QTest::newRow("archivio che il clic sceglie") << QStringLiteral("Altro");
+    QTest::newRow("archivio gia' scelto") << QStringLiteral("Contabilita");
+}
+
+void tst_SelezioneArchivifrm::Archivio_unElencoPerClic()
+{
+    QFETCH(QString, scelto);
+    Carica();
+    const QSignalSpy svuotato(Lista("File1")->model(), &QAbstractItemModel::modelReset);
+    Seleziona("List1", In(scelto));
+    QCOMPARE(svuotato.size(), 1);
+    // With the keys, too, and the next click starts afresh.
+    QTest::keyClick(Lista("List1"), scelto == QStringLiteral("Altro") ? Qt::Key_Down : Qt::Key_Up);
+    QCOMPARE(svuotato.size(), 2);
+    Seleziona("List1", Lista("List1")->selectedItems().value(0)->text());
+    QCOMPARE(svuotato.size(), 3);
 }
 
 void tst_SelezioneArchivifrm::Archivio_iniMaiuscolo()
