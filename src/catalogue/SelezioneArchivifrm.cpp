@@ -106,13 +106,12 @@ void SelezioneArchivifrm::ElencaArchivi()
 {
     ui_->Dir1->clear();
     ui_->List1->clear();
-    if (!QFileInfo(stato_.CartellaModelli).isDir()) {
+    try {
+        ui_->Dir1->addItems(Percorsi::SottoCartelle(stato_.CartellaModelli));
+    } catch (const ErroreSistema &errore) {
         Messaggi::Mostra(this, QStringLiteral("impossibile leggere la cartella dei dati\n%1\n%2")
-                                   .arg(stato_.CartellaModelli,
-                                        DescrizioneErrore(ErroreSistema::PercorsoNonTrovato)));
-        return;
+                                   .arg(stato_.CartellaModelli, errore.descrizione));
     }
-    ui_->Dir1->addItems(Percorsi::SottoCartelle(stato_.CartellaModelli));
     for (int i = 0; i < ui_->Dir1->count(); ++i) {
         auto *archivio = new QListWidgetItem(ui_->Dir1->item(i)->text(), ui_->List1);
         archivio->setToolTip(archivio->text());

@@ -205,20 +205,22 @@ bool Sfoglia::ApreCartella(const QString &cartella)
         return false;
     }
     const QString percorso = PercorsoPieno(cartella);
+    QStringList figlie;
     try {
         nomiFile_ = Percorsi::FileConModello(percorso, QStringLiteral("*"));
+        figlie = Percorsi::SottoCartelle(percorso);
     } catch (const ErroreSistema &) {
         // Whatever the reason, the folder cannot be shown: the caller knows what to say.
         return false;
     }
     cartella_ = percorso;
-    ElencaCartelle();
+    ElencaCartelle(figlie);
     SelezionaDrive();
     Dir1_Change();
     return true;
 }
 
-void Sfoglia::ElencaCartelle()
+void Sfoglia::ElencaCartelle(const QStringList &figlie)
 {
     const QIcon aperta = style()->standardIcon(QStyle::SP_DirOpenIcon);
     const QIcon chiusa = style()->standardIcon(QStyle::SP_DirIcon);
@@ -229,11 +231,11 @@ void Sfoglia::ElencaCartelle()
         ultima->addChild(voce);
         ultima = voce;
     }
-    QList<QTreeWidgetItem *> figlie;
-    for (const QString &figlia : Percorsi::SottoCartelle(cartella_)) {
-        figlie.append(Voce(figlia, chiusa));
+    QList<QTreeWidgetItem *> voci;
+    for (const QString &figlia : figlie) {
+        voci.append(Voce(figlia, chiusa));
     }
-    ultima->addChildren(figlie);
+    ultima->addChildren(voci);
     ui_->Dir1->expandAll();
     ui_->Dir1->setCurrentItem(ultima);
 }

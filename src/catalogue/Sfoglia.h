@@ -52,7 +52,7 @@ private:
     void MostraCartella(const QString &cartella);
     /// Lists the folder. False when it cannot be read; the lists then stay as they were.
     bool ApreCartella(const QString &cartella);
-    void ElencaCartelle();
+    void ElencaCartelle(const QStringList &figlie);
     void SelezionaDrive();
     QStringList Radici() const;
 

@@ -149,10 +149,8 @@ QString Percorsi::Risolve(const QString &percorso)
 
 QStringList Percorsi::SottoCartelle(const QString &cartella)
 {
-    if (cartella.isEmpty()) {
-        return {};
-    }
     QString prefisso = Nativo(cartella);
+    VerificaElencabile(prefisso);
     if (!Separa(prefisso.back())) {
         prefisso += QDir::separator();
     }

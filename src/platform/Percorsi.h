@@ -16,8 +16,8 @@ QString Separatore();
 /// not exist stays as given, so the result can also name a file to be created.
 QString Risolve(const QString &percorso);
 
-/// Full native paths of the sub-folders, in name order without regard to case. Empty when the
-/// folder cannot be read.
+/// Full native paths of the sub-folders, in name order without regard to case. Throws ErroreSistema
+/// 76 when the folder does not exist, 75 when it cannot be read.
 QStringList SottoCartelle(const QString &cartella);
 
 /// Names of the files that match one of the patterns ("*.mod", "*jpg;*.bmp") without regard to

@@ -1,3 +1,4 @@
+#include "base/ErroreSistema.h"
 #include "catalogue/ApriManuale.h"
 #include "catalogue/SelezioneArchivifrm.h"
 #include "platform/Finestre.h"
@@ -92,6 +93,7 @@ private slots:
     void Carica_datiRelativi();
     void Carica_cartellaProgramma();
     void Carica_cartellaDatiMancante();
+    void Carica_cartellaDatiIlleggibile();
     void Carica_senzaSottocartelle();
     void Carica_archivioPredefinito_data();
     void Carica_archivioPredefinito();
@@ -380,6 +382,32 @@ void tst_SelezioneArchivifrm::Carica_cartellaDatiMancante()
     QCOMPARE(stato_->CartellaModelli, cartella);
 }
 
+void tst_SelezioneArchivifrm::Carica_cartellaDatiIlleggibile()
+{
+    const QString cartella = In(QStringLiteral("chiusa"));
+    QVERIFY(QDir().mkpath(cartella + QStringLiteral("/Contabilita/ini")));
+    Dirtxt(cartella);
+    QVERIFY(QFile::setPermissions(dati_->path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(ambiente_->path(),
+                                  Permessi::PerTutti | QFile::WriteGroup | QFile::WriteOther));
+    QVERIFY(QFile::setPermissions(cartella, Permessi::Nessuno));
+    Robot robot;
+    robot.Ok();
+    bool caricata = false;
+    {
+        const UtenteComune utente;
+        caricata = frm_->Form_Load(QString());
+    }
+    QVERIFY(QFile::setPermissions(cartella, Permessi::PerTutti));
+    QVERIFY(caricata);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(),
+             QStringList{QStringLiteral("impossibile leggere la cartella dei dati\n%1\n%2")
+                             .arg(cartella, DescrizioneErrore(ErroreSistema::AccessoFile))});
+    QVERIFY(Voci("List1").isEmpty());
+    QCOMPARE(stato_->CartellaModelli, cartella);
+}
+
 void tst_SelezioneArchivifrm::Carica_senzaSottocartelle()
 {
     QVERIFY(QDir(dati_->path()).mkdir(QStringLiteral("vuota")));
@@ -522,8 +550,10 @@ void tst_SelezioneArchivifrm::Archivio_illeggibile()
         Seleziona("List1", In(QStringLiteral("Zeta")));
     }
     QVERIFY(robot.Soddisfatto());
-    QVERIFY2(robot.Testi().value(0).contains(In(QStringLiteral("Zeta/ini"))),
-             qPrintable(robot.Testi().value(0)));
+    QCOMPARE(robot.Testi(),
+             QStringList{QStringLiteral("impossibile leggere la cartella dei modelli\n%1\n%2")
+                             .arg(In(QStringLiteral("Zeta/ini/")),
+                                  DescrizioneErrore(ErroreSistema::AccessoFile))});
     QVERIFY(Voci("List2").isEmpty());
     QCOMPARE(Lista("List1")->selectedItems().value(0)->text(), In(QStringLiteral("Zeta")));
 }

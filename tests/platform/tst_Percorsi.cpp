@@ -27,7 +27,10 @@ private slots:
     void Risolve_migliaiaDiCartelle_data();
     void Risolve_migliaiaDiCartelle();
     void SottoCartelle();
+    void SottoCartelle_nessuna();
+    void SottoCartelle_mancante_data();
     void SottoCartelle_mancante();
+    void SottoCartelle_illeggibile();
     void FileConModello();
     void FileConModello_piuModelli();
     void FileConModello_cartellaMancante();
@@ -199,11 +202,41 @@ void tst_Percorsi::SottoCartelle()
     QCOMPARE(Percorsi::SottoCartelle(cartella_->path() + u'\\'), attese);
 }
 
+void tst_Percorsi::SottoCartelle_nessuna()
+{
+    QVERIFY(Percorsi::SottoCartelle(cartella_->path()).isEmpty());
+}
+
+void tst_Percorsi::SottoCartelle_mancante_data()
+{
+    QTest::addColumn<QString>("cartella");
+
+    QTest::newRow("cartella che non c'e'") << QStringLiteral("manca");
+    QTest::newRow("file al posto della cartella") << QStringLiteral("file");
+}
+
 void tst_Percorsi::SottoCartelle_mancante()
 {
-    QVERIFY(Percorsi::SottoCartelle(In(QStringLiteral("manca"))).isEmpty());
-    QVERIFY(Percorsi::SottoCartelle(QString()).isEmpty());
-    QVERIFY(Percorsi::SottoCartelle(cartella_->path()).isEmpty());
+    QFETCH(QString, cartella);
+    Scrive(QStringLiteral("file"));
+    QCOMPARE(ErroreDi([&] { Percorsi::SottoCartelle(In(cartella)); }),
+             ErroreSistema::PercorsoNonTrovato);
+    QCOMPARE(ErroreDi([] { Percorsi::SottoCartelle(QString()); }),
+             ErroreSistema::PercorsoNonTrovato);
+}
+
+void tst_Percorsi::SottoCartelle_illeggibile()
+{
+    QVERIFY(QDir(cartella_->path()).mkpath(QStringLiteral("chiusa/dentro")));
+    QVERIFY(QFile::setPermissions(cartella_->path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(In(QStringLiteral("chiusa")), Permessi::Nessuno));
+    int trovato = -1;
+    {
+        const UtenteComune utente;
+        trovato = ErroreDi([this] { Percorsi::SottoCartelle(In(QStringLiteral("chiusa"))); });
+    }
+    QVERIFY(QFile::setPermissions(In(QStringLiteral("chiusa")), Permessi::PerTutti));
+    QCOMPARE(trovato, ErroreSistema::AccessoFile);
 }
 
 void tst_Percorsi::FileConModello()
