@@ -43,15 +43,12 @@ void ApriManuale(const QString &chiave, const QString &cartellaProgramma, const 
 
 void ApriGuida(int argomento, const ApritoreArgomento &apreArgomento, const Apritore &apre)
 {
-    if (argomento == 0) {
-        return;
-    }
     const QString vastrel = Impostazioni::CartellaVastrel();
     const QString guida = vastrel.isEmpty()
                               ? QString()
                               : Percorsi::Risolve(Unisce(vastrel, QLatin1String("ManualeVastrel"),
                                                          QStringLiteral("Vastrel.hlp")));
-    if (QFileInfo(guida).isFile()) {
+    if (argomento != 0 && QFileInfo(guida).isFile()) {
         apreArgomento(guida, argomento);
     } else {
         ApriManuale(ChiaveManuale, CartellaProgramma(), apre);

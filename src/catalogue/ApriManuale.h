@@ -24,6 +24,6 @@ void ApriManuale(const QString &chiave, const QString &cartellaProgramma = Carte
                  const Apritore &apre = ApreDocumento);
 
 /// F1: opens Vastrel's help file at the topic when the file exists, else our manual. Topic 0 means
-/// that the control has none, and opens nothing.
+/// that the control has none, and always opens our manual.
 void ApriGuida(int argomento, const ApritoreArgomento &apreArgomento = ApreArgomento,
                const Apritore &apre = ApreDocumento);

@@ -69,11 +69,14 @@ void ImpostaHelp(QWidget *finestra)
 
 int ArgomentoDi(const QWidget *controllo)
 {
-    for (; controllo != nullptr; controllo = controllo->parentWidget()) {
+    while (controllo != nullptr) {
         const int argomento = controllo->property(ProprietaGuida).toInt();
         if (argomento != 0) {
             return argomento;
         }
+        // The window below a dialog is no part of it; an open list belongs to its control.
+        const bool finito = controllo->isWindow() && controllo->windowType() != Qt::Popup;
+        controllo = finito ? nullptr : controllo->parentWidget();
     }
     return 0;
 }

@@ -19,7 +19,8 @@ QSize EntroLoSchermo(const QWidget *finestra, const QSize &misura);
 /// Gives the window and every control of it help topic 44, so that F1 opens that topic.
 void ImpostaHelp(QWidget *finestra);
 
-/// The topic of the control or of its nearest ancestor that has one; 0 when none has.
+/// The topic of the control or of its nearest ancestor within its window that has one; 0 when none
+/// has, as in the file browser and in message boxes.
 int ArgomentoDi(const QWidget *controllo);
 
 /// Italian texts for Qt's own buttons and menus; call once, after the application object exists.

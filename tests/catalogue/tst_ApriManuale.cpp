@@ -175,8 +175,11 @@ void tst_ApriManuale::ApriGuida_vastrelNonInstallato()
 
 void tst_ApriManuale::ApriGuida_nessunArgomento()
 {
+    QVERIFY(QDir(cartella_.path()).mkpath(QStringLiteral("n/ManualeVastrel")));
+    ScriveFile(cartella_.filePath(QStringLiteral("n/ManualeVastrel/Vastrel.hlp")), "guida");
+    Vastrel(cartella_.filePath(QStringLiteral("n")));
     ApriGuida(0, AnnotaArgomento(), Annota());
-    QVERIFY(aperti_.isEmpty());
+    QCOMPARE(aperti_, QStringList{ManualeDelProgramma()});
 }
 
 QTEST_MAIN(tst_ApriManuale)

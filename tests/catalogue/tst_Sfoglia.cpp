@@ -1,6 +1,7 @@
 #include "catalogue/PercorsoNellaCartella.h"
 #include "catalogue/Sfoglia.h"
 #include "model/Modello.h"
+#include "platform/Finestre.h"
 #include "support/Controlli.h"
 #include "support/FileDiProva.h"
 #include "support/Permessi.h"
@@ -458,8 +459,13 @@ void tst_Sfoglia::DiecimilaFile()
 
 void tst_Sfoglia::GuidaNonAssegnata()
 {
-    const Sfoglia s;
-    QVERIFY(!File(s)->property("HelpContextID").isValid());
+    // Not even through the window that opens the browser.
+    QWidget editor;
+    ImpostaHelp(&editor);
+    const Sfoglia s(&editor);
+    QVERIFY(!File(s)->property(ProprietaGuida).isValid());
+    QCOMPARE(ArgomentoDi(File(s)), 0);
+    QCOMPARE(ArgomentoDi(&s), 0);
 }
 
 QTEST_MAIN(tst_Sfoglia)

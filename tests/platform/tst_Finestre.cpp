@@ -1,12 +1,14 @@
 #include "platform/Finestre.h"
 #include "platform/IconaGuida.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QIntValidator>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -30,6 +32,8 @@ private slots:
     void CentraForm_piuGrandeDelloSchermo();
     void ImpostaHelp_ogniControllo();
     void ArgomentoDi_antenato();
+    void ArgomentoDi_finestraSopraUnAltra();
+    void ArgomentoDi_elencoAperto();
     void ArgomentoDi_nessuno();
     void ImpostaLingua_bottoni();
     void PixelPerMillimetro_daRisoluzione();
@@ -101,6 +105,32 @@ void tst_Finestre::ArgomentoDi_antenato()
     QWidget riquadro(&finestra);
     const QLineEdit aggiunta(&riquadro);
     QCOMPARE(ArgomentoDi(&aggiunta), ArgomentoGuida);
+}
+
+void tst_Finestre::ArgomentoDi_finestraSopraUnAltra()
+{
+    QWidget finestra;
+    ImpostaHelp(&finestra);
+    QMessageBox riquadro(QMessageBox::Information, QString(), QStringLiteral("avviso"),
+                         QMessageBox::Ok, &finestra);
+    QCOMPARE(ArgomentoDi(&riquadro), 0);
+    QCOMPARE(ArgomentoDi(riquadro.button(QMessageBox::Ok)), 0);
+    ImpostaHelp(&riquadro);
+    QCOMPARE(ArgomentoDi(riquadro.button(QMessageBox::Ok)), ArgomentoGuida);
+}
+
+void tst_Finestre::ArgomentoDi_elencoAperto()
+{
+    QWidget finestra;
+    QComboBox casella(&finestra);
+    casella.addItem(QStringLiteral("voce"));
+    ImpostaHelp(&finestra);
+    finestra.show();
+    casella.showPopup();
+    QVERIFY(casella.view()->isVisible());
+    QVERIFY(casella.view()->window() != &finestra);
+    QCOMPARE(ArgomentoDi(casella.view()), ArgomentoGuida);
+    casella.hidePopup();
 }
 
 void tst_Finestre::ArgomentoDi_nessuno()
