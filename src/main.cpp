@@ -22,6 +22,12 @@ LetturaArgomenti LeggeArgomentiDi(int &argc, char **argv)
     return LeggeArgomenti(QCoreApplication::arguments());
 }
 
+QApplication Applicazione(int &argc, char **argv)
+{
+    const FineSenzaSchermo fine;
+    return {argc, argv};
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -34,10 +40,10 @@ int main(int argc, char *argv[])
     if (lettura.richieste->SenzaFinestre()) {
         SenzaFinestre();
     } else if (!SchermoPresente()) {
-        std::fputs("plakera: nessuno schermo; per stampare senza finestre vedi --help\n", stderr);
+        std::fputs(AvvisoSenzaSchermo, stderr);
         return 1;
     }
-    QApplication applicazione(argc, argv);
+    const QApplication applicazione = Applicazione(argc, argv);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));

@@ -1,6 +1,28 @@
 #include "platform/SenzaFinestre.h"
 
 #include <QByteArray>
+#include <QtGlobal>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+QtMessageHandler precedente = nullptr;
+
+void FinisceSeFatale(QtMsgType tipo, const QMessageLogContext &contesto, const QString &testo)
+{
+    if (tipo == QtFatalMsg) {
+        std::fputs(AvvisoSenzaSchermo, stderr);
+        std::fflush(stderr);
+        // Half an application object exists: nothing may be torn down.
+        std::_Exit(1);
+    }
+    // The reason, which Qt tells beforehand.
+    precedente(tipo, contesto, testo);
+}
+
+} // namespace
 
 void SenzaFinestre()
 {
@@ -22,4 +44,14 @@ bool SchermoPresente()
 #else
     return true;
 #endif
+}
+
+FineSenzaSchermo::FineSenzaSchermo()
+{
+    precedente = qInstallMessageHandler(FinisceSeFatale);
+}
+
+FineSenzaSchermo::~FineSenzaSchermo()
+{
+    qInstallMessageHandler(precedente);
 }

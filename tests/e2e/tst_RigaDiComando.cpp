@@ -27,6 +27,10 @@ private slots:
     void anteprimaNonScrivibile();
     void modelloNonSovrascritto();
     void finestreSenzaSchermo();
+    void finestreSuUnoSchermoCheNonRisponde_data();
+    void finestreSuUnoSchermoCheNonRisponde();
+    void finestreSenzaSchermoReale_data();
+    void finestreSenzaSchermoReale();
     void opzioniSbagliate_data();
     void opzioniSbagliate();
     void nonToccaLaCartellaDelModello();
@@ -38,7 +42,9 @@ private:
         QString uscita;
         QString errori;
     };
-    Esito Esegue(const QStringList &argomenti) const;
+    /// Where there is no display; assegnazione ("NAME=value") sets one more variable.
+    QProcessEnvironment Ambiente(const QString &assegnazione = {}) const;
+    Esito Esegue(const QStringList &argomenti, const QString &assegnazione = {}) const;
     QString In(const QString &nome) const { return dir_->filePath(nome); }
     QString Modello() const { return In(QStringLiteral("Fattura_Rossi.Mod")); }
 
@@ -55,9 +61,8 @@ void tst_RigaDiComando::init()
     }
 }
 
-tst_RigaDiComando::Esito tst_RigaDiComando::Esegue(const QStringList &argomenti) const
+QProcessEnvironment tst_RigaDiComando::Ambiente(const QString &assegnazione) const
 {
-    QProcess programma;
     QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
     for (const char *nome : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR"}) {
         ambiente.remove(QString::fromLatin1(nome));
@@ -67,7 +72,17 @@ tst_RigaDiComando::Esito tst_RigaDiComando::Esegue(const QStringList &argomenti)
     ambiente.insert(QStringLiteral("XDG_STATE_HOME"), In(QStringLiteral("stato")));
     ambiente.insert(QStringLiteral("XDG_CONFIG_HOME"), In(QStringLiteral("impostazioni")));
     ambiente.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    programma.setProcessEnvironment(ambiente);
+    if (!assegnazione.isEmpty()) {
+        ambiente.insert(assegnazione.section(u'=', 0, 0), assegnazione.section(u'=', 1));
+    }
+    return ambiente;
+}
+
+tst_RigaDiComando::Esito tst_RigaDiComando::Esegue(const QStringList &argomenti,
+                                                   const QString &assegnazione) const
+{
+    QProcess programma;
+    programma.setProcessEnvironment(Ambiente(assegnazione));
     programma.start(QStringLiteral(PROGRAMMA), argomenti);
     if (!programma.waitForFinished(60'000) || programma.exitStatus() != QProcess::NormalExit) {
         return {-1, {}, programma.errorString()};
@@ -229,6 +244,60 @@ void tst_RigaDiComando::finestreSenzaSchermo()
     QCOMPARE(esito.stato, 1);
     QCOMPARE(esito.errori,
              QStringLiteral("plakera: nessuno schermo; per stampare senza finestre vedi --help\n"));
+}
+
+void tst_RigaDiComando::finestreSuUnoSchermoCheNonRisponde_data()
+{
+    QTest::addColumn<QString>("assegnazione");
+    QTest::newRow("display that nobody serves") << QStringLiteral("DISPLAY=:987");
+    QTest::newRow("display on a port that nobody serves")
+        << QStringLiteral("DISPLAY=127.0.0.1:987");
+    QTest::newRow("display that is no name of one") << QStringLiteral("DISPLAY=schermo");
+    QTest::newRow("compositor that is not there") << QStringLiteral("WAYLAND_DISPLAY=manca");
+    QTest::newRow("window system without its display") << QStringLiteral("QT_QPA_PLATFORM=xcb");
+    QTest::newRow("window system that Qt does not know")
+        << QStringLiteral("QT_QPA_PLATFORM=inesistente");
+}
+
+void tst_RigaDiComando::finestreSuUnoSchermoCheNonRisponde()
+{
+    QFETCH(QString, assegnazione);
+    const Esito esito = Esegue({QStringLiteral("--dati"), dir_->path()}, assegnazione);
+    QCOMPARE(esito.stato, 1);
+    // After what the window system itself says of the reason.
+    QVERIFY2(esito.errori.endsWith(QStringLiteral(
+                 "plakera: nessuno schermo; per stampare senza finestre vedi --help\n")),
+             qPrintable(esito.errori));
+    // The program without windows does not care.
+    const QString pdf = In(QStringLiteral("foglio.pdf"));
+    QCOMPARE(
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"), pdf}, assegnazione)
+            .stato,
+        0);
+    QCOMPARE(LettorePdf(pdf).Pagine(), 1);
+}
+
+void tst_RigaDiComando::finestreSenzaSchermoReale_data()
+{
+    QTest::addColumn<QString>("assegnazione");
+    QTest::newRow("offscreen") << QStringLiteral("QT_QPA_PLATFORM=offscreen");
+    QTest::newRow("minimal") << QStringLiteral("QT_QPA_PLATFORM=minimal");
+}
+
+void tst_RigaDiComando::finestreSenzaSchermoReale()
+{
+    // The start window needs no display on a window system that has none.
+    QFETCH(QString, assegnazione);
+    QProcess programma;
+    programma.setProcessEnvironment(Ambiente(assegnazione));
+    programma.start(QStringLiteral(PROGRAMMA), {QStringLiteral("--dati"), dir_->path()});
+    QVERIFY(programma.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(In(QStringLiteral("plakera.lock"))) ||
+                                 programma.state() == QProcess::NotRunning,
+                             30'000);
+    QCOMPARE(programma.state(), QProcess::Running);
+    programma.kill();
+    QVERIFY(programma.waitForFinished());
 }
 
 void tst_RigaDiComando::opzioniSbagliate_data()
