@@ -45,6 +45,7 @@ int main(int argc, char *argv[])
     }
     const QApplication applicazione = Applicazione(argc, argv);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
+    Disco::UsaProprieta(&SuDisco::TieneProprieta);
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/plakera.png")));

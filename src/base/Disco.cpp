@@ -17,6 +17,7 @@
 namespace {
 
 Disco::Sincronizzazione sincronizza = nullptr;
+Disco::Proprieta tieneProprieta = nullptr;
 
 // Names of temporary files are nobody else's, so sweeping cannot hit a user's own copy, and do not
 // contain the final name, which may already be as long as the file system allows.
@@ -140,6 +141,11 @@ public:
             Fallisce(Causa(bersaglio_.path()));
         }
         if (bersaglio_.exists()) {
+            // Before the permissions, for a change of owner may take some of them away. Where it
+            // is refused the file stays with the user who saves it.
+            if (tieneProprieta != nullptr) {
+                tieneProprieta(file_.handle(), bersaglio_.filePath());
+            }
             // File systems without permissions refuse this, and have none to keep.
             file_.setPermissions(bersaglio_.permissions());
         }
@@ -219,6 +225,11 @@ void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
 void Disco::UsaSincronizzazione(Sincronizzazione sincronizzazione)
 {
     sincronizza = sincronizzazione;
+}
+
+void Disco::UsaProprieta(Proprieta proprieta)
+{
+    tieneProprieta = proprieta;
 }
 
 int Disco::NumeroErrore(const std::error_code &codice)

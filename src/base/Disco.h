@@ -15,10 +15,11 @@ namespace Disco {
 QByteArray Legge(const QString &percorso, qint64 massimo);
 
 /// Puts byte into the place of the file: whoever opens it finds the old bytes or the new ones,
-/// never a part. Follows symbolic links and keeps the file's permissions. After a failure (61 disk
-/// or quota full, 70 write-protected or busy, 75 no right or no file, 76 folder gone, 57 anything
-/// else) the old file stands whole and the temporary one is gone. What a killed program left behind
-/// in the same folder is removed by the next call.
+/// never a part. Follows symbolic links and keeps the file's permissions, and its owner and group
+/// as far as the user may. After a failure (61 disk or quota full, 70 write-protected or busy, 75
+/// no right or no file, 76 folder gone, 57 anything else) the old file stands whole and the
+/// temporary one is gone. What a killed program left behind in the same folder is removed by the
+/// next call.
 void Sostituisce(const QString &percorso, const QByteArray &byte);
 
 /// Forces the bytes of an open file (a C descriptor) onto the medium; an empty code when done.
@@ -28,6 +29,13 @@ using Sincronizzazione = std::error_code (*)(int descrittore);
 /// start. Without one, files are replaced atomically all the same, but a power cut soon after may
 /// lose the new bytes.
 void UsaSincronizzazione(Sincronizzazione sincronizzazione);
+
+/// Gives an open file (a C descriptor) the owner and group of the file of that path, as far as the
+/// system lets the user; true when it has both.
+using Proprieta = bool (*)(int descrittore, const QString &vecchio);
+
+/// Qt offers no such call either. Without one, a replaced file belongs to whoever replaced it.
+void UsaProprieta(Proprieta proprieta);
 
 /// The number of a failed operation on a file: 53, 57, 61, 70 or 75.
 int NumeroErrore(const std::error_code &codice);

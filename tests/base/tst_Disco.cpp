@@ -46,6 +46,9 @@ private slots:
     void SincronizzazioneFallita_data();
     void SincronizzazioneFallita();
     void SincronizzaPrimaDiPrendereIlPosto();
+    void ProprietaPrimaDeiPermessi_data();
+    void ProprietaPrimaDeiPermessi();
+    void ProprietaDiUnFileNuovo();
 
     void SpazzaIResti_data();
     void SpazzaIResti();
@@ -76,6 +79,21 @@ int ModoDi(const QString &percorso)
 int causaSincronia = 0;
 QByteArray vistiAllaSincronia;
 
+bool proprietaTenuta = false;
+QStringList chiestiAllaProprieta;
+int modoAllaProprieta = -1;
+
+bool ProprietaFinta(int descrittore, const QString &vecchio)
+{
+    struct stat stato
+    {
+    };
+    modoAllaProprieta = fstat(descrittore, &stato) == 0 ? stato.st_mode & 07777 : -1;
+    chiestiAllaProprieta.append(vecchio);
+    // As a change of owner may do.
+    return fchmod(descrittore, 0400) == 0 && proprietaTenuta;
+}
+
 std::error_code SincroniaFinta(int)
 {
     return {causaSincronia, std::generic_category()};
@@ -92,6 +110,7 @@ void tst_Disco::init()
 void tst_Disco::cleanup()
 {
     Disco::UsaSincronizzazione(nullptr);
+    Disco::UsaProprieta(nullptr);
     cartella_.reset();
 }
 
@@ -362,6 +381,40 @@ void tst_Disco::SincronizzaPrimaDiPrendereIlPosto()
     });
     Disco::Sostituisce(File(), Nuovi);
     QCOMPARE(vistiAllaSincronia, Vecchi);
+    QCOMPARE(ByteDi(File()), Nuovi);
+}
+
+void tst_Disco::ProprietaPrimaDeiPermessi_data()
+{
+    QTest::addColumn<bool>("tenuta");
+
+    QTest::newRow("tenuta") << true;
+    QTest::newRow("rifiutata, e si salva lo stesso") << false;
+}
+
+void tst_Disco::ProprietaPrimaDeiPermessi()
+{
+    QFETCH(bool, tenuta);
+    proprietaTenuta = tenuta;
+    chiestiAllaProprieta.clear();
+    Disco::UsaProprieta(&ProprietaFinta);
+    const QString vero = In(QStringLiteral("Vero.Mod"));
+    ScriveFile(vero, Vecchi);
+    QCOMPARE(chmod(QFile::encodeName(vero).constData(), 0664), 0);
+    QVERIFY(QFile::link(vero, File()));
+    Disco::Sostituisce(File(), Nuovi);
+    QCOMPARE(chiestiAllaProprieta, QStringList{vero});
+    QCOMPARE(modoAllaProprieta, 0600);
+    QCOMPARE(ModoDi(vero), 0664);
+    QCOMPARE(ByteDi(vero), Nuovi);
+}
+
+void tst_Disco::ProprietaDiUnFileNuovo()
+{
+    chiestiAllaProprieta.clear();
+    Disco::UsaProprieta(&ProprietaFinta);
+    Disco::Sostituisce(File(), Nuovi);
+    QVERIFY2(chiestiAllaProprieta.isEmpty(), "there is no file whose owner could be kept");
     QCOMPARE(ByteDi(File()), Nuovi);
 }
 

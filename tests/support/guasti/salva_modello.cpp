@@ -15,6 +15,7 @@ int main(int argc, char *argv[])
         return 1;
     }
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
+    Disco::UsaProprieta(&SuDisco::TieneProprieta);
     try {
         FileModello::Salva(ModelloDiProva(QByteArray(argv[2]).toInt()), QFile::decodeName(argv[1]),
                            QLocale::c());
