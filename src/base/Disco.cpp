@@ -25,8 +25,9 @@ constexpr QLatin1String Prefisso(".plakera-");
 constexpr QLatin1String Suffisso(".tmp");
 constexpr int CifreCasuali = 16;
 
-// A replacement takes milliseconds: what is older by this much belongs to no living program.
-constexpr qint64 SecondiDiVita = 2;
+// A replacement takes milliseconds, on a slow network share some seconds: what is older by this
+// much belongs to no living program.
+constexpr qint64 SecondiDiVita = 600;
 
 QString NomeTemporaneo()
 {

@@ -19,7 +19,7 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 /// as far as the user may. After a failure (61 disk or quota full, 70 write-protected or busy, 75
 /// no right or no file, 76 folder gone, 57 anything else) the old file stands whole and the
 /// temporary one is gone. What a killed program left behind in the same folder is removed by the
-/// next call.
+/// first call that comes ten minutes later.
 void Sostituisce(const QString &percorso, const QByteArray &byte);
 
 /// Forces the bytes of an open file (a C descriptor) onto the medium; an empty code when done.

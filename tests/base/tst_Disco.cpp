@@ -421,12 +421,14 @@ void tst_Disco::ProprietaDiUnFileNuovo()
 void tst_Disco::SpazzaIResti_data()
 {
     QTest::addColumn<QString>("nome");
-    QTest::addColumn<int>("secondi");
+    QTest::addColumn<int>("minuti");
     QTest::addColumn<bool>("resta");
 
     const QString nostro = QStringLiteral(".plakera-0123456789abcdef.tmp");
-    QTest::newRow("resto di un programma ucciso") << nostro << 60 << false;
+    QTest::newRow("resto di un programma ucciso") << nostro << 11 << false;
+    QTest::newRow("resto di ieri") << nostro << 24 * 60 << false;
     QTest::newRow("di un programma che sta scrivendo") << nostro << 0 << true;
+    QTest::newRow("di un programma su una rete lenta") << nostro << 9 << true;
     QTest::newRow("copia dell'utente") << QStringLiteral("Fattura.Mod.backup") << 60 << true;
     QTest::newRow("nome piu' corto") << QStringLiteral(".plakera-0123.tmp") << 60 << true;
     QTest::newRow("nome non esadecimale")
@@ -437,12 +439,12 @@ void tst_Disco::SpazzaIResti_data()
 void tst_Disco::SpazzaIResti()
 {
     QFETCH(QString, nome);
-    QFETCH(int, secondi);
+    QFETCH(int, minuti);
     QFETCH(bool, resta);
     ScriveFile(File(), Vecchi);
     QFile resto(In(nome));
     QVERIFY(resto.open(QIODevice::WriteOnly));
-    QVERIFY(resto.setFileTime(QDateTime::currentDateTime().addSecs(-secondi),
+    QVERIFY(resto.setFileTime(QDateTime::currentDateTime().addSecs(-60 * minuti),
                               QFileDevice::FileModificationTime));
     resto.close();
 
