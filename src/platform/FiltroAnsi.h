@@ -6,8 +6,8 @@
 class QPlainTextEdit;
 
 /// Keeps a line's text within what one line of a model file can hold, dropping the other characters
-/// of a paste instead of refusing all of it. A line break, which would end the line in the file,
-/// becomes a blank.
+/// of a paste instead of refusing all of it. A CR, which alone would end the line in the file,
+/// becomes a blank, together with an LF right after it; any other LF stays, as the file keeps it.
 class ValidatoreAnsi : public QValidator
 {
     Q_OBJECT

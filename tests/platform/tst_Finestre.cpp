@@ -201,8 +201,8 @@ void tst_Finestre::LimitaAlCodice_aCapoIncollato()
     QWidget finestra;
     auto *casella = new QLineEdit(&finestra);
     LimitaAlCodice(&finestra);
-    casella->insert(QStringLiteral("una\r\ndue\rtre"));
-    QCOMPARE(casella->text(), QStringLiteral("una due tre"));
+    casella->insert(QStringLiteral("una\r\ndue\rtre\nquattro"));
+    QCOMPARE(casella->text(), QStringLiteral("una due tre\nquattro"));
 }
 
 void tst_Finestre::LimitaAlCodice_codiceIntero()
