@@ -1,5 +1,6 @@
 #include "Misura.h"
 #include "editor/Form2.h"
+#include "platform/CartellaStato.h"
 #include "platform/Finestre.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
@@ -74,7 +75,7 @@ void AttendePittura(Pittura &pittura, int volte)
 std::unique_ptr<Form2> Apre(ArchivioDiProva &archivio)
 {
     // What the measurement before left unsaved must not be offered.
-    QDir(archivio.CartellaStato()).removeRecursively();
+    QDir(CartellaStato()).removeRecursively();
     auto editor = std::make_unique<Form2>(archivio.Stato());
     if (!editor->Form_Load()) {
         qFatal("the model does not load");
