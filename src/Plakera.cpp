@@ -8,6 +8,7 @@
 #include "preview/Frm1.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QKeyEvent>
 
 Plakera::Plakera(QObject *padre)
@@ -53,8 +54,18 @@ void Plakera::ChiudeEditor()
     }
 }
 
+void Plakera::DopoLaPrimaPittura()
+{
+    // Looking for the readers of picture files alone takes longer than reading the archive.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/plakera.png")));
+}
+
 bool Plakera::eventFilter(QObject *oggetto, QEvent *evento)
 {
+    if (!dipinta_ && evento->type() == QEvent::Paint) {
+        dipinta_ = true;
+        QMetaObject::invokeMethod(this, &Plakera::DopoLaPrimaPittura, Qt::QueuedConnection);
+    }
     if (evento->type() == QEvent::KeyPress && oggetto->isWidgetType() &&
         static_cast<QKeyEvent *>(evento)->key() == Qt::Key_F1) {
         auto *controllo = static_cast<QWidget *>(oggetto);

@@ -23,14 +23,17 @@ public:
     bool Avvia(const QString &datiIndicati);
 
 protected:
-    /// F1 opens the help topic of the control that has the focus.
+    /// F1 opens the help topic of the control that has the focus. The first painting starts what
+    /// the start could put off.
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     void ApreEditor();
     void ChiudeEditor();
+    void DopoLaPrimaPittura();
 
     StatoProgramma stato_;
     std::unique_ptr<SelezioneArchivifrm> scelta_;
     std::unique_ptr<Form2> editor_;
+    bool dipinta_ = false; ///< the start window has been on the screen
 };

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QCoreApplication>
-#include <QIcon>
 
 #include <cstdio>
 #include <memory>
@@ -16,6 +15,9 @@ namespace {
 
 LetturaArgomenti LeggeArgomentiDi(int &argc, char **argv)
 {
+    if (argc <= 1) {
+        return {Richieste(), {}, 0}; // the ordinary start need not pay for a reader of nothing
+    }
     // Read before any window system is touched, so that --help works without one.
     const QCoreApplication applicazione(argc, argv);
     ImpostaLingua();
@@ -48,7 +50,6 @@ int main(int argc, char *argv[])
     Disco::UsaProprieta(&SuDisco::TieneProprieta);
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/plakera.png")));
     ImpostaLingua();
     if (lettura.richieste->SenzaFinestre()) {
         return StampaSenzaFinestre(*lettura.richieste);

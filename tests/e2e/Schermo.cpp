@@ -166,6 +166,13 @@ bool Schermo::Vede(const QString &titolo) const
     });
 }
 
+bool Schermo::HaIcona(const Finestra &finestra) const
+{
+    return Esegue(QStringLiteral("xprop"),
+                  {QStringLiteral("-id"), finestra.Id, QStringLiteral("_NET_WM_ICON")})
+        .uscita.contains("Icon (");
+}
+
 QString Schermo::Attiva() const
 {
     const QStringList attiva =

@@ -46,6 +46,8 @@ public:
 
     QList<Finestra> Finestre() const;
     bool Vede(const QString &titolo) const;
+    /// True when the window has given the window manager a picture for its lists.
+    bool HaIcona(const Finestra &finestra) const;
     /// Waits for the one window whose title matches the regular expression, holds the keyboard and
     /// stands still.
     Finestra Attende(const QString &titolo) const;

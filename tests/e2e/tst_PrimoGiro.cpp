@@ -58,6 +58,8 @@ void tst_PrimoGiro::finestraIniziale()
     const Schermo::Finestra inizio = scrivania.Video().Attende(Scrivania::TitoloInizio);
     QCOMPARE(inizio.Titolo, QStringLiteral("Plakera - Modelli stampa per gestionale Vastrel "));
     QVERIFY(scrivania.Video().Pixel().contains(inizio.Ingombro()));
+    scrivania.Video().AttendeQui(QStringLiteral("the program's icon"),
+                                 [&] { return scrivania.Video().HaIcona(inizio); });
     // In the middle of the screen, to the frame's thickness.
     const QPoint scarto = inizio.Ingombro().center() - scrivania.Video().Pixel().center();
     QVERIFY2(scarto.manhattanLength() <= 30, qPrintable(QString::number(scarto.manhattanLength())));
