@@ -286,11 +286,11 @@ bool Form2::SalvareVariazioni()
     Guardia(this, [&] {
         if (PuoSovrascrivere()) {
             const PuntatoreOccupato occupato;
-            FileModello::ScriveModello(stato_.Aperto, percorso_);
+            const QByteArray byte = FileModello::ScriveModello(stato_.Aperto, percorso_);
             Variato = false;
             salvato = true;
-            copia_->EliminaTutte();
-            copia_->Parte();
+            copia_->EliminaOfferte();
+            copia_->Parte(byte);
         }
     });
     return salvato;
@@ -304,7 +304,7 @@ void Form2::Elimina_Click()
         return;
     }
     Percorsi::Elimina(percorso_);
-    copia_->EliminaTutte();
+    copia_->EliminaOfferte();
     Messaggi::Mostra(this, nome + QStringLiteral(" eliminato"));
     // Nothing is left to save: asking would bring the deleted file back.
     Variato = false;

@@ -11,14 +11,16 @@
 
 bool Form2::LeggeModello()
 {
+    std::optional<QByteArray> byte;
     const bool letto = FileModello::LeggeModello(
-        stato_.Aperto, percorso_, [](const QString &testo) { Messaggi::Mostra(nullptr, testo); });
+        stato_.Aperto, percorso_, [](const QString &testo) { Messaggi::Mostra(nullptr, testo); },
+        &byte);
     copia_ = std::make_unique<CopiaRecupero>(CartellaStato(), percorso_);
+    copia_->Parte(byte);
     const Recupero recupero = OffreRecupero();
     if (recupero == Recupero::Annullato || (!letto && recupero != Recupero::Ripreso)) {
         return false;
     }
-    copia_->Parte();
     if (recupero == Recupero::Ripreso) {
         Variato = true;
         ModificaConclusa();
@@ -39,9 +41,11 @@ Form2::Recupero Form2::OffreRecupero()
             domanda += QStringLiteral("\n\nAttenzione: da allora il file è cambiato; riprendendo "
                                       "queste modifiche e salvando, i cambiamenti andranno persi.");
         }
+        copia_->SegnaOfferta(trovata);
         const auto predefinita = trovata.fileCambiato ? Messaggi::Scelta::No : Messaggi::Scelta::Si;
         switch (Messaggi::DomandaAnnullabile(nullptr, domanda, predefinita)) {
         case Messaggi::Scelta::Si: {
+            copia_->Riprende(trovata);
             const QString nome = stato_.Aperto.NomeFile;
             stato_.Aperto = trovata.modello;
             stato_.Aperto.NomeFile = nome;

@@ -32,6 +32,12 @@ QByteArray Intestazione(const QString &percorso, const QByteArray &impronta,
            Somma(corpo) + '\n';
 }
 
+/// A file that is not there, or cannot be read, equals no file that ever was.
+QByteArray Impronta(const std::optional<QByteArray> &byte)
+{
+    return byte ? Somma(*byte) : QByteArray(Assente);
+}
+
 struct Letta
 {
     QString percorso;
@@ -69,14 +75,10 @@ CopiaRecupero::CopiaRecupero(QString cartella, const QString &percorsoModello)
 {
 }
 
-QByteArray CopiaRecupero::Impronta() const
+void CopiaRecupero::Parte(const std::optional<QByteArray> &byte)
 {
-    try {
-        return Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima));
-    } catch (const ErroreSistema &) {
-        // Not there, or not to be read: equal to no file that ever was.
-        return QByteArray(Assente);
-    }
+    impronta_ = Impronta(byte);
+    propria_.clear();
 }
 
 QStringList CopiaRecupero::FileDelModello() const
@@ -94,14 +96,13 @@ QStringList CopiaRecupero::FileDelModello() const
 QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca() const
 {
     QList<Trovata> trovate;
-    const QByteArray attuale = Impronta();
     for (const QString &file : FileDelModello()) {
         try {
             const std::optional<Letta> letta = Legge(file);
             if (!letta || letta->percorso != percorsoModello_) {
                 continue;
             }
-            Trovata trovata{file, QFileInfo(file).lastModified(), letta->impronta != attuale, {}};
+            Trovata trovata{file, QFileInfo(file).lastModified(), letta->impronta != impronta_, {}};
             FileModello::Analizza(letta->corpo, trovata.modello);
             trovate.append(std::move(trovata));
         } catch (const ErroreSistema &) {
@@ -112,24 +113,50 @@ QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca() const
     return trovate;
 }
 
-void CopiaRecupero::Parte()
+void CopiaRecupero::SegnaOfferta(const Trovata &trovata)
 {
-    impronta_ = Impronta();
-    propria_.clear();
+    offerte_.append(trovata.file);
+}
+
+void CopiaRecupero::Riprende(const Trovata &trovata)
+{
+    ripresa_ = trovata.file;
 }
 
 bool CopiaRecupero::FileCambiato() const
 {
-    const QByteArray attuale = Impronta();
-    return attuale != Assente && attuale != impronta_;
+    try {
+        return Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima)) != impronta_;
+    } catch (const ErroreSistema &errore) {
+        switch (errore.numero) {
+        case ErroreSistema::MemoriaEsaurita: // far larger than any model
+            return true;
+        case ErroreSistema::FileNonTrovato:
+        case ErroreSistema::PercorsoNonTrovato:
+            return false;
+        default:
+            throw;
+        }
+    }
+}
+
+void CopiaRecupero::CreaCartella() const
+{
+    // What firms bill is nobody else's business on a shared machine.
+    constexpr auto SoloMia = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    if (QDir(cartella_).exists()) {
+        return;
+    }
+    QDir().mkpath(QFileInfo(cartella_).path());
+    if (!QDir().mkdir(cartella_, SoloMia) && !QDir(cartella_).exists()) {
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
 }
 
 void CopiaRecupero::Scrive(const Modello &modello)
 {
+    CreaCartella(); // each time, for somebody may have tidied it away
     if (propria_.isEmpty()) {
-        if (!QDir().mkpath(cartella_)) {
-            throw ErroreSistema(ErroreSistema::AccessoFile);
-        }
         // A name of its own, so that an earlier copy, declined or not, is not written over.
         int numero = 1;
         do {
@@ -141,6 +168,10 @@ void CopiaRecupero::Scrive(const Modello &modello)
     // away by going through it.
     const QByteArray corpo = FileModello::Componi(modello, QLocale::c());
     Disco::Sostituisce(propria_, Intestazione(percorsoModello_, impronta_, corpo) + corpo);
+    if (!ripresa_.isEmpty()) {
+        QFile::remove(ripresa_);
+        ripresa_.clear();
+    }
 }
 
 void CopiaRecupero::EliminaPropria()
@@ -151,10 +182,11 @@ void CopiaRecupero::EliminaPropria()
     }
 }
 
-void CopiaRecupero::EliminaTutte()
+void CopiaRecupero::EliminaOfferte()
 {
-    for (const QString &file : FileDelModello()) {
+    EliminaPropria();
+    for (const QString &file : std::as_const(offerte_)) {
         QFile::remove(file);
     }
-    propria_.clear();
+    offerte_.clear();
 }

@@ -22,20 +22,29 @@ public:
     /// A copy found at opening.
     struct Trovata
     {
-        QString file;      ///< the copy itself, for Elimina
+        QString file;      ///< the copy itself
         QDateTime scritta; ///< local time
         bool fileCambiato; ///< the model file is no longer the one that the copy came from
         Modello modello;   ///< NomeFile empty
     };
 
+    /// The bytes of the model file as they were read or written just now, nothing when there is no
+    /// file that can be read: the copies found and written from here on are measured by them. The
+    /// bytes in the program, not those on the disk, for another program may have changed the file
+    /// in the meantime.
+    void Parte(const std::optional<QByteArray> &byte);
+
     /// The whole copies of this model, newest first. Copies that cannot be read are left alone.
     QList<Trovata> Cerca() const;
 
-    /// Takes the checksum of the model file as it is now; the copies written from here on belong to
-    /// it. A file that does not exist is told apart from every other.
-    void Parte();
+    /// The user has been asked about this copy; only from then on a save may remove it.
+    void SegnaOfferta(const Trovata &trovata);
+    /// The user goes on from this copy: it goes as soon as this opening's own holds its work.
+    void Riprende(const Trovata &trovata);
 
-    /// True when the model file exists and is no longer what it was at Parte.
+    /// True when the model file is no longer what it was at Parte; false when it is gone, for then
+    /// there is nothing of anybody's to overwrite. Throws ErroreSistema (57, 75) when that cannot be
+    /// told.
     bool FileCambiato() const;
 
     /// Replaces this opening's copy. Throws ErroreSistema when it cannot be written; the copy
@@ -44,16 +53,18 @@ public:
 
     /// Removes this opening's copy; the copies of earlier ones stay.
     void EliminaPropria();
-    /// Removes every copy of this model: it has been saved.
-    void EliminaTutte();
+    /// Removes this opening's copy and those that have been offered: the model has been saved.
+    void EliminaOfferte();
 
 private:
     QStringList FileDelModello() const;
-    QByteArray Impronta() const;
+    void CreaCartella() const;
 
     QString cartella_;
     QString percorsoModello_;
-    QString radice_; ///< start of the names of this model's copies
-    QByteArray impronta_;
-    QString propria_; ///< empty until the first copy of this opening
+    QString radice_;      ///< start of the names of this model's copies
+    QByteArray impronta_; ///< of the model file at Parte
+    QStringList offerte_; ///< files of the copies the user has been asked about
+    QString ripresa_;     ///< file of the copy that the user goes on from
+    QString propria_;     ///< empty until the first copy of this opening
 };

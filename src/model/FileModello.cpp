@@ -3,13 +3,22 @@
 #include "base/Disco.h"
 #include "base/ErroreSistema.h"
 
-void FileModello::Carica(Modello &modello, const QString &percorso)
+namespace {
+
+QByteArray LeggeByte(Modello &modello, const QString &percorso)
 {
     // Emptied before the file is looked for: a model that cannot be opened shows no elements.
     for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
         modello.Numero(genere) = 0;
     }
-    Analizza(Disco::Legge(percorso, DimensioneMassima), modello);
+    return Disco::Legge(percorso, FileModello::DimensioneMassima);
+}
+
+} // namespace
+
+void FileModello::Carica(Modello &modello, const QString &percorso)
+{
+    Analizza(LeggeByte(modello, percorso), modello);
 }
 
 void FileModello::Salva(const Modello &modello, const QString &percorso, const QLocale &locale)
@@ -18,10 +27,14 @@ void FileModello::Salva(const Modello &modello, const QString &percorso, const Q
 }
 
 bool FileModello::LeggeModello(Modello &modello, const QString &percorso,
-                               const Numeri::Avviso &avviso)
+                               const Numeri::Avviso &avviso, std::optional<QByteArray> *byte)
 {
     try {
-        Carica(modello, percorso);
+        const QByteArray letti = LeggeByte(modello, percorso);
+        if (byte != nullptr) {
+            *byte = letti;
+        }
+        Analizza(letti, modello);
         return true;
     } catch (const ErroreSistema &errore) {
         avviso(QStringLiteral("impossibile leggere file %1\n%2\n%3")
@@ -30,7 +43,9 @@ bool FileModello::LeggeModello(Modello &modello, const QString &percorso,
     }
 }
 
-void FileModello::ScriveModello(const Modello &modello, const QString &percorso)
+QByteArray FileModello::ScriveModello(const Modello &modello, const QString &percorso)
 {
-    Salva(modello, percorso);
+    QByteArray byte = Componi(modello);
+    Disco::Sostituisce(percorso, byte);
+    return byte;
 }

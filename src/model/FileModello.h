@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QLocale>
 
+#include <optional>
+
 /// The model file: one value a line, Windows-1252, CR LF. The layout is fixed to the line because
 /// Vastrel reads the same file.
 namespace FileModello {
@@ -33,9 +35,13 @@ void Salva(const Modello &modello, const QString &percorso, const QLocale &local
 
 /// Carica, reporting a failure through avviso as "impossibile leggere file ", NomeFile, a line
 /// feed, the number, a line feed and the description. True when the model was read to the end.
-bool LeggeModello(Modello &modello, const QString &percorso, const Numeri::Avviso &avviso);
+/// byte, when asked for, gets the file's bytes, also those that are no model; nothing when the file
+/// could not be read.
+bool LeggeModello(Modello &modello, const QString &percorso, const Numeri::Avviso &avviso,
+                  std::optional<QByteArray> *byte = nullptr);
 
-/// The editor's save: writes to percorso; a failure is thrown, not reported.
-void ScriveModello(const Modello &modello, const QString &percorso);
+/// The editor's save: writes to percorso and gives the bytes written; a failure is thrown, not
+/// reported.
+QByteArray ScriveModello(const Modello &modello, const QString &percorso);
 
 } // namespace FileModello

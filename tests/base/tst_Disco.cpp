@@ -442,15 +442,12 @@ void tst_Disco::SpazzaIResti()
     QFETCH(int, minuti);
     QFETCH(bool, resta);
     ScriveFile(File(), Vecchi);
-    QFile resto(In(nome));
-    QVERIFY(resto.open(QIODevice::WriteOnly));
-    QVERIFY(resto.setFileTime(QDateTime::currentDateTime().addSecs(-60 * minuti),
-                              QFileDevice::FileModificationTime));
-    resto.close();
+    ScriveFile(In(nome), QByteArray());
+    Invecchia(In(nome), 60 * minuti);
 
     Disco::Sostituisce(File(), Nuovi);
 
-    QCOMPARE(resto.exists(), resta);
+    QCOMPARE(QFile::exists(In(nome)), resta);
     QCOMPARE(ByteDi(File()), Nuovi);
 }
 

@@ -1,5 +1,6 @@
 #include "RigheFile.h"
 #include "Scrivania.h"
+#include "support/FileDiProva.h"
 
 #include <QDir>
 #include <QTest>
@@ -12,6 +13,7 @@ class tst_Caduta : public QObject
 private slots:
     void ripreseESalvate();
     void rifiutateERimaste();
+    void secondaIstanzaNonTocca();
 
 private:
     /// Opens the invoice, moves a field and kills the program.
@@ -101,6 +103,32 @@ void tst_Caduta::rifiutateERimaste()
     const QByteArray differenza = RigheFile(PercorsoDi(scrivania)).Differenza(atteso);
     QVERIFY2(differenza.isEmpty(), differenza);
     QVERIFY(Copie(scrivania).isEmpty());
+}
+
+void tst_Caduta::secondaIstanzaNonTocca()
+{
+    Scrivania scrivania;
+    const RigheFile atteso = ConCampoMosso(PercorsoDi(scrivania));
+    scrivania.Avvia();
+    scrivania.ApreModello(Fattura);
+    scrivania.TrascinaCampo({9, 79}, {41, 104});
+    AttendeChe(QStringLiteral("the safety copy"), [&] { return Copie(scrivania).size() == 1; });
+    const QString copia =
+        scrivania.Stato() + QStringLiteral("/plakera/") + Copie(scrivania).constFirst();
+    const QByteArray prima = ByteDi(copia);
+    // A second program beside the unsaved work is refused before it opens anything.
+    const auto seconda = scrivania.Nuovo();
+    scrivania.Video().Attende(Scrivania::TitoloRiquadro);
+    scrivania.Video().Tasti({QStringLiteral("Return")});
+    QCOMPARE(Scrivania::EsitoDi(*seconda), 1);
+    QCOMPARE(ByteDi(copia), prima);
+    // The first goes on as if nothing had been.
+    scrivania.Editor();
+    scrivania.Salva();
+    const QByteArray differenza = RigheFile(PercorsoDi(scrivania)).Differenza(atteso);
+    QVERIFY2(differenza.isEmpty(), differenza);
+    QVERIFY(Copie(scrivania).isEmpty());
+    scrivania.ChiudeEditor();
 }
 
 QTEST_GUILESS_MAIN(tst_Caduta)

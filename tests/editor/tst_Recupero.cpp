@@ -4,14 +4,17 @@
 #include "model/FileModello.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
+#include "support/FileDiProva.h"
 #include "support/Finestre.h"
 #include "support/Robot.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
@@ -27,6 +30,13 @@ QStringList Copie(const ArchivioDiProva &prova)
 {
     return QDir(prova.CartellaStato() + QStringLiteral("/plakera"))
         .entryList({QStringLiteral("*.recupero")}, QDir::Files);
+}
+
+CopiaRecupero CopieDi(const ArchivioDiProva &prova)
+{
+    CopiaRecupero copie(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
+    copie.Parte(prova.ByteDelFile());
+    return copie;
 }
 
 /// One finished edit: field 1 goes to x, as at the release of a drag.
@@ -76,16 +86,20 @@ private slots:
     void CadutaERipresa();
     void CadutaDueVolte();
     void Rifiutata();
+    void NonAncoraOffertaResta();
+    void RipresaSenzaPostoPerLaNuova();
     void Annullata();
     void FileCambiatoDaAllora();
     void FileSparito();
     void UnAltroModelloNonLaRiceve();
     void DiscoPieno();
+    void CartellaImpossibile();
     void ViaDopoIlSalvataggio();
     void ViaDopoLaChiusuraSenzaSalvare();
-    void CopiaTroncaOGuastaNonSiOffre();
-    void DecimaliIntattiNellaCopia();
     void FileCambiatoDaAltriPrimaDiSalvare();
+    void FileCambiatoDaAltriDuranteLaDomanda();
+    void FileGiganteDaAltriPrimaDiSalvare();
+    void SecondoSalvataggioNonChiede();
     void FileSparitoPrimaDiSalvare();
     void DuecentoUccisioni();
 };
@@ -117,8 +131,7 @@ void tst_Recupero::CopiaAllaFineDiOgniModifica()
                      .entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot) ==
                  QStringList{prova.Aperto().NomeFile},
              "the archive holds the model and nothing else");
-    const auto trovate =
-        CopiaRecupero(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso()).Cerca();
+    const auto trovate = CopieDi(prova).Cerca();
     QCOMPARE(trovate.size(), 1);
     QCOMPARE(trovate.constFirst().modello.Campi[1].X, 77.0);
     QVERIFY(!trovate.constFirst().fileCambiato);
@@ -200,6 +213,7 @@ void tst_Recupero::CadutaDueVolte()
         editor.Anteprima()->PosizionaCampo(2, true);
         emit editor.Anteprima()->ModificaConclusa();
     }
+    QVERIFY2(Copie(prova).size() == 1, "the work taken up lives on in the new copy alone");
     Form2 editor(prova.Stato());
     Robot robot;
     robot.Si();
@@ -233,6 +247,67 @@ void tst_Recupero::Rifiutata()
     QVERIFY(editor.Form_Load());
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
+}
+
+void tst_Recupero::NonAncoraOffertaResta()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    {
+        StatoProgramma stato = prova.Stato();
+        Form2 editor(stato);
+        Robot robot;
+        robot.No();
+        QVERIFY(editor.Form_Load());
+        Modifica(editor, stato, 70);
+    }
+    // Of two works left behind the newer is taken up; the older has not been seen this time.
+    const auto trovate = CopieDi(prova).Cerca();
+    QCOMPARE(trovate.size(), 2);
+    Invecchia(trovate[trovate[0].modello.Campi[1].X == 50 ? 0 : 1].file, 60);
+    {
+        StatoProgramma stato = prova.Stato();
+        Form2 editor(stato);
+        Robot robot;
+        robot.Si().Si();
+        QVERIFY(editor.Form_Load());
+        QCOMPARE(stato.Aperto.Campi[1].X, 70.0);
+        Preme(editor, "Salva");
+        QVERIFY(robot.Soddisfatto());
+        QVERIFY(editor.close());
+    }
+    QCOMPARE(Copie(prova).size(), 1);
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Si();
+    QVERIFY(editor.Form_Load());
+    QVERIFY2(robot.Testi().constFirst().contains(QStringLiteral("da allora il file è cambiato")),
+             qPrintable(robot.Testi().constFirst()));
+    QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
+}
+
+void tst_Recupero::RipresaSenzaPostoPerLaNuova()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    const QStringList copie = Copie(prova);
+    {
+        StatoProgramma stato = prova.Stato();
+        Form2 editor(stato);
+        Robot robot;
+        robot.Si().Ok();
+        const LimiteFile poco(100);
+        QVERIFY(editor.Form_Load());
+        QCOMPARE(robot.Testi().constLast(),
+                 QStringLiteral("copia di recupero non scritta: errore 61 Disco pieno"));
+    }
+    // What could not be written anew has not been given up.
+    QCOMPARE(Copie(prova), copie);
+    QCOMPARE(CopieDi(prova).Cerca().constFirst().modello.Campi[1].X, 50.0);
 }
 
 void tst_Recupero::Annullata()
@@ -308,6 +383,32 @@ void tst_Recupero::DiscoPieno()
     ArchivioDiProva prova;
     prova.Riempie(2);
     prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Modifica(editor, prova.Stato(), 50);
+    Robot robot;
+    robot.Ok();
+    {
+        const LimiteFile poco(prova.ByteDelFile().size() / 2);
+        Modifica(editor, prova.Stato(), 51);
+        Modifica(editor, prova.Stato(), 52);
+    }
+    // Told once, and the copy of the edit before stands whole.
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(),
+             QStringList{QStringLiteral("copia di recupero non scritta: errore 61 Disco pieno")});
+    QCOMPARE(CopieDi(prova).Cerca().constFirst().modello.Campi[1].X, 50.0);
+    // With room again, the next edit is kept.
+    Modifica(editor, prova.Stato(), 53);
+    QCOMPARE(CopieDi(prova).Cerca().constFirst().modello.Campi[1].X, 53.0);
+    QCOMPARE(Copie(prova).size(), 1);
+}
+
+void tst_Recupero::CartellaImpossibile()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
     // A file where the folder should be: nothing can be written there, not even by root.
     QFile ostacolo(prova.CartellaStato());
     QVERIFY(ostacolo.open(QIODevice::WriteOnly));
@@ -360,50 +461,6 @@ void tst_Recupero::ViaDopoLaChiusuraSenzaSalvare()
     QVERIFY(Copie(prova).isEmpty());
 }
 
-void tst_Recupero::CopiaTroncaOGuastaNonSiOffre()
-{
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
-    QFile copia(prova.CartellaStato() + QStringLiteral("/plakera/") + Copie(prova).constFirst());
-    QVERIFY(copia.open(QIODevice::ReadOnly));
-    const QByteArray intera = copia.readAll();
-    copia.close();
-    const CopiaRecupero copie(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
-    QCOMPARE(copie.Cerca().size(), 1);
-    for (qsizetype n = 0; n < intera.size(); n += 7) {
-        QVERIFY(copia.open(QIODevice::WriteOnly));
-        copia.write(intera.left(n));
-        copia.close();
-        QVERIFY2(copie.Cerca().isEmpty(), qPrintable(QString::number(n)));
-    }
-    QByteArray guasta = intera;
-    guasta[guasta.size() - 30] = '#';
-    QVERIFY(copia.open(QIODevice::WriteOnly));
-    copia.write(guasta);
-    copia.close();
-    QVERIFY(copie.Cerca().isEmpty());
-}
-
-void tst_Recupero::DecimaliIntattiNellaCopia()
-{
-    const QLocale precedente;
-    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    CopiaRecupero copia(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
-    copia.Parte();
-    prova.Aperto().Immagini[1].X = 12.75;
-    prova.Aperto().Righe.Interlinea = 4.5;
-    copia.Scrive(prova.Aperto());
-    const auto trovata = copia.Cerca().constFirst();
-    QCOMPARE(trovata.modello.Immagini[1].X, 12.75);
-    QCOMPARE(trovata.modello.Righe.Interlinea, 4.5);
-    QLocale::setDefault(precedente);
-}
-
 void tst_Recupero::FileCambiatoDaAltriPrimaDiSalvare()
 {
     ArchivioDiProva prova;
@@ -429,6 +486,58 @@ void tst_Recupero::FileCambiatoDaAltriPrimaDiSalvare()
     Preme(editor, "Salva");
     QVERIFY(robot.Soddisfatto());
     QVERIFY(prova.Riletto().Tipo.isEmpty());
+}
+
+void tst_Recupero::FileCambiatoDaAltriDuranteLaDomanda()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    Modello altrui = prova.Aperto();
+    altrui.Tipo = QStringLiteral("di un altro");
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Agisce([&](QDialog *domanda) {
+        // The model has been read already: what comes now is somebody else's.
+        FileModello::Salva(altrui, prova.Percorso(), QLocale::c());
+        qobject_cast<QMessageBox *>(domanda)->button(QMessageBox::Yes)->click();
+    });
+    QVERIFY(editor.Form_Load());
+    robot.Si().No();
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Riletto().Tipo, QStringLiteral("di un altro"));
+}
+
+void tst_Recupero::FileGiganteDaAltriPrimaDiSalvare()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    QVERIFY(QFile::resize(prova.Percorso(), FileModello::DimensioneMassima + 1));
+    Robot robot;
+    robot.Si().No();
+    Preme(editor, "Salva");
+    QVERIFY2(robot.Soddisfatto(), "too large to be read, it is changed all the same");
+}
+
+void tst_Recupero::SecondoSalvataggioNonChiede()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    Robot robot;
+    robot.Si().Si();
+    Preme(editor, "Salva");
+    Modifica(editor, prova.Stato(), 60);
+    Preme(editor, "Salva");
+    QVERIFY2(robot.Soddisfatto(), "the program's own save is nobody else's change");
+    QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
 }
 
 void tst_Recupero::FileSparitoPrimaDiSalvare()
@@ -465,7 +574,7 @@ void tst_Recupero::DuecentoUccisioni()
         // The last line may be torn; the one before it is a finished edit.
         const int finita = righe.value(righe.size() - 2).toInt();
         QVERIFY(finita > 0);
-        CopiaRecupero copie(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
+        CopiaRecupero copie = CopieDi(prova);
         const auto trovate = copie.Cerca();
         QCOMPARE(trovate.size(), 1);
         const double ripresa = trovate.constFirst().modello.Campi[1].X;
@@ -474,11 +583,16 @@ void tst_Recupero::DuecentoUccisioni()
                  qPrintable(QStringLiteral("%1 after %2").arg(ripresa).arg(finita)));
         QCOMPARE(trovate.constFirst().modello.NumImmagini, qint16(30));
         QCOMPARE(prova.ByteDelFile(), intatto);
-        copie.EliminaTutte();
+        copie.SegnaOfferta(trovate.constFirst());
+        copie.EliminaOfferte();
     }
-    const auto resti = QDir(prova.CartellaStato() + QStringLiteral("/plakera"))
-                           .entryList(QDir::Files | QDir::Hidden);
-    QVERIFY2(resti.size() <= 20, "temporary files pile up");
+    // What the kills left half-written goes, once it is old, with the next copy.
+    const QString cartella = prova.CartellaStato() + QStringLiteral("/plakera");
+    for (const QString &nome : NomiIn(cartella)) {
+        Invecchia(cartella + u'/' + nome, 3600);
+    }
+    ModificaEMuore(prova, 1);
+    QCOMPARE(NomiIn(cartella), Copie(prova));
 }
 
 int main(int argc, char *argv[])

@@ -66,13 +66,10 @@ QSet<QString> RestiIn(const QString &cartella)
 }
 
 /// Makes what killed children left behind as old as if an hour had passed.
-void Invecchia(const QString &cartella)
+void InvecchiaResti(const QString &cartella)
 {
     for (const QString &nome : RestiIn(cartella)) {
-        QFile resto(cartella + u'/' + nome);
-        QVERIFY(resto.open(QIODevice::ReadWrite));
-        QVERIFY(resto.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
-                                  QFileDevice::FileModificationTime));
+        Invecchia(cartella + u'/' + nome, 3600);
     }
 }
 
@@ -258,7 +255,7 @@ void tst_SalvataggioGuasti::MilleUccisioni()
     qsizetype restiAlMassimo = 0;
     QByteArray ultimi = ByteDi(File());
     for (int i = 0; i < Uccisioni; ++i) {
-        Invecchia(cartella_->path());
+        InvecchiaResti(cartella_->path());
         const QSet<QString> prima = RestiIn(cartella_->path());
         Salvatore salvatore(File(), ultimi == vecchi ? nuovo : vecchio,
                             ultimi == vecchi ? vecchio : nuovo);
@@ -283,7 +280,7 @@ void tst_SalvataggioGuasti::MilleUccisioni()
 
     // What they left behind went with the saves that followed, but for kills before the sweeping.
     QVERIFY2(restiAlMassimo < conResti / 4, QByteArray::number(restiAlMassimo));
-    Invecchia(cartella_->path());
+    InvecchiaResti(cartella_->path());
     FileModello::Salva(ModelloDiProva(ElementiNuovi), File(), QLocale::c());
     QCOMPARE(NomiIn(cartella_->path()).size(), 1);
     Disco::UsaSincronizzazione(nullptr);

@@ -1,5 +1,6 @@
 #include "support/FileDiProva.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -28,6 +29,14 @@ QStringList NomiIn(const QString &cartella)
 {
     return QDir(cartella).entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+void Invecchia(const QString &percorso, qint64 secondi)
+{
+    QFile file(percorso);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-secondi),
+                             QFileDevice::FileModificationTime));
 }
 
 LimiteFile::LimiteFile(qint64 byte)

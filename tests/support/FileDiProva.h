@@ -17,6 +17,9 @@ void ScriveFile(const QString &percorso, const QByteArray &byte);
 /// Every name in the folder but "." and "..", hidden ones included, in name order.
 QStringList NomiIn(const QString &cartella);
 
+/// Makes the file as old as if it had last been written so many seconds ago.
+void Invecchia(const QString &percorso, qint64 secondi);
+
 /// While it lives no file of this process may grow beyond so many bytes.
 class LimiteFile
 {

@@ -1,0 +1,156 @@
+#include "EditoreDiProva.h"
+#include "support/FileDiProva.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <sys/stat.h>
+
+/// What keeps a model from being saved while its editor is open: the user is told why, the model
+/// counts as modified, the file stands as it was, and the save is made good once it can be.
+class tst_SalvataggioImpossibile : public QObject
+{
+    Q_OBJECT
+private slots:
+    void SalvaDiceIlPerche_data();
+    void SalvaDiceIlPerche();
+    void ChiudendoNonSiPerdeNulla();
+    void AttraversoUnCollegamento();
+
+private:
+    /// So long as one lives, the model cannot be saved.
+    using Ostacolo = std::shared_ptr<void>;
+    using Ostacola = std::function<Ostacolo(const ArchivioDiProva &)>;
+};
+
+namespace {
+
+void Permessi(const QString &percorso, mode_t permessi)
+{
+    QCOMPARE(chmod(QFile::encodeName(percorso).constData(), permessi), 0);
+}
+
+/// An ordinary user, to whom the path in the archive is read-only.
+std::shared_ptr<void> SolaLettura(const ArchivioDiProva &archivio, const QString &percorso,
+                                  mode_t chiuso, mode_t aperto)
+{
+    const QString modelli = archivio.Stato().CartellaModelli;
+    Permessi(modelli + QStringLiteral("/../.."), 0755);
+    Permessi(modelli, 0777);
+    Permessi(percorso, chiuso);
+    auto utente = std::make_shared<UtenteComune>();
+    return {utente.get(), [utente, percorso, aperto](void *) mutable {
+                utente.reset();
+                Permessi(percorso, aperto);
+            }};
+}
+
+std::shared_ptr<void> CartellaAltrove(const ArchivioDiProva &archivio)
+{
+    const QString cartella = QDir(archivio.Stato().CartellaModelli).absolutePath();
+    QDir().rename(cartella, cartella + u'2');
+    return {nullptr, [cartella](void *) { QDir().rename(cartella + u'2', cartella); }};
+}
+
+std::shared_ptr<void> CartellaAlPostoDelFile(const ArchivioDiProva &archivio)
+{
+    const QString file = archivio.Percorso();
+    QFile::rename(file, file + u'2');
+    QDir().mkdir(file);
+    return {nullptr, [file](void *) {
+                QDir().rmdir(file);
+                QFile::rename(file + u'2', file);
+            }};
+}
+
+} // namespace
+
+void tst_SalvataggioImpossibile::SalvaDiceIlPerche_data()
+{
+    QTest::addColumn<Ostacola>("ostacola");
+    QTest::addColumn<QString>("messaggio");
+    QTest::newRow("full disk") << Ostacola([](const ArchivioDiProva &) {
+        return std::make_shared<LimiteFile>(100);
+    }) << QStringLiteral("errore 61 Disco pieno");
+    QTest::newRow("read-only folder") << Ostacola([](const ArchivioDiProva &archivio) {
+        return SolaLettura(archivio, archivio.Stato().CartellaModelli, 0555, 0755);
+    }) << QStringLiteral("errore 75 Errore di accesso al percorso/file");
+    QTest::newRow("read-only file") << Ostacola([](const ArchivioDiProva &archivio) {
+        return SolaLettura(archivio, archivio.Percorso(), 0444, 0644);
+    }) << QStringLiteral("errore 75 Errore di accesso al percorso/file");
+    QTest::newRow("folder removed")
+        << Ostacola(CartellaAltrove) << QStringLiteral("errore 76 Impossibile trovare il percorso");
+    QTest::newRow("a folder in the place of the file")
+        << Ostacola(CartellaAlPostoDelFile)
+        << QStringLiteral("errore 75 Errore di accesso al percorso/file");
+}
+
+void tst_SalvataggioImpossibile::SalvaDiceIlPerche()
+{
+    QFETCH(const Ostacola, ostacola);
+    QFETCH(const QString, messaggio);
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(2);
+    QVERIFY(prova.Apre());
+    const QByteArray prima = prova.Archivio.ByteDelFile();
+    const QStringList nomi = NomiIn(prova.Archivio.Stato().CartellaModelli);
+    prova.Archivio.Aperto().Campi[1].X = 77;
+    Robot robot;
+    robot.Si().Ok();
+    {
+        const Ostacolo ostacolo = ostacola(prova.Archivio);
+        Preme(*prova.Editor, "Salva");
+    }
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constLast(), messaggio);
+    QVERIFY(prova.Editor->Variato);
+    QCOMPARE(prova.Archivio.ByteDelFile(), prima);
+    QCOMPARE(NomiIn(prova.Archivio.Stato().CartellaModelli), nomi);
+    robot.Si();
+    Preme(*prova.Editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!prova.Editor->Variato);
+    QCOMPARE(prova.Archivio.Riletto().Campi[1].X, 77.0);
+}
+
+void tst_SalvataggioImpossibile::ChiudendoNonSiPerdeNulla()
+{
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(2);
+    QVERIFY(prova.Apre());
+    prova.Archivio.Aperto().Campi[1].X = 77;
+    prova.Editor->Variato = true;
+    Robot robot;
+    robot.Si().Ok();
+    {
+        const LimiteFile poco(100);
+        QVERIFY2(!prova.Editor->close(), "closing now would lose the work");
+    }
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(prova.Editor->isVisible() && prova.Editor->Anteprima()->isVisible());
+    robot.Si();
+    QVERIFY(prova.Editor->close());
+    QCOMPARE(prova.Archivio.Riletto().Campi[1].X, 77.0);
+}
+
+void tst_SalvataggioImpossibile::AttraversoUnCollegamento()
+{
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(1);
+    prova.Archivio.Scrive();
+    const QString vero = prova.Archivio.Percorso() + u'2';
+    QVERIFY(QFile::rename(prova.Archivio.Percorso(), vero));
+    QVERIFY(QFile::link(vero, prova.Archivio.Percorso()));
+    QVERIFY(prova.ApreComeSta());
+    prova.Archivio.Aperto().Campi[1].X = 77;
+    Robot robot;
+    robot.Si();
+    Preme(*prova.Editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(QFileInfo(prova.Archivio.Percorso()).isSymLink());
+    QCOMPARE(prova.Archivio.Riletto().Campi[1].X, 77.0);
+}
+
+QTEST_MAIN(tst_SalvataggioImpossibile)
+#include "tst_SalvataggioImpossibile.moc"

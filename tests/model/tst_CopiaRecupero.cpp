@@ -1,0 +1,223 @@
+#include "base/ErroreSistema.h"
+#include "model/CopiaRecupero.h"
+#include "model/FileModello.h"
+#include "support/Errori.h"
+#include "support/FileDiProva.h"
+#include "support/ModelloDiProva.h"
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QLocale Punto = QLocale::c();
+
+} // namespace
+
+/// The files of the safety copies.
+class tst_CopiaRecupero : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void NienteDaCercare();
+    void RilettaComeScritta();
+    void DecimaliIntatti();
+    void TroncaOGuastaNonSiTrova();
+    void SoloDelProprioModello();
+    void IlFileComeLettoDecideSeCambiato();
+    void CartellaSoloDelProprietario();
+    void CartellaImpossibile();
+    void DiscoPienoLasciaLaPrecedente();
+    void VannoViaSoloLeOfferte();
+    void LaRipresaVaViaQuandoLaNuovaLaTiene();
+    void EliminatiDaAltriSiRiscrivono();
+
+private:
+    QString Cartella() const { return dir_->filePath(QStringLiteral("stato/plakera")); }
+    QString Percorso() const { return dir_->filePath(QStringLiteral("Prova.Mod")); }
+    CopiaRecupero Aperta() const
+    {
+        CopiaRecupero copia(Cartella(), Percorso());
+        copia.Parte(ByteDi(Percorso()));
+        return copia;
+    }
+    /// Left behind by a program that has ended.
+    void Lascia(double x)
+    {
+        Modello modello = ModelloDiProva(2);
+        modello.Campi[1].X = x;
+        Aperta().Scrive(modello);
+    }
+
+    std::optional<QTemporaryDir> dir_;
+};
+
+void tst_CopiaRecupero::init()
+{
+    dir_.emplace();
+    FileModello::Salva(ModelloDiProva(2), Percorso(), Punto);
+}
+
+void tst_CopiaRecupero::NienteDaCercare()
+{
+    QVERIFY(Aperta().Cerca().isEmpty());
+    QVERIFY2(!QFileInfo::exists(Cartella()), "looking makes no folder");
+}
+
+void tst_CopiaRecupero::RilettaComeScritta()
+{
+    const Modello modello = ModelloDiProva(100);
+    Aperta().Scrive(modello);
+    const auto trovate = Aperta().Cerca();
+    QCOMPARE(trovate.size(), 1);
+    QCOMPARE(FileModello::Componi(trovate[0].modello, Punto), FileModello::Componi(modello, Punto));
+    QVERIFY(!trovate[0].fileCambiato);
+}
+
+void tst_CopiaRecupero::DecimaliIntatti()
+{
+    const QLocale precedente;
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    Modello modello = ModelloDiProva(1);
+    modello.Immagini[1].X = 12.75;
+    modello.Righe.Interlinea = 4.5;
+    Aperta().Scrive(modello);
+    QLocale::setDefault(precedente);
+    const auto trovata = Aperta().Cerca().constFirst();
+    QCOMPARE(trovata.modello.Immagini[1].X, 12.75);
+    QCOMPARE(trovata.modello.Righe.Interlinea, 4.5);
+}
+
+void tst_CopiaRecupero::TroncaOGuastaNonSiTrova()
+{
+    Lascia(50);
+    const QString file = Aperta().Cerca().constFirst().file;
+    const QByteArray intera = ByteDi(file);
+    for (qsizetype n = 0; n < intera.size(); ++n) {
+        ScriveFile(file, intera.left(n));
+        QVERIFY2(Aperta().Cerca().isEmpty(), qPrintable(QString::number(n)));
+    }
+    QByteArray guasta = intera;
+    guasta[guasta.size() - 30] = '#';
+    ScriveFile(file, guasta);
+    QVERIFY(Aperta().Cerca().isEmpty());
+    QVERIFY2(QFileInfo::exists(file), "what cannot be read is left alone");
+}
+
+void tst_CopiaRecupero::SoloDelProprioModello()
+{
+    Lascia(50);
+    CopiaRecupero altro(Cartella(), dir_->filePath(QStringLiteral("Altra.Mod")));
+    altro.Parte(ByteDi(Percorso()));
+    QVERIFY(altro.Cerca().isEmpty());
+    // Nor under the other model's name: the path inside tells.
+    const QString file = Aperta().Cerca().constFirst().file;
+    altro.Scrive(ModelloDiProva(1));
+    const QString altrui = altro.Cerca().constFirst().file;
+    ScriveFile(altrui, ByteDi(file));
+    QVERIFY(altro.Cerca().isEmpty());
+}
+
+void tst_CopiaRecupero::IlFileComeLettoDecideSeCambiato()
+{
+    Lascia(50);
+    const QByteArray letto = ByteDi(Percorso());
+    CopiaRecupero copia(Cartella(), Percorso());
+    copia.Parte(letto);
+    ScriveFile(Percorso(), letto + "x");
+    QVERIFY2(!copia.Cerca().constFirst().fileCambiato, "the copy fits what has been read");
+    QVERIFY(copia.FileCambiato());
+    copia.Parte(ByteDi(Percorso()));
+    QVERIFY(copia.Cerca().constFirst().fileCambiato);
+    QVERIFY(!copia.FileCambiato());
+    QVERIFY(QFile::remove(Percorso()));
+    QVERIFY2(!copia.FileCambiato(), "gone, there is nothing to overwrite");
+    copia.Parte(std::nullopt);
+    ScriveFile(Percorso(), QByteArray());
+    QVERIFY2(copia.FileCambiato(), "an empty file is not a missing one");
+}
+
+void tst_CopiaRecupero::CartellaSoloDelProprietario()
+{
+    Lascia(50);
+    constexpr auto SoloSua = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                             QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
+    QCOMPARE(QFileInfo(Cartella()).permissions(), SoloSua);
+}
+
+void tst_CopiaRecupero::CartellaImpossibile()
+{
+    ScriveFile(dir_->filePath(QStringLiteral("stato")), "un file");
+    QCOMPARE(ErroreDi([this] { Lascia(50); }), 75);
+}
+
+void tst_CopiaRecupero::DiscoPienoLasciaLaPrecedente()
+{
+    Modello modello = ModelloDiProva(2);
+    CopiaRecupero copia = Aperta();
+    modello.Campi[1].X = 50;
+    copia.Scrive(modello);
+    const QString file = copia.Cerca().constFirst().file;
+    const QByteArray prima = ByteDi(file);
+    modello.Campi[1].X = 60;
+    for (const qint64 byte : {qint64(0), qint64(100), prima.size() - 1}) {
+        const LimiteFile limite(byte);
+        QCOMPARE(ErroreDi([&] { copia.Scrive(modello); }), 61);
+        QCOMPARE(ByteDi(file), prima);
+    }
+    copia.Scrive(modello);
+    QCOMPARE(copia.Cerca().constFirst().modello.Campi[1].X, 60.0);
+    QCOMPARE(NomiIn(Cartella()).size(), 1);
+}
+
+void tst_CopiaRecupero::VannoViaSoloLeOfferte()
+{
+    Lascia(50);
+    const QString offerta = Aperta().Cerca().constFirst().file;
+    Lascia(60);
+    CopiaRecupero copia = Aperta();
+    const auto trovate = copia.Cerca();
+    QCOMPARE(trovate.size(), 2);
+    const QString guasta = QString(offerta).replace(QStringLiteral("-1."), QStringLiteral("-9."));
+    ScriveFile(guasta, "non e' una copia");
+    copia.SegnaOfferta(trovate[trovate[0].file == offerta ? 0 : 1]);
+    copia.Scrive(ModelloDiProva(2));
+    QCOMPARE(NomiIn(Cartella()).size(), 4);
+    copia.EliminaOfferte();
+    QVERIFY(!QFileInfo::exists(offerta));
+    QVERIFY(QFileInfo::exists(guasta));
+    QCOMPARE(NomiIn(Cartella()).size(), 2);
+    QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 60.0);
+}
+
+void tst_CopiaRecupero::LaRipresaVaViaQuandoLaNuovaLaTiene()
+{
+    Lascia(50);
+    CopiaRecupero copia = Aperta();
+    const auto trovata = copia.Cerca().constFirst();
+    copia.Riprende(trovata);
+    QVERIFY(QFileInfo::exists(trovata.file));
+    {
+        const LimiteFile niente(0);
+        QCOMPARE(ErroreDi([&] { copia.Scrive(trovata.modello); }), 61);
+    }
+    QVERIFY(QFileInfo::exists(trovata.file));
+    copia.Scrive(trovata.modello);
+    QVERIFY(!QFileInfo::exists(trovata.file));
+    QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 50.0);
+}
+
+void tst_CopiaRecupero::EliminatiDaAltriSiRiscrivono()
+{
+    // Somebody tidies the state folder while the model is open.
+    CopiaRecupero copia = Aperta();
+    copia.Scrive(ModelloDiProva(2));
+    QVERIFY(QDir(Cartella()).removeRecursively());
+    copia.Scrive(ModelloDiProva(2));
+    QCOMPARE(Aperta().Cerca().size(), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_CopiaRecupero)
+#include "tst_CopiaRecupero.moc"
