@@ -15,6 +15,7 @@ Plakera::Plakera(QObject *padre)
     : QObject(padre)
 {
     qApp->installEventFilter(this);
+    connect(this, &Plakera::Dipinta, this, &Plakera::DopoLaPrimaPittura, Qt::QueuedConnection);
 }
 
 Plakera::~Plakera() = default;
@@ -64,7 +65,7 @@ bool Plakera::eventFilter(QObject *oggetto, QEvent *evento)
 {
     if (!dipinta_ && evento->type() == QEvent::Paint) {
         dipinta_ = true;
-        QMetaObject::invokeMethod(this, &Plakera::DopoLaPrimaPittura, Qt::QueuedConnection);
+        emit Dipinta();
     }
     if (evento->type() == QEvent::KeyPress && oggetto->isWidgetType() &&
         static_cast<QKeyEvent *>(evento)->key() == Qt::Key_F1) {

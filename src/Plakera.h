@@ -22,6 +22,10 @@ public:
     /// is not empty. False when the program must end; the reason has been shown.
     bool Avvia(const QString &datiIndicati);
 
+signals:
+    /// Something is about to be painted for the first time.
+    void Dipinta();
+
 protected:
     /// F1 opens the help topic of the control that has the focus. The first painting starts what
     /// the start could put off.
