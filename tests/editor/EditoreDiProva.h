@@ -14,6 +14,7 @@
 #include <QTest>
 
 #include <memory>
+#include <stdexcept>
 
 /// Closes a box that fits the screen with its buttons; fails the test otherwise.
 inline void ChiudeSeSulloSchermo(QDialog *dialogo)
@@ -27,6 +28,26 @@ inline void ChiudeSeSulloSchermo(QDialog *dialogo)
     }
     dialogo->reject();
 }
+
+/// A model with so many elements of each kind in a real archive, open in an editor not yet shown.
+class EditorAperto : public ArchivioDiProva
+{
+public:
+    explicit EditorAperto(int perGenere = 0)
+    {
+        Riempie(perGenere);
+        Scrive();
+        editor_ = std::make_unique<Form2>(Stato());
+        if (!editor_->Form_Load()) {
+            throw std::runtime_error("the model does not open");
+        }
+    }
+
+    Form2 &Editor() { return *editor_; }
+
+private:
+    std::unique_ptr<Form2> editor_;
+};
 
 /// An editor opened on a model in a real archive, and what its user meets: boxes are answered by
 /// the robot handed in.

@@ -1,3 +1,4 @@
+#include "EditoreDiProva.h"
 #include "base/ErroreSistema.h"
 #include "editor/Form2.h"
 #include "preview/Frm1.h"
@@ -84,10 +85,8 @@ private slots:
 
 void tst_Form2::ModelloNuovoMostraTreComboColSoloSeparatore()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     for (const char *combo : {"ComboCampi", "ComboCornici", "ComboImmagini"}) {
         QCOMPARE(Voci(editor, combo), QStringList{Separatore});
     }
@@ -113,10 +112,8 @@ void tst_Form2::VociUgualiAiNomiConIndiceUguale()
 
 void tst_Form2::PagineNellOrdine()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     const auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
     QStringList titoli;
     for (int i = 0; i < pagine->count(); ++i) {
@@ -130,10 +127,8 @@ void tst_Form2::PagineNellOrdine()
 
 void tst_Form2::TestiETooltip()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     const auto testo = [&](const char *nome) {
         return Trova<QAbstractButton>(editor, nome)->text().remove(u'&');
     };
@@ -162,10 +157,8 @@ void tst_Form2::TestiETooltip()
 
 void tst_Form2::NessunaLetteraDoppiaPerPagina()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
     for (int pagina = 0; pagina < pagine->count(); ++pagina) {
         QHash<QChar, QString> lettere;
@@ -199,10 +192,8 @@ void tst_Form2::NessunaLetteraDoppiaPerPagina()
 
 void tst_Form2::OgniPaginaHaScorciatoieDiverse()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
     for (int p = 0; p < pagine->count(); ++p) {
@@ -235,10 +226,8 @@ void tst_Form2::NessunControlloTagliato_data()
 void tst_Form2::NessunControlloTagliato()
 {
     QFETCH(int, larghezza);
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     // What the usual frames leave of the strip of 200 pixels.
     constexpr QSize Cornice(2, 28);
@@ -268,10 +257,8 @@ void tst_Form2::NessunControlloTagliato()
 
 void tst_Form2::TestiEsplicativiCominciano()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     const QHash<const char *, QString> inizi{
         {"Text1",
          QStringLiteral("I 'CAMPI' sono i dati variabili che vengono stampati sul documento")},
@@ -356,10 +343,8 @@ void tst_Form2::ModelloScrittoInAltroModo()
 
 void tst_Form2::CampoAggiuntoConAnteprimaScorsa()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     Trova<QScrollBar>(*editor.Anteprima(), "ScrollX")->setValue(40);
     Trova<QScrollBar>(*editor.Anteprima(), "ScrollY")->setValue(60);
     Robot robot;
@@ -422,10 +407,8 @@ void tst_Form2::CorniceAggiunta()
 
 void tst_Form2::ImmagineAggiunta()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Annulla();
     Preme(editor, "AggiungiImmagine");
@@ -452,11 +435,8 @@ void tst_Form2::CentunesimoElementoErrore9()
 {
     QFETCH(const QByteArray, bottone);
     QFETCH(const Genere, genere);
-    ArchivioDiProva prova;
-    prova.Riempie(100);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(100);
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Ok();
     Preme(editor, bottone.constData());
@@ -467,11 +447,8 @@ void tst_Form2::CentunesimoElementoErrore9()
 
 void tst_Form2::DopoIlCentunesimoSiSalvanoICento()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(100);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(100);
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Ok().Si();
     Preme(editor, "Aggiungicampo");
@@ -504,11 +481,8 @@ void tst_Form2::VoceEliminataNonSiApre()
 
 void tst_Form2::SeparatoreNonApreNulla()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     Robot robot;
     for (const char *bottone : {"VariazioneCampo", "VariazioneCornice", "VariazioneImmagine"}) {
         Preme(editor, bottone);
@@ -518,10 +492,8 @@ void tst_Form2::SeparatoreNonApreNulla()
 
 void tst_Form2::SalvaChiedeSempre()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Si();
     Preme(editor, "Salva");
@@ -583,10 +555,8 @@ void tst_Form2::TipoFinisceNelFile()
 
 void tst_Form2::ChiusuraSenzaVariazioniNonChiede()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     QSignalSpy chiuso(&editor, &Form2::Chiuso);
     Robot robot;
@@ -632,10 +602,8 @@ void tst_Form2::ChiusuraConNoNonScrive()
 
 void tst_Form2::SalvataggioFallitoTieneApertoLEditor()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     editor.Variato = true;
     // The archive's folder is gone: not even root can write there.
@@ -653,10 +621,8 @@ void tst_Form2::SalvataggioFallitoTieneApertoLEditor()
 
 void tst_Form2::ChiudereLAnteprimaChiudeLEditor()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     editor.Anteprima()->show();
     editor.Variato = true;
@@ -673,10 +639,8 @@ void tst_Form2::ChiudereLAnteprimaChiudeLEditor()
 
 void tst_Form2::EliminaModelloNo()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     Robot robot;
     robot.No();
@@ -689,10 +653,8 @@ void tst_Form2::EliminaModelloNo()
 
 void tst_Form2::EliminaModelloSi()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     editor.Variato = true;
     QSignalSpy chiuso(&editor, &Form2::Chiuso);
@@ -735,10 +697,8 @@ void tst_Form2::EliminaTutteLeCornici()
 
 void tst_Form2::EliminaTutteSenzaCornici()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     QSignalSpy chiuso(&editor, &Form2::Chiuso);
     Robot robot;
@@ -766,11 +726,8 @@ void tst_Form2::EliminaTutteNo()
 
 void tst_Form2::CambioPaginaNascondeIMarcatori()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(2);
+    Form2 &editor = prova.Editor();
     editor.Anteprima()->SelezionaCampo(1);
     editor.Anteprima()->SelezionaCornice(2);
     editor.Anteprima()->SelezionaImmagine(1);
@@ -783,11 +740,8 @@ void tst_Form2::CambioPaginaNascondeIMarcatori()
 
 void tst_Form2::FuocoSulComboNascondeIlMarcatore()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(2);
+    Form2 &editor = prova.Editor();
     editor.show();
     editor.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&editor));
@@ -800,11 +754,8 @@ void tst_Form2::FuocoSulComboNascondeIlMarcatore()
 
 void tst_Form2::LAnteprimaGuidaComboEPagina()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(3);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(3);
+    Form2 &editor = prova.Editor();
     const auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
     emit editor.Anteprima()->ElementoPuntato(Genere::Cornice, 3);
     emit editor.Anteprima()->PaginaRichiesta(Genere::Cornice);
@@ -894,11 +845,8 @@ void tst_Form2::StampaDomandaESenzaStampante()
 {
     // No print server answers at this address, so there is no default printer.
     qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.No().Ok();
     Preme(editor, "Stampa");
@@ -913,10 +861,8 @@ void tst_Form2::StampaDomandaESenzaStampante()
 void tst_Form2::GrigliaSenzaStampante()
 {
     qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Ok();
     Preme(editor, "StampaRetino");
@@ -926,10 +872,8 @@ void tst_Form2::GrigliaSenzaStampante()
 
 void tst_Form2::ChiusuraDuranteLaDomanda()
 {
-    ArchivioDiProva prova;
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova;
+    Form2 &editor = prova.Editor();
     editor.show();
     editor.Variato = true;
     QVERIFY(QDir(prova.Stato().CartellaModelli).removeRecursively());

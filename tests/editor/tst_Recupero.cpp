@@ -1,3 +1,4 @@
+#include "EditoreDiProva.h"
 #include "base/ErroreSistema.h"
 #include "editor/Form2.h"
 #include "model/CopiaRecupero.h"
@@ -106,22 +107,16 @@ private slots:
 
 void tst_Recupero::NessunaCopiaSenzaModifiche()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(3);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(3);
+    Form2 &editor = prova.Editor();
     emit editor.Anteprima()->ModificaConclusa();
     QVERIFY(Copie(prova).isEmpty());
 }
 
 void tst_Recupero::CopiaAllaFineDiOgniModifica()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     prova.Aperto().Campi[1].X = 77;
     editor.Anteprima()->PosizionaCampo(1, true);
     QVERIFY2(Copie(prova).isEmpty(), "a move step is no finished edit");
@@ -380,11 +375,8 @@ void tst_Recupero::UnAltroModelloNonLaRiceve()
 
 void tst_Recupero::DiscoPieno()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(2);
+    Form2 &editor = prova.Editor();
     Modifica(editor, prova.Stato(), 50);
     Robot robot;
     robot.Ok();
@@ -448,11 +440,8 @@ void tst_Recupero::ViaDopoIlSalvataggio()
 
 void tst_Recupero::ViaDopoLaChiusuraSenzaSalvare()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     editor.show();
     Modifica(editor, prova.Stato(), 60);
     Robot robot;
@@ -463,11 +452,8 @@ void tst_Recupero::ViaDopoLaChiusuraSenzaSalvare()
 
 void tst_Recupero::FileCambiatoDaAltriPrimaDiSalvare()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     Modello altrui = prova.Aperto();
     altrui.Tipo = QStringLiteral("di un altro");
     FileModello::Salva(altrui, prova.Percorso(), QLocale::c());
@@ -512,11 +498,8 @@ void tst_Recupero::FileCambiatoDaAltriDuranteLaDomanda()
 
 void tst_Recupero::FileGiganteDaAltriPrimaDiSalvare()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     QVERIFY(QFile::resize(prova.Percorso(), FileModello::DimensioneMassima + 1));
     Robot robot;
     robot.Si().No();
@@ -526,11 +509,8 @@ void tst_Recupero::FileGiganteDaAltriPrimaDiSalvare()
 
 void tst_Recupero::SecondoSalvataggioNonChiede()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Si().Si();
     Preme(editor, "Salva");
@@ -542,11 +522,8 @@ void tst_Recupero::SecondoSalvataggioNonChiede()
 
 void tst_Recupero::FileSparitoPrimaDiSalvare()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
     QVERIFY(QFile::remove(prova.Percorso()));
     Robot robot;
     robot.Si();
