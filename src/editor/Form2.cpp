@@ -1,30 +1,18 @@
 #include "editor/Form2.h"
 
-#include "base/ErroreSistema.h"
-#include "catalogue/ApriManuale.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
 #include "editor/PaginaSfondo.h"
 #include "editor/PaginaSpostamento.h"
 #include "model/CopiaRecupero.h"
-#include "model/FileModello.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "platform/IconaGuida.h"
-#include "platform/Messaggi.h"
 #include "platform/Percorsi.h"
-#include "platform/Stampanti.h"
 #include "preview/Frm1.h"
-#include "preview/GeometriaAnteprima.h"
-#include "print/Retino.h"
-#include "print/StampaProva.h"
 #include "ui_Form2.h"
 
-#include <QCloseEvent>
-#include <QScopedValueRollback>
-#include <QScreen>
 #include <QTime>
-#include <QWindow>
 
 namespace {
 
@@ -270,131 +258,6 @@ void Form2::Modifica(Genere genere)
     }
 }
 
-void Form2::Salva_Click()
-{
-    Variato = true;
-    SalvareVariazioni();
-}
-
-bool Form2::SalvareVariazioni()
-{
-    if (!Variato ||
-        !Messaggi::Domanda(this, QStringLiteral("salvare le variazioni"), Messaggi::Risposta::Si)) {
-        return true;
-    }
-    bool salvato = false;
-    Guardia(this, [&] {
-        if (PuoSovrascrivere()) {
-            const PuntatoreOccupato occupato;
-            const QByteArray byte = FileModello::ScriveModello(stato_.Aperto, percorso_);
-            Variato = false;
-            salvato = true;
-            copia_->EliminaOfferte();
-            copia_->Parte(byte);
-        }
-    });
-    return salvato;
-}
-
-void Form2::Elimina_Click()
-{
-    const QString nome = stato_.Aperto.NomeFile;
-    if (!Messaggi::Domanda(this, QStringLiteral("Comferma eliminazione %1 ?").arg(nome),
-                           Messaggi::Risposta::No)) {
-        return;
-    }
-    Percorsi::Elimina(percorso_);
-    copia_->EliminaOfferte();
-    Messaggi::Mostra(this, nome + QStringLiteral(" eliminato"));
-    // Nothing is left to save: asking would bring the deleted file back.
-    Variato = false;
-    close();
-}
-
-void Form2::Command7_Click()
-{
-    if (!Messaggi::Domanda(this, QStringLiteral("Elimino TUTTE le Cornici "),
-                           Messaggi::Risposta::No)) {
-        return;
-    }
-    for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Cornice); ++k) {
-        EliminaElemento(Genere::Cornice, k);
-    }
-    anteprima_->NascondiMarcatori();
-    ModificaConclusa();
-    Chiude();
-}
-
-void Form2::EliminaElemento(Genere genere, int n)
-{
-    if (stato_.Aperto.Presente(genere, n)) {
-        SegnaVariato();
-    }
-    stato_.Aperto.Nome(genere, n).clear();
-    anteprima_->NascondiElemento(genere, n);
-    Pagina(genere).SegnaEliminata(n);
-}
-
-void Form2::Stampa_Click()
-{
-    const bool StampaNome = Messaggi::Domanda(
-        this, QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
-        Messaggi::Risposta::No);
-    const PuntatoreOccupato occupato;
-    const auto stampante = Stampanti::Predefinita();
-    StampaModello(stato_.Aperto, stato_.CartellaModelli, *stampante, StampaNome,
-                  [this](const QString &testo) { Messaggi::Mostra(this, testo); });
-}
-
-void Form2::StampaRetino_Click()
-{
-    const PuntatoreOccupato occupato;
-    const auto stampante = Stampanti::Predefinita();
-    StampaRetino(*stampante);
-}
-
-void Form2::Image1_Click()
-{
-    ApriManuale(ChiaveManuale);
-}
-
-void Form2::Chiude()
-{
-    if (chiuso_ || Form_Unload()) {
-        close();
-    }
-}
-
-bool Form2::Form_Unload()
-{
-    if (chiude_) {
-        return false; // asked already
-    }
-    const QScopedValueRollback<bool> chiude(chiude_, true);
-    if (!SalvareVariazioni()) {
-        return false; // the error was shown; closing now would lose the work
-    }
-    chiuso_ = true;
-    if (copia_) {
-        copia_->EliminaPropria(); // saved, or given up in answer to the question
-    }
-    if (anteprima_) {
-        anteprima_->hide();
-    }
-    return true;
-}
-
-void Form2::closeEvent(QCloseEvent *evento)
-{
-    evento->ignore();
-    Guardia(this, [&] {
-        if (chiuso_ || Form_Unload()) {
-            evento->accept();
-            emit Chiuso();
-        }
-    });
-}
-
 void Form2::MostraPaginaDi(Genere genere)
 {
     if (ui_->SSTab1->currentIndex() == PaginaDi(genere)) {
@@ -411,49 +274,4 @@ void Form2::RidisegnaRighe()
 {
     righe_->SimuloRighe();
     anteprima_->RiancoraManiglie();
-}
-
-void Form2::SistemaFinestre()
-{
-    const QRect schermo = screen()->availableGeometry();
-    move(schermo.topLeft());
-    AdattaAllaCornice();
-    anteprima_->move(schermo.left(), schermo.top() + AltezzaStriscia());
-}
-
-int Form2::AltezzaStriscia() const
-{
-    constexpr double PollicePerTwip = 1.0 / 1440;
-    constexpr int Twip = 3000;
-    return qRound(Twip * PollicePerTwip * screen()->logicalDotsPerInchY());
-}
-
-void Form2::AdattaAllaCornice()
-{
-    // The editor takes the strip that the preview, which fills the rest of the screen, leaves free;
-    // the window's frame belongs to the strip.
-    resize(screen()->availableGeometry().width() - cornice_.left() - cornice_.right(),
-           AltezzaStriscia() - cornice_.top() - cornice_.bottom());
-}
-
-void Form2::GuardaCornice()
-{
-    const QMargins cornice =
-        windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
-    // Only then: the size is the user's afterwards.
-    if (cornice != cornice_) {
-        cornice_ = cornice;
-        AdattaAllaCornice();
-    }
-}
-
-void Form2::showEvent(QShowEvent *)
-{
-    Guardia(this, [this] { GuardaCornice(); });
-}
-
-void Form2::moveEvent(QMoveEvent *)
-{
-    // The frame is known only once the window manager has drawn it, and it moves the window then.
-    Guardia(this, [this] { GuardaCornice(); });
 }

@@ -1,0 +1,103 @@
+// The commands of the editor's buttons for the whole model: save, delete, print.
+
+#include "catalogue/ApriManuale.h"
+#include "editor/Form2.h"
+#include "editor/PaginaElementi.h"
+#include "model/CopiaRecupero.h"
+#include "model/FileModello.h"
+#include "platform/Finestre.h"
+#include "platform/Guardia.h"
+#include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
+#include "platform/Stampanti.h"
+#include "preview/Frm1.h"
+#include "print/Retino.h"
+#include "print/StampaProva.h"
+
+void Form2::Salva_Click()
+{
+    Variato = true;
+    SalvareVariazioni();
+}
+
+bool Form2::SalvareVariazioni()
+{
+    if (!Variato ||
+        !Messaggi::Domanda(this, QStringLiteral("salvare le variazioni"), Messaggi::Risposta::Si)) {
+        return true;
+    }
+    bool salvato = false;
+    Guardia(this, [&] {
+        if (PuoSovrascrivere()) {
+            const PuntatoreOccupato occupato;
+            const QByteArray byte = FileModello::ScriveModello(stato_.Aperto, percorso_);
+            Variato = false;
+            salvato = true;
+            copia_->EliminaOfferte();
+            copia_->Parte(byte);
+        }
+    });
+    return salvato;
+}
+
+void Form2::Elimina_Click()
+{
+    const QString nome = stato_.Aperto.NomeFile;
+    if (!Messaggi::Domanda(this, QStringLiteral("Comferma eliminazione %1 ?").arg(nome),
+                           Messaggi::Risposta::No)) {
+        return;
+    }
+    Percorsi::Elimina(percorso_);
+    copia_->EliminaOfferte();
+    Messaggi::Mostra(this, nome + QStringLiteral(" eliminato"));
+    // Nothing is left to save: asking would bring the deleted file back.
+    Variato = false;
+    close();
+}
+
+void Form2::Command7_Click()
+{
+    if (!Messaggi::Domanda(this, QStringLiteral("Elimino TUTTE le Cornici "),
+                           Messaggi::Risposta::No)) {
+        return;
+    }
+    for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Cornice); ++k) {
+        EliminaElemento(Genere::Cornice, k);
+    }
+    anteprima_->NascondiMarcatori();
+    ModificaConclusa();
+    Chiude();
+}
+
+void Form2::EliminaElemento(Genere genere, int n)
+{
+    if (stato_.Aperto.Presente(genere, n)) {
+        SegnaVariato();
+    }
+    stato_.Aperto.Nome(genere, n).clear();
+    anteprima_->NascondiElemento(genere, n);
+    Pagina(genere).SegnaEliminata(n);
+}
+
+void Form2::Stampa_Click()
+{
+    const bool StampaNome = Messaggi::Domanda(
+        this, QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
+        Messaggi::Risposta::No);
+    const PuntatoreOccupato occupato;
+    const auto stampante = Stampanti::Predefinita();
+    StampaModello(stato_.Aperto, stato_.CartellaModelli, *stampante, StampaNome,
+                  [this](const QString &testo) { Messaggi::Mostra(this, testo); });
+}
+
+void Form2::StampaRetino_Click()
+{
+    const PuntatoreOccupato occupato;
+    const auto stampante = Stampanti::Predefinita();
+    StampaRetino(*stampante);
+}
+
+void Form2::Image1_Click()
+{
+    ApriManuale(ChiaveManuale);
+}
