@@ -1,23 +1,37 @@
 #include "platform/Testo.h"
 
-#include <QFont>
 #include <QFontMetricsF>
+#include <QStringList>
+
+#include <algorithm>
+
+QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel)
+{
+    QFont carattere;
+    // As a list: a name is one family, whatever commas it has.
+    carattere.setFamilies({famiglia.trimmed().isEmpty() ? QStringLiteral("Arial") : famiglia});
+    carattere.setStyleHint(QFont::SansSerif);
+    carattere.setPixelSize(pixel);
+    carattere.setBold(grassetto);
+    carattere.setHintingPreference(QFont::PreferNoHinting);
+    return carattere;
+}
+
+double PuntiDiTesto(double punti)
+{
+    constexpr double PuntiNormali = 8;
+    constexpr double PuntiMassimi = 1638;
+    return punti > 0 ? std::min(punti, PuntiMassimi) : PuntiNormali; // also when it is no number
+}
 
 QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool grassetto)
 {
-    if (!(punti > 0)) {
-        return {0, 0};
-    }
     // Measured at one large size and scaled down: what the font engine rounds to whole pixels
     // becomes too small to matter.
     constexpr int PixelDiRiferimento = 1000;
     constexpr double MillimetriPerPunto = 25.4 / 72;
-    QFont carattere(font);
-    carattere.setPixelSize(PixelDiRiferimento);
-    carattere.setBold(grassetto);
-    carattere.setHintingPreference(QFont::PreferNoHinting);
-    const QFontMetricsF metrica(carattere);
-    const double scala = punti * MillimetriPerPunto / PixelDiRiferimento;
+    const QFontMetricsF metrica(CarattereDiTesto(font, grassetto, PixelDiRiferimento));
+    const double scala = PuntiDiTesto(punti) * MillimetriPerPunto / PixelDiRiferimento;
     return QSizeF(metrica.horizontalAdvance(testo), metrica.height()) * scala;
 }
 

@@ -1,11 +1,20 @@
 #pragma once
 
+#include <QFont>
 #include <QSizeF>
 #include <QString>
 
+/// The font of a text of the model, on the screen as on paper: unhinted, pixel high. A family
+/// without a name is Arial, one that the system lacks falls back to a plain one.
+QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel);
+
+/// The points in which a text of the model is set, on the screen as on paper: a size of zero or
+/// less, or that is no number, is 8; at most 1638.
+double PuntiDiTesto(double punti);
+
 /// Width and height in mm of one line of text as a printer sets it: unhinted, linear metrics that
-/// depend neither on a screen nor on its resolution. punti are typographic points; a size of zero
-/// or less measures nothing.
+/// depend neither on a screen nor on its resolution. Font and size follow CarattereDiTesto and
+/// PuntiDiTesto.
 QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool grassetto);
 
 /// What a sheet can show of the text in one line: control characters and separators of lines are

@@ -5,6 +5,7 @@
 #include "model/StatoProgramma.h"
 #include "model/Tavolozza.h"
 #include "platform/Immagini.h"
+#include "platform/Testo.h"
 #include "preview/ElementiFoglio.h"
 
 #include <algorithm>
@@ -53,7 +54,7 @@ void ElementiFoglio::ImpostaCampo(int i)
     const Campo &campo = stato_.Aperto.Campi[i];
     Etichetta &C1 = EtichettaDi(Genere::Campo, i);
     C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Maschera == MascheraNonStampato},
-                    campo.Testo, campo.Dimensione / stato_.zoom, {0, 0});
+                    campo.Testo, PuntiDiTesto(campo.Dimensione) / stato_.zoom, {0, 0});
     C1.Colloca(QRectF(C1.Posto().topLeft(), C1.MisuraTesto()));
     C1.ImpostaSuggerimento(QStringLiteral("campo ") + campo.Nome + QStringLiteral("  - ") +
                            campo.Descrizione + QStringLiteral(" -'") + RitornoCarrello +
@@ -66,7 +67,7 @@ void ElementiFoglio::ImpostaCornice(int i)
     Etichetta &C2 = EtichettaDi(Genere::Cornice, i);
     C2.ImpostaColore(Colore(cornice.ColoreTesto));
     C2.ImpostaTesto({cornice.Font, cornice.Grassetto != Falso, false}, cornice.Testo,
-                    cornice.Dimensione / stato_.zoom, RientroScritta / stato_.zoom);
+                    PuntiDiTesto(cornice.Dimensione) / stato_.zoom, RientroScritta / stato_.zoom);
     C2.ImpostaBordo(BordoSingolo(cornice.Bordo), Colore(cornice.ColoreCornice));
     QString suggerimento = QStringLiteral("Cornice ") + cornice.Nome;
     if (cornice.Bordo == 0) {

@@ -5,6 +5,7 @@
 #include "model/StatoProgramma.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
+#include "platform/Testo.h"
 #include "preview/Anteprima.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/Foglio.h"
@@ -335,6 +336,6 @@ void Frm1::AggiungeRigheSimulate(const QList<RigaSimulata> &righe)
 {
     for (const RigaSimulata &riga : righe) {
         elementi_->AggiungeRiga(riga.posto, {riga.font, riga.grassetto, false}, riga.testo,
-                                riga.punti);
+                                PuntiDiTesto(riga.punti * stato_.zoom) / stato_.zoom);
     }
 }

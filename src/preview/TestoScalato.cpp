@@ -26,16 +26,6 @@ double Scala(double punti)
     return TestoScalato::PuntiMostrabili(punti) * MillimetriPerPunto / PixelRiferimento;
 }
 
-QFont FontRiferimento(const TestoScalato::Aspetto &aspetto)
-{
-    QFont font;
-    font.setFamilies({aspetto.famiglia});
-    font.setPixelSize(PixelRiferimento);
-    font.setBold(aspetto.grassetto);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
-
 } // namespace
 
 double TestoScalato::PuntiMostrabili(double punti)
@@ -57,7 +47,7 @@ bool TestoScalato::Imposta(const Aspetto &aspetto, const QString &testo)
 
 void TestoScalato::Compone()
 {
-    const QFont font = FontRiferimento(aspetto_);
+    const QFont font = CarattereDiTesto(aspetto_.famiglia, aspetto_.grassetto, PixelRiferimento);
     const QFontMetricsF misure(font);
     salita_ = misure.ascent();
     altezza_ = misure.ascent() + misure.descent();

@@ -17,13 +17,10 @@ namespace {
 constexpr double MillimetriPerPollice = 25.4;
 /// Beyond this no coordinate can reach any sheet, and the painter's numbers would run over.
 constexpr double MillimetriMassimi = 100'000;
-constexpr int PuntiNormali = 8;
-constexpr int PuntiMassimi = 1638;
 /// Fonts are set in twentieths of a point and scaled: printer pixels would round their size, and a
 /// line of 11-point text would be a third of a millimetre out.
 constexpr int UnitaPerPunto = 20;
 constexpr double UnitaPerPollice = 72.0 * UnitaPerPunto;
-constexpr QLatin1String FamigliaNormale("Arial");
 /// More pixels than this per inch are lost on paper.
 constexpr double PuntiImmagine = 600;
 /// A larger picture from a JPEG travels as JPEG: without loss a scan would take a hundred
@@ -57,7 +54,7 @@ Pagina::Pagina(QPrinter &stampante)
     const QPointF origine =
         stampante.pageLayout().paintRectPixels(stampante.resolution()).topLeft();
     pittore_.translate(QPointF(InPixel(angolo.x()), InPixel(angolo.y())) - origine);
-    Font(FamigliaNormale, PuntiNormali);
+    Font({}, 0);
 }
 
 Pagina::~Pagina()
@@ -79,12 +76,7 @@ double Pagina::Altezza() const
 
 void Pagina::Font(const QString &famiglia, int punti, bool grassetto)
 {
-    QFont font(famiglia.trimmed().isEmpty() ? QString(FamigliaNormale) : famiglia);
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(UnitaPerPunto * (punti < 1 ? PuntiNormali : std::min(punti, PuntiMassimi)));
-    font.setBold(grassetto);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font_ = font;
+    font_ = CarattereDiTesto(famiglia, grassetto, UnitaPerPunto * int(PuntiDiTesto(punti)));
     const QFontMetricsF misure(font_, &stampante_);
     const double millimetri = MillimetriPerPollice / UnitaPerPollice;
     ascendente_ = misure.ascent() * millimetri;

@@ -30,8 +30,8 @@ public:
     QPointF Posizione() const { return posizione_; } ///< current position, mm
     void Posizione(double x, double y) { posizione_ = {x, y}; }
 
-    /// Sizes below 1 point print as 8 points, absurdly large ones as 1638; an empty or unknown
-    /// family falls back to a plain one.
+    /// The font and the size follow CarattereDiTesto and PuntiDiTesto; until the first call they
+    /// are those of no name and of size 0.
     void Font(const QString &famiglia, int punti, bool grassetto = false);
     QRgb Colore() const { return colore_; } ///< of texts and lines, black at first
     void Colore(QRgb colore) { colore_ = colore | 0xFF000000; }

@@ -24,7 +24,10 @@ private slots:
     void CresceInProporzioneAllaDimensione();
     void IlGrassettoEPiuLargo();
     void IlTestoVuotoHaSoloAltezza();
-    void DimensioneZeroONegativaNonMisura();
+    void PuntiDiUnTesto_data();
+    void PuntiDiUnTesto();
+    void SenzaNomeEArial();
+    void UnNomeConVirgoleEUnFontSolo();
     void UnFontCheNonEsisteSiMisuraLoStesso();
     void SuUnaRigaSoloCioCheSiVede();
 };
@@ -87,10 +90,47 @@ void TestTesto::IlTestoVuotoHaSoloAltezza()
     QVERIFY(misura.height() > 3);
 }
 
-void TestTesto::DimensioneZeroONegativaNonMisura()
+void TestTesto::PuntiDiUnTesto_data()
 {
-    QCOMPARE(MisuraTesto(QStringLiteral("abc"), Arial, 0, false), QSizeF(0, 0));
-    QCOMPARE(MisuraTesto(QStringLiteral("abc"), Arial, -3, false), QSizeF(0, 0));
+    QTest::addColumn<double>("dimensione");
+    QTest::addColumn<double>("punti");
+    QTest::newRow("zero") << 0.0 << 8.0;
+    QTest::newRow("negativa") << -3.0 << 8.0;
+    QTest::newRow("la minima di un modello") << -32768.0 << 8.0;
+    QTest::newRow("non un numero") << qQNaN() << 8.0;
+    QTest::newRow("mezzo punto") << 0.5 << 0.5;
+    QTest::newRow("1") << 1.0 << 1.0;
+    QTest::newRow("11") << 11.0 << 11.0;
+    QTest::newRow("enorme") << 32767.0 << 1638.0;
+    QTest::newRow("infinita") << qInf() << 1638.0;
+}
+
+void TestTesto::PuntiDiUnTesto()
+{
+    QFETCH(double, dimensione);
+    QFETCH(double, punti);
+    QCOMPARE(PuntiDiTesto(dimensione), punti);
+    QCOMPARE(MisuraTesto(QStringLiteral("abc"), Arial, dimensione, false),
+             MisuraTesto(QStringLiteral("abc"), Arial, punti, false));
+}
+
+void TestTesto::SenzaNomeEArial()
+{
+    const QFont arial = CarattereDiTesto(Arial, true, 100);
+    QCOMPARE(CarattereDiTesto(QString(), true, 100), arial);
+    QCOMPARE(CarattereDiTesto(QStringLiteral("  "), true, 100), arial);
+    QCOMPARE(arial.families(), QStringList{Arial});
+    QCOMPARE(arial.pixelSize(), 100);
+    QVERIFY(arial.bold());
+    QVERIFY(!CarattereDiTesto(Arial, false, 100).bold());
+    QCOMPARE(MisuraTesto(QStringLiteral("abc"), QString(), 11, false),
+             MisuraTesto(QStringLiteral("abc"), Arial, 11, false));
+}
+
+void TestTesto::UnNomeConVirgoleEUnFontSolo()
+{
+    const QString nome = QStringLiteral("Courier New, Arial");
+    QCOMPARE(CarattereDiTesto(nome, false, 100).families(), QStringList{nome});
 }
 
 void TestTesto::UnFontCheNonEsisteSiMisuraLoStesso()

@@ -1,5 +1,6 @@
 #include "base/ErroreSistema.h"
 #include "model/Tavolozza.h"
+#include "platform/Testo.h"
 #include "preview/Banco.h"
 #include "support/Errori.h"
 #include "support/ImmaginiDiProva.h"
@@ -37,6 +38,9 @@ private slots:
     void BarratoSoloSeMascheraNo_data();
     void BarratoSoloSeMascheraNo();
     void PuntiDivisiPerZoom();
+    void SenzaFontODimensioneComeSuCarta_data();
+    void SenzaFontODimensioneComeSuCarta();
+    void RigheSenzaFontODimensioneComeIlCampo();
     void BordoCornice_data();
     void BordoCornice();
     void BordoDipintoNelColoreDellaCornice();
@@ -136,6 +140,60 @@ void tst_ElementiFoglio::PuntiDivisiPerZoom()
     banco.frm->ImpostazioniCornice(1);
     QCOMPARE(banco.C1(1)->Punti(), 5.0);
     QCOMPARE(banco.C2(1)->Punti(), 4.5);
+}
+
+void tst_ElementiFoglio::SenzaFontODimensioneComeSuCarta_data()
+{
+    QTest::addColumn<QString>("font");
+    QTest::addColumn<int>("dimensione");
+    QTest::addColumn<double>("zoom");
+    QTest::newRow("font vuoto") << QString() << 8 << 1.0;
+    QTest::newRow("font di blank") << QStringLiteral(" ") << 8 << 1.7;
+    QTest::newRow("dimensione 0") << QStringLiteral("Arial") << 0 << 1.0;
+    QTest::newRow("dimensione -5") << QStringLiteral("Arial") << -5 << 2.0;
+    QTest::newRow("nessuno dei due") << QString() << 0 << 1.7;
+}
+
+void tst_ElementiFoglio::SenzaFontODimensioneComeSuCarta()
+{
+    QFETCH(QString, font);
+    QFETCH(int, dimensione);
+    QFETCH(double, zoom);
+    Banco banco(zoom);
+    const QString testo = QStringLiteral("Totale documento");
+    banco.Campo(QStringLiteral("Totale"), 10, 10, testo);
+    banco.modello.Campi[1].Font = font;
+    banco.modello.Campi[1].Dimensione = qint16(dimensione);
+    banco.Cornice(10, 30, 80, 10);
+    banco.modello.Cornici[1].Testo = testo;
+    banco.modello.Cornici[1].Font = font;
+    banco.modello.Cornici[1].Dimensione = qint16(dimensione);
+    banco.frm->ImpostazioniCampo(1);
+    banco.frm->ImpostazioniCornice(1);
+    // What the printer sets: Arial in 8 points.
+    const QSizeF carta = MisuraTesto(testo, QStringLiteral("Arial"), 8, false);
+    for (const Etichetta *etichetta : {banco.C1(1), banco.C2(1)}) {
+        QCOMPARE(etichetta->Punti(), 8 / zoom);
+        const QSizeF misura = etichetta->MisuraTesto() * zoom;
+        QVERIFY2(qAbs(misura.width() - carta.width()) < 0.1 &&
+                     qAbs(misura.height() - carta.height()) < 0.1,
+                 qPrintable(QStringLiteral("%1 x %2").arg(misura.width()).arg(misura.height())));
+    }
+}
+
+void tst_ElementiFoglio::RigheSenzaFontODimensioneComeIlCampo()
+{
+    Banco banco(2);
+    const auto fotografia = [&](const QString &font, double punti) {
+        banco.frm->TogliRigheSimulate();
+        banco.frm->AggiungeRigheSimulate(
+            {{QRectF(20, 30, 80, 5), font, punti, false, QString(200, QChar(0xa4))}});
+        return banco.Fotografia();
+    };
+    const QImage normale = fotografia(QStringLiteral("Arial"), 8.0 / 2);
+    QVERIFY(normale != fotografia(QStringLiteral("Arial"), 5.0 / 2));
+    QCOMPARE(fotografia(QString(), 0), normale);
+    QCOMPARE(fotografia(QString(), -5.0 / 2), normale);
 }
 
 void tst_ElementiFoglio::BordoCornice_data()

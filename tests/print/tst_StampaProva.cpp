@@ -1,6 +1,7 @@
 #include "FoglioDiProva.h"
 
 #include "model/Tavolozza.h"
+#include "platform/Testo.h"
 #include "print/Pagina.h"
 #include "support/Errori.h"
 #include "support/Tempi.h"
@@ -82,6 +83,8 @@ private slots:
     void valoriAssurdi_data();
     void valoriAssurdi();
     void fontSconosciuto();
+    void senzaFontODimensione_data();
+    void senzaFontODimensione();
     void stampanteCheRifiuta();
     void discoPieno();
     void ordineDeiMessaggi();
@@ -582,6 +585,36 @@ void tst_StampaProva::fontSconosciuto()
     for (const auto &carattere : pdf.Caratteri()) {
         QVERIFY2(carattere.Nome.contains(QLatin1String("Sans")), qPrintable(carattere.Nome));
     }
+}
+
+void tst_StampaProva::senzaFontODimensione_data()
+{
+    QTest::addColumn<QString>("font");
+    QTest::addColumn<int>("dimensione");
+    QTest::newRow("no font") << QString() << 8;
+    QTest::newRow("size 0") << QStringLiteral("Arial") << 0;
+    QTest::newRow("size -5") << QStringLiteral("Arial") << -5;
+    QTest::newRow("neither") << QString() << 0;
+}
+
+void tst_StampaProva::senzaFontODimensione()
+{
+    QFETCH(QString, font);
+    QFETCH(int, dimensione);
+    FoglioDiProva foglio;
+    const QString testo = QStringLiteral("0123456789").repeated(4);
+    foglio.ConCampo(QStringLiteral("A"), testo, 10, 10, dimensione).Font = font;
+    const QString scritta = QStringLiteral("9876543210").repeated(4);
+    Cornice &cornice = foglio.ConCornice({10, 30, 80, 10}, 0);
+    cornice.Testo = scritta;
+    cornice.Font = font;
+    cornice.Dimensione = qint16(dimensione);
+    const LettorePdf pdf = foglio.Stampa();
+    // As wide as what measuring, and with it the preview, says.
+    const double larghezza = MisuraTesto(testo, font, dimensione, false).width();
+    QVERIFY(Vicini(larghezza, LarghezzaDisegnata(testo, QStringLiteral("Arial"), 8, false)));
+    QVERIFY(Vicini(pdf.Parola1(testo).width(), larghezza));
+    QVERIFY(Vicini(pdf.Parola1(scritta).width(), larghezza));
 }
 
 void tst_StampaProva::stampanteCheRifiuta()
