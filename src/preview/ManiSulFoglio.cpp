@@ -30,6 +30,11 @@ ManiSulFoglio::Cattura ManiSulFoglio::Bersaglio(QPointF punto) const
             return {Preso::Maniglia, genere, maniglia.Tag.toInt()};
         }
     }
+    const ControlloElemento *elemento = elementi_.ElementoIn(punto);
+    // A field in front is pointed at, whatever edge lies below it.
+    if (elemento != nullptr && elemento->genere == Genere::Campo) {
+        return {Preso::Elemento, Genere::Campo, elemento->indice};
+    }
     // Pointing at a frame sends it behind the others, so the edge of the selected one must be found
     // wherever the stack has put it: otherwise nobody could grip a frame that lies in another.
     for (const Genere genere : {Genere::Cornice, Genere::Immagine}) {
@@ -37,7 +42,7 @@ ManiSulFoglio::Cattura ManiSulFoglio::Bersaglio(QPointF punto) const
             return {Preso::Elemento, genere, elementi_.Selezionato(genere)};
         }
     }
-    if (const ControlloElemento *elemento = elementi_.ElementoIn(punto)) {
+    if (elemento != nullptr) {
         return {Preso::Elemento, elemento->genere, elemento->indice};
     }
     return {Preso::Foglio};

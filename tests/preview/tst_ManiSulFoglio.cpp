@@ -85,6 +85,8 @@ private slots:
     void MaiOltreIlFoglio();
     void BordoVietaIlRidimensionamento_data();
     void BordoVietaIlRidimensionamento();
+    void CampoDavantiAlBordo_data();
+    void CampoDavantiAlBordo();
     void SoloLaSelezionataSiRidimensiona();
     void PremutoAlCentroNonRidimensiona();
     void CorniceDentroUnAltraSiRidimensiona();
@@ -737,6 +739,42 @@ void tst_ManiSulFoglio::BordoVietaIlRidimensionamento()
     banco.Trascina({89.5, 50}, {120, 50});
     QCOMPARE(banco.modello.Cornici[1].Larghezza > 80, ridimensiona);
     QCOMPARE(banco.segnali.contains(QStringLiteral("Variato")), ridimensiona);
+}
+
+void tst_ManiSulFoglio::CampoDavantiAlBordo_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::newRow("sul bordo di una cornice") << Genere::Cornice;
+    QTest::newRow("sul bordo di un'immagine") << Genere::Immagine;
+}
+
+void tst_ManiSulFoglio::CampoDavantiAlBordo()
+{
+    QFETCH(Genere, genere);
+    Banco banco;
+    if (genere == Genere::Cornice) {
+        banco.Cornice(30, 30, 60, 40);
+    } else {
+        banco.Immagine(30, 30, 60, 40);
+    }
+    banco.Campo(QStringLiteral("Totale"), 85, 50, QStringLiteral("123456"));
+    banco.frm->Seleziona(genere, 1);
+    const QPointF sulBordo(89.5, 51.5);
+    QVERIFY(banco.C1(1)->Posto().contains(sulBordo));
+    banco.Muove(sulBordo);
+    QVERIFY(banco.segnali.contains(QStringLiteral("ElementoPuntato 0 1")));
+    QCOMPARE(banco.Vista()->cursor().shape(), Qt::ArrowCursor);
+    banco.Trascina(sulBordo, {110, 51.5});
+    QCOMPARE(genere == Genere::Cornice ? banco.modello.Cornici[1].Larghezza
+                                       : banco.modello.Immagini[1].Larghezza,
+             60.0);
+    QVERIFY(!banco.segnali.contains(QStringLiteral("Variato")));
+    banco.segnali.clear();
+    banco.CliccaDueVolte(sulBordo);
+    QVERIFY(banco.segnali.contains(QStringLiteral("RichiestaProprieta 0 1")));
+    // Where no field lies, the same edge is gripped.
+    banco.Trascina({89.5, 40}, {110, 40});
+    QVERIFY(banco.segnali.contains(QStringLiteral("Variato")));
 }
 
 void tst_ManiSulFoglio::SoloLaSelezionataSiRidimensiona()
