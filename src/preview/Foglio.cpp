@@ -90,9 +90,11 @@ bool Foglio::viewportEvent(QEvent *evento)
 
 void Foglio::MostraSuggerimento(const QPoint &locale, const QPoint &schermo)
 {
-    const QString testo =
-        ascolta_ == nullptr ? QString() : ascolta_->Suggerimento(geometria_.Millimetri(locale));
-    QToolTip::showText(schermo, PerSuggerimento(testo), viewport());
+    const Spiegazione spiegazione =
+        ascolta_ == nullptr ? Spiegazione{} : ascolta_->Suggerimento(geometria_.Millimetri(locale));
+    // An element is also pointed at a little outside its edges, or when it is too small to be hit.
+    const QRect posto = geometria_.Pixel(spiegazione.posto).united(QRect(locale, QSize(1, 1)));
+    QToolTip::showText(schermo, PerSuggerimento(spiegazione.testo), viewport(), posto);
 }
 
 void Foglio::Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const EventoMouse &))

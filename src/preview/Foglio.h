@@ -16,6 +16,14 @@ struct EventoMouse
     Qt::KeyboardModifiers tasti;
 };
 
+/// The hint for a point of the sheet.
+struct Spiegazione
+{
+    QString testo; ///< may hold carriage returns; empty: none
+    QRectF
+        posto; ///< mm of screen, of what the hint is about: the hint goes when the pointer leaves
+};
+
 /// Who acts on the mouse over the sheet. What these throw ends in a message box.
 class AscoltaMouse
 {
@@ -25,8 +33,7 @@ public:
     virtual void Muove(const EventoMouse &evento) = 0;
     virtual void Rilascia(const EventoMouse &evento) = 0;
     virtual void PremeDueVolte(const EventoMouse &evento) = 0;
-    /// The hint for a point; may hold carriage returns.
-    virtual QString Suggerimento(QPointF punto) const = 0;
+    virtual Spiegazione Suggerimento(QPointF punto) const = 0;
 };
 
 /// The sheet `P1`: a view of the whole scene, one scene unit to the millimetre of screen. It never

@@ -246,8 +246,9 @@ void ManiSulFoglio::RilasciaElemento(const Cattura &preso, const EventoMouse &ev
     }
 }
 
-QString ManiSulFoglio::Suggerimento(QPointF punto) const
+Spiegazione ManiSulFoglio::Suggerimento(QPointF punto) const
 {
     const Controllo *controllo = ControlloDi(Bersaglio(punto));
-    return controllo == nullptr ? QString() : controllo->toolTip();
+    return controllo == nullptr ? Spiegazione{}
+                                : Spiegazione{controllo->toolTip(), controllo->Posto()};
 }

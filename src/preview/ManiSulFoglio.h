@@ -35,7 +35,7 @@ public:
     void Muove(const EventoMouse &evento) override;
     void Rilascia(const EventoMouse &evento) override;
     void PremeDueVolte(const EventoMouse &evento) override;
-    QString Suggerimento(QPointF punto) const override;
+    Spiegazione Suggerimento(QPointF punto) const override;
 
 signals:
     void ElementoPuntato(Genere genere, int i);

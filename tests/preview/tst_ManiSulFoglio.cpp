@@ -55,6 +55,7 @@ private slots:
     void ElementiMinuscoliSiPuntano();
     void PosizioneDelPuntatoreSoloConSinistro();
     void Suggerimenti();
+    void IlSuggerimentoSeNeVaConIlPuntatore();
     // Dragging
     void TrascinaCampo_data() { RigheDiZoom(); }
     void TrascinaCampo();
@@ -319,6 +320,23 @@ void tst_ManiSulFoglio::Suggerimenti()
     QApplication::sendEvent(banco.Vista(), &aiuto);
     QTRY_COMPARE(QToolTip::text(), QStringLiteral("campo uno  - d -'\n2 ##"));
     QToolTip::hideText();
+}
+
+void tst_ManiSulFoglio::IlSuggerimentoSeNeVaConIlPuntatore()
+{
+    Banco banco;
+    banco.Cornice(30, 30, 60, 40);
+    banco.Muove({50, 50});
+    QHelpEvent aiuto(QEvent::ToolTip, banco.Pixel({50, 50}),
+                     banco.Vista()->mapToGlobal(banco.Pixel({50, 50})));
+    QApplication::sendEvent(banco.Vista(), &aiuto);
+    QTRY_VERIFY(QToolTip::isVisible());
+    const QString mostrato = QToolTip::text();
+    QVERIFY(mostrato.startsWith(QLatin1String("Cornice ")));
+    banco.Muove({80, 60});
+    QCOMPARE(QToolTip::text(), mostrato); // still inside: it stays
+    banco.Muove({120, 100});
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void tst_ManiSulFoglio::TrascinaCampo()
