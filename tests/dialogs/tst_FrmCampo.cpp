@@ -1,5 +1,6 @@
 #include "dialogs/FrmCampo.h"
 
+#include "dialogs/Mnemonici.h"
 #include "dialogs/RegistroSegnali.h"
 #include "platform/Finestre.h"
 #include "support/Controlli.h"
@@ -87,6 +88,9 @@ private slots:
     void init() { QLocale::setDefault(QLocale::c()); }
 
     void TitoloNomiETesti();
+    void DidascalieDelleCaselle_data();
+    void DidascalieDelleCaselle();
+    void MnemoniciUnici();
     void OgniControlloHaLArgomentoDellaGuida();
     void ListeDeiFontDelleDimensioniEDelleMaschere();
     void RiempireDueVolteNonRaddoppiaLeListe();
@@ -167,6 +171,48 @@ void TestFrmCampo::TitoloNomiETesti()
     suggerimento("Command2", "sostituisce su tutti i campi il font");
     suggerimento("PConfemaCampo", "click per aggiornare il font sull'anteprima");
     suggerimento("ComboMask", "selezione maschera di stampa diversa da quella prefissata");
+}
+
+void TestFrmCampo::DidascalieDelleCaselle_data()
+{
+    QTest::addColumn<QString>("casella");
+    QTest::addColumn<QString>("didascalia");
+    const auto riga = [](const char *casella, const char *didascalia) {
+        QTest::newRow(casella) << QString::fromUtf8(casella) << QString::fromUtf8(didascalia);
+    };
+    riga("Nome", "Nome ");
+    riga("Testo", "Testo di prova ");
+    riga("Maschera", "maschera");
+    riga("MascheraDefault", "maschera default");
+    riga("ComboMask", "cambia maschera");
+    riga("ComboDim", "Dim.");
+    riga("X", "posizione X/Y");
+}
+
+void TestFrmCampo::DidascalieDelleCaselle()
+{
+    QFETCH(QString, casella);
+    const Prova p;
+    QStringList didascalie;
+    for (const QLabel *etichetta : p.dialogo.findChildren<QLabel *>()) {
+        if (etichetta->buddy() != nullptr && etichetta->buddy()->objectName() == casella) {
+            didascalie.append(etichetta->text().remove(u'&'));
+        }
+    }
+    QFETCH(QString, didascalia);
+    QCOMPARE(didascalie, QStringList{didascalia});
+    QCOMPARE(Trova<QGroupBox>(p.dialogo, "Frame1")->title(),
+             QStringLiteral("Font, dimensione e posizione"));
+}
+
+void TestFrmCampo::MnemoniciUnici()
+{
+    Prova p;
+    QCOMPARE(MnemoniciRipetuti(p.dialogo, 15), QStringList());
+    Digita(p.dialogo, "Maschera", QStringLiteral("No"));
+    QCOMPARE(Trova<QAbstractButton>(p.dialogo, "NonStampaCampo")->text().remove(u'&'),
+             QStringLiteral("ripristina stampa campo"));
+    QCOMPARE(MnemoniciRipetuti(p.dialogo, 15), QStringList());
 }
 
 void TestFrmCampo::OgniControlloHaLArgomentoDellaGuida()

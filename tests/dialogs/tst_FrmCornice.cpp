@@ -1,5 +1,6 @@
 #include "dialogs/FrmCornice.h"
 
+#include "dialogs/Mnemonici.h"
 #include "dialogs/RegistroSegnali.h"
 #include "model/Tavolozza.h"
 #include "platform/Finestre.h"
@@ -73,6 +74,7 @@ private slots:
     void init() { QLocale::setDefault(QLocale::c()); }
 
     void TitoloNomiETesti();
+    void MnemoniciUnici();
     void OgniControlloHaLArgomentoDellaGuida();
     void ListeDeiFontEDelleDimensioni();
     void CaricaLaCornice();
@@ -157,11 +159,22 @@ void TestFrmCornice::TitoloNomiETesti()
                 "(default 3)");
     haEtichetta("Colore cornice: 0=nero 1=blu 2=azzurro 3=grigio 4=grigiochiaro 5=rosso 6=verde "
                 "7=giallo)");
-    QCOMPARE(Trova<QWidget>(p.dialogo, "Testo")->toolTip(),
-             QStringLiteral("scritta che compare sull'anteprima"));
-    QCOMPARE(Trova<QWidget>(p.dialogo, "Confema")->toolTip(),
-             QStringLiteral("click per aggiornare il font sull'anteprima"));
-    QCOMPARE(Trova<QWidget>(p.dialogo, "X")->toolTip(), QStringLiteral("coordinate in millimetri"));
+    const auto suggerimento = [&](const char *nome, const char *testo) {
+        QCOMPARE(Trova<QWidget>(p.dialogo, nome)->toolTip(), QString::fromUtf8(testo));
+    };
+    suggerimento("Testo", "scritta che compare sull'anteprima");
+    suggerimento("Confema", "click per aggiornare il font sull'anteprima");
+    suggerimento("X", "coordinate in millimetri");
+    suggerimento("Y", "coordinate in millimetri");
+    suggerimento("Bold", "grassetto");
+    suggerimento("ComboDim", "dimensione carattere");
+    suggerimento("ComboFont", "elenco fonts di caratteri disponibili");
+}
+
+void TestFrmCornice::MnemoniciUnici()
+{
+    const Prova p;
+    QCOMPARE(MnemoniciRipetuti(p.dialogo, 15), QStringList());
 }
 
 void TestFrmCornice::OgniControlloHaLArgomentoDellaGuida()

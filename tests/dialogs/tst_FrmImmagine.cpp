@@ -1,5 +1,6 @@
 #include "dialogs/FrmImmagine.h"
 
+#include "dialogs/Mnemonici.h"
 #include "dialogs/RegistroSegnali.h"
 #include "platform/Finestre.h"
 #include "support/Controlli.h"
@@ -94,6 +95,7 @@ private slots:
     void init() { QLocale::setDefault(QLocale::c()); }
 
     void TitoloNomiETesti();
+    void MnemoniciUnici();
     void OgniControlloHaLArgomentoDellaGuida();
     void ElencoDeiFile();
     void CartellaCheNonCePiu();
@@ -147,7 +149,10 @@ void TestFrmImmagine::TitoloNomiETesti()
              QStringLiteral("Conferma impostazioni immagine"));
     QCOMPARE(Trova<QWidget>(p.dialogo, "Confema")->toolTip(),
              QStringLiteral("click per aggiornare il font sull'anteprima"));
-    QCOMPARE(Trova<QWidget>(p.dialogo, "Y")->toolTip(), QStringLiteral("coordinate in millimetri"));
+    for (const char *casella : {"X", "Y"}) {
+        QCOMPARE(Trova<QWidget>(p.dialogo, casella)->toolTip(),
+                 QStringLiteral("coordinate in millimetri"));
+    }
     QStringList etichette;
     for (const QLabel *etichetta : p.dialogo.findChildren<QLabel *>()) {
         etichette.append(etichetta->text().remove(u'&'));
@@ -159,6 +164,12 @@ void TestFrmImmagine::TitoloNomiETesti()
         QVERIFY2(etichette.contains(QString::fromUtf8(testo)), testo);
     }
     QCOMPARE(Trova<QLabel>(p.dialogo, "Label4")->text(), p.stato.CartellaModelli);
+}
+
+void TestFrmImmagine::MnemoniciUnici()
+{
+    const Prova p;
+    QCOMPARE(MnemoniciRipetuti(p.dialogo, 9), QStringList());
 }
 
 void TestFrmImmagine::OgniControlloHaLArgomentoDellaGuida()
