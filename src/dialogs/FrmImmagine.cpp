@@ -3,6 +3,7 @@
 #include "ui_FrmImmagine.h"
 
 #include "model/Numeri.h"
+#include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "platform/Immagini.h"
 #include "platform/Messaggi.h"
@@ -131,6 +132,7 @@ void FrmImmagine::ImpostaImmagine()
 
 QSizeF FrmImmagine::MisuraImmagine() const
 {
+    const PuntatoreOccupato occupato; // a scan takes seconds
     try {
         const QString percorso =
             Immagini::PercorsoInCartella(Stato().CartellaModelli, Caselle().Testo(ui_->Nome));

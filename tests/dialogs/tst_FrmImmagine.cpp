@@ -114,6 +114,7 @@ private slots:
     void FormatiLetti_data();
     void FormatiLetti();
     void ScansioneA4A600PuntiPerPollice();
+    void ClessidraMentreMisura();
     void FotografiaRuotata();
     void DanneggiataOMancanteSenzaDomanda_data();
     void DanneggiataOMancanteSenzaDomanda();
@@ -400,6 +401,38 @@ void TestFrmImmagine::ScansioneA4A600PuntiPerPollice()
     QCOMPARE(p.robot.Predefiniti(), QStringList({QStringLiteral("93")}));
     QCOMPARE(qRound(p.Seconda().Larghezza), 21);
     QCOMPARE(qRound(p.Seconda().Altezza * 10), 297);
+}
+
+void TestFrmImmagine::ClessidraMentreMisura()
+{
+    // The decoder complains of a few bytes that lack before the picture's end, and so tells when it
+    // is at work.
+    QByteArray byte = Figura("jpeg", 100, 40);
+    byte.remove(byte.size() - 22, 20);
+    Prova p;
+    p.Aggiunge("foto.jpg", byte);
+    bool normaleMentreChiede = false;
+    p.robot.Agisce([&](QDialog *domanda) {
+        normaleMentreChiede = QGuiApplication::overrideCursor() == nullptr;
+        domanda->reject();
+    });
+    static QList<int> puntatori;
+    puntatori.clear();
+    const QtMessageHandler prima =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &testo) {
+            if (testo.contains(QLatin1String("JPEG"))) {
+                const QCursor *puntatore = QGuiApplication::overrideCursor();
+                puntatori.append(puntatore == nullptr ? -1 : int(puntatore->shape()));
+            }
+        });
+    p.Clicca("foto.jpg");
+    qInstallMessageHandler(prima);
+    QVERIFY(!puntatori.isEmpty());
+    for (const int puntatore : std::as_const(puntatori)) {
+        QCOMPARE(puntatore, int(Qt::WaitCursor));
+    }
+    QVERIFY(normaleMentreChiede);
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
 
 void TestFrmImmagine::FotografiaRuotata()
