@@ -135,9 +135,9 @@ void FrmCampo::PConfemaCampo_Click()
         ControllaLunghezzaTesto();
         const int n = Indice();
         ControllaNomeUnico(n, QStringLiteral("nome già esistente"));
+        ControllaNomeScritto();
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
-        ControllaNomeScritto();
 
         Campo &campo = Aperto().Campi[n];
         ScriveElemento(n, posto);

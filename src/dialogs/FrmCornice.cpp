@@ -153,13 +153,13 @@ void FrmCornice::Confema_Click()
         Misure misure{LarghezzaScritta(), 0};
         ControllaColore(ui_->ColoreTesto, QStringLiteral("Colore errato"));
         ControllaColore(ui_->ColoreCorn, QStringLiteral("Colore cornice errato"));
+        ControllaNomeScritto();
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
         const bool etichetta = ui_->OptEtichetta->isChecked();
         if (!etichetta) {
             misure.Altezza = Doppio(ui_->Alt);
         }
-        ControllaNomeScritto();
 
         Cornice &cornice = Aperto().Cornici[n];
         ScriveElemento(n, posto);

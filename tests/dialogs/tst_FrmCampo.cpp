@@ -436,6 +436,7 @@ void TestFrmCampo::NomeVuotoRifiutato()
     const Modello prima = p.stato.Aperto;
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QString());
+    Digita(p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
     Preme(p.dialogo, "PConfemaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: non può essere vuoto")}));
     QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());

@@ -420,6 +420,7 @@ void TestFrmCornice::NomeVuotoRifiutato()
     const Modello prima = p.stato.Aperto;
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QString());
+    Digita(p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: non può essere vuoto")}));
     QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
