@@ -31,6 +31,10 @@ struct Campo
 /// A rectangle, a fixed caption, or both; members in file order.
 struct Cornice
 {
+    /// Where the caption starts, mm from the frame's top-left corner, on paper and on the preview.
+    static constexpr double RientroScritta = 1.0;
+    static constexpr double DiscesaScritta = 0.4;
+
     QString Nome;
     QString Testo;
     double X = 0; ///< left edge, mm

@@ -16,15 +16,7 @@ namespace {
 constexpr QLatin1String MascheraNonStampato("No");
 constexpr QChar RitornoCarrello(13);
 
-/// Where the printer sets a frame's caption, mm of paper from the frame's corner.
-constexpr QPointF RientroScritta(1.0, 0.4);
-
-/// A number outside the palette, from a damaged file, shows black and stays in the model.
-QColor Colore(int indice)
-{
-    return indice < 0 || indice >= Tavolozza::Colori ? QColor(Qt::black)
-                                                     : QColor(Tavolozza::Rgb(indice));
-}
+constexpr QPointF AngoloScritta(Cornice::RientroScritta, Cornice::DiscesaScritta);
 
 /// The whole part is the border kind; a thicker border than a single line is never shown.
 bool BordoSingolo(double bordo)
@@ -65,10 +57,11 @@ void ElementiFoglio::ImpostaCornice(int i)
 {
     const Cornice &cornice = stato_.Aperto.Cornici[i];
     Etichetta &C2 = EtichettaDi(Genere::Cornice, i);
-    C2.ImpostaColore(Colore(cornice.ColoreTesto));
+    C2.ImpostaColore(QColor(Tavolozza::RgbONero(cornice.ColoreTesto)));
     C2.ImpostaTesto({cornice.Font, cornice.Grassetto != Falso, false}, cornice.Testo,
-                    PuntiDiTesto(cornice.Dimensione) / stato_.zoom, RientroScritta / stato_.zoom);
-    C2.ImpostaBordo(BordoSingolo(cornice.Bordo), Colore(cornice.ColoreCornice));
+                    PuntiDiTesto(cornice.Dimensione) / stato_.zoom, AngoloScritta / stato_.zoom);
+    C2.ImpostaBordo(BordoSingolo(cornice.Bordo),
+                    QColor(Tavolozza::RgbONero(cornice.ColoreCornice)));
     QString suggerimento = QStringLiteral("Cornice ") + cornice.Nome;
     if (cornice.Bordo == 0) {
         suggerimento += QStringLiteral(" (senza bordo)");

@@ -12,16 +12,8 @@ namespace {
 
 constexpr QLatin1String MascheraNonStampata("NO");
 constexpr double SpessorePredefinito = 0.3; ///< mm, of a border value without a fraction
-constexpr double RientroEtichetta = 1.0;    ///< mm from the left edge of the frame
-constexpr double DiscesaEtichetta = 0.4;    ///< mm from its top edge
 constexpr double TipoRettangolo = 1;
 constexpr double TipoLineaSuperiore = 2;
-
-/// Black for an index that is none: a model file may hold any number.
-QRgb ColoreStampato(int indice)
-{
-    return indice >= 0 && indice < Tavolozza::Colori ? QRgb(Tavolozza::Rgb(indice)) : 0;
-}
 
 /// Millimetres as the diagnostic shows them.
 QString Testo(double millimetri)
@@ -82,9 +74,9 @@ void StampaProva::StampaCornice(int i)
     const double tipo = std::trunc(cornice.Bordo);
     const double frazione = cornice.Bordo - tipo;
     const Etichetta etichetta{cornice.Testo, cornice.Font, cornice.Dimensione,
-                              cornice.Grassetto != Falso, ColoreStampato(cornice.ColoreTesto)};
+                              cornice.Grassetto != Falso, Tavolozza::RgbONero(cornice.ColoreTesto)};
     Linea(cornice.X, cornice.Y, cornice.X + cornice.Larghezza, cornice.Y + cornice.Altezza,
-          etichetta, ColoreStampato(cornice.ColoreCornice), tipo,
+          etichetta, Tavolozza::RgbONero(cornice.ColoreCornice), tipo,
           frazione == 0 ? SpessorePredefinito : frazione);
 }
 
@@ -95,7 +87,7 @@ void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etiche
         const QRgb prima = pagina_.Colore();
         pagina_.Font(etichetta.Font, etichetta.Dimensione, etichetta.Grassetto);
         pagina_.Colore(etichetta.Colore);
-        pagina_.Posizione(x1 + RientroEtichetta, y1 + DiscesaEtichetta);
+        pagina_.Posizione(x1 + Cornice::RientroScritta, y1 + Cornice::DiscesaScritta);
         pagina_.Stampa(etichetta.Testo);
         pagina_.Colore(prima);
     }

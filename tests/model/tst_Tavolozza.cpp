@@ -45,12 +45,14 @@ void tst_Tavolozza::Colori()
     QFETCH(int, indice);
     QFETCH(quint32, rgb);
     QCOMPARE(Tavolozza::Rgb(indice), rgb);
+    QCOMPARE(Tavolozza::RgbONero(indice), rgb);
 }
 
 void tst_Tavolozza::FuoriDallaTavolozza()
 {
     for (const int indice : {-32768, -1, 16, 32767}) {
         QCOMPARE(ErroreDi([indice] { Tavolozza::Rgb(indice); }), 5);
+        QCOMPARE(Tavolozza::RgbONero(indice), 0u);
     }
 }
 
