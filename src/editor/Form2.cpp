@@ -16,8 +16,6 @@
 
 namespace {
 
-constexpr std::array<Genere, 3> Generi{Genere::Campo, Genere::Cornice, Genere::Immagine};
-
 // Order of the pages of SSTab1; the preview asks for the pages of the three kinds.
 enum Pagine { PaginaCampi, PaginaPosizioneRighe, PaginaCornici, PaginaImmagini };
 

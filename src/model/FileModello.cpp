@@ -8,7 +8,7 @@ namespace {
 QByteArray LeggeByte(Modello &modello, const QString &percorso)
 {
     // Emptied before the file is looked for: a model that cannot be opened shows no elements.
-    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+    for (const Genere genere : Generi) {
         modello.Numero(genere) = 0;
     }
     return Disco::Legge(percorso, FileModello::DimensioneMassima);

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <array>
 #include <utility>
 
 /// 16-bit booleans, as models keep them.
@@ -93,6 +94,7 @@ struct ImmagineSfondo
 
 /// The three kinds of element; also the order in which the file holds and the printer prints them.
 enum class Genere { Campo, Cornice, Immagine };
+inline constexpr std::array<Genere, 3> Generi{Genere::Campo, Genere::Cornice, Genere::Immagine};
 
 /// One print model: a plain value. Elements of a kind occupy slots 1 to their count; slots above
 /// the count keep what they held. The slot number is an element's identity while the model is open.

@@ -1,5 +1,6 @@
 #include "platform/Finestre.h"
 
+#include "base/Misure.h"
 #include "platform/FiltroAnsi.h"
 
 #include <QApplication>
@@ -16,8 +17,6 @@ static void CaricaRisorse()
 }
 
 namespace {
-
-constexpr double MillimetriPerPollice = 25.4;
 
 /// Qt cuts what is longer without a word.
 constexpr int LunghezzaDiQt = 32767;
@@ -92,7 +91,7 @@ void ImpostaLingua()
 
 double PixelPerMillimetro(const QWidget *finestra)
 {
-    return SchermoDi(finestra)->logicalDotsPerInch() / MillimetriPerPollice;
+    return SchermoDi(finestra)->logicalDotsPerInch() / Misure::MillimetriPerPollice;
 }
 
 PuntatoreOccupato::PuntatoreOccupato()

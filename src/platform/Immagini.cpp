@@ -1,6 +1,7 @@
 #include "platform/Immagini.h"
 
 #include "base/ErroreSistema.h"
+#include "base/Misure.h"
 #include "platform/IntestazioneImmagine.h"
 #include "platform/Percorsi.h"
 
@@ -14,7 +15,6 @@ namespace {
 constexpr int LimiteMiB = 512;
 constexpr qint64 BytePerPixel = 4;
 constexpr qint64 PixelMassimi = LimiteMiB * 1024LL * 1024 / BytePerPixel;
-constexpr double MillimetriPerPollice = 25.4;
 /// A JPEG is decoded at a half, a quarter or an eighth of its size for little cost.
 constexpr int RiduzioneMassima = 8;
 
@@ -85,8 +85,8 @@ public:
     {
         const QSizeF stato = intestazione_.PuntiPerPollice;
         const QSizeF punti = ruotata_ ? stato.transposed() : stato;
-        return {Pixel().width() * MillimetriPerPollice / punti.width(),
-                Pixel().height() * MillimetriPerPollice / punti.height()};
+        return {Pixel().width() * Misure::MillimetriPerPollice / punti.width(),
+                Pixel().height() * Misure::MillimetriPerPollice / punti.height()};
     }
 
     /// Decodes the picture; when minimo is valid, possibly smaller than its own size but not below

@@ -1,5 +1,7 @@
 #include "platform/IntestazioneImmagine.h"
 
+#include "base/Misure.h"
+
 #include <QIODevice>
 #include <QtEndian>
 
@@ -7,7 +9,6 @@
 
 namespace {
 
-constexpr double MillimetriPerPollice = 25.4;
 /// Density statements outside this range are fillers ("1 x 1"), not resolutions.
 constexpr double PuntiMinimi = 10;
 constexpr double PuntiMassimi = 20000;
@@ -62,7 +63,7 @@ void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
     const QByteArray testa = Byte(file, 0, 54);
     esito.InizioDati = Piccolo<quint32>(testa, 10);
     if (Piccolo<quint32>(testa, 14) >= 40) {
-        const double perMetro = MillimetriPerPollice / 1000;
+        const double perMetro = Misure::MillimetriPerPollice / 1000;
         Imposta(esito.PuntiPerPollice, Piccolo<qint32>(testa, 38) * perMetro,
                 Piccolo<qint32>(testa, 42) * perMetro);
     }
@@ -184,7 +185,7 @@ void LeggeExif(const QByteArray &segmento, QSizeF &puntiPerPollice)
             verticali = RazionaleExif(tiff, lungo(voce + 8), intel);
             break;
         case UnitaRisoluzione:
-            perPollice = corto(voce + 8) == Centimetri ? MillimetriPerPollice / 10 : 1;
+            perPollice = corto(voce + 8) == Centimetri ? Misure::MillimetriPerPollice / 10 : 1;
             break;
         default:
             break;
@@ -200,7 +201,7 @@ bool LeggeJfif(const QByteArray &segmento, QSizeF &puntiPerPollice)
         return false;
     }
     const int unita = quint8(segmento.at(7));
-    const double perPollice = unita == 1 ? 1 : unita == 2 ? MillimetriPerPollice / 10 : 0;
+    const double perPollice = unita == 1 ? 1 : unita == 2 ? Misure::MillimetriPerPollice / 10 : 0;
     return Imposta(puntiPerPollice, Grande<quint16>(segmento, 8) * perPollice,
                    Grande<quint16>(segmento, 10) * perPollice);
 }

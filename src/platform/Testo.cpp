@@ -1,5 +1,7 @@
 #include "platform/Testo.h"
 
+#include "base/Misure.h"
+
 #include <QFontMetricsF>
 #include <QStringList>
 
@@ -29,9 +31,8 @@ QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool
     // Measured at one large size and scaled down: what the font engine rounds to whole pixels
     // becomes too small to matter.
     constexpr int PixelDiRiferimento = 1000;
-    constexpr double MillimetriPerPunto = 25.4 / 72;
     const QFontMetricsF metrica(CarattereDiTesto(font, grassetto, PixelDiRiferimento));
-    const double scala = PuntiDiTesto(punti) * MillimetriPerPunto / PixelDiRiferimento;
+    const double scala = PuntiDiTesto(punti) * Misure::MillimetriPerPunto / PixelDiRiferimento;
     return QSizeF(metrica.horizontalAdvance(testo), metrica.height()) * scala;
 }
 

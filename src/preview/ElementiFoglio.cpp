@@ -201,7 +201,7 @@ void ElementiFoglio::AncoraManiglia(Genere genere, int i)
 
 void ElementiFoglio::RiancoraManiglie()
 {
-    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+    for (const Genere genere : Generi) {
         if (const int i = Selezionato(genere); i != 0) {
             AncoraManiglia(genere, i);
         }

@@ -81,14 +81,12 @@ private:
     void MandaDavanti(Controllo &controllo);
     Etichetta &EtichettaDi(Genere genere, int i) const;
 
-    static constexpr int Generi = 3;
-
     StatoProgramma &stato_;
     const GeometriaAnteprima &geometria_;
     QGraphicsScene &scena_;
-    std::array<Tabella<ControlloElemento *>, Generi> elementi_;
+    std::array<Tabella<ControlloElemento *>, Generi.size()> elementi_;
     QList<ControlloElemento *> creati_; // all of elementi_, for the hit test
-    std::array<Maniglia *, Generi> maniglie_{};
+    std::array<Maniglia *, Generi.size()> maniglie_{};
     LineaGuida *LineXX_ = nullptr;
     LineaGuida *LineYY_ = nullptr;
     QList<Riga *> righe_; // the first righeInUso_ are shown, the others wait to be used again

@@ -189,7 +189,7 @@ void Frm1::TextZoom_KeyUp()
     stato_.zoom = valore;
     emit SfondoDaRidisegnare();
     Righello();
-    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+    for (const Genere genere : Generi) {
         for (int i = 1; i <= stato_.Aperto.UltimoSlot(genere); ++i) {
             Impostazioni(genere, i);
             Posiziona(genere, i, false);
@@ -214,8 +214,8 @@ void Frm1::MostraPuntatore(QPointF punto)
 void Frm1::MostraElemento(Genere genere, int i)
 {
     const Modello &modello = stato_.Aperto;
-    static constexpr const char16_t *Generi[] = {u"Campo ", u"Cornice ", u"Immagine "};
-    QString testo = QString::fromUtf16(Generi[static_cast<int>(genere)]) +
+    static constexpr const char16_t *Nomi[] = {u"Campo ", u"Cornice ", u"Immagine "};
+    QString testo = QString::fromUtf16(Nomi[static_cast<int>(genere)]) +
                     modello.Nome(genere, i).left(NomeLeggibile);
     const auto aggiunge = [&testo](const QString &etichetta, double millimetri) {
         testo += QStringLiteral("   ") + etichetta + u' ' + Decimi(millimetri);
@@ -244,7 +244,7 @@ void Frm1::NascondiElemento(Genere genere, int i)
 
 void Frm1::NascondiMarcatori()
 {
-    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+    for (const Genere genere : Generi) {
         NascondiMarcatore(genere);
     }
 }

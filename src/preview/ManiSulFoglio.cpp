@@ -24,7 +24,7 @@ ManiSulFoglio::~ManiSulFoglio()
 
 ManiSulFoglio::Cattura ManiSulFoglio::Bersaglio(QPointF punto) const
 {
-    for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
+    for (const Genere genere : Generi) {
         const Maniglia &maniglia = elementi_.ManigliaDi(genere);
         if (elementi_.ManigliaIn(punto) == &maniglia) {
             return {Preso::Maniglia, genere, maniglia.Tag.toInt()};

@@ -1,5 +1,6 @@
 #include "preview/TestoScalato.h"
 
+#include "base/Misure.h"
 #include "platform/Testo.h"
 #include "preview/Tratti.h"
 
@@ -19,11 +20,10 @@ constexpr double LarghezzaRiga = 1e7; // reference pixels; Qt's layout ends at 3
 constexpr qsizetype GlifiPerPezzo = 64;
 constexpr double PuntiMinimi = 1;
 constexpr double PuntiMassimi = 3000;
-constexpr double MillimetriPerPunto = 25.4 / 72;
 
 double Scala(double punti)
 {
-    return TestoScalato::PuntiMostrabili(punti) * MillimetriPerPunto / PixelRiferimento;
+    return TestoScalato::PuntiMostrabili(punti) * Misure::MillimetriPerPunto / PixelRiferimento;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "print/Pagina.h"
 
 #include "base/ErroreSistema.h"
+#include "base/Misure.h"
 #include "platform/Immagini.h"
 #include "platform/Stampanti.h"
 #include "platform/Testo.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr double MillimetriPerPollice = 25.4;
 /// Beyond this no coordinate can reach any sheet, and the painter's numbers would run over.
 constexpr double MillimetriMassimi = 100'000;
 /// Fonts are set in twentieths of a point and scaled: printer pixels would round their size, and a
@@ -47,7 +47,7 @@ Pagina::Pagina(QPrinter &stampante)
     if (!Stampanti::Pronta(stampante) || !pittore_.begin(&stampante)) {
         throw ErroreSistema(ErroreSistema::Stampante);
     }
-    pixelPerMillimetro_ = stampante.resolution() / MillimetriPerPollice;
+    pixelPerMillimetro_ = stampante.resolution() / Misure::MillimetriPerPollice;
     area_ = QRectF(0, 0, InPixel(Larghezza()), InPixel(Altezza()));
     // The printer engines put their origin at a whole point near the corner, up to 0.18 mm off.
     const QPointF angolo = stampante.pageRect(QPrinter::Millimeter).topLeft();
@@ -78,7 +78,7 @@ void Pagina::Font(const QString &famiglia, int punti, bool grassetto)
 {
     font_ = CarattereDiTesto(famiglia, grassetto, UnitaPerPunto * int(PuntiDiTesto(punti)));
     const QFontMetricsF misure(font_, &stampante_);
-    const double millimetri = MillimetriPerPollice / UnitaPerPollice;
+    const double millimetri = Misure::MillimetriPerPollice / UnitaPerPollice;
     ascendente_ = misure.ascent() * millimetri;
     interlinea_ = misure.lineSpacing() * millimetri;
 }
@@ -116,7 +116,7 @@ void Pagina::Barra(double x, double y, double larghezza, double altezza, QRgb co
 
 QImage Pagina::CaricaOpaca(const QString &percorso, const QSizeF &millimetri)
 {
-    const QSizeF pixel = (millimetri * (PuntiImmagine / MillimetriPerPollice))
+    const QSizeF pixel = (millimetri * (PuntiImmagine / Misure::MillimetriPerPollice))
                              .boundedTo(QSizeF(1e6, 1e6))
                              .expandedTo(QSizeF(1, 1));
     const QSize massimo = pixel.toSize();

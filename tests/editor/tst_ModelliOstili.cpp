@@ -17,7 +17,6 @@ namespace {
 
 constexpr double Secondo = 1000; // ms of work that no action may exceed
 constexpr int PerGenere = Tabella<Campo>::UltimoSlot;
-constexpr std::array<Genere, 3> Generi{Genere::Campo, Genere::Cornice, Genere::Immagine};
 
 /// Times what it runs against one second of work.
 #define IN_UN_SECONDO(azione)                                                                      \
