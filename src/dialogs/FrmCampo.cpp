@@ -1,5 +1,7 @@
 #include "dialogs/FrmCampo.h"
 
+#include "model/FileModelloRighe.h"
+
 #include "ui_FrmCampo.h"
 
 #include "model/Numeri.h"
@@ -129,6 +131,14 @@ void FrmCampo::ControllaLunghezzaTesto() const
     }
 }
 
+void FrmCampo::ControllaNomeLibero() const
+{
+    // In the file the name of the next field and the mark of their end share a line.
+    if (ui_->Nome->text() == QLatin1String(FileModello::FineCampi)) {
+        throw Rifiuto{QStringLiteral("Nome: FINECAMPI è riservato"), ui_->Nome};
+    }
+}
+
 void FrmCampo::PConfemaCampo_Click()
 {
     Tenta([this] {
@@ -136,6 +146,7 @@ void FrmCampo::PConfemaCampo_Click()
         const int n = Indice();
         ControllaNomeUnico(n, QStringLiteral("nome già esistente"));
         ControllaNomeScritto();
+        ControllaNomeLibero();
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
 
@@ -158,6 +169,7 @@ void FrmCampo::Command2_Click()
             Scrive(Aperto().Campi[i], carattere);
             emit Applicato(Genere::Campo, i);
         }
+        emit ModificaConclusa();
     });
 }
 

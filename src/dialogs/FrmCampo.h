@@ -48,6 +48,8 @@ private:
     void NonStampaCampo_Click();
     void Maschera_Change();
     void ControllaLunghezzaTesto() const;
+    /// Refuses the name that would end the fields in the file.
+    void ControllaNomeLibero() const;
 
     std::unique_ptr<Ui::FrmCampo> ui_;
     SorgenteCasuale casuale_;

@@ -25,6 +25,8 @@ signals:
     void Ricollocato(Genere genere, int n);
     /// The editor's list entry n takes the name and becomes the selected one.
     void VoceRinominata(Genere genere, int n, const QString &nome);
+    /// A command that leaves the dialog open has changed the model, and is done.
+    void ModificaConclusa();
     /// Element n is absent now: its control and the marker of its kind are hidden, and the editor's
     /// list entry n is relabelled and selected.
     void Eliminato(Genere genere, int n);

@@ -109,6 +109,7 @@ private slots:
     void NomeDiUnAltroCampo_data();
     void NomeDiUnAltroCampo();
     void NomeVuotoRifiutato();
+    void FineDeiCampiNonEUnNome();
     void TestoLungoQuantoLaMaschera();
     void TestoPiuLungoDellaMaschera_data();
     void TestoPiuLungoDellaMaschera();
@@ -440,6 +441,21 @@ void TestFrmCampo::NomeVuotoRifiutato()
     Preme(p.dialogo, "PConfemaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: non può essere vuoto")}));
     QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+}
+
+void TestFrmCampo::FineDeiCampiNonEUnNome()
+{
+    Prova p;
+    const Modello prima = p.stato.Aperto;
+    p.robot.Ok();
+    Digita(p.dialogo, "Nome", QStringLiteral("FINECAMPI"));
+    Preme(p.dialogo, "PConfemaCampo");
+    QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: FINECAMPI è riservato")}));
+    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    // The reader tells capitals apart.
+    Digita(p.dialogo, "Nome", QStringLiteral("Finecampi"));
+    Preme(p.dialogo, "PConfemaCampo");
+    QCOMPARE(p.Secondo().Nome, QStringLiteral("Finecampi"));
 }
 
 void TestFrmCampo::TestoLungoQuantoLaMaschera()
