@@ -58,7 +58,8 @@ public:
     void SettaComboMask(FrmCampo &dialogo);
 
     void Salva_Click();
-    /// Asks when Variato is set, and writes on Yes. False only when the writing failed (reported).
+    /// Asks when Variato is set, and writes on Yes. False when the writing failed (reported) or the
+    /// user would not replace a file that another program changed.
     bool SalvareVariazioni();
     void Elimina_Click();
     void Stampa_Click();

@@ -69,7 +69,7 @@ bool Form2::Form_Unload()
     }
     const QScopedValueRollback<bool> chiude(chiude_, true);
     if (!SalvareVariazioni()) {
-        return false; // the error was shown; closing now would lose the work
+        return false; // closing now would lose the work
     }
     chiuso_ = true;
     if (copia_) {

@@ -67,8 +67,10 @@ void Form2::ModificaConclusa()
     }
     try {
         copia_->Scrive(stato_.Aperto);
+        copiaMancata_ = false;
     } catch (const ErroreSistema &errore) {
-        // Told once: the work itself goes on, and a box at every edit would stop it.
+        // Told once until it works again: the work itself goes on, and a box at every edit would
+        // stop it.
         if (!copiaMancata_) {
             copiaMancata_ = true;
             Messaggi::Mostra(this, QStringLiteral("copia di recupero non scritta: ") +

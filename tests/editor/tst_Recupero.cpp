@@ -84,6 +84,7 @@ private slots:
     void NessunaCopiaSenzaModifiche();
     void CopiaAllaFineDiOgniModifica();
     void CopiaAncheDaiControlliDellEditor();
+    void CopiaPrimaCheIlDialogoSiChiuda();
     void CadutaERipresa();
     void CadutaDueVolte();
     void Rifiutata();
@@ -164,6 +165,21 @@ void tst_Recupero::CopiaAncheDaiControlliDellEditor()
         robot.Agisce([](QDialog *d) { Preme(*d, "Elimina"); }).Si();
         e.ApreFrmCornice(1);
     }));
+}
+
+void tst_Recupero::CopiaPrimaCheIlDialogoSiChiuda()
+{
+    EditorAperto prova(3);
+    Robot robot;
+    qsizetype copie = 0;
+    robot.Agisce([&](QDialog *dialogo) {
+        Preme(*dialogo, "Command2"); // the font for all fields leaves the dialog open
+        copie = Copie(prova).size();
+        dialogo->reject();
+    });
+    prova.Editor().ApreFrmCampo(1);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(copie, qsizetype(1));
 }
 
 void tst_Recupero::CadutaERipresa()
@@ -390,8 +406,15 @@ void tst_Recupero::DiscoPieno()
     QCOMPARE(robot.Testi(),
              QStringList{QStringLiteral("copia di recupero non scritta: errore 61 Disco pieno")});
     QCOMPARE(CopieDi(prova).Cerca().constFirst().modello.Campi[1].X, 50.0);
-    // With room again, the next edit is kept.
+    // With room again, the next edit is kept, and a new lack of it told anew.
     Modifica(editor, prova.Stato(), 53);
+    {
+        robot.Ok();
+        const LimiteFile poco(100);
+        Modifica(editor, prova.Stato(), 54);
+    }
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().size(), 2);
     QCOMPARE(CopieDi(prova).Cerca().constFirst().modello.Campi[1].X, 53.0);
     QCOMPARE(Copie(prova).size(), 1);
 }
