@@ -11,7 +11,7 @@ mkdir -p -m 700 "$XDG_RUNTIME_DIR"
 misure=$(mktemp)
 trap 'rm -f "$misure"' EXIT
 for nome in Modello Stampa Anteprima Editor Programma; do
-  xvfb-run -a -s '-screen 0 1366x768x24' build/release/benchmarks/bench_$nome >>"$misure" 2>&1 || true
+  timeout 300 xvfb-run -a -s '-screen 0 1366x768x24' build/release/benchmarks/bench_$nome >>"$misure" 2>&1 || true
 done
 if grep -E '^(QFATAL|XPASS)|Segmentation' "$misure"; then
   cat "$misure"
