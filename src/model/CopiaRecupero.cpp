@@ -38,6 +38,12 @@ QByteArray Impronta(const std::optional<QByteArray> &byte)
     return byte ? Somma(*byte) : QByteArray(Assente);
 }
 
+/// With no file to be read there is nothing that taking up a copy could lose.
+bool Cambiato(const QByteArray &allora, const QByteArray &adesso)
+{
+    return adesso != Assente && adesso != allora;
+}
+
 struct Letta
 {
     QString percorso;
@@ -102,7 +108,8 @@ QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca() const
             if (!letta || letta->percorso != percorsoModello_) {
                 continue;
             }
-            Trovata trovata{file, QFileInfo(file).lastModified(), letta->impronta != impronta_, {}};
+            Trovata trovata{
+                file, QFileInfo(file).lastModified(), Cambiato(letta->impronta, impronta_), {}};
             FileModello::Analizza(letta->corpo, trovata.modello);
             trovate.append(std::move(trovata));
         } catch (const ErroreSistema &) {

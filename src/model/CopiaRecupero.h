@@ -24,7 +24,7 @@ public:
     {
         QString file;      ///< the copy itself
         QDateTime scritta; ///< local time
-        bool fileCambiato; ///< the model file is no longer the one that the copy came from
+        bool fileCambiato; ///< the model file can be read and is not the one the copy came from
         Modello modello;   ///< NomeFile empty
     };
 

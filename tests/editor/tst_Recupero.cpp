@@ -364,6 +364,9 @@ void tst_Recupero::FileSparito()
     Robot robot;
     robot.Ok().Si().Si();
     QVERIFY(editor.Form_Load());
+    // Nothing is there that taking up the work could lose.
+    QVERIFY(!robot.Testi().constLast().contains(QStringLiteral("da allora il file è cambiato")));
+    QCOMPARE(robot.Predefiniti().constLast(), QStringLiteral("&Sì"));
     QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
     QCOMPARE(prova.Aperto().NumCornici, qint16(2));
     Preme(editor, "Salva");
