@@ -46,7 +46,7 @@ int main(int argc, char *argv[])
         return 1;
     }
     const QApplication applicazione = Applicazione(argc, argv);
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
+    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     Disco::UsaProprieta(&SuDisco::TieneProprieta);
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));

@@ -17,6 +17,7 @@
 namespace {
 
 Disco::Sincronizzazione sincronizza = nullptr;
+Disco::SincronizzazioneCartella sincronizzaCartella = nullptr;
 Disco::Proprieta tieneProprieta = nullptr;
 
 // Names of temporary files are nobody else's, so sweeping cannot hit a user's own copy, and do not
@@ -88,6 +89,15 @@ std::error_code Causa(const QString &cartella)
     const int numero = Disco::NumeroErrore(codice);
     throw ErroreSistema(numero == ErroreSistema::FileNonTrovato ? ErroreSistema::PercorsoNonTrovato
                                                                 : numero);
+}
+
+void SincronizzaNomi(const QString &cartella)
+{
+    if (sincronizzaCartella != nullptr) {
+        if (const std::error_code codice = sincronizzaCartella(cartella)) {
+            Fallisce(codice);
+        }
+    }
 }
 
 /// The file that the path stands for, behind any symbolic links; it need not exist.
@@ -177,6 +187,7 @@ public:
             Fallisce(codice);
         }
         creato_ = false;
+        SincronizzaNomi(bersaglio_.path());
     }
 
 private:
@@ -223,9 +234,25 @@ void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
     nuovo.PrendeIlPosto();
 }
 
-void Disco::UsaSincronizzazione(Sincronizzazione sincronizzazione)
+void Disco::CreaCartellaPrivata(const QString &cartella)
 {
-    sincronizza = sincronizzazione;
+    constexpr auto SoloMia = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    const QFileInfo info(cartella);
+    if (info.isDir()) {
+        return;
+    }
+    const QString sopra = info.path();
+    if (QDir().mkpath(sopra) && QDir().mkdir(cartella, SoloMia)) {
+        SincronizzaNomi(sopra);
+    } else if (!QFileInfo(cartella).isDir()) { // nor has another program just made it
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
+}
+
+void Disco::UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella cartella)
+{
+    sincronizza = file;
+    sincronizzaCartella = cartella;
 }
 
 void Disco::UsaProprieta(Proprieta proprieta)

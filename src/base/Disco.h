@@ -18,17 +18,25 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 /// never a part. Follows symbolic links and keeps the file's permissions, and its owner and group
 /// as far as the user may. After a failure (61 disk or quota full, 70 write-protected or busy, 75
 /// no right or no file, 76 folder gone, 57 anything else) the old file stands whole and the
-/// temporary one is gone. What a killed program left behind in the same folder is removed by the
-/// first call that comes ten minutes later.
+/// temporary one is gone. One failure comes later: when the folder cannot be forced onto the medium
+/// the new file stands already, and only a power cut could bring the old one back. What a killed
+/// program left behind in the same folder is removed by the first call that comes ten minutes
+/// later.
 void Sostituisce(const QString &percorso, const QByteArray &byte);
+
+/// Makes a folder that is the user's alone, and those above it as the system makes them. One that
+/// exists stays as it is. Throws ErroreSistema (75, 57) when there is none then.
+void CreaCartellaPrivata(const QString &cartella);
 
 /// Forces the bytes of an open file (a C descriptor) onto the medium; an empty code when done.
 using Sincronizzazione = std::error_code (*)(int descrittore);
+/// The same for the names in a folder.
+using SincronizzazioneCartella = std::error_code (*)(const QString &cartella);
 
-/// Qt offers no such call that reports its failure, so the program hands in its system's own at
-/// start. Without one, files are replaced atomically all the same, but a power cut soon after may
-/// lose the new bytes.
-void UsaSincronizzazione(Sincronizzazione sincronizzazione);
+/// Qt offers no such calls that report their failure, so the program hands in its system's own at
+/// start. Without them (nullptr), files are replaced atomically all the same, but a power cut soon
+/// after may lose the new bytes.
+void UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella cartella);
 
 /// Gives an open file (a C descriptor) the owner and group of the file of that path, as far as the
 /// system lets the user; true when it has both.

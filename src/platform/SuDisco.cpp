@@ -7,6 +7,7 @@
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -25,6 +26,23 @@ std::error_code SuDisco::Sincronizza(int descrittore)
         return {};
     }
     return {errno, std::generic_category()};
+}
+
+std::error_code SuDisco::SincronizzaCartella([[maybe_unused]] const QString &cartella)
+{
+#ifdef _WIN32
+    return {};
+#else
+    const int descrittore =
+        open(QFile::encodeName(cartella).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descrittore < 0) {
+        return errno == EACCES ? std::error_code()
+                               : std::error_code(errno, std::generic_category());
+    }
+    const std::error_code codice = Sincronizza(descrittore);
+    close(descrittore);
+    return codice;
+#endif
 }
 
 bool SuDisco::TieneProprieta([[maybe_unused]] int descrittore,

@@ -11,6 +11,10 @@ namespace SuDisco {
 /// share that knows no such call) count as done.
 std::error_code Sincronizza(int descrittore);
 
+/// Forces the names in the folder onto the medium. A folder that the user may write into but not
+/// look into counts as done, and so does every folder on Windows, where none can be forced.
+std::error_code SincronizzaCartella(const QString &cartella);
+
 /// Gives the open file the owner and group of the file vecchio, or at least its group: only the
 /// administrator gives files away. True when it has both. On Windows a file inherits its rights
 /// from the folder, and nothing is to be done.

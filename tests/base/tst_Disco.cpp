@@ -46,6 +46,10 @@ private slots:
     void SincronizzazioneFallita_data();
     void SincronizzazioneFallita();
     void SincronizzaPrimaDiPrendereIlPosto();
+    void CartellaNonSincronizzata();
+    void CreaCartellaPrivata();
+    void NonCreaCartella_data();
+    void NonCreaCartella();
     void ProprietaPrimaDeiPermessi_data();
     void ProprietaPrimaDeiPermessi();
     void ProprietaDiUnFileNuovo();
@@ -109,7 +113,7 @@ void tst_Disco::init()
 
 void tst_Disco::cleanup()
 {
-    Disco::UsaSincronizzazione(nullptr);
+    Disco::UsaSincronizzazione(nullptr, nullptr);
     Disco::UsaProprieta(nullptr);
     cartella_.reset();
 }
@@ -360,7 +364,7 @@ void tst_Disco::SincronizzazioneFallita()
     QFETCH(int, errore);
     ScriveFile(File(), Vecchi);
     causaSincronia = causa;
-    Disco::UsaSincronizzazione(&SincroniaFinta);
+    Disco::UsaSincronizzazione(&SincroniaFinta, nullptr);
     QCOMPARE(ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); }), errore);
     QCOMPARE(ByteDi(File()), errore == 0 ? Nuovi : Vecchi);
     QCOMPARE(NomiIn(cartella_->path()).size(), 1);
@@ -372,16 +376,86 @@ void tst_Disco::SincronizzaPrimaDiPrendereIlPosto()
     static QString percorso;
     percorso = File();
     ScriveFile(File(), Vecchi);
-    Disco::UsaSincronizzazione([](int descrittore) -> std::error_code {
-        const QString via = QStringLiteral("/proc/self/fd/%1").arg(descrittore);
-        if (ByteDi(via) == Nuovi) {
-            vistiAllaSincronia = ByteDi(percorso);
-        }
-        return {};
-    });
+    static QByteArray vistiPoi;
+    Disco::UsaSincronizzazione(
+        [](int descrittore) -> std::error_code {
+            const QString via = QStringLiteral("/proc/self/fd/%1").arg(descrittore);
+            if (ByteDi(via) == Nuovi) {
+                vistiAllaSincronia = ByteDi(percorso);
+            }
+            return {};
+        },
+        [](const QString &cartella) -> std::error_code {
+            // The name comes after them, once it stands for the new file.
+            if (cartella == QFileInfo(percorso).path()) {
+                vistiPoi = ByteDi(percorso);
+            }
+            return {};
+        });
     Disco::Sostituisce(File(), Nuovi);
     QCOMPARE(vistiAllaSincronia, Vecchi);
+    QCOMPARE(vistiPoi, Nuovi);
     QCOMPARE(ByteDi(File()), Nuovi);
+}
+
+void tst_Disco::CartellaNonSincronizzata()
+{
+    // The new file stands already, and is no half of one.
+    ScriveFile(File(), Vecchi);
+    Disco::UsaSincronizzazione(nullptr, [](const QString &) -> std::error_code {
+        return {EIO, std::generic_category()};
+    });
+    QCOMPARE(ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); }), 57);
+    QCOMPARE(ByteDi(File()), Nuovi);
+    QCOMPARE(NomiIn(cartella_->path()).size(), 1);
+}
+
+void tst_Disco::CreaCartellaPrivata()
+{
+    static QStringList sincronizzate;
+    sincronizzate.clear();
+    Disco::UsaSincronizzazione(nullptr, [](const QString &cartella) -> std::error_code {
+        sincronizzate.append(cartella);
+        return {};
+    });
+    const QString nuova = In(QStringLiteral("una/due"));
+    Disco::CreaCartellaPrivata(nuova);
+    QCOMPARE(ModoDi(nuova), 0700);
+    QVERIFY2(ModoDi(In(QStringLiteral("una"))) != 0700, "those above are as others make them");
+    QCOMPARE(sincronizzate, QStringList{In(QStringLiteral("una"))});
+
+    // One that is there stays as its owner made it.
+    QCOMPARE(chmod(QFile::encodeName(nuova).constData(), 0750), 0);
+    Disco::CreaCartellaPrivata(nuova);
+    QCOMPARE(ModoDi(nuova), 0750);
+    QCOMPARE(sincronizzate.size(), 1);
+}
+
+void tst_Disco::NonCreaCartella_data()
+{
+    QTest::addColumn<QString>("nome");
+
+    QTest::newRow("file al suo posto") << QStringLiteral("file");
+    QTest::newRow("file sopra di lei") << QStringLiteral("file/nuova");
+    QTest::newRow("senza permesso") << QStringLiteral("chiusa/nuova");
+}
+
+void tst_Disco::NonCreaCartella()
+{
+    QFETCH(QString, nome);
+    ScriveFile(In(QStringLiteral("file")), Vecchi);
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("chiusa")));
+    const QByteArray chiusa = QFile::encodeName(In(QStringLiteral("chiusa")));
+    QCOMPARE(chmod(QFile::encodeName(cartella_->path()).constData(), 0755), 0);
+    QCOMPARE(chmod(chiusa.constData(), 0555), 0);
+    int errore = -1;
+    {
+        const UtenteComune utente;
+        errore = ErroreDi([&] { Disco::CreaCartellaPrivata(In(nome)); });
+    }
+    QCOMPARE(errore, 75);
+    QCOMPARE(ByteDi(In(QStringLiteral("file"))), Vecchi);
+    QCOMPARE(chmod(chiusa.constData(), 0755), 0);
 }
 
 void tst_Disco::ProprietaPrimaDeiPermessi_data()

@@ -4,6 +4,7 @@
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -31,6 +32,8 @@ private slots:
     void NienteConcesso();
     void FileCheNonCe();
     void SincronizzaUnTubo();
+    void SincronizzaUnaCartella();
+    void SincronizzaUnaCartellaNonLeggibile();
 
 private:
     void CreaFile(uid_t proprietario, gid_t gruppo, mode_t modo) const;
@@ -195,6 +198,33 @@ void tst_SuDisco::SincronizzaUnTubo()
     close(tubo[0]);
     close(tubo[1]);
     QCOMPARE(SuDisco::Sincronizza(tubo[1]), std::error_code(EBADF, std::generic_category()));
+}
+
+void tst_SuDisco::SincronizzaUnaCartella()
+{
+    const auto codice = [](int numero) { return std::error_code(numero, std::generic_category()); };
+    QVERIFY(!SuDisco::SincronizzaCartella(cartella_->path()));
+    QCOMPARE(SuDisco::SincronizzaCartella(File()), codice(ENOENT));
+    ScriveFile(File(), Nuovi);
+    QCOMPARE(SuDisco::SincronizzaCartella(File()), codice(ENOTDIR));
+}
+
+void tst_SuDisco::SincronizzaUnaCartellaNonLeggibile()
+{
+    // A letter box: files are put into it by their names, and nobody sees what is there.
+    const QString buca = cartella_->filePath(QStringLiteral("buca"));
+    QVERIFY(QDir().mkdir(buca));
+    QCOMPARE(chmod(QFile::encodeName(buca).constData(), 0333), 0);
+    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
+    int errore = -1;
+    {
+        const UtenteComune utente;
+        errore =
+            ErroreDi([&] { Disco::Sostituisce(buca + QStringLiteral("/Fattura.Mod"), Nuovi); });
+    }
+    Disco::UsaSincronizzazione(nullptr, nullptr);
+    QCOMPARE(errore, 0);
+    QCOMPARE(ByteDi(buca + QStringLiteral("/Fattura.Mod")), Nuovi);
 }
 
 QTEST_GUILESS_MAIN(tst_SuDisco)

@@ -14,7 +14,7 @@ int main(int argc, char *argv[])
     if (argc != 3) {
         return 1;
     }
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza);
+    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     Disco::UsaProprieta(&SuDisco::TieneProprieta);
     try {
         FileModello::Salva(ModelloDiProva(QByteArray(argv[2]).toInt()), QFile::decodeName(argv[1]),
