@@ -94,8 +94,10 @@ private:
     void SegnaVariato();
     bool LeggeModello();
     enum class Recupero { Nessuno, Ripreso, Annullato };
-    Recupero OffreRecupero();
+    /// letto: the model itself has been read to the end.
+    Recupero OffreRecupero(bool letto);
     bool PuoSovrascrivere();
+    void ScriveSulDisco();
     void ModificaConclusa();
     void SistemaFinestre();
     int AltezzaStriscia() const; ///< of the editor with its frame, device-independent pixels

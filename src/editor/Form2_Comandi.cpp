@@ -1,5 +1,6 @@
 // The commands of the editor's buttons for the whole model: save, delete, print.
 
+#include "base/ErroreSistema.h"
 #include "catalogue/ApriManuale.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
@@ -30,14 +31,26 @@ bool Form2::SalvareVariazioni()
     Guardia(this, [&] {
         if (PuoSovrascrivere()) {
             const PuntatoreOccupato occupato;
-            const QByteArray byte = FileModello::ScriveModello(stato_.Aperto, percorso_);
+            ScriveSulDisco();
             Variato = false;
             salvato = true;
-            copia_->EliminaOfferte();
-            copia_->Parte(byte);
         }
     });
     return salvato;
+}
+
+void Form2::ScriveSulDisco()
+{
+    QByteArray byte;
+    try {
+        FileModello::ScriveModello(stato_.Aperto, percorso_, &byte);
+    } catch (const ErroreSistema &) {
+        // The new bytes may stand all the same; they would be no other program's.
+        copia_->Tentati(byte);
+        throw;
+    }
+    copia_->EliminaOfferte();
+    copia_->Parte(byte);
 }
 
 void Form2::Elimina_Click()

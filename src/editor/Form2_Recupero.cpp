@@ -7,6 +7,7 @@
 #include "platform/CartellaStato.h"
 #include "platform/Messaggi.h"
 
+#include <QDir>
 #include <QLocale>
 
 bool Form2::LeggeModello()
@@ -17,7 +18,7 @@ bool Form2::LeggeModello()
         &byte);
     copia_ = std::make_unique<CopiaRecupero>(CartellaStato(), percorso_);
     copia_->Parte(byte);
-    const Recupero recupero = OffreRecupero();
+    const Recupero recupero = OffreRecupero(letto);
     if (recupero == Recupero::Annullato || (!letto && recupero != Recupero::Ripreso)) {
         return false;
     }
@@ -28,10 +29,17 @@ bool Form2::LeggeModello()
     return true;
 }
 
-Form2::Recupero Form2::OffreRecupero()
+Form2::Recupero Form2::OffreRecupero(bool letto)
 {
-    const QList<CopiaRecupero::Trovata> trovate = copia_->Cerca();
+    const QList<CopiaRecupero::Trovata> trovate = copia_->Cerca([](const QString &file,
+                                                                   const ErroreSistema &errore) {
+        Messaggi::Mostra(nullptr, QStringLiteral("copia di recupero non letta: ") +
+                                      errore.Messaggio() + u'\n' + QDir::toNativeSeparators(file));
+    });
     for (const CopiaRecupero::Trovata &trovata : trovate) {
+        if (trovata.inUso || (letto && copia_->EliminaSuperata(trovata, stato_.Aperto))) {
+            continue;
+        }
         QString domanda =
             QStringLiteral("Il modello %1 ha modifiche non salvate del %2, rimaste da una chiusura "
                            "imprevista.\nVuoi riprenderle?")

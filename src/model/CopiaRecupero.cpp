@@ -1,7 +1,7 @@
 #include "model/CopiaRecupero.h"
 
 #include "base/Disco.h"
-#include "base/ErroreSistema.h"
+#include "base/Lucchetto.h"
 #include "model/FileModello.h"
 
 #include <QCryptographicHash>
@@ -71,6 +71,23 @@ std::optional<Letta> Legge(const QString &file)
     return Letta{QUrl::fromPercentEncoding(righe[1]), righe[2], corpo};
 }
 
+std::unique_ptr<Lucchetto> LucchettoDi(const QString &copia)
+{
+    return std::make_unique<Lucchetto>(copia + QLatin1String(".lock"));
+}
+
+/// True when a living program is writing the copy.
+bool InUso(const QString &copia)
+{
+    return LucchettoDi(copia)->Prende() == Lucchetto::Esito::Occupato;
+}
+
+/// False when the copy is still there.
+bool Elimina(const QString &copia)
+{
+    return QFile::remove(copia) || !QFileInfo::exists(copia);
+}
+
 } // namespace
 
 CopiaRecupero::CopiaRecupero(QString cartella, const QString &percorsoModello)
@@ -81,10 +98,19 @@ CopiaRecupero::CopiaRecupero(QString cartella, const QString &percorsoModello)
 {
 }
 
+CopiaRecupero::~CopiaRecupero() = default;
+CopiaRecupero::CopiaRecupero(CopiaRecupero &&) noexcept = default;
+CopiaRecupero &CopiaRecupero::operator=(CopiaRecupero &&) noexcept = default;
+
 void CopiaRecupero::Parte(const std::optional<QByteArray> &byte)
 {
     impronta_ = Impronta(byte);
-    propria_.clear();
+    tentata_.clear();
+}
+
+void CopiaRecupero::Tentati(const QByteArray &byte)
+{
+    tentata_ = Somma(byte);
 }
 
 QStringList CopiaRecupero::FileDelModello() const
@@ -99,7 +125,7 @@ QStringList CopiaRecupero::FileDelModello() const
     return file;
 }
 
-QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca() const
+QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca(const Avviso &avviso) const
 {
     QList<Trovata> trovate;
     for (const QString &file : FileDelModello()) {
@@ -108,16 +134,34 @@ QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca() const
             if (!letta || letta->percorso != percorsoModello_) {
                 continue;
             }
-            Trovata trovata{
-                file, QFileInfo(file).lastModified(), Cambiato(letta->impronta, impronta_), {}};
+            Trovata trovata{file,
+                            QFileInfo(file).lastModified(),
+                            Cambiato(letta->impronta, impronta_),
+                            InUso(file),
+                            {}};
             FileModello::Analizza(letta->corpo, trovata.modello);
             trovate.append(std::move(trovata));
-        } catch (const ErroreSistema &) {
-            // A copy that cannot be read is none; it stays where it is and harms nobody.
-            continue;
+        } catch (const ErroreSistema &errore) {
+            // One that holds no model is none, and one that has just gone belonged to a program
+            // that no longer needs it. The others may hold work.
+            const bool nonSiLegge = errore.numero == ErroreSistema::ErroreIO ||
+                                    errore.numero == ErroreSistema::AccessoFile;
+            if (avviso && nonSiLegge) {
+                avviso(file, errore);
+            }
         }
     }
     return trovate;
+}
+
+bool CopiaRecupero::EliminaSuperata(const Trovata &trovata, const Modello &letto) const
+{
+    if (FileModello::Componi(trovata.modello, QLocale::c()) !=
+        FileModello::Componi(letto, QLocale::c())) {
+        return false;
+    }
+    Elimina(trovata.file);
+    return true;
 }
 
 void CopiaRecupero::SegnaOfferta(const Trovata &trovata)
@@ -133,7 +177,9 @@ void CopiaRecupero::Riprende(const Trovata &trovata)
 bool CopiaRecupero::FileCambiato() const
 {
     try {
-        return Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima)) != impronta_;
+        const QByteArray adesso =
+            Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima));
+        return adesso != impronta_ && adesso != tentata_;
     } catch (const ErroreSistema &errore) {
         switch (errore.numero) {
         case ErroreSistema::MemoriaEsaurita: // far larger than any model
@@ -147,53 +193,47 @@ bool CopiaRecupero::FileCambiato() const
     }
 }
 
-void CopiaRecupero::CreaCartella() const
+void CopiaRecupero::ScegliePropria()
 {
-    // What firms bill is nobody else's business on a shared machine.
-    constexpr auto SoloMia = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    if (QDir(cartella_).exists()) {
-        return;
-    }
-    QDir().mkpath(QFileInfo(cartella_).path());
-    if (!QDir().mkdir(cartella_, SoloMia) && !QDir(cartella_).exists()) {
-        throw ErroreSistema(ErroreSistema::AccessoFile);
+    // A name of its own, so that an earlier copy, declined or not, is not written over, nor that of
+    // another program which has just begun one.
+    for (int numero = 1;; ++numero) {
+        propria_ = QDir(cartella_).filePath(radice_ + u'-' + QString::number(numero) + Estensione);
+        lucchetto_ = LucchettoDi(propria_);
+        if (lucchetto_->Prende() != Lucchetto::Esito::Occupato && !QFileInfo::exists(propria_)) {
+            return;
+        }
     }
 }
 
 void CopiaRecupero::Scrive(const Modello &modello)
 {
-    CreaCartella(); // each time, for somebody may have tidied it away
+    // What firms bill is nobody else's business on a shared machine. Each time, for somebody may
+    // have tidied the folder away.
+    Disco::CreaCartellaPrivata(cartella_);
     if (propria_.isEmpty()) {
-        // A name of its own, so that an earlier copy, declined or not, is not written over.
-        int numero = 1;
-        do {
-            propria_ =
-                QDir(cartella_).filePath(radice_ + u'-' + QString::number(numero++) + Estensione);
-        } while (QFileInfo::exists(propria_));
+        ScegliePropria();
     }
     // The copy is read back whatever the locale, so it is written with a point: nothing is rounded
     // away by going through it.
     const QByteArray corpo = FileModello::Componi(modello, QLocale::c());
     Disco::Sostituisce(propria_, Intestazione(percorsoModello_, impronta_, corpo) + corpo);
-    if (!ripresa_.isEmpty()) {
-        QFile::remove(ripresa_);
+    lucchetto_->Prende(); // where the disk had no room for it before
+    if (!ripresa_.isEmpty() && Elimina(ripresa_)) {
         ripresa_.clear();
     }
 }
 
 void CopiaRecupero::EliminaPropria()
 {
-    if (!propria_.isEmpty()) {
-        QFile::remove(propria_);
+    if (!propria_.isEmpty() && Elimina(propria_)) {
         propria_.clear();
+        lucchetto_.reset();
     }
 }
 
 void CopiaRecupero::EliminaOfferte()
 {
     EliminaPropria();
-    for (const QString &file : std::as_const(offerte_)) {
-        QFile::remove(file);
-    }
-    offerte_.clear();
+    offerte_.removeIf([](const QString &file) { return !InUso(file) && Elimina(file); });
 }

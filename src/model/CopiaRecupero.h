@@ -1,12 +1,17 @@
 #pragma once
 
+#include "base/ErroreSistema.h"
 #include "model/Modello.h"
 
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
 
+#include <functional>
+#include <memory>
 #include <optional>
+
+class Lucchetto;
 
 /// The safety copies of one model file, kept in a folder of the user's own: what a modified model
 /// looked like at the end of the last edit, should the program or the machine die before it is
@@ -18,6 +23,11 @@ public:
     /// cartella is made when the first copy is written. percorsoModello is the model's file,
     /// spelled as on disk.
     CopiaRecupero(QString cartella, const QString &percorsoModello);
+    ~CopiaRecupero();
+    CopiaRecupero(CopiaRecupero &&) noexcept;
+    CopiaRecupero &operator=(CopiaRecupero &&) noexcept;
+    CopiaRecupero(const CopiaRecupero &) = delete;
+    CopiaRecupero &operator=(const CopiaRecupero &) = delete;
 
     /// A copy found at opening.
     struct Trovata
@@ -25,6 +35,7 @@ public:
         QString file;      ///< the copy itself
         QDateTime scritta; ///< local time
         bool fileCambiato; ///< the model file can be read and is not the one the copy came from
+        bool inUso;        ///< a living program is still writing it
         Modello modello;   ///< NomeFile empty
     };
 
@@ -34,17 +45,27 @@ public:
     /// in the meantime.
     void Parte(const std::optional<QByteArray> &byte);
 
-    /// The whole copies of this model, newest first. Copies that cannot be read are left alone.
-    QList<Trovata> Cerca() const;
+    /// The bytes that a save which failed was writing: should they stand in the file, it has not
+    /// been changed by anybody else.
+    void Tentati(const QByteArray &byte);
+
+    /// The whole copies of this model, newest first. Damaged ones are left alone; avviso is told
+    /// the path and the error (57 or 75) of those that the system does not let be read.
+    using Avviso = std::function<void(const QString &file, const ErroreSistema &errore)>;
+    QList<Trovata> Cerca(const Avviso &avviso = {}) const;
+
+    /// Removes the copy if it holds nothing that the model just read does not: the program died
+    /// after a save and before the copy had gone. False when there is more in it.
+    bool EliminaSuperata(const Trovata &trovata, const Modello &letto) const;
 
     /// The user has been asked about this copy; only from then on a save may remove it.
     void SegnaOfferta(const Trovata &trovata);
     /// The user goes on from this copy: it goes as soon as this opening's own holds its work.
     void Riprende(const Trovata &trovata);
 
-    /// True when the model file is no longer what it was at Parte; false when it is gone, for then
-    /// there is nothing of anybody's to overwrite. Throws ErroreSistema (57, 75) when that cannot
-    /// be told.
+    /// True when the model file is neither what it was at Parte nor what Tentati names; false when
+    /// it is gone, for then there is nothing of anybody's to overwrite. Throws ErroreSistema (57,
+    /// 75) when that cannot be told.
     bool FileCambiato() const;
 
     /// Replaces this opening's copy. Throws ErroreSistema when it cannot be written; the copy
@@ -53,18 +74,22 @@ public:
 
     /// Removes this opening's copy; the copies of earlier ones stay.
     void EliminaPropria();
-    /// Removes this opening's copy and those that have been offered: the model has been saved.
+    /// Removes this opening's copy and those that have been offered: the model has been saved. What
+    /// cannot be removed now is tried again the next time.
     void EliminaOfferte();
 
 private:
     QStringList FileDelModello() const;
-    void CreaCartella() const;
+    void ScegliePropria();
 
     QString cartella_;
     QString percorsoModello_;
     QString radice_;      ///< start of the names of this model's copies
     QByteArray impronta_; ///< of the model file at Parte
+    QByteArray tentata_;  ///< of the bytes that a failed save may have put there
     QStringList offerte_; ///< files of the copies the user has been asked about
     QString ripresa_;     ///< file of the copy that the user goes on from
     QString propria_;     ///< empty until the first copy of this opening
+    /// Of propria_, as long as it may be written: no other program shall take it for a dead one's.
+    std::unique_ptr<Lucchetto> lucchetto_;
 };

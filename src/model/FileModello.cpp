@@ -43,9 +43,11 @@ bool FileModello::LeggeModello(Modello &modello, const QString &percorso,
     }
 }
 
-QByteArray FileModello::ScriveModello(const Modello &modello, const QString &percorso)
+void FileModello::ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte)
 {
-    QByteArray byte = Componi(modello);
-    Disco::Sostituisce(percorso, byte);
-    return byte;
+    const QByteArray composti = Componi(modello);
+    if (byte != nullptr) {
+        *byte = composti;
+    }
+    Disco::Sostituisce(percorso, composti);
 }

@@ -40,8 +40,8 @@ void Salva(const Modello &modello, const QString &percorso, const QLocale &local
 bool LeggeModello(Modello &modello, const QString &percorso, const Numeri::Avviso &avviso,
                   std::optional<QByteArray> *byte = nullptr);
 
-/// The editor's save: writes to percorso and gives the bytes written; a failure is thrown, not
-/// reported.
-QByteArray ScriveModello(const Modello &modello, const QString &percorso);
+/// The editor's save: writes to percorso as Salva does. byte, when asked for, gets the bytes before
+/// they are written, so that they are known after a failure too.
+void ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte = nullptr);
 
 } // namespace FileModello

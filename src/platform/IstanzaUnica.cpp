@@ -22,26 +22,10 @@ QString FileLucchetto()
 IstanzaUnica::IstanzaUnica()
     : lucchetto_(FileLucchetto())
 {
-    // No age makes a lock stale, only the death of its process.
-    lucchetto_.setStaleLockTime(0);
 }
 
 bool IstanzaUnica::Acquisisce()
 {
-    if (lucchetto_.isLocked() || lucchetto_.tryLock(0)) {
-        return true;
-    }
-    if (lucchetto_.error() != QLockFile::LockFailedError) {
-        // A full or read-only disk is no second instance; it must not keep the user out.
-        return true;
-    }
-    qint64 processo = 0;
-    QString macchina;
-    QString programma;
-    if (lucchetto_.getLockInfo(&processo, &macchina, &programma)) {
-        return false;
-    }
-    // A machine that died while the lock was being written left a file that names no process. The
-    // removal itself fails while a living process holds the file.
-    return lucchetto_.removeStaleLockFile() && lucchetto_.tryLock(0);
+    // A full or read-only disk is no second instance; it must not keep the user out.
+    return lucchetto_.Prende() != Lucchetto::Esito::Occupato;
 }

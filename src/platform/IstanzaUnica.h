@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLockFile>
+#include "base/Lucchetto.h"
 
 /// One running instance per user. The lock of a process that has died does not block.
 class IstanzaUnica
@@ -11,5 +11,5 @@ public:
     bool Acquisisce();
 
 private:
-    QLockFile lucchetto_;
+    Lucchetto lucchetto_;
 };

@@ -1,12 +1,15 @@
 #include "EditoreDiProva.h"
+#include "base/Disco.h"
 #include "base/ErroreSistema.h"
 #include "editor/Form2.h"
 #include "model/CopiaRecupero.h"
 #include "model/FileModello.h"
+#include "platform/SuDisco.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
 #include "support/FileDiProva.h"
 #include "support/Finestre.h"
+#include "support/Permessi.h"
 #include "support/Robot.h"
 
 #include <QAbstractButton>
@@ -60,6 +63,8 @@ void ModificaEMuore(ArchivioDiProva &prova, double x)
 /// The child process: edits without end, and says the number of each finished edit.
 int ModificaSenzaFine(const QString &cartella, const QString &nome)
 {
+    // As the program does, so that a kill may also fall between writing and renaming.
+    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     StatoProgramma stato;
     stato.CartellaModelli = cartella;
     stato.Aperto.NomeFile = nome;
@@ -94,6 +99,9 @@ private slots:
     void FileCambiatoDaAllora();
     void FileSparito();
     void UnAltroModelloNonLaRiceve();
+    void UnProgrammaVivoTieneLaSua();
+    void UgualeAlFileNonSiOffre();
+    void NonLeggibileSiDice();
     void DiscoPieno();
     void CartellaImpossibile();
     void ViaDopoIlSalvataggio();
@@ -103,6 +111,7 @@ private slots:
     void FileGiganteDaAltriPrimaDiSalvare();
     void SecondoSalvataggioNonChiede();
     void FileSparitoPrimaDiSalvare();
+    void SalvatoNonostanteLErroreNonChiede();
     void DuecentoUccisioni();
 };
 
@@ -392,6 +401,77 @@ void tst_Recupero::UnAltroModelloNonLaRiceve()
     QCOMPARE(Copie(prova).size(), 1); // that of the other model stays
 }
 
+void tst_Recupero::UnProgrammaVivoTieneLaSua()
+{
+    // On another machine that shares the home, where the one instance is not seen.
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    QProcess altro;
+    altro.start(QCoreApplication::applicationFilePath(),
+                {ArgomentoFiglio, prova.Stato().CartellaModelli, prova.Aperto().NomeFile});
+    QVERIFY(altro.waitForReadyRead(30000));
+    {
+        Form2 editor(prova.Stato());
+        Robot robot;
+        QVERIFY(editor.Form_Load());
+        QVERIFY2(robot.Testi().isEmpty(), "what its owner is still at is not offered");
+        robot.Si();
+        Preme(editor, "Salva");
+        QVERIFY(robot.Soddisfatto());
+        QCOMPARE(Copie(prova).size(), 1);
+    }
+    altro.kill();
+    QVERIFY(altro.waitForFinished(30000));
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Si();
+    QVERIFY(editor.Form_Load());
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(editor.Variato);
+}
+
+void tst_Recupero::UgualeAlFileNonSiOffre()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    // The save had come to its end, the removal of the copy had not.
+    prova.Aperto().Campi[1].X = 50;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    Robot robot;
+    QVERIFY(editor.Form_Load());
+    QVERIFY(robot.Testi().isEmpty());
+    QVERIFY(!editor.Variato);
+    QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
+    QVERIFY(Copie(prova).isEmpty());
+}
+
+void tst_Recupero::NonLeggibileSiDice()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    ModificaEMuore(prova, 50);
+    const QString file = CopieDi(prova).Cerca().constFirst().file;
+    const QString modelli = prova.Stato().CartellaModelli;
+    QVERIFY(QFile::setPermissions(modelli + QStringLiteral("/../.."), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(QFileInfo(file).path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(file, Permessi::Nessuno));
+    const UtenteComune utente;
+    Form2 editor(prova.Stato());
+    Robot robot;
+    robot.Ok();
+    QVERIFY2(editor.Form_Load(), "the model itself opens");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(),
+             QStringList{QStringLiteral("copia di recupero non letta: errore 75 Errore di accesso "
+                                        "al percorso/file\n") +
+                         file});
+}
+
 void tst_Recupero::DiscoPieno()
 {
     EditorAperto prova(2);
@@ -558,6 +638,29 @@ void tst_Recupero::FileSparitoPrimaDiSalvare()
     QCOMPARE(prova.Riletto().NumCampi, qint16(1));
 }
 
+void tst_Recupero::SalvatoNonostanteLErroreNonChiede()
+{
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
+    prova.Aperto().Campi[1].X = 60;
+    Disco::UsaSincronizzazione(nullptr, [](const QString &) -> std::error_code {
+        return {EIO, std::generic_category()};
+    });
+    Robot robot;
+    robot.Si().Ok();
+    Preme(editor, "Salva");
+    Disco::UsaSincronizzazione(nullptr, nullptr);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constLast(), QStringLiteral("errore 57 Errore di I/O della periferica"));
+    QVERIFY(editor.Variato);
+    QVERIFY2(prova.Riletto().Campi[1].X == 60.0, "the new file had its place already");
+    prova.Aperto().Campi[1].X = 70;
+    robot.Si();
+    Preme(editor, "Salva");
+    QVERIFY2(robot.Soddisfatto(), "nobody else has changed the file");
+    QCOMPARE(prova.Riletto().Campi[1].X, 70.0);
+}
+
 void tst_Recupero::DuecentoUccisioni()
 {
     ArchivioDiProva prova;
@@ -591,6 +694,8 @@ void tst_Recupero::DuecentoUccisioni()
     }
     // What the kills left half-written goes, once it is old, with the next copy.
     const QString cartella = prova.CartellaStato() + QStringLiteral("/plakera");
+    const auto lasciati = NomiIn(cartella).filter(QStringLiteral(".tmp")).size();
+    QVERIFY2(lasciati > Uccisioni / 20, qPrintable(QString::number(lasciati)));
     for (const QString &nome : NomiIn(cartella)) {
         Invecchia(cartella + u'/' + nome, 3600);
     }

@@ -1,4 +1,5 @@
 #include "EditoreDiProva.h"
+#include "base/Disco.h"
 #include "support/FileDiProva.h"
 
 #include <QDir>
@@ -64,15 +65,43 @@ std::shared_ptr<void> CartellaAlPostoDelFile(const ArchivioDiProva &archivio)
             }};
 }
 
+/// So that nothing has been forced onto the medium, the bytes least of all.
+template <int Causa>
+std::shared_ptr<void> SincroniaFallita(const ArchivioDiProva &)
+{
+    Disco::UsaSincronizzazione(
+        [](int) -> std::error_code {
+            return {Causa, std::generic_category()};
+        },
+        nullptr);
+    return {nullptr, [](void *) { Disco::UsaSincronizzazione(nullptr, nullptr); }};
+}
+
 } // namespace
 
 void tst_SalvataggioImpossibile::SalvaDiceIlPerche_data()
 {
     QTest::addColumn<Ostacola>("ostacola");
     QTest::addColumn<QString>("messaggio");
-    QTest::newRow("full disk") << Ostacola([](const ArchivioDiProva &) {
-        return std::make_shared<LimiteFile>(100);
-    }) << QStringLiteral("errore 61 Disco pieno");
+    const QString pieno = QStringLiteral("errore 61 Disco pieno");
+    for (const qint64 byte : {qint64(0), qint64(100), qint64(4096)}) {
+        QTest::addRow("full disk after %lld bytes", byte)
+            << Ostacola(
+                   [byte](const ArchivioDiProva &) { return std::make_shared<LimiteFile>(byte); })
+            << pieno;
+    }
+    QTest::newRow("full disk before the last byte")
+        << Ostacola([](const ArchivioDiProva &archivio) {
+               return std::make_shared<LimiteFile>(archivio.ByteDelFile().size() - 1);
+           })
+        << pieno;
+    QTest::newRow("full disk, seen when forcing") << Ostacola(&SincroniaFallita<ENOSPC>) << pieno;
+    QTest::newRow("fault when forcing")
+        << Ostacola(&SincroniaFallita<EIO>)
+        << QStringLiteral("errore 57 Errore di I/O della periferica");
+    QTest::newRow("forcing refused")
+        << Ostacola(&SincroniaFallita<EACCES>)
+        << QStringLiteral("errore 75 Errore di accesso al percorso/file");
     QTest::newRow("read-only folder") << Ostacola([](const ArchivioDiProva &archivio) {
         return SolaLettura(archivio, archivio.Stato().CartellaModelli, 0555, 0755);
     }) << QStringLiteral("errore 75 Errore di accesso al percorso/file");
@@ -91,7 +120,7 @@ void tst_SalvataggioImpossibile::SalvaDiceIlPerche()
     QFETCH(const Ostacola, ostacola);
     QFETCH(const QString, messaggio);
     EditoreDiProva prova;
-    prova.Archivio.Riempie(2);
+    prova.Archivio.Riempie(50); // more than 4096 bytes
     QVERIFY(prova.Apre());
     const QByteArray prima = prova.Archivio.ByteDelFile();
     const QStringList nomi = NomiIn(prova.Archivio.Stato().CartellaModelli);

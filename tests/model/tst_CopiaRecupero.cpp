@@ -4,8 +4,10 @@
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
 #include "support/ModelloDiProva.h"
+#include "support/Permessi.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -33,6 +35,11 @@ private slots:
     void VannoViaSoloLeOfferte();
     void LaRipresaVaViaQuandoLaNuovaLaTiene();
     void EliminatiDaAltriSiRiscrivono();
+    void DiUnProgrammaVivo();
+    void UgualeAlFileVaVia();
+    void NonLeggibileSiDice();
+    void NonEliminabileSiRiprova();
+    void ByteDiUnSalvataggioFallito();
 
 private:
     QString Cartella() const { return dir_->filePath(QStringLiteral("stato/plakera")); }
@@ -42,6 +49,11 @@ private:
         CopiaRecupero copia(Cartella(), Percorso());
         copia.Parte(ByteDi(Percorso()));
         return copia;
+    }
+    /// Files of copies, whole or not; a lock that a killed program left is none.
+    QStringList Copie() const
+    {
+        return NomiIn(Cartella()).filter(QRegularExpression(QStringLiteral("\\.recupero$")));
     }
     /// Left behind by a program that has ended.
     void Lascia(double x)
@@ -169,7 +181,7 @@ void tst_CopiaRecupero::DiscoPienoLasciaLaPrecedente()
     }
     copia.Scrive(modello);
     QCOMPARE(copia.Cerca().constFirst().modello.Campi[1].X, 60.0);
-    QCOMPARE(NomiIn(Cartella()).size(), 1);
+    QCOMPARE(Copie().size(), 1);
 }
 
 void tst_CopiaRecupero::VannoViaSoloLeOfferte()
@@ -184,11 +196,12 @@ void tst_CopiaRecupero::VannoViaSoloLeOfferte()
     ScriveFile(guasta, "non e' una copia");
     copia.SegnaOfferta(trovate[trovate[0].file == offerta ? 0 : 1]);
     copia.Scrive(ModelloDiProva(2));
-    QCOMPARE(NomiIn(Cartella()).size(), 4);
+    QCOMPARE(Copie().size(), 4);
     copia.EliminaOfferte();
     QVERIFY(!QFileInfo::exists(offerta));
     QVERIFY(QFileInfo::exists(guasta));
-    QCOMPARE(NomiIn(Cartella()).size(), 2);
+    QCOMPARE(NomiIn(Cartella()), Copie());
+    QCOMPARE(Copie().size(), 2);
     QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 60.0);
 }
 
@@ -217,6 +230,104 @@ void tst_CopiaRecupero::EliminatiDaAltriSiRiscrivono()
     QVERIFY(QDir(Cartella()).removeRecursively());
     copia.Scrive(ModelloDiProva(2));
     QCOMPARE(Aperta().Cerca().size(), 1);
+}
+
+void tst_CopiaRecupero::DiUnProgrammaVivo()
+{
+    CopiaRecupero prima = Aperta();
+    {
+        CopiaRecupero viva = Aperta();
+        viva.Scrive(ModelloDiProva(2));
+        const auto trovate = prima.Cerca();
+        QCOMPARE(trovate.size(), 1);
+        QVERIFY(trovate[0].inUso);
+        // Even of one that was free when the user was asked about it.
+        prima.SegnaOfferta(trovate[0]);
+        prima.EliminaOfferte();
+        QCOMPARE(Copie().size(), 1);
+        // And the other's next copy does not take its name.
+        CopiaRecupero altra = Aperta();
+        altra.Scrive(ModelloDiProva(2));
+        QCOMPARE(Copie().size(), 2);
+        altra.EliminaPropria();
+    }
+    QVERIFY2(!prima.Cerca().constFirst().inUso, "its program has ended");
+    prima.EliminaOfferte();
+    QVERIFY(Copie().isEmpty());
+    QVERIFY2(NomiIn(Cartella()).isEmpty(), "no lock stays behind");
+}
+
+void tst_CopiaRecupero::UgualeAlFileVaVia()
+{
+    const Modello letto = ModelloDiProva(2);
+    Lascia(50);
+    Aperta().Scrive(letto); // as after a save whose program died before removing its copy
+    const CopiaRecupero copia = Aperta();
+    int superate = 0;
+    for (const auto &trovata : copia.Cerca()) {
+        superate += copia.EliminaSuperata(trovata, letto) ? 1 : 0;
+    }
+    QCOMPARE(superate, 1);
+    QCOMPARE(Copie().size(), 1);
+    QCOMPARE(copia.Cerca().constFirst().modello.Campi[1].X, 50.0);
+}
+
+void tst_CopiaRecupero::NonLeggibileSiDice()
+{
+    Lascia(50);
+    const QString file = Aperta().Cerca().constFirst().file;
+    Lascia(60);
+    QVERIFY(QFile::setPermissions(dir_->path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(Cartella(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(file, Permessi::Nessuno));
+    QStringList detti;
+    qsizetype trovate = 0;
+    {
+        const UtenteComune utente;
+        trovate = Aperta()
+                      .Cerca([&](const QString &quale, const ErroreSistema &errore) {
+                          detti.append(quale + u' ' + QString::number(errore.numero));
+                      })
+                      .size();
+    }
+    QCOMPARE(detti, QStringList{file + QStringLiteral(" 75")});
+    // Neither does it hide the other.
+    QCOMPARE(trovate, qsizetype(1));
+}
+
+void tst_CopiaRecupero::NonEliminabileSiRiprova()
+{
+    Lascia(50);
+    CopiaRecupero copia = Aperta();
+    copia.SegnaOfferta(copia.Cerca().constFirst());
+    copia.Scrive(ModelloDiProva(2));
+    QVERIFY(QFile::setPermissions(dir_->path(), Permessi::PerTutti));
+    QVERIFY(QFile::setPermissions(Cartella(), Permessi::SolaLettura));
+    {
+        const UtenteComune utente;
+        copia.EliminaOfferte();
+    }
+    QCOMPARE(Copie().size(), 2);
+    QVERIFY(QFile::setPermissions(Cartella(), Permessi::PerTutti));
+    copia.Scrive(ModelloDiProva(2));
+    QVERIFY2(Copie().size() == 2, "the copy that stayed is written on");
+    copia.EliminaOfferte();
+    QVERIFY(Copie().isEmpty());
+}
+
+void tst_CopiaRecupero::ByteDiUnSalvataggioFallito()
+{
+    const QByteArray tentati = FileModello::Componi(ModelloDiProva(7), Punto);
+    CopiaRecupero copia = Aperta();
+    copia.Tentati(tentati);
+    QVERIFY2(!copia.FileCambiato(), "the old bytes stand");
+    ScriveFile(Percorso(), tentati);
+    QVERIFY2(!copia.FileCambiato(), "they are the program's own");
+    ScriveFile(Percorso(), tentati + "x");
+    QVERIFY(copia.FileCambiato());
+    copia.Parte(tentati + "x");
+    ScriveFile(Percorso(), tentati);
+    QVERIFY2(copia.FileCambiato(), "a later save has made them old");
 }
 
 QTEST_GUILESS_MAIN(tst_CopiaRecupero)

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLockFile>
+
+/// A lock file that belongs to a living process: no age makes it stale, only the death of the
+/// process that took it, or of the machine while it was being written. A process on another machine
+/// counts as alive, for nobody here can tell.
+class Lucchetto
+{
+public:
+    explicit Lucchetto(const QString &file);
+
+    enum class Esito {
+        Preso,      ///< by this object, now or before; until Lascia or its destruction
+        Occupato,   ///< another object holds it, of this process or of another
+        Impossibile ///< the file cannot be made: a full disk, a folder without rights
+    };
+    /// Does not wait.
+    Esito Prende();
+    void Lascia() { file_.unlock(); }
+
+private:
+    QLockFile file_;
+};
