@@ -1,5 +1,6 @@
 #include "editor/RigheSimulate.h"
 
+#include "platform/Testo.h"
 #include "preview/GeometriaAnteprima.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ QList<Frm1::RigaSimulata> RigheSimulate(const Modello &modello, double zoom,
         }
         righe.append({QRectF(fascia->sinistra / zoom, y / zoom,
                              (fascia->destra - fascia->sinistra) / zoom, interlinea / zoom),
-                      primo.Font, primo.Dimensione / zoom, primo.Grassetto != Falso,
+                      primo.Font, PuntiDiTesto(primo.Dimensione) / zoom, primo.Grassetto != Falso,
                       QString(CaratteriPerRiga, QChar(0xA4))});
     }
     return righe;

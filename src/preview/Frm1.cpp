@@ -5,7 +5,6 @@
 #include "model/StatoProgramma.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
-#include "platform/Testo.h"
 #include "preview/Anteprima.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/Foglio.h"
@@ -336,6 +335,6 @@ void Frm1::AggiungeRigheSimulate(const QList<RigaSimulata> &righe)
 {
     for (const RigaSimulata &riga : righe) {
         elementi_->AggiungeRiga(riga.posto, {riga.font, riga.grassetto, false}, riga.testo,
-                                PuntiDiTesto(riga.punti * stato_.zoom) / stato_.zoom);
+                                riga.punti);
     }
 }

@@ -42,6 +42,7 @@ private slots:
     void CinqueRigheTra100e130();
     void FasciaDalPiuASinistraAlBordoDestro();
     void AspettoDelCampoPiuASinistra();
+    void SenzaDimensioneComeIlCampo();
     void UgualeXVinceIlPrimoDellaTabella();
     void AlloZoom();
     void SenzaCampiDiRigaNessunaRiga();
@@ -70,6 +71,15 @@ void tst_RigheSimulate::AspettoDelCampoPiuASinistra()
     QCOMPARE(riga.punti, 4.5);
     QVERIFY(riga.grassetto);
     QCOMPARE(riga.testo, QString(200, QChar(0xA4)));
+}
+
+void tst_RigheSimulate::SenzaDimensioneComeIlCampo()
+{
+    Modello modello = ConRighe(100, 130, 5);
+    for (int k = 1; k <= modello.NumCampi; ++k) {
+        modello.Campi[k].Dimensione = 0;
+    }
+    QCOMPARE(RigheSimulate(modello, 2, Larghezza).constFirst().punti, 4.0);
 }
 
 void tst_RigheSimulate::UgualeXVinceIlPrimoDellaTabella()
