@@ -22,7 +22,8 @@ private:
     static void RiapreFinoAllaDomanda(Scrivania &scrivania);
     static QStringList Copie(const Scrivania &scrivania)
     {
-        return QDir(scrivania.Stato() + QStringLiteral("/plakera")).entryList(QDir::Files);
+        return QDir(scrivania.Stato() + QStringLiteral("/plakera"))
+            .entryList({QStringLiteral("*.recupero")}, QDir::Files);
     }
 };
 

@@ -162,17 +162,23 @@ void tst_ImmaginiOstili::TroncataAOgniByte()
                                             Minuscola, Minuscola);
         }
         Robot robot;
+        const TempoDiLavoro tempo;
         QVERIFY(prova.Apre());
+        QVERIFY2(tempo.Entro(Secondo), qPrintable(QString::number(tempo.MilliSecondi())));
         for (qsizetype n = prima; n < dopo; ++n) {
+            const TempoDiLavoro sfondo;
             const QString percorso = prova.In(QStringLiteral("f%1.jpg").arg(n));
             QCOMPARE(ErroreDi([&] {
                          prova.Editor->Anteprima()->DipingeSfondo(percorso, {0, 0, 210, 297});
                      }),
                      ErroreSistema::ImmagineNonValida);
+            QVERIFY2(sfondo.Entro(Secondo), qPrintable(percorso));
         }
         prova.SceglieOgniFile(robot);
         QVERIFY(robot.Soddisfatto());
+        const TempoDiLavoro stampa;
         QCOMPARE(prova.Stampa().size(), dopo - prima);
+        QVERIFY2(stampa.Entro(Secondo), qPrintable(QString::number(stampa.MilliSecondi())));
     }
 }
 

@@ -5,8 +5,16 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 
 namespace {
+
+/// Ends a dialog that is not the one an answer was meant for, and the test with it.
+void Rifiuta(QDialog *dialogo, const char *perche)
+{
+    QTest::qFail(perche, __FILE__, __LINE__);
+    dialogo->done(QDialog::Rejected);
+}
 
 void Preme(QDialog *dialogo, QMessageBox::StandardButton bottone)
 {
@@ -14,7 +22,7 @@ void Preme(QDialog *dialogo, QMessageBox::StandardButton bottone)
     if (riquadro != nullptr && riquadro->button(bottone) != nullptr) {
         riquadro->button(bottone)->click();
     } else {
-        dialogo->reject();
+        Rifiuta(dialogo, "a box without the button that should answer it");
     }
 }
 
@@ -49,7 +57,7 @@ Robot &Robot::Digita(const QString &testo)
             ingresso->setTextValue(testo);
             ingresso->accept();
         } else {
-            d->reject();
+            Rifiuta(d, "a text for a box that takes none");
         }
     });
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QElapsedTimer>
+
+#include <algorithm>
 #include <ctime>
 
 /// Limits of time in tests hold for the program as it is shipped; a build without the optimiser, or
@@ -17,13 +20,24 @@ inline constexpr int Lentezza = 1;
 class TempoDiLavoro
 {
 public:
+    TempoDiLavoro() { orologio_.start(); }
+
     double MilliSecondi() const
     {
         return 1000.0 * static_cast<double>(std::clock() - inizio_) / CLOCKS_PER_SEC;
     }
-    /// True while less than the given milliseconds, widened by Lentezza, have been used.
-    bool Entro(double millisecondi) const { return MilliSecondi() < millisecondi * Lentezza; }
+    /// True while less than the given milliseconds, widened by Lentezza, have been used, and no
+    /// more than five times as long, or five seconds, has passed with waiting: a hang is none
+    /// either when the processor rests.
+    bool Entro(double millisecondi) const
+    {
+        constexpr double Attesa = 5;
+        const double passati = static_cast<double>(orologio_.elapsed());
+        return MilliSecondi() < millisecondi * Lentezza &&
+               passati < std::max(Attesa * millisecondi, Attesa * 1000) * Lentezza;
+    }
 
 private:
+    QElapsedTimer orologio_;
     std::clock_t inizio_ = std::clock();
 };
