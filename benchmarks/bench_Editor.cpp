@@ -237,7 +237,7 @@ void bench_Editor::Riposo()
     const double inizio = MilliSecondiCpu();
     giro.exec();
     // One tick of the system's accounting is 10 ms: below it a process counts as idle.
-    Riporta("processor in 10 s of rest", MilliSecondiCpu() - inizio, 10);
+    Riporta("processor in 10 s of rest", MilliSecondiCpu() - inizio, 1);
     editor->Variato = false;
 }
 
