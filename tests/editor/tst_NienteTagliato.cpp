@@ -1,0 +1,217 @@
+#include "EditoreDiProva.h"
+#include "catalogue/SelezioneArchivifrm.h"
+#include "catalogue/Sfoglia.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyleOptionFrame>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
+/// Every window with everything in it, on the screen that the program is run on: no control is cut
+/// off, covered by another one, or out of reach. Run once for each screen and scale.
+class tst_NienteTagliato : public QObject
+{
+    Q_OBJECT
+private slots:
+    void FinestraIniziale();
+    void Editor();
+    void Anteprima();
+    void Dialogo_data();
+    void Dialogo();
+    void Sfogliando();
+};
+
+namespace {
+
+QString NomeDi(const QWidget *controllo)
+{
+    return QStringLiteral("%1 %2").arg(QLatin1String(controllo->metaObject()->className()),
+                                       controllo->objectName());
+}
+
+/// Inside a scrolling area, where what does not fit is reached by scrolling.
+bool Scorre(const QWidget *controllo, const QWidget *finestra)
+{
+    for (const QWidget *sopra = controllo->parentWidget(); sopra != finestra && sopra != nullptr;
+         sopra = sopra->parentWidget()) {
+        // So are the areas of the preview that hold the sheet and its rulers.
+        if (qobject_cast<const QAbstractScrollArea *>(sopra) != nullptr ||
+            sopra->objectName().startsWith(QStringLiteral("Area"))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The strip at the bottom of the preview is made to carry others, and shows its text beside them.
+bool Sfondo(const QWidget *controllo)
+{
+    return controllo->objectName() == QStringLiteral("Text1") &&
+           controllo->parentWidget()->objectName() == QStringLiteral("Frm1");
+}
+
+bool ConTesto(const QWidget *controllo)
+{
+    return qobject_cast<const QLabel *>(controllo) != nullptr ||
+           qobject_cast<const QAbstractButton *>(controllo) != nullptr ||
+           qobject_cast<const QLineEdit *>(controllo) != nullptr ||
+           qobject_cast<const QComboBox *>(controllo) != nullptr;
+}
+
+/// The least size that shows the control's text whole.
+QSize Serve(const QWidget *controllo)
+{
+    if (controllo->hasHeightForWidth()) {
+        return {0, controllo->heightForWidth(controllo->width())};
+    }
+    if (const auto *casella = qobject_cast<const QLineEdit *>(controllo)) {
+        // The hint also has the air that a box of a usual height has around its text.
+        QStyleOptionFrame aspetto;
+        aspetto.initFrom(casella);
+        aspetto.lineWidth = casella->style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+        const int dentro =
+            casella->style()->subElementRect(QStyle::SE_LineEditContents, &aspetto).height();
+        return {casella->minimumSizeHint().width(),
+                casella->height() - dentro + casella->fontMetrics().height()};
+    }
+    return controllo->minimumSizeHint();
+}
+
+/// What the control lacks to be seen whole; empty when it lacks nothing.
+QString Mancanza(const QWidget *controllo, const QWidget *finestra)
+{
+    const QSize serve = Serve(controllo);
+    if (ConTesto(controllo) && controllo->size().expandedTo(serve) != controllo->size()) {
+        return QStringLiteral("is %1 x %2, needs %3 x %4")
+            .arg(controllo->width())
+            .arg(controllo->height())
+            .arg(serve.width())
+            .arg(serve.height());
+    }
+    const QRect posto(controllo->mapTo(finestra, QPoint()), controllo->size());
+    if (!Scorre(controllo, finestra) && !finestra->rect().contains(posto)) {
+        return QStringLiteral("ends outside the window");
+    }
+    if (const auto *linguette = qobject_cast<const QTabBar *>(controllo)) {
+        const QRect ultima = linguette->tabRect(linguette->count() - 1);
+        return linguette->rect().contains(ultima) ? QString() : QStringLiteral("hides its tabs");
+    }
+    for (const QObject *figlio : controllo->parentWidget()->children()) {
+        const auto *fratello = qobject_cast<const QWidget *>(figlio);
+        if (fratello != nullptr && fratello != controllo && fratello->isVisible() &&
+            ConTesto(controllo) && ConTesto(fratello) && !Sfondo(controllo) && !Sfondo(fratello) &&
+            fratello->geometry().intersects(controllo->geometry())) {
+            return QStringLiteral("lies on ") + NomeDi(fratello);
+        }
+    }
+    return {};
+}
+
+/// The controls of the window as it is shown; fails the test at those that cannot be seen whole.
+int Controlla(const QWidget &finestra)
+{
+    QCoreApplication::processEvents();
+    const QRect schermo = finestra.screen()->availableGeometry();
+    if (!schermo.contains(finestra.frameGeometry())) {
+        QTest::qFail("the window does not fit the screen", __FILE__, __LINE__);
+    }
+    int controllati = 0;
+    for (const auto *controllo : finestra.findChildren<QWidget *>()) {
+        // Qt's own parts of a control look after themselves.
+        if (!controllo->isVisible() || controllo->window() != &finestra ||
+            controllo->objectName().isEmpty() || controllo->objectName().startsWith(u"qt_")) {
+            continue;
+        }
+        const QString mancanza = Mancanza(controllo, &finestra);
+        if (!mancanza.isEmpty()) {
+            QTest::qFail(qPrintable(NomeDi(controllo) + u' ' + mancanza), __FILE__, __LINE__);
+        }
+        ++controllati;
+    }
+    return controllati;
+}
+
+bool Apre(EditoreDiProva &prova)
+{
+    prova.Archivio.Riempie(2);
+    return prova.Apre();
+}
+
+} // namespace
+
+void tst_NienteTagliato::FinestraIniziale()
+{
+    ArchivioDiProva prova;
+    prova.Scrive();
+    SelezioneArchivifrm finestra(prova.Stato());
+    QVERIFY(finestra.Form_Load(QStringLiteral(CARTELLA_CAMPIONE)));
+    finestra.show();
+    QVERIFY(Controlla(finestra) > 10);
+}
+
+void tst_NienteTagliato::Editor()
+{
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    auto *pagine = Trova<QTabWidget>(*prova.Editor, "SSTab1");
+    for (int p = 0; p < pagine->count(); ++p) {
+        pagine->setCurrentIndex(p);
+        QVERIFY2(Controlla(*prova.Editor) > 15, qPrintable(pagine->tabText(p)));
+    }
+}
+
+void tst_NienteTagliato::Anteprima()
+{
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    QVERIFY(Controlla(*prova.Editor->Anteprima()) > 5);
+}
+
+void tst_NienteTagliato::Dialogo_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::newRow("FrmCampo") << Genere::Campo;
+    QTest::newRow("FrmCornice") << Genere::Cornice;
+    QTest::newRow("FrmImmagine") << Genere::Immagine;
+}
+
+void tst_NienteTagliato::Dialogo()
+{
+    QFETCH(Genere, genere);
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    Robot robot;
+    int controllati = 0;
+    robot.Agisce([&](QDialog *dialogo) {
+        controllati = Controlla(*dialogo);
+        dialogo->reject();
+    });
+    prova.ApreProprieta(genere, 1);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(controllati > 15);
+}
+
+void tst_NienteTagliato::Sfogliando()
+{
+    Robot robot;
+    int controllati = 0;
+    robot.Agisce([&](QDialog *dialogo) {
+        controllati = Controlla(*dialogo);
+        dialogo->reject();
+    });
+    Sfoglia sfoglia;
+    sfoglia.FileEntrata()->setText(
+        QStringLiteral(CARTELLA_CAMPIONE "/Archivio_2026/ini/LogoPerlanera.jpg"));
+    sfoglia.exec();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(controllati > 8);
+}
+
+QTEST_MAIN(tst_NienteTagliato)
+#include "tst_NienteTagliato.moc"
