@@ -99,6 +99,8 @@ private slots:
     void CoordinateEnormi();
     void TestiDelloSfondo_data();
     void TestiDelloSfondo();
+    void TestiAlPostoDeiNumeri_data();
+    void TestiAlPostoDeiNumeri();
     void TestiNelleCaselle_data();
     void TestiNelleCaselle();
 };
@@ -365,6 +367,69 @@ void tst_ModelliOstili::TestiDelloSfondo()
     Preme(*prova.Editor, "Salva");
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(prova.Archivio.ByteDelFile(), prima);
+}
+
+void tst_ModelliOstili::TestiAlPostoDeiNumeri_data()
+{
+    TestiDelloSfondo_data();
+}
+
+void tst_ModelliOstili::TestiAlPostoDeiNumeri()
+{
+    // Every number of one element of each kind and of the rows, as a hand at a text editor may
+    // leave it in the file.
+    QFETCH(QString, testo);
+    constexpr double Segno = 777;
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(3);
+    Modello &modello = prova.Archivio.Aperto();
+    QList<double *> numeri{&modello.Righe.yInizio,        &modello.Righe.yFine,
+                           &modello.Righe.Interlinea,     &modello.Righe.InterlineaDescr,
+                           &modello.Campi[2].X,           &modello.Campi[2].Y,
+                           &modello.Cornici[2].X,         &modello.Cornici[2].Y,
+                           &modello.Cornici[2].Larghezza, &modello.Cornici[2].Altezza,
+                           &modello.Cornici[2].Bordo,     &modello.Immagini[2].X,
+                           &modello.Immagini[2].Y,        &modello.Immagini[2].Larghezza,
+                           &modello.Immagini[2].Altezza,  &modello.Immagini[2].Bordo};
+    for (double *numero : numeri) {
+        *numero = Segno;
+    }
+    prova.Archivio.Scrive();
+    QList<QByteArray> righe = prova.Archivio.ByteDelFile().split('\n');
+    const QByteArrayView segno("777");
+    qsizetype cambiate = 0;
+    for (QByteArray &riga : righe) {
+        if (riga.trimmed() == segno) {
+            riga.replace(segno, testo.toLatin1());
+            ++cambiate;
+        }
+    }
+    QCOMPARE(cambiate, numeri.size());
+    const QByteArray byte = righe.join('\n');
+    ScriveFile(prova.Archivio.Percorso(), byte);
+
+    bool aperto = false;
+    {
+        Robot robot;
+        IN_UN_SECONDO(aperto = prova.ApreComeSta());
+        // A number beyond what can be stored keeps the model closed, and says so.
+        QVERIFY(aperto ? robot.Testi().size() <= 1 : robot.Testi().size() == 1);
+    }
+    if (!aperto) {
+        QCOMPARE(prova.Archivio.ByteDelFile(), byte);
+        return;
+    }
+    for (const double numero : NumeriDi(modello)) {
+        QVERIFY2(std::isfinite(numero), "a number that no file can hold");
+    }
+    Robot robot;
+    IN_UN_SECONDO(LavoraConTutto(prova));
+    IN_UN_SECONDO(prova.Stampa());
+    QVERIFY(robot.Soddisfatto());
+    robot.Si();
+    Preme(*prova.Editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Archivio.Riletto().NumImmagini, qint16(3));
 }
 
 void tst_ModelliOstili::TestiNelleCaselle_data()
