@@ -1,5 +1,7 @@
 #include "base/Lucchetto.h"
 
+#include <QSysInfo>
+
 Lucchetto::Lucchetto(const QString &file)
     : file_(file)
 {
@@ -17,10 +19,18 @@ Lucchetto::Esito Lucchetto::Prende()
     qint64 processo = 0;
     QString macchina;
     QString programma;
-    if (file_.getLockInfo(&processo, &macchina, &programma)) {
+    if (file_.getLockInfo(&processo, &macchina, &programma) &&
+        macchina != QSysInfo::machineHostName()) {
         return Esito::Occupato;
     }
-    // A machine that died while the lock was being written left a file that names no process. The
+    // Of a process that has died, where the disk has no room for Qt's own way to take its lock
+    // over; or of a machine that died while the lock was being written, and names no process. The
     // removal itself fails while a living process holds the file.
-    return file_.removeStaleLockFile() && file_.tryLock(0) ? Esito::Preso : Esito::Occupato;
+    if (!file_.removeStaleLockFile()) {
+        return Esito::Occupato;
+    }
+    if (file_.tryLock(0)) {
+        return Esito::Preso;
+    }
+    return file_.error() == QLockFile::LockFailedError ? Esito::Occupato : Esito::Impossibile;
 }

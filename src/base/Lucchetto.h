@@ -11,13 +11,12 @@ public:
     explicit Lucchetto(const QString &file);
 
     enum class Esito {
-        Preso,      ///< by this object, now or before; until Lascia or its destruction
+        Preso,      ///< by this object, now or before, until its destruction
         Occupato,   ///< another object holds it, of this process or of another
         Impossibile ///< the file cannot be made: a full disk, a folder without rights
     };
     /// Does not wait.
     Esito Prende();
-    void Lascia() { file_.unlock(); }
 
 private:
     QLockFile file_;

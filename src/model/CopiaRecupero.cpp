@@ -8,12 +8,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QUrl>
 
 namespace {
 
 constexpr QByteArrayView Firma = "plakera-recupero 1";
 constexpr QLatin1String Estensione(".recupero");
+constexpr QLatin1String EstensioneLucchetto(".lock");
 constexpr qint64 DimensioneMassima = FileModello::DimensioneMassima + 4096;
 constexpr int RigheIntestazione = 4;
 constexpr const char *Assente = "assente";
@@ -73,7 +75,7 @@ std::optional<Letta> Legge(const QString &file)
 
 std::unique_ptr<Lucchetto> LucchettoDi(const QString &copia)
 {
-    return std::make_unique<Lucchetto>(copia + QLatin1String(".lock"));
+    return std::make_unique<Lucchetto>(copia + EstensioneLucchetto);
 }
 
 /// True when a living program is writing the copy.
@@ -105,30 +107,45 @@ CopiaRecupero &CopiaRecupero::operator=(CopiaRecupero &&) noexcept = default;
 void CopiaRecupero::Parte(const std::optional<QByteArray> &byte)
 {
     impronta_ = Impronta(byte);
-    tentata_.clear();
 }
 
 void CopiaRecupero::Tentati(const QByteArray &byte)
 {
-    tentata_ = Somma(byte);
+    try {
+        if (Disco::Legge(percorsoModello_, FileModello::DimensioneMassima) == byte) {
+            Parte(byte);
+        }
+    } catch (const ErroreSistema &) {
+        // What cannot be read now is judged before the next save.
+        return;
+    }
 }
 
-QStringList CopiaRecupero::FileDelModello() const
+QStringList CopiaRecupero::FileDelModello(const QString &estensione) const
 {
     const QDir cartella(cartella_);
     QStringList file;
     const QStringList nomi =
-        cartella.entryList({radice_ + QStringLiteral("-*") + Estensione}, QDir::Files, QDir::Time);
+        cartella.entryList({radice_ + QStringLiteral("-*") + estensione}, QDir::Files, QDir::Time);
     for (const QString &nome : nomi) {
         file.append(cartella.filePath(nome));
     }
     return file;
 }
 
+void CopiaRecupero::PulisceLucchetti() const
+{
+    for (const QString &file : FileDelModello(Estensione + EstensioneLucchetto)) {
+        // Taken over and given back, the lock of a program that has died is gone.
+        InUso(file.chopped(EstensioneLucchetto.size()));
+    }
+}
+
 QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca(const Avviso &avviso) const
 {
+    PulisceLucchetti();
     QList<Trovata> trovate;
-    for (const QString &file : FileDelModello()) {
+    for (const QString &file : FileDelModello(Estensione)) {
         try {
             const std::optional<Letta> letta = Legge(file);
             if (!letta || letta->percorso != percorsoModello_) {
@@ -177,9 +194,7 @@ void CopiaRecupero::Riprende(const Trovata &trovata)
 bool CopiaRecupero::FileCambiato() const
 {
     try {
-        const QByteArray adesso =
-            Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima));
-        return adesso != impronta_ && adesso != tentata_;
+        return Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima)) != impronta_;
     } catch (const ErroreSistema &errore) {
         switch (errore.numero) {
         case ErroreSistema::MemoriaEsaurita: // far larger than any model
@@ -195,15 +210,11 @@ bool CopiaRecupero::FileCambiato() const
 
 void CopiaRecupero::ScegliePropria()
 {
-    // A name of its own, so that an earlier copy, declined or not, is not written over, nor that of
-    // another program which has just begun one.
-    for (int numero = 1;; ++numero) {
-        propria_ = QDir(cartella_).filePath(radice_ + u'-' + QString::number(numero) + Estensione);
-        lucchetto_ = LucchettoDi(propria_);
-        if (lucchetto_->Prende() != Lucchetto::Esito::Occupato && !QFileInfo::exists(propria_)) {
-            return;
-        }
-    }
+    // A name that no copy has had or will have: neither is an earlier one written over, declined or
+    // not, nor is one that another program has begun meanwhile ever taken for one of ours.
+    const quint64 caso = QRandomGenerator::system()->generate64();
+    propria_ = QDir(cartella_).filePath(radice_ + u'-' + QString::number(caso, 16) + Estensione);
+    lucchetto_ = LucchettoDi(propria_);
 }
 
 void CopiaRecupero::Scrive(const Modello &modello)
@@ -214,11 +225,11 @@ void CopiaRecupero::Scrive(const Modello &modello)
     if (propria_.isEmpty()) {
         ScegliePropria();
     }
+    lucchetto_->Prende(); // the copy is worth more than its lock, where the disk has no room for it
     // The copy is read back whatever the locale, so it is written with a point: nothing is rounded
     // away by going through it.
     const QByteArray corpo = FileModello::Componi(modello, QLocale::c());
     Disco::Sostituisce(propria_, Intestazione(percorsoModello_, impronta_, corpo) + corpo);
-    lucchetto_->Prende(); // where the disk had no room for it before
     if (!ripresa_.isEmpty() && Elimina(ripresa_)) {
         ripresa_.clear();
     }
@@ -235,5 +246,5 @@ void CopiaRecupero::EliminaPropria()
 void CopiaRecupero::EliminaOfferte()
 {
     EliminaPropria();
-    offerte_.removeIf([](const QString &file) { return !InUso(file) && Elimina(file); });
+    offerte_.removeIf(&Elimina);
 }

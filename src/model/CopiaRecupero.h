@@ -45,8 +45,8 @@ public:
     /// in the meantime.
     void Parte(const std::optional<QByteArray> &byte);
 
-    /// The bytes that a save which failed was writing: should they stand in the file, it has not
-    /// been changed by anybody else.
+    /// A save that failed was writing these bytes: should they stand in the file all the same, they
+    /// count as written.
     void Tentati(const QByteArray &byte);
 
     /// The whole copies of this model, newest first. Damaged ones are left alone; avviso is told
@@ -63,7 +63,7 @@ public:
     /// The user goes on from this copy: it goes as soon as this opening's own holds its work.
     void Riprende(const Trovata &trovata);
 
-    /// True when the model file is neither what it was at Parte nor what Tentati names; false when
+    /// True when the model file is no longer what it was at Parte; false when
     /// it is gone, for then there is nothing of anybody's to overwrite. Throws ErroreSistema (57,
     /// 75) when that cannot be told.
     bool FileCambiato() const;
@@ -79,14 +79,14 @@ public:
     void EliminaOfferte();
 
 private:
-    QStringList FileDelModello() const;
+    QStringList FileDelModello(const QString &estensione) const;
+    void PulisceLucchetti() const;
     void ScegliePropria();
 
     QString cartella_;
     QString percorsoModello_;
     QString radice_;      ///< start of the names of this model's copies
     QByteArray impronta_; ///< of the model file at Parte
-    QByteArray tentata_;  ///< of the bytes that a failed save may have put there
     QStringList offerte_; ///< files of the copies the user has been asked about
     QString ripresa_;     ///< file of the copy that the user goes on from
     QString propria_;     ///< empty until the first copy of this opening

@@ -14,6 +14,8 @@ private slots:
     void PresoELasciato();
     void OccupatoDaUnAltro();
     void DiUnProcessoMorto();
+    void DiUnMortoADiscoPieno();
+    void DiUnVivoADiscoPieno();
     void DiUnaMacchinaLontana();
     void RimastoAMeta();
     void Impossibile();
@@ -28,11 +30,12 @@ using Esito = Lucchetto::Esito;
 
 void tst_Lucchetto::PresoELasciato()
 {
-    Lucchetto lucchetto(File());
-    QCOMPARE(lucchetto.Prende(), Esito::Preso);
-    QVERIFY(QFile::exists(File()));
-    QVERIFY2(lucchetto.Prende() == Esito::Preso, "it is held already");
-    lucchetto.Lascia();
+    {
+        Lucchetto lucchetto(File());
+        QCOMPARE(lucchetto.Prende(), Esito::Preso);
+        QVERIFY(QFile::exists(File()));
+        QVERIFY2(lucchetto.Prende() == Esito::Preso, "it is held already");
+    }
     QVERIFY(!QFile::exists(File()));
 }
 
@@ -51,10 +54,31 @@ void tst_Lucchetto::OccupatoDaUnAltro()
 void tst_Lucchetto::DiUnProcessoMorto()
 {
     // One second old or ten years: only the process counts.
-    constexpr qint64 MaiEsistito = (qint64(1) << 22) + 1; // beyond what Linux numbers
-    ScriveFile(File(), QByteArray::number(MaiEsistito) + "\ntst_Lucchetto\n" +
-                           QSysInfo::machineHostName().toUtf8() + "\n");
+    ScriveFile(File(), LucchettoDiUnMorto());
     QCOMPARE(Lucchetto(File()).Prende(), Esito::Preso);
+    ScriveFile(File(), LucchettoDiUnMorto());
+    Invecchia(File(), 10L * 365 * 86400);
+    QCOMPARE(Lucchetto(File()).Prende(), Esito::Preso);
+}
+
+void tst_Lucchetto::DiUnMortoADiscoPieno()
+{
+    ScriveFile(File(), LucchettoDiUnMorto());
+    Esito esito = Esito::Preso;
+    {
+        const LimiteFile nessunByte(0);
+        esito = Lucchetto(File()).Prende();
+    }
+    QCOMPARE(esito, Esito::Impossibile);
+    QCOMPARE(Lucchetto(File()).Prende(), Esito::Preso);
+}
+
+void tst_Lucchetto::DiUnVivoADiscoPieno()
+{
+    Lucchetto vivo(File());
+    QCOMPARE(vivo.Prende(), Esito::Preso);
+    const LimiteFile nessunByte(0);
+    QCOMPARE(Lucchetto(File()).Prende(), Esito::Occupato);
 }
 
 void tst_Lucchetto::DiUnaMacchinaLontana()

@@ -36,6 +36,9 @@ private slots:
     void LaRipresaVaViaQuandoLaNuovaLaTiene();
     void EliminatiDaAltriSiRiscrivono();
     void DiUnProgrammaVivo();
+    void NessunNomeTornaIndietro();
+    void LucchettiDiMorti();
+    void DiUnMortoADiscoPieno();
     void UgualeAlFileVaVia();
     void NonLeggibileSiDice();
     void NonEliminabileSiRiprova();
@@ -192,7 +195,8 @@ void tst_CopiaRecupero::VannoViaSoloLeOfferte()
     CopiaRecupero copia = Aperta();
     const auto trovate = copia.Cerca();
     QCOMPARE(trovate.size(), 2);
-    const QString guasta = QString(offerta).replace(QStringLiteral("-1."), QStringLiteral("-9."));
+    const QString guasta =
+        QString(offerta).replace(QStringLiteral(".rec"), QStringLiteral("9.rec"));
     ScriveFile(guasta, "non e' una copia");
     copia.SegnaOfferta(trovate[trovate[0].file == offerta ? 0 : 1]);
     copia.Scrive(ModelloDiProva(2));
@@ -241,20 +245,60 @@ void tst_CopiaRecupero::DiUnProgrammaVivo()
         const auto trovate = prima.Cerca();
         QCOMPARE(trovate.size(), 1);
         QVERIFY(trovate[0].inUso);
-        // Even of one that was free when the user was asked about it.
-        prima.SegnaOfferta(trovate[0]);
-        prima.EliminaOfferte();
-        QCOMPARE(Copie().size(), 1);
-        // And the other's next copy does not take its name.
-        CopiaRecupero altra = Aperta();
-        altra.Scrive(ModelloDiProva(2));
-        QCOMPARE(Copie().size(), 2);
-        altra.EliminaPropria();
     }
     QVERIFY2(!prima.Cerca().constFirst().inUso, "its program has ended");
+    prima.SegnaOfferta(prima.Cerca().constFirst());
     prima.EliminaOfferte();
     QVERIFY(Copie().isEmpty());
     QVERIFY2(NomiIn(Cartella()).isEmpty(), "no lock stays behind");
+}
+
+void tst_CopiaRecupero::NessunNomeTornaIndietro()
+{
+    // While the one is asked about a copy, another takes it up, saves, edits on and dies.
+    Lascia(50);
+    CopiaRecupero prima = Aperta();
+    const auto offerta = prima.Cerca().constFirst();
+    prima.SegnaOfferta(offerta);
+    QVERIFY(QFile::remove(offerta.file));
+    Lascia(60);
+    prima.Riprende(offerta);
+    prima.Scrive(offerta.modello);
+    QVERIFY2(Copie().size() == 2, "the copy just written stands beside the other's");
+    prima.EliminaOfferte();
+    QCOMPARE(Copie().size(), 1);
+    QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 60.0);
+}
+
+void tst_CopiaRecupero::LucchettiDiMorti()
+{
+    // Of programs killed before their first copy, of one whose copy is damaged, of one alive.
+    Lascia(50);
+    CopiaRecupero viva = Aperta();
+    viva.Scrive(ModelloDiProva(2));
+    const QString radice = Copie().constFirst().section(u'-', 0, 0);
+    const QString guasta = Cartella() + u'/' + radice + QStringLiteral("-9.recupero");
+    ScriveFile(guasta, "non e' una copia");
+    for (const char *nome : {"-7.recupero.lock", "-8.recupero.lock", "-9.recupero.lock"}) {
+        ScriveFile(Cartella() + u'/' + radice + QLatin1String(nome), LucchettoDiUnMorto());
+    }
+    QCOMPARE(Aperta().Cerca().size(), 2);
+    QCOMPARE(Copie().size(), 3);
+    QVERIFY2(NomiIn(Cartella()).size() == 4, "one lock, of the living");
+}
+
+void tst_CopiaRecupero::DiUnMortoADiscoPieno()
+{
+    Lascia(50);
+    const QString file = Aperta().Cerca().constFirst().file;
+    ScriveFile(file + QStringLiteral(".lock"), LucchettoDiUnMorto());
+    QList<CopiaRecupero::Trovata> trovate;
+    {
+        const LimiteFile niente(0);
+        trovate = Aperta().Cerca();
+    }
+    QCOMPARE(trovate.size(), 1);
+    QVERIFY2(!trovate[0].inUso, "a full disk makes nobody alive");
 }
 
 void tst_CopiaRecupero::UgualeAlFileVaVia()
@@ -317,17 +361,19 @@ void tst_CopiaRecupero::NonEliminabileSiRiprova()
 
 void tst_CopiaRecupero::ByteDiUnSalvataggioFallito()
 {
+    const QByteArray prima = ByteDi(Percorso());
     const QByteArray tentati = FileModello::Componi(ModelloDiProva(7), Punto);
     CopiaRecupero copia = Aperta();
     copia.Tentati(tentati);
     QVERIFY2(!copia.FileCambiato(), "the old bytes stand");
     ScriveFile(Percorso(), tentati);
-    QVERIFY2(!copia.FileCambiato(), "they are the program's own");
-    ScriveFile(Percorso(), tentati + "x");
     QVERIFY(copia.FileCambiato());
-    copia.Parte(tentati + "x");
-    ScriveFile(Percorso(), tentati);
-    QVERIFY2(copia.FileCambiato(), "a later save has made them old");
+    copia.Tentati(tentati);
+    QVERIFY2(!copia.FileCambiato(), "they are the program's own");
+    copia.Scrive(ModelloDiProva(8));
+    QVERIFY2(!Aperta().Cerca().constFirst().fileCambiato, "nor are they after a fall");
+    ScriveFile(Percorso(), prima);
+    QVERIFY(copia.FileCambiato());
 }
 
 QTEST_GUILESS_MAIN(tst_CopiaRecupero)

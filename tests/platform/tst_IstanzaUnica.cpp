@@ -43,6 +43,7 @@ private slots:
     void ProcessoUcciso();
     void LucchettoVuoto();
     void DiscoPieno();
+    void DiscoPienoDopoUnaCaduta();
     void RestaAcquisita();
 
 private:
@@ -137,6 +138,17 @@ void tst_IstanzaUnica::DiscoPieno()
     const LimiteFile nessunByte(0);
     IstanzaUnica istanza;
     QVERIFY2(istanza.Acquisisce(), "a full disk is no second instance");
+}
+
+void tst_IstanzaUnica::DiscoPienoDopoUnaCaduta()
+{
+    QProcess primo;
+    Avvia(primo, "unica");
+    primo.kill();
+    QTRY_COMPARE(primo.state(), QProcess::NotRunning);
+    const LimiteFile nessunByte(0);
+    IstanzaUnica istanza;
+    QVERIFY2(istanza.Acquisisce(), "what has died is no first instance");
 }
 
 void tst_IstanzaUnica::RestaAcquisita()

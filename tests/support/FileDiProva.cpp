@@ -1,5 +1,6 @@
 #include "support/FileDiProva.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,13 @@ void Invecchia(const QString &percorso, qint64 secondi)
     QVERIFY(file.open(QIODevice::ReadWrite));
     QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-secondi),
                              QFileDevice::FileModificationTime));
+}
+
+QByteArray LucchettoDiUnMorto()
+{
+    constexpr qint64 MaiEsistito = (qint64(1) << 22) + 1; // beyond what Linux numbers
+    return QByteArray::number(MaiEsistito) + '\n' + QCoreApplication::applicationName().toUtf8() +
+           '\n' + QSysInfo::machineHostName().toUtf8() + '\n';
 }
 
 LimiteFile::LimiteFile(qint64 byte)

@@ -20,6 +20,9 @@ QStringList NomiIn(const QString &cartella);
 /// Makes the file as old as if it had last been written so many seconds ago.
 void Invecchia(const QString &percorso, qint64 secondi);
 
+/// What the lock file of a process on this machine holds that was killed.
+QByteArray LucchettoDiUnMorto();
+
 /// While it lives no file of this process may grow beyond so many bytes.
 class LimiteFile
 {
