@@ -11,6 +11,7 @@
 #include <QStyleOptionFrame>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 
 /// Every window with everything in it, on the screen that the program is run on: no control is cut
@@ -19,12 +20,16 @@ class tst_NienteTagliato : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase();
     void FinestraIniziale();
     void Editor();
     void Anteprima();
     void Dialogo_data();
     void Dialogo();
     void Sfogliando();
+
+private:
+    QTemporaryDir esecuzione_;
 };
 
 namespace {
@@ -144,6 +149,13 @@ bool Apre(EditoreDiProva &prova)
 }
 
 } // namespace
+
+void tst_NienteTagliato::initTestCase()
+{
+    // Where the program keeps its one instance: other tests that run meanwhile are none.
+    QVERIFY(esecuzione_.isValid());
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(esecuzione_.path()));
+}
 
 void tst_NienteTagliato::FinestraIniziale()
 {

@@ -35,6 +35,17 @@ Robot::Robot()
     timer_.start();
 }
 
+Robot::~Robot()
+{
+    if (!guardato_ && (inattesi_ > 0 || !risposte_.isEmpty())) {
+        const QString testo = QStringLiteral("%1 unexpected boxes, %2 answers left: %3")
+                                  .arg(inattesi_)
+                                  .arg(risposte_.size())
+                                  .arg(testi_.join(u'|'));
+        QTest::qFail(qPrintable(testo), __FILE__, __LINE__);
+    }
+}
+
 Robot &Robot::Ok()
 {
     return Agisce([](QDialog *d) { Preme(d, QMessageBox::Ok); });

@@ -9,12 +9,14 @@
 class QDialog;
 
 /// Answers the modal boxes that an action opens, in order, with the real buttons, and keeps what
-/// they said. A box that no answer waits for is closed and counted as unexpected.
+/// they said. A box that no answer waits for is closed and counted as unexpected; a test that looks
+/// neither at Soddisfatto nor at Testi fails for it.
 class Robot : public QObject
 {
     Q_OBJECT
 public:
     Robot();
+    ~Robot() override;
 
     Robot &Ok();
     Robot &Si();
@@ -27,13 +29,21 @@ public:
     Robot &Agisce(std::function<void(QDialog *)> azione);
 
     /// Texts of the boxes seen so far (label text for an input box, object name for other dialogs).
-    const QStringList &Testi() const { return testi_; }
+    const QStringList &Testi() const
+    {
+        guardato_ = true;
+        return testi_;
+    }
     /// Titles of the boxes, in the same order.
     const QStringList &Titoli() const { return titoli_; }
     /// Text of each box's default button ("" when it has none); for an input box, its proposal.
     const QStringList &Predefiniti() const { return predefiniti_; }
     /// True when every answer was used and no box came unexpected.
-    bool Soddisfatto() const { return risposte_.isEmpty() && inattesi_ == 0; }
+    bool Soddisfatto() const
+    {
+        guardato_ = true;
+        return risposte_.isEmpty() && inattesi_ == 0;
+    }
 
 private:
     void Guarda();
@@ -46,4 +56,5 @@ private:
     QStringList predefiniti_;
     QList<const QObject *> visti_;
     int inattesi_ = 0;
+    mutable bool guardato_ = false;
 };

@@ -15,13 +15,14 @@ inline constexpr int Lentezza = 3;
 inline constexpr int Lentezza = 1;
 #endif
 
-/// Processor time of this process since it was made, in milliseconds: what else the machine does
-/// meanwhile does not count, and neither does waiting.
+/// The time that this process works since the object was made: what else the machine does meanwhile
+/// does not count.
 class TempoDiLavoro
 {
 public:
     TempoDiLavoro() { orologio_.start(); }
 
+    /// Processor time.
     double MilliSecondi() const
     {
         return 1000.0 * static_cast<double>(std::clock() - inizio_) / CLOCKS_PER_SEC;
