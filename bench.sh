@@ -11,14 +11,18 @@ mkdir -p -m 700 "$XDG_RUNTIME_DIR"
 misure=$(mktemp)
 trap 'rm -f "$misure"' EXIT
 for nome in Modello Stampa Anteprima Editor Programma; do
+  uno=$(mktemp -p "$XDG_RUNTIME_DIR")
   stato=0
-  timeout 300 xvfb-run -a -s '-screen 0 1366x768x24' build/release/benchmarks/bench_$nome >>"$misure" 2>&1 || stato=$?
-  # Up to here it counts missed goals; from here it was stopped or has crashed.
-  if [ $stato -ge 124 ]; then
-    cat "$misure"
-    echo "bench_$nome ended with status $stato" >&2
+  timeout 300 xvfb-run -a -s '-screen 0 1366x768x24' build/release/benchmarks/bench_$nome >"$uno" 2>&1 || stato=$?
+  cat "$uno" >>"$misure"
+  # Up to 123 it counts missed goals; beyond, it was stopped or has crashed. One that did not come to
+  # its end, or left something out, has measured nothing for the table.
+  if [ $stato -ge 124 ] || ! grep -q '^Totals: .* 0 skipped' "$uno"; then
+    cat "$uno"
+    echo "bench_$nome did not measure: status $stato" >&2
     exit 2
   fi
+  rm "$uno"
 done
 awk -F';' '/misura;/ {
     rapporto = $4 > 0 ? sprintf("%.2f", $3 / $4) : "-"

@@ -236,7 +236,7 @@ void bench_Editor::Riposo()
     QTimer::singleShot(Attesa, &giro, &QEventLoop::quit);
     const double inizio = MilliSecondiCpu();
     giro.exec();
-    // One tick of the system's accounting is 10 ms: below it a process counts as idle.
+    // None but for the one timer of this loop, which takes a fraction of a millisecond.
     Riporta("processor in 10 s of rest", MilliSecondiCpu() - inizio, 1);
     editor->Variato = false;
 }

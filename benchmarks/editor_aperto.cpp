@@ -3,6 +3,7 @@
 #include "preview/Frm1.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QWindow>
 
 /// editor_aperto FOLDER MODEL: opens the model of the archive folder in the editor, paints the
@@ -24,9 +25,15 @@ int main(int argc, char *argv[])
     editor.show();
     editor.Anteprima()->show();
     // What is shown is painted when its exposure comes from the screen, not at once.
+    constexpr int Limite = 10'000; // ms
+    QElapsedTimer tempo;
+    tempo.start();
     while (editor.Anteprima()->windowHandle() == nullptr ||
            !editor.Anteprima()->windowHandle()->isExposed()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (tempo.elapsed() > Limite) {
+            return 3;
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     }
     QCoreApplication::processEvents();
     return 0;
