@@ -25,7 +25,8 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 void Sostituisce(const QString &percorso, const QByteArray &byte);
 
 /// Makes a folder that is the user's alone, and those above it as the system makes them. One that
-/// exists stays as it is. Throws ErroreSistema (75, 57) when there is none then.
+/// exists stays as it is. Throws ErroreSistema: 75 when there is none then, and what Sostituisce
+/// throws when a new one's name cannot be forced onto the medium.
 void CreaCartellaPrivata(const QString &cartella);
 
 /// Forces the bytes of an open file (a C descriptor) onto the medium; an empty code when done.

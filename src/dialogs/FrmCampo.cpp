@@ -1,9 +1,8 @@
 #include "dialogs/FrmCampo.h"
 
-#include "model/FileModelloRighe.h"
-
 #include "ui_FrmCampo.h"
 
+#include "model/FileModelloRighe.h"
 #include "model/Numeri.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"

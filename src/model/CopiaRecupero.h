@@ -63,9 +63,9 @@ public:
     /// The user goes on from this copy: it goes as soon as this opening's own holds its work.
     void Riprende(const Trovata &trovata);
 
-    /// True when the model file is no longer what it was at Parte; false when
-    /// it is gone, for then there is nothing of anybody's to overwrite. Throws ErroreSistema (57,
-    /// 75) when that cannot be told.
+    /// True when the model file is no longer what it was at Parte; false when it is gone, for then
+    /// there is nothing of anybody's to overwrite. Throws ErroreSistema (57, 75) when that cannot
+    /// be told.
     bool FileCambiato() const;
 
     /// Replaces this opening's copy. Throws ErroreSistema when it cannot be written; the copy

@@ -16,12 +16,11 @@ struct EventoMouse
     Qt::KeyboardModifiers tasti;
 };
 
-/// The hint for a point of the sheet.
+/// The hint for a point of the sheet; it goes when the pointer leaves what it is about.
 struct Spiegazione
 {
     QString testo; ///< may hold carriage returns; empty: none
-    QRectF
-        posto; ///< mm of screen, of what the hint is about: the hint goes when the pointer leaves
+    QRectF posto;  ///< of what the hint is about, mm of screen
 };
 
 /// Who acts on the mouse over the sheet. What these throw ends in a message box.
