@@ -237,8 +237,9 @@ void ManiSulFoglio::RilasciaElemento(const Cattura &preso, const EventoMouse &ev
 {
     ControlloElemento &controllo = elementi_.Elemento(preso.genere, preso.indice);
     controllo.ImpostaPuntatore(Qt::ArrowCursor);
-    if (std::exchange(ridimensione_, {}).avviata) {
-        ConcludeRidimensione(preso.genere, preso.indice);
+    const Ridimensione ridimensione = std::exchange(ridimensione_, {});
+    if (ridimensione.avviata) {
+        ConcludeRidimensione(preso, ridimensione.presa);
     }
     elementi_.PrimoPiano(preso.genere);
     if (preso.bottone == Qt::LeftButton && elementi_.Tocca(controllo, evento.punto)) {

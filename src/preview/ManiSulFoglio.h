@@ -74,6 +74,7 @@ private:
     {
         Presa presa = Presa::Nessuna;
         QPointF partenza;     ///< of the pointer
+        QSizeF misura;        ///< of the element at the press
         QPointF scarto;       ///< from the pointer to the gripped edges
         bool premuto = false; ///< the left button is held: presa is decided
         bool avviata = false; ///< the pointer has moved since
@@ -93,7 +94,7 @@ private:
     void Fa_Click(Genere genere, int i);
     void RilasciaManiglia(const Cattura &preso);
     void RilasciaElemento(const Cattura &preso, const EventoMouse &evento);
-    void ConcludeRidimensione(Genere genere, int i);
+    void ConcludeRidimensione(const Cattura &preso, Presa presa);
     void ChiedeProprieta(Genere genere, int i);
     void Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni, QPointF punto);
     void ApplicaMisura(Genere genere, int i, QSizeF misura);

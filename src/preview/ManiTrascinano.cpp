@@ -118,7 +118,8 @@ void ManiSulFoglio::Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni,
         ridimensione_ = {};
         if (sinistro) {
             // What is gripped is decided once: a press elsewhere never turns into a resize.
-            ridimensione_ = {presa, punto, QPointF(posto.width(), posto.height()) - punto, true};
+            ridimensione_ = {presa, punto, posto.size(),
+                             QPointF(posto.width(), posto.height()) - punto, true};
         }
         return;
     }
@@ -128,11 +129,11 @@ void ManiSulFoglio::Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni,
         return;
     }
     ridimensione_.avviata = true;
-    ApplicaMisura(
-        genere, i,
-        Ridimensionamento::Misura(posto, ridimensione_.presa, punto + ridimensione_.scarto,
-                                  MisuraMinima / stato_.zoom,
-                                  {geometria_.LarghezzaFoglio(), geometria_.AltezzaFoglio()}));
+    ApplicaMisura(genere, i,
+                  Ridimensionamento::Misura(
+                      QRectF(posto.topLeft(), ridimensione_.misura), ridimensione_.presa,
+                      punto + ridimensione_.scarto, MisuraMinima / stato_.zoom,
+                      {geometria_.LarghezzaFoglio(), geometria_.AltezzaFoglio()}));
 }
 
 void ManiSulFoglio::ApplicaMisura(Genere genere, int i, QSizeF misura)
@@ -164,22 +165,29 @@ void ManiSulFoglio::ApplicaMisura(Genere genere, int i, QSizeF misura)
     emit ElementoInMano(genere, i);
 }
 
-void ManiSulFoglio::ConcludeRidimensione(Genere genere, int i)
+void ManiSulFoglio::ConcludeRidimensione(const Cattura &preso, Presa presa)
 {
-    if (genere == Genere::Immagine) {
-        static_cast<RiquadroImmagine &>(elementi_.Elemento(genere, i)).ImpostaElastico(false);
+    const int i = preso.indice;
+    if (preso.genere == Genere::Immagine) {
+        static_cast<RiquadroImmagine &>(elementi_.Elemento(preso.genere, i)).ImpostaElastico(false);
         return;
     }
-    // A frame is placed on whole millimetres; rounding must not push its edges past the sheet.
-    elementi_.Posiziona(genere, i, false);
+    // A frame is placed on whole millimetres; rounding must not push a gripped edge past the sheet,
+    // or farther past it than it was. The other edges stay wherever they are.
+    elementi_.Posiziona(preso.genere, i, false);
     Cornice &cornice = stato_.Aperto.Cornici[i];
-    const double larghezza = Interi(geometria_.LarghezzaFoglio() * stato_.zoom - cornice.X);
-    const double altezza = Interi(geometria_.AltezzaFoglio() * stato_.zoom - cornice.Y);
-    if (larghezza >= MisuraMinima) {
-        cornice.Larghezza = std::min(cornice.Larghezza, larghezza);
+    const auto limita = [](double &misura, double foglio, double prima) {
+        if (Interi(foglio) >= MisuraMinima) {
+            misura = std::min(misura, std::max(Interi(foglio), prima));
+        }
+    };
+    if (Ridimensionamento::InLarghezza(presa)) {
+        limita(cornice.Larghezza, geometria_.LarghezzaFoglio() * stato_.zoom - cornice.X,
+               preso.prima.larghezza);
     }
-    if (altezza >= MisuraMinima) {
-        cornice.Altezza = std::min(cornice.Altezza, altezza);
+    if (Ridimensionamento::InAltezza(presa)) {
+        limita(cornice.Altezza, geometria_.AltezzaFoglio() * stato_.zoom - cornice.Y,
+               preso.prima.altezza);
     }
-    elementi_.Posiziona(genere, i, false);
+    elementi_.Posiziona(preso.genere, i, false);
 }

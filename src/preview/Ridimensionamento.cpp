@@ -12,7 +12,7 @@ bool SulBordo(double misura, double posto, double zona, double fuori)
 double Lato(double posto, double misura, double bordo, double minimo, double foglio)
 {
     const double massimo = foglio - posto;
-    return massimo < minimo ? misura : std::clamp(bordo, minimo, massimo);
+    return massimo < minimo ? misura : std::clamp(bordo, minimo, std::max(massimo, misura));
 }
 
 } // namespace
@@ -34,6 +34,16 @@ Presa Ridimensionamento::PresaIn(const QSizeF &misura, QPointF punto, double zon
     return basso ? Presa::Basso : Presa::Nessuna;
 }
 
+bool Ridimensionamento::InLarghezza(Presa presa)
+{
+    return presa == Presa::Destra || presa == Presa::Angolo;
+}
+
+bool Ridimensionamento::InAltezza(Presa presa)
+{
+    return presa == Presa::Basso || presa == Presa::Angolo;
+}
+
 Qt::CursorShape Ridimensionamento::Puntatore(Presa presa)
 {
     switch (presa) {
@@ -53,10 +63,10 @@ QSizeF Ridimensionamento::Misura(const QRectF &posto, Presa presa, QPointF bordo
                                  QSizeF foglio)
 {
     QSizeF misura = posto.size();
-    if (presa == Presa::Destra || presa == Presa::Angolo) {
+    if (InLarghezza(presa)) {
         misura.setWidth(Lato(posto.left(), posto.width(), bordo.x(), minimo, foglio.width()));
     }
-    if (presa == Presa::Basso || presa == Presa::Angolo) {
+    if (InAltezza(presa)) {
         misura.setHeight(Lato(posto.top(), posto.height(), bordo.y(), minimo, foglio.height()));
     }
     return misura;

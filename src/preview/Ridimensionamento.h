@@ -13,11 +13,15 @@ namespace Ridimensionamento {
 /// and reaches fuori beyond it.
 Presa PresaIn(const QSizeF &misura, QPointF punto, double zona, double fuori);
 
+bool InLarghezza(Presa presa);
+bool InAltezza(Presa presa);
+
 Qt::CursorShape Puntatore(Presa presa);
 
-/// The size that brings the gripped edges to bordo (from the element's corner). Along each axis it
-/// is at least minimo and does not reach past the sheet; where the sheet leaves less than minimo,
-/// the size stays as it is.
+/// The size that brings the gripped edges to bordo (from the element's corner), for an element that
+/// was at posto when it was gripped. Along each gripped axis it is at least minimo and does not
+/// reach past the sheet, or no farther past it than posto did; where the sheet leaves less than
+/// minimo, the size stays as it was.
 QSizeF Misura(const QRectF &posto, Presa presa, QPointF bordo, double minimo, QSizeF foglio);
 
 } // namespace Ridimensionamento

@@ -70,6 +70,11 @@ void tst_Ridimensionamento::Misure_data()
         << r << Presa::Angolo << QPointF(-9, 0.2) << QSizeF(1, 1);
     QTest::newRow("never past the sheet")
         << r << Presa::Angolo << QPointF(999, 999) << QSizeF(140, 150);
+    const QRectF oltre(100, 200, 200, 300);
+    QTest::newRow("past the sheet already: no jump to its edge")
+        << oltre << Presa::Destra << QPointF(199, 5) << QSizeF(199, 300);
+    QTest::newRow("past the sheet already: no farther")
+        << oltre << Presa::Angolo << QPointF(999, 999) << QSizeF(200, 300);
     QTest::newRow("no room left on the sheet")
         << QRectF(239.5, 200, 20, 30) << Presa::Angolo << QPointF(5, 5) << QSizeF(20, 5);
 }
