@@ -4,6 +4,7 @@
 #include "platform/Guardia.h"
 #include "preview/GeometriaAnteprima.h"
 
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QTextDocument>
@@ -80,12 +81,48 @@ void Foglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
 
 bool Foglio::viewportEvent(QEvent *evento)
 {
-    if (evento->type() == QEvent::ToolTip) {
+    switch (evento->type()) {
+    case QEvent::ToolTip: {
         const auto *aiuto = static_cast<QHelpEvent *>(evento);
         Guardia(this, [&] { MostraSuggerimento(aiuto->pos(), aiuto->globalPos()); });
         return true;
     }
+    case QEvent::UngrabMouse:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+    case QEvent::Hide:
+        Interrompe();
+        break;
+    default:
+        break;
+    }
     return QGraphicsView::viewportEvent(evento);
+}
+
+bool Foglio::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    switch (evento->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        // A widget that grabs the mouse tells nobody; its first event says that it has it.
+        if (oggetto->isWidgetType() && oggetto != viewport()) {
+            Interrompe();
+        }
+        break;
+    default:
+        break;
+    }
+    return QGraphicsView::eventFilter(oggetto, evento);
+}
+
+void Foglio::Interrompe()
+{
+    QCoreApplication::instance()->removeEventFilter(this);
+    if (ascolta_ != nullptr) {
+        Guardia(this, [this] { ascolta_->Interrompe(); });
+    }
 }
 
 void Foglio::MostraSuggerimento(const QPoint &locale, const QPoint &schermo)
@@ -110,6 +147,7 @@ void Foglio::Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const Even
 
 void Foglio::mousePressEvent(QMouseEvent *evento)
 {
+    QCoreApplication::instance()->installEventFilter(this);
     Avvisa(evento, &AscoltaMouse::Preme);
 }
 
@@ -120,11 +158,15 @@ void Foglio::mouseMoveEvent(QMouseEvent *evento)
 
 void Foglio::mouseReleaseEvent(QMouseEvent *evento)
 {
+    if (evento->buttons() == Qt::NoButton) {
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
     Avvisa(evento, &AscoltaMouse::Rilascia);
 }
 
 void Foglio::mouseDoubleClickEvent(QMouseEvent *evento)
 {
+    QCoreApplication::instance()->installEventFilter(this);
     Avvisa(evento, &AscoltaMouse::PremeDueVolte);
 }
 

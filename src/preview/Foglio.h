@@ -32,6 +32,8 @@ public:
     virtual void Muove(const EventoMouse &evento) = 0;
     virtual void Rilascia(const EventoMouse &evento) = 0;
     virtual void PremeDueVolte(const EventoMouse &evento) = 0;
+    /// The mouse has been taken away: what is under way ends as at a release, which will not come.
+    virtual void Interrompe() = 0;
     virtual Spiegazione Suggerimento(QPointF punto) const = 0;
 };
 
@@ -60,9 +62,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *evento) override;
     void mouseDoubleClickEvent(QMouseEvent *evento) override;
     void wheelEvent(QWheelEvent *evento) override;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     void Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const EventoMouse &));
+    void Interrompe();
     void MostraSuggerimento(const QPoint &locale, const QPoint &schermo);
 
     const GeometriaAnteprima &geometria_;

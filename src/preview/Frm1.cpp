@@ -132,6 +132,8 @@ void Frm1::showEvent(QShowEvent *)
 
 void Frm1::closeEvent(QCloseEvent *evento)
 {
+    // What is being dragged belongs to what the user is asked to save.
+    Guardia(this, [this] { mani_->Interrompe(); });
     if (evento->spontaneous()) {
         evento->ignore();
         emit ChiusuraRichiesta();

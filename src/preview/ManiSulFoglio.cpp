@@ -79,12 +79,14 @@ ManiSulFoglio::Stampo ManiSulFoglio::StampoDi(Genere genere, int i) const
 
 void ManiSulFoglio::Preme(const EventoMouse &evento)
 {
-    if (preso_.preso != Preso::Niente) {
+    const bool altroTenuto = preso_.preso != Preso::Niente;
+    if (altroTenuto && (preso_.bottone == Qt::LeftButton || evento.bottone != Qt::LeftButton)) {
         return; // a second button while the first one is held
     }
-    Cattura bersaglio = Bersaglio(evento.punto);
+    Cattura bersaglio = altroTenuto ? preso_ : Bersaglio(evento.punto);
     bersaglio.bottone = evento.bottone;
     const bool elemento = bersaglio.preso == Preso::Elemento;
+    const bool maniglia = bersaglio.preso == Preso::Maniglia;
     if (elemento && evento.bottone == Qt::RightButton) {
         if (bersaglio.genere != Genere::Campo) {
             Fa_Click(bersaglio.genere, bersaglio.indice);
@@ -92,7 +94,7 @@ void ManiSulFoglio::Preme(const EventoMouse &evento)
         ChiedeProprieta(bersaglio.genere, bersaglio.indice);
         return;
     }
-    if (elemento || bersaglio.preso == Preso::Maniglia) {
+    if (elemento || maniglia) {
         bersaglio.prima = StampoDi(bersaglio.genere, bersaglio.indice);
     }
     preso_ = bersaglio;
@@ -110,7 +112,12 @@ void ManiSulFoglio::Muove(const EventoMouse &evento)
         Rilascia(evento); // the release went to another window
     }
     const Cattura bersaglio = preso_.preso == Preso::Niente ? Bersaglio(evento.punto) : preso_;
-    MuoveSu(bersaglio, evento);
+    EventoMouse passo = evento;
+    if (preso_.preso == Preso::Niente && bersaglio.preso != Preso::Foglio) {
+        // The gesture of a button that is still held is over: no other control takes it up.
+        passo.bottoni.setFlag(Qt::LeftButton, false);
+    }
+    MuoveSu(bersaglio, passo);
     AggiornaPuntatore(bersaglio);
 }
 
@@ -206,14 +213,25 @@ void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
 
 void ManiSulFoglio::Rilascia(const EventoMouse &evento)
 {
-    if (preso_.preso == Preso::Niente || (evento.bottoni & preso_.bottone)) {
-        return;
+    if (preso_.preso != Preso::Niente && !(evento.bottoni & preso_.bottone)) {
+        ConcludeGesto(evento.punto);
     }
+}
+
+void ManiSulFoglio::Interrompe()
+{
+    if (preso_.preso != Preso::Niente) {
+        ConcludeGesto(std::nullopt);
+    }
+}
+
+void ManiSulFoglio::ConcludeGesto(std::optional<QPointF> rilascio)
+{
     const Cattura preso = std::exchange(preso_, {});
     if (preso.preso == Preso::Maniglia && preso.bottone == Qt::LeftButton) {
         RilasciaManiglia(preso);
     } else if (preso.preso == Preso::Elemento && preso.genere != Genere::Campo) {
-        RilasciaElemento(preso, evento);
+        RilasciaElemento(preso, rilascio);
     }
     AggiornaPuntatore(preso);
     if ((preso.preso == Preso::Maniglia || preso.preso == Preso::Elemento) &&
@@ -233,7 +251,7 @@ void ManiSulFoglio::RilasciaManiglia(const Cattura &preso)
     emit ElementoInMano(preso.genere, preso.indice);
 }
 
-void ManiSulFoglio::RilasciaElemento(const Cattura &preso, const EventoMouse &evento)
+void ManiSulFoglio::RilasciaElemento(const Cattura &preso, std::optional<QPointF> rilascio)
 {
     ControlloElemento &controllo = elementi_.Elemento(preso.genere, preso.indice);
     controllo.ImpostaPuntatore(Qt::ArrowCursor);
@@ -242,7 +260,7 @@ void ManiSulFoglio::RilasciaElemento(const Cattura &preso, const EventoMouse &ev
         ConcludeRidimensione(preso, ridimensione.presa);
     }
     elementi_.PrimoPiano(preso.genere);
-    if (preso.bottone == Qt::LeftButton && elementi_.Tocca(controllo, evento.punto)) {
+    if (preso.bottone == Qt::LeftButton && rilascio && elementi_.Tocca(controllo, *rilascio)) {
         Fa_Click(preso.genere, preso.indice);
     }
 }

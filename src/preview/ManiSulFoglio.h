@@ -7,14 +7,17 @@
 #include <QObject>
 #include <QRectF>
 
+#include <optional>
+
 class ControlloElemento;
 class Controllo;
 class ElementiFoglio;
 class Maniglia;
 
 /// What the mouse does on the sheet: pointing selects, handles drag, edges resize, a right or
-/// double click asks for the properties. The control under a press keeps the mouse until the
-/// release.
+/// double click on an element asks for the properties. The control under a press
+/// keeps the mouse until the release. Only the left button changes the model: pressed while another
+/// one is held it takes the gesture over, and its own release ends it whatever else is held.
 class ManiSulFoglio : public QObject, public AscoltaMouse
 {
     Q_OBJECT
@@ -35,6 +38,7 @@ public:
     void Muove(const EventoMouse &evento) override;
     void Rilascia(const EventoMouse &evento) override;
     void PremeDueVolte(const EventoMouse &evento) override;
+    void Interrompe() override;
     Spiegazione Suggerimento(QPointF punto) const override;
 
 signals:
@@ -92,8 +96,10 @@ private:
     void CampoPuntato(int i);
     void ElementoSorvolato(Genere genere, int i, const EventoMouse &evento);
     void Fa_Click(Genere genere, int i);
+    /// The end of the gesture under way: by a release at a point, or by an interruption.
+    void ConcludeGesto(std::optional<QPointF> rilascio);
     void RilasciaManiglia(const Cattura &preso);
-    void RilasciaElemento(const Cattura &preso, const EventoMouse &evento);
+    void RilasciaElemento(const Cattura &preso, std::optional<QPointF> rilascio);
     void ConcludeRidimensione(const Cattura &preso, Presa presa);
     void ChiedeProprieta(Genere genere, int i);
     void Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni, QPointF punto);

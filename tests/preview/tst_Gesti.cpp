@@ -1,5 +1,62 @@
 #include "preview/Banco.h"
 
+#include <QCloseEvent>
+#include <QDialog>
+#include <QMouseEvent>
+
+#include <cmath>
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(Banco &)>)
+
+namespace {
+
+int Volte(const Banco &banco, const char *segnale)
+{
+    return static_cast<int>(banco.segnali.count(QString::fromLatin1(segnale)));
+}
+
+bool Guide(const Banco &banco)
+{
+    return banco.Controllo_<LineaGuida>(QStringLiteral("LineXX"))->isVisible() ||
+           banco.Controllo_<LineaGuida>(QStringLiteral("LineYY"))->isVisible();
+}
+
+/// A row field whose handle is in sight, with the pointer on the handle.
+QPointF SullaManigliaDiRiga(Banco &banco)
+{
+    banco.modello.Righe.yInizio = 40;
+    banco.Campo(QStringLiteral("R_Descr"), 60, 40);
+    banco.Muove({63, 42});
+    banco.Muove({61, 41});
+    banco.segnali.clear();
+    return {61, 41};
+}
+
+/// What a drag of that field leaves once it has ended.
+void VerificaConclusa(const Banco &banco)
+{
+    QVERIFY(!Guide(banco));
+    QCOMPARE(banco.modello.Campi[1].Y, 40.0);
+    QCOMPARE(banco.C1(1)->Posto().top(), 40.0);
+    QVERIFY(banco.modello.Campi[1].X > 80);
+    QCOMPARE(banco.modello.Campi[1].X, std::floor(banco.modello.Campi[1].X));
+    QVERIFY(banco.segnali.contains(QStringLiteral("Variato")));
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+}
+
+/// A mouse event straight to the sheet: QTest keeps its own presses apart from double clicks.
+void Manda(const Banco &banco, QEvent::Type tipo, QPointF punto, Qt::MouseButtons tenuti)
+{
+    const QPoint pixel = banco.Pixel(punto);
+    const Qt::MouseButton bottone = tipo == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent evento(tipo, pixel, banco.Vista()->mapToGlobal(pixel), bottone, tenuti,
+                       Qt::NoModifier);
+    QApplication::sendEvent(banco.Vista(), &evento);
+}
+
+} // namespace
+
 /// How gestures on the sheet end, whatever happens to the mouse meanwhile, and what they leave.
 class tst_Gesti : public QObject
 {
@@ -10,6 +67,17 @@ private slots:
     void IlBordoDestroNonTagliaLAltezza();
     void OltreIlFoglioIlPrimoPassoNonTaglia();
     void OltreIlFoglioNonSiAllontana();
+    // More than one button
+    void AltroBottonePrimaDelSinistro_data();
+    void AltroBottonePrimaDelSinistro();
+    void AltroBottoneDuranteIlTrascinamento_data();
+    void AltroBottoneDuranteIlTrascinamento();
+    void AltroBottonePrimaDiRidimensionare();
+    // The mouse taken away
+    void MousePerduto_data();
+    void MousePerduto();
+    void MousePerdutoRidimensionando();
+    void MousePerdutoNonEClick();
 };
 
 void tst_Gesti::IlBordoBassoNonTagliaLaLarghezza()
@@ -66,6 +134,175 @@ void tst_Gesti::OltreIlFoglioNonSiAllontana()
     // Back on the sheet, its edge is the limit again.
     banco.Trascina(banco.C2(1)->Posto().bottomRight() - QPointF(0.5, 20), {300, 60});
     QCOMPARE(banco.modello.Cornici[1].Larghezza, 60.0);
+}
+
+void tst_Gesti::AltroBottonePrimaDelSinistro_data()
+{
+    QTest::addColumn<Qt::MouseButton>("altro");
+    QTest::addColumn<bool>("lasciatoPrima");
+    QTest::newRow("middle, still held at the end") << Qt::MiddleButton << false;
+    QTest::newRow("middle, released first") << Qt::MiddleButton << true;
+    QTest::newRow("right, still held at the end") << Qt::RightButton << false;
+    QTest::newRow("right, released first") << Qt::RightButton << true;
+    QTest::newRow("a fourth button") << Qt::BackButton << false;
+}
+
+void tst_Gesti::AltroBottonePrimaDelSinistro()
+{
+    QFETCH(const Qt::MouseButton, altro);
+    QFETCH(const bool, lasciatoPrima);
+    Banco banco;
+    const QPointF presa = SullaManigliaDiRiga(banco);
+    banco.Preme(presa, altro);
+    banco.Preme(presa);
+    banco.Muove({100, 90});
+    QVERIFY(Guide(banco));
+    if (lasciatoPrima) {
+        banco.Rilascia({100, 90}, altro);
+        QVERIFY(Guide(banco));
+    }
+    banco.Muove({110, 95});
+    const double x = banco.modello.Campi[1].X;
+    banco.Rilascia({110, 95});
+    VerificaConclusa(banco);
+    QCOMPARE(banco.modello.Campi[1].X, x);
+    banco.Muove({150, 120});
+    if (!lasciatoPrima) {
+        banco.Rilascia({150, 120}, altro);
+    }
+    QCOMPARE(banco.modello.Campi[1].X, x);
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+}
+
+void tst_Gesti::AltroBottoneDuranteIlTrascinamento_data()
+{
+    QTest::addColumn<Qt::MouseButton>("altro");
+    QTest::newRow("middle") << Qt::MiddleButton;
+    QTest::newRow("right") << Qt::RightButton;
+}
+
+void tst_Gesti::AltroBottoneDuranteIlTrascinamento()
+{
+    QFETCH(const Qt::MouseButton, altro);
+    Banco banco;
+    const QPointF presa = SullaManigliaDiRiga(banco);
+    banco.Preme(presa);
+    banco.Muove({90, 80});
+    banco.Preme({90, 80}, altro);
+    banco.Muove({100, 90});
+    QVERIFY(Guide(banco));
+    banco.Rilascia({100, 90});
+    VerificaConclusa(banco);
+    banco.Rilascia({100, 90}, altro);
+    QCOMPARE(Volte(banco, "RichiestaProprieta 0 1"), 0);
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+}
+
+void tst_Gesti::AltroBottonePrimaDiRidimensionare()
+{
+    Banco banco;
+    banco.Cornice(60, 50, 30, 20);
+    banco.frm->SelezionaCornice(1);
+    const QPointF presa(89.5, 60);
+    banco.Muove(presa);
+    banco.Preme(presa, Qt::MiddleButton);
+    banco.Preme(presa);
+    banco.Muove({100, 60});
+    banco.Rilascia({109.5, 60});
+    banco.Rilascia({109.5, 60}, Qt::MiddleButton);
+    QCOMPARE(banco.modello.Cornici[1].Larghezza, std::floor(banco.modello.Cornici[1].Larghezza));
+    QVERIFY(banco.modello.Cornici[1].Larghezza > 38);
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+    const double larghezza = banco.modello.Cornici[1].Larghezza;
+    banco.Muove({140, 60});
+    QCOMPARE(banco.modello.Cornici[1].Larghezza, larghezza);
+}
+
+void tst_Gesti::MousePerduto_data()
+{
+    QTest::addColumn<std::function<void(Banco &)>>("perde");
+    const auto riga = [](const char *nome, std::function<void(Banco &)> perde) {
+        QTest::newRow(nome) << perde;
+    };
+    riga("another control takes the mouse", [](Banco &banco) {
+        auto *TextZoom = Trova<QLineEdit>(*banco.frm, "TextZoom");
+        TextZoom->grabMouse();
+        banco.Muove({120, 100});
+        TextZoom->releaseMouse();
+    });
+    riga("the system takes the mouse", [](Banco &banco) {
+        QEvent evento(QEvent::UngrabMouse);
+        QApplication::sendEvent(banco.Vista(), &evento);
+    });
+    riga("another window becomes active", [](Banco &) {
+        QWidget altra;
+        altra.show();
+        altra.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&altra));
+    });
+    riga("a dialog blocks the window", [](Banco &banco) {
+        QDialog dialogo(banco.frm.get());
+        dialogo.open();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialogo));
+    });
+    riga("the window is hidden", [](Banco &banco) { banco.frm->hide(); });
+    riga("the user closes the window", [](Banco &banco) {
+        bool concluso = false;
+        QObject::connect(banco.frm.get(), &Frm1::ChiusuraRichiesta, banco.frm.get(),
+                         [&] { concluso = !Guide(banco); });
+        QCloseEvent chiude;
+        QApplication::sendEvent(banco.frm->windowHandle(), &chiude);
+        QVERIFY(concluso); // before anyone is asked to save
+    });
+}
+
+void tst_Gesti::MousePerduto()
+{
+    QFETCH(const std::function<void(Banco &)>, perde);
+    Banco banco;
+    banco.frm->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(banco.frm.get()));
+    const QPointF presa = SullaManigliaDiRiga(banco);
+    banco.Preme(presa);
+    banco.Muove({100, 90});
+    QVERIFY(Guide(banco));
+    perde(banco);
+    VerificaConclusa(banco);
+    // The button that is still held drags nothing any more.
+    const double x = banco.modello.Campi[1].X;
+    Manda(banco, QEvent::MouseMove, QPointF(x + 1, 41), Qt::LeftButton);
+    Manda(banco, QEvent::MouseMove, {130, 100}, Qt::LeftButton);
+    banco.Rilascia({130, 100});
+    QCOMPARE(banco.modello.Campi[1].X, x);
+    QVERIFY(!Guide(banco));
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+}
+
+void tst_Gesti::MousePerdutoRidimensionando()
+{
+    Banco banco;
+    banco.Cornice(60, 50, 30, 20);
+    banco.frm->SelezionaCornice(1);
+    const QPointF presa(89.5, 60);
+    banco.Muove(presa);
+    banco.Preme(presa);
+    banco.Muove({100.3, 60});
+    banco.frm->hide();
+    const double larghezza = banco.modello.Cornici[1].Larghezza;
+    QVERIFY(larghezza > 38);
+    QCOMPARE(larghezza, std::floor(larghezza)); // placed, as at a release
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+    banco.Rilascia({150, 60});
+    QCOMPARE(banco.modello.Cornici[1].Larghezza, larghezza);
+}
+
+void tst_Gesti::MousePerdutoNonEClick()
+{
+    Banco banco;
+    banco.Cornice(60, 50, 30, 20);
+    banco.Preme({75, 60});
+    banco.frm->hide();
+    QCOMPARE(banco.segnali, QStringList());
 }
 
 QTEST_MAIN(tst_Gesti)
