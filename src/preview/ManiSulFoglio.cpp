@@ -5,6 +5,9 @@
 #include "preview/ElementiFoglio.h"
 #include "preview/GeometriaAnteprima.h"
 
+#include <QGuiApplication>
+#include <QStyleHints>
+
 #include <utility>
 
 ManiSulFoglio::ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
@@ -87,7 +90,7 @@ void ManiSulFoglio::Preme(const EventoMouse &evento)
     bersaglio.bottone = evento.bottone;
     const bool elemento = bersaglio.preso == Preso::Elemento;
     const bool maniglia = bersaglio.preso == Preso::Maniglia;
-    if (elemento && evento.bottone == Qt::RightButton) {
+    if ((elemento || maniglia) && evento.bottone == Qt::RightButton) {
         if (bersaglio.genere != Genere::Campo) {
             Fa_Click(bersaglio.genere, bersaglio.indice);
         }
@@ -131,6 +134,9 @@ void ManiSulFoglio::MuoveSu(const Cattura &bersaglio, const EventoMouse &evento)
 {
     switch (bersaglio.preso) {
     case Preso::Maniglia: {
+        if (FermoDopoDueVolte(evento.punto)) {
+            break;
+        }
         const QPointF dentro =
             evento.punto - elementi_.ManigliaDi(bersaglio.genere).Posto().topLeft();
         Sposta(bersaglio.genere, bersaglio.indice, evento.bottoni, dentro.x(), dentro.y());
@@ -203,12 +209,36 @@ void ManiSulFoglio::ChiedeProprieta(Genere genere, int i)
 
 void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
 {
-    const Cattura bersaglio = Bersaglio(evento.punto);
-    if (bersaglio.preso == Preso::Elemento && evento.bottone == Qt::LeftButton) {
-        ChiedeProprieta(bersaglio.genere, bersaglio.indice);
-    } else {
-        Preme(evento); // two quick drags of a handle, or two quick right clicks
+    if (evento.bottone != Qt::LeftButton || preso_.preso != Preso::Niente) {
+        Preme(evento);
+        return;
     }
+    const Cattura bersaglio = Bersaglio(evento.punto);
+    if (bersaglio.preso == Preso::Elemento) {
+        ChiedeProprieta(bersaglio.genere, bersaglio.indice);
+        return;
+    }
+    Preme(evento);
+    // Of two quick drags of a handle the second begins like a double click. The properties wait for
+    // the release: until then the pointer may still leave, and the first press must not have moved
+    // the element.
+    if (preso_.preso == Preso::Maniglia && !ultimoTrascinato_) {
+        preso_.secondaPressione = evento.punto;
+    }
+}
+
+bool ManiSulFoglio::FermoDopoDueVolte(QPointF punto)
+{
+    if (!preso_.secondaPressione) {
+        return false;
+    }
+    // The same play that two presses may have to count as one double click.
+    const QPointF scarto = punto - *preso_.secondaPressione;
+    if (scarto.manhattanLength() >
+        geometria_.Millimetri(QGuiApplication::styleHints()->mouseDoubleClickDistance())) {
+        preso_.secondaPressione.reset();
+    }
+    return preso_.secondaPressione.has_value();
 }
 
 void ManiSulFoglio::Rilascia(const EventoMouse &evento)
@@ -228,6 +258,7 @@ void ManiSulFoglio::Interrompe()
 void ManiSulFoglio::ConcludeGesto(std::optional<QPointF> rilascio)
 {
     const Cattura preso = std::exchange(preso_, {});
+    ultimoTrascinato_ = preso.trascinato;
     if (preso.preso == Preso::Maniglia && preso.bottone == Qt::LeftButton) {
         RilasciaManiglia(preso);
     } else if (preso.preso == Preso::Elemento && preso.genere != Genere::Campo) {
@@ -237,6 +268,9 @@ void ManiSulFoglio::ConcludeGesto(std::optional<QPointF> rilascio)
     if ((preso.preso == Preso::Maniglia || preso.preso == Preso::Elemento) &&
         !(StampoDi(preso.genere, preso.indice) == preso.prima)) {
         emit ModificaConclusa();
+    }
+    if (preso.secondaPressione && rilascio) {
+        ChiedeProprieta(preso.genere, preso.indice);
     }
 }
 

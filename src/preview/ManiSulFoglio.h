@@ -15,7 +15,7 @@ class ElementiFoglio;
 class Maniglia;
 
 /// What the mouse does on the sheet: pointing selects, handles drag, edges resize, a right or
-/// double click on an element asks for the properties. The control under a press
+/// double click on an element or its handle asks for the properties. The control under a press
 /// keeps the mouse until the release. Only the left button changes the model: pressed while another
 /// one is held it takes the gesture over, and its own release ends it whatever else is held.
 class ManiSulFoglio : public QObject, public AscoltaMouse
@@ -72,6 +72,9 @@ private:
         int indice = 0;
         Qt::MouseButton bottone = Qt::NoButton;
         Stampo prima = {};
+        bool trascinato = false; ///< a drag step has moved the element
+        /// Where a handle was pressed for the second time, as long as the pointer stays there.
+        std::optional<QPointF> secondaPressione = {};
     };
     /// The resize under way.
     struct Ridimensione
@@ -101,6 +104,7 @@ private:
     void RilasciaManiglia(const Cattura &preso);
     void RilasciaElemento(const Cattura &preso, std::optional<QPointF> rilascio);
     void ConcludeRidimensione(const Cattura &preso, Presa presa);
+    bool FermoDopoDueVolte(QPointF punto);
     void ChiedeProprieta(Genere genere, int i);
     void Ridimensiona(Genere genere, int i, Qt::MouseButtons bottoni, QPointF punto);
     void ApplicaMisura(Genere genere, int i, QSizeF misura);
@@ -110,5 +114,6 @@ private:
     ElementiFoglio &elementi_;
     Foglio &foglio_;
     Cattura preso_;
+    bool ultimoTrascinato_ = false; ///< the gesture before this one has dragged an element
     Ridimensione ridimensione_;
 };

@@ -60,6 +60,7 @@ void ManiSulFoglio::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, doubl
     if (dopo == prima.topLeft()) {
         return;
     }
+    preso_.trascinato = true;
     if (genere == Genere::Campo) {
         emit RigheDaRidisegnare();
     }

@@ -2,11 +2,14 @@
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QStyleHints>
 
 #include <cmath>
 #include <functional>
 
+Q_DECLARE_METATYPE(Genere)
 Q_DECLARE_METATYPE(std::function<void(Banco &)>)
 
 namespace {
@@ -55,6 +58,49 @@ void Manda(const Banco &banco, QEvent::Type tipo, QPointF punto, Qt::MouseButton
     QApplication::sendEvent(banco.Vista(), &evento);
 }
 
+int Elemento(Banco &banco, Genere genere)
+{
+    switch (genere) {
+    case Genere::Campo:
+        return banco.Campo(QStringLiteral("uno"), 60, 50);
+    case Genere::Cornice:
+        return banco.Cornice(60, 50, 30, 20);
+    case Genere::Immagine:
+        break;
+    }
+    return banco.Immagine(60, 50, 30, 20);
+}
+
+/// Shows the handle of the kind and brings the pointer onto it.
+QPointF SullaManiglia(Banco &banco, Genere genere)
+{
+    banco.frm->Seleziona(genere, Elemento(banco, genere));
+    const QPointF punto(60.8, 50.8);
+    banco.Muove(punto);
+    banco.segnali.clear();
+    return punto;
+}
+
+void RigheDiGenere()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::newRow("S1") << Genere::Campo;
+    QTest::newRow("S2") << Genere::Cornice;
+    QTest::newRow("S3") << Genere::Immagine;
+}
+
+QString Richiesta(Genere genere)
+{
+    return QStringLiteral("RichiestaProprieta %1 1").arg(static_cast<int>(genere));
+}
+
+double X(const Banco &banco, Genere genere)
+{
+    double x = 0;
+    banco.modello.Con(genere, [&](const auto &tabella) { x = tabella[1].X; });
+    return x;
+}
+
 } // namespace
 
 /// How gestures on the sheet end, whatever happens to the mouse meanwhile, and what they leave.
@@ -78,6 +124,18 @@ private slots:
     void MousePerduto();
     void MousePerdutoRidimensionando();
     void MousePerdutoNonEClick();
+    // Properties by the handle
+    void TastoDestroSullaManiglia_data() { RigheDiGenere(); }
+    void TastoDestroSullaManiglia();
+    void DoppioClickSullaManiglia_data() { RigheDiGenere(); }
+    void DoppioClickSullaManiglia();
+    void CampoCopertoDallaManiglia_data();
+    void CampoCopertoDallaManiglia();
+    void DueTrascinamentiRapidi_data() { RigheDiGenere(); }
+    void DueTrascinamentiRapidi();
+    void ClickETrascinamentoRapidi_data() { RigheDiGenere(); }
+    void ClickETrascinamentoRapidi();
+    void DoppioClickConUnTremito();
 };
 
 void tst_Gesti::IlBordoBassoNonTagliaLaLarghezza()
@@ -303,6 +361,117 @@ void tst_Gesti::MousePerdutoNonEClick()
     banco.Preme({75, 60});
     banco.frm->hide();
     QCOMPARE(banco.segnali, QStringList());
+}
+
+void tst_Gesti::TastoDestroSullaManiglia()
+{
+    QFETCH(const Genere, genere);
+    Banco banco;
+    const QPointF punto = SullaManiglia(banco, genere);
+    banco.Preme(punto, Qt::RightButton);
+    QCOMPARE(banco.segnali.last(), Richiesta(genere));
+    // The rest is what a right press on the element does.
+    const QStringList sullaManiglia = banco.segnali;
+    banco.Rilascia(punto, Qt::RightButton);
+    const QPointF accanto =
+        banco.S(static_cast<int>(genere) + 1)->Posto().topRight() + QPointF(1, 1);
+    banco.Muove(accanto);
+    banco.segnali.clear();
+    banco.Preme(accanto, Qt::RightButton);
+    QCOMPARE(sullaManiglia, banco.segnali);
+}
+
+void tst_Gesti::DoppioClickSullaManiglia()
+{
+    QFETCH(const Genere, genere);
+    Banco banco;
+    const QPointF punto = SullaManiglia(banco, genere);
+    banco.CliccaDueVolte(punto);
+    QCOMPARE(banco.segnali.count(Richiesta(genere)), 1);
+    QCOMPARE(banco.segnali.last(), Richiesta(genere));
+    QCOMPARE(X(banco, genere), 60.0);
+    QVERIFY(!Guide(banco));
+}
+
+void tst_Gesti::CampoCopertoDallaManiglia_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<bool>("destro");
+    for (const double zoom : {2.5, 3.0}) {
+        QTest::addRow("zoom %g, double click", zoom) << zoom << false;
+        QTest::addRow("zoom %g, right press", zoom) << zoom << true;
+    }
+}
+
+void tst_Gesti::CampoCopertoDallaManiglia()
+{
+    QFETCH(const double, zoom);
+    QFETCH(const bool, destro);
+    Banco banco;
+    banco.stato.zoom = zoom;
+    banco.Campo(QStringLiteral("uno"), 60, 60, QStringLiteral("1"));
+    const QRectF campo = banco.C1(1)->Posto();
+    banco.Muove(campo.center());
+    QVERIFY(banco.S(1)->Posto().contains(campo.center()));
+    if (destro) {
+        banco.Preme(campo.center(), Qt::RightButton);
+    } else {
+        banco.CliccaDueVolte(campo.center());
+    }
+    QCOMPARE(Volte(banco, "RichiestaProprieta 0 1"), 1);
+}
+
+void tst_Gesti::DueTrascinamentiRapidi()
+{
+    QFETCH(const Genere, genere);
+    Banco banco;
+    const QPointF punto = SullaManiglia(banco, genere);
+    Manda(banco, QEvent::MouseButtonPress, punto, Qt::LeftButton);
+    Manda(banco, QEvent::MouseMove, punto + QPointF(1, 0), Qt::LeftButton);
+    Manda(banco, QEvent::MouseButtonRelease, punto + QPointF(1, 0), Qt::NoButton);
+    const double x = X(banco, genere);
+    QVERIFY(x > 60);
+    // A millimetre away the second press still counts as one of a double click.
+    const QPointF secondo = banco.S(static_cast<int>(genere) + 1)->Posto().topLeft();
+    Manda(banco, QEvent::MouseButtonDblClick, secondo + QPointF(0.3, 0.3), Qt::LeftButton);
+    Manda(banco, QEvent::MouseMove, secondo + QPointF(1.1, 0.3), Qt::LeftButton);
+    QVERIFY(Guide(banco));
+    Manda(banco, QEvent::MouseButtonRelease, secondo + QPointF(1.1, 0.3), Qt::NoButton);
+    QVERIFY(X(banco, genere) > x);
+    QVERIFY(!Guide(banco));
+    QCOMPARE(banco.segnali.count(Richiesta(genere)), 0);
+}
+
+void tst_Gesti::ClickETrascinamentoRapidi()
+{
+    QFETCH(const Genere, genere);
+    Banco banco;
+    const QPointF punto = SullaManiglia(banco, genere);
+    Manda(banco, QEvent::MouseButtonPress, punto, Qt::LeftButton);
+    Manda(banco, QEvent::MouseButtonRelease, punto, Qt::NoButton);
+    Manda(banco, QEvent::MouseButtonDblClick, punto, Qt::LeftButton);
+    Manda(banco, QEvent::MouseMove, punto + QPointF(20, 10), Qt::LeftButton);
+    Manda(banco, QEvent::MouseMove, punto, Qt::LeftButton);
+    Manda(banco, QEvent::MouseMove, punto + QPointF(30, 10), Qt::LeftButton);
+    Manda(banco, QEvent::MouseButtonRelease, punto + QPointF(30, 10), Qt::NoButton);
+    QVERIFY(X(banco, genere) > 88);
+    QCOMPARE(banco.segnali.count(Richiesta(genere)), 0);
+}
+
+void tst_Gesti::DoppioClickConUnTremito()
+{
+    Banco banco;
+    const QPointF punto = SullaManiglia(banco, Genere::Immagine);
+    const int gioco = QGuiApplication::styleHints()->mouseDoubleClickDistance();
+    QVERIFY(gioco > 1);
+    Manda(banco, QEvent::MouseButtonPress, punto, Qt::LeftButton);
+    Manda(banco, QEvent::MouseButtonRelease, punto, Qt::NoButton);
+    Manda(banco, QEvent::MouseButtonDblClick, punto, Qt::LeftButton);
+    const QPointF vicino = punto + QPointF((gioco - 1) * MillimetriPerPixel, 0);
+    Manda(banco, QEvent::MouseMove, vicino, Qt::LeftButton);
+    Manda(banco, QEvent::MouseButtonRelease, vicino, Qt::NoButton);
+    QCOMPARE(X(banco, Genere::Immagine), 60.0);
+    QCOMPARE(banco.segnali, QStringList({Richiesta(Genere::Immagine)}));
 }
 
 QTEST_MAIN(tst_Gesti)
