@@ -126,10 +126,20 @@ QRectF ElementiFoglio::PostoDa(Genere genere, int i) const
     return posto(modello.Immagini[i]);
 }
 
+void ElementiFoglio::ScriveSuggerimentoManiglia(Genere genere, int i)
+{
+    static constexpr const char16_t *Sposta[] = {u"sposta campo ", u"sposta Cornice ",
+                                                 u"sposta Immagine "};
+    // A field writes its hint onto the frames' handle: the fields' own never has one.
+    Maniglia &conSuggerimento =
+        ManigliaDi(genere == Genere::Immagine ? Genere::Immagine : Genere::Cornice);
+    conSuggerimento.ImpostaSuggerimento(QString::fromUtf16(Sposta[static_cast<int>(genere)]) +
+                                        stato_.Aperto.Nome(genere, i));
+}
+
 void ElementiFoglio::Posiziona(Genere genere, int i, bool mosso)
 {
     ControlloElemento &controllo = Elemento(genere, i);
-    const QString nome = stato_.Aperto.Nome(genere, i);
     switch (genere) {
     case Genere::Campo:
         ArrotondaCampo(i);
@@ -143,13 +153,7 @@ void ElementiFoglio::Posiziona(Genere genere, int i, bool mosso)
     }
     controllo.Colloca(PostoDa(genere, i));
     AncoraManiglia(genere, i);
-    static constexpr const char16_t *Sposta[] = {u"sposta campo ", u"sposta Cornice ",
-                                                 u"sposta Immagine "};
-    // A field writes its hint onto the frames' handle: the fields' own never has one.
-    Maniglia &conSuggerimento =
-        ManigliaDi(genere == Genere::Immagine ? Genere::Immagine : Genere::Cornice);
-    conSuggerimento.ImpostaSuggerimento(QString::fromUtf16(Sposta[static_cast<int>(genere)]) +
-                                        nome);
+    ScriveSuggerimentoManiglia(genere, i);
     if (mosso) {
         emit Variato();
     }

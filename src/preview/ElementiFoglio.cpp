@@ -208,6 +208,15 @@ void ElementiFoglio::RiancoraManiglie()
     }
 }
 
+void ElementiFoglio::RinominaManiglie()
+{
+    for (const Genere genere : Generi) {
+        if (const int i = Selezionato(genere); i != 0) {
+            ScriveSuggerimentoManiglia(genere, i);
+        }
+    }
+}
+
 void ElementiFoglio::MostraGuide(QPointF angolo, const QColor &colore)
 {
     LineXX_->Mostra({0, angolo.y()}, {geometria_.LarghezzaFoglio(), angolo.y()}, colore);

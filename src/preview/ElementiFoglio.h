@@ -50,6 +50,10 @@ public:
     void AncoraManiglia(Genere genere, int i);
     /// After everything was placed again: handles in sight go back to their own elements.
     void RiancoraManiglie();
+    /// After everything was placed again: the hints are those that placing the elements of the
+    /// handles in sight last would leave, kind by kind. So each handle names its own, and a frame
+    /// in hand takes its hint back from a field in hand, which writes onto the same handle.
+    void RinominaManiglie();
 
     void MostraGuide(QPointF angolo, const QColor &colore);
     void NascondeGuide();
@@ -78,6 +82,7 @@ private:
     void ArrotondaCornice(int i);
     QRectF PostoDa(Genere genere, int i) const;
     double Area(Genere genere, int i) const;
+    void ScriveSuggerimentoManiglia(Genere genere, int i);
     void MandaDavanti(Controllo &controllo);
     Etichetta &EtichettaDi(Genere genere, int i) const;
 

@@ -67,6 +67,8 @@ Frm1::Frm1(StatoProgramma &stato, QWidget *padre)
 {
     setObjectName(QStringLiteral("Frm1"));
     setWindowTitle(QStringLiteral("Anteprima Plakera"));
+    // Pointing selects whichever window is active, so it explains too.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     Form_Load();
     CollegaSegnali();
     Form_Resize();
@@ -197,6 +199,7 @@ void Frm1::TextZoom_KeyUp()
         }
     }
     elementi_->RiancoraManiglie();
+    elementi_->RinominaManiglie();
     emit RigheDaRidisegnare();
     parti_->P1->viewport()->update(); // the background follows the zoom by itself
 }

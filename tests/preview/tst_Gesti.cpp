@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QStyleHints>
+#include <QToolTip>
 
 #include <cmath>
 #include <functional>
@@ -136,6 +137,11 @@ private slots:
     void ClickETrascinamentoRapidi_data() { RigheDiGenere(); }
     void ClickETrascinamentoRapidi();
     void DoppioClickConUnTremito();
+    // Hints
+    void SuggerimentoConAltraFinestraAttiva();
+    void DopoLoZoomOgniManigliaNominaIlSuo();
+    void DopoLoZoomIlCampoInMano();
+    void TrascinatoUnCampoLaManigliaDelleCorniciLoNomina();
 };
 
 void tst_Gesti::IlBordoBassoNonTagliaLaLarghezza()
@@ -472,6 +478,70 @@ void tst_Gesti::DoppioClickConUnTremito()
     Manda(banco, QEvent::MouseButtonRelease, vicino, Qt::NoButton);
     QCOMPARE(X(banco, Genere::Immagine), 60.0);
     QCOMPARE(banco.segnali, QStringList({Richiesta(Genere::Immagine)}));
+}
+
+void tst_Gesti::SuggerimentoConAltraFinestraAttiva()
+{
+    Banco banco;
+    banco.Cornice(60, 50, 30, 20);
+    QWidget altra;
+    altra.show();
+    altra.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&altra));
+    QVERIFY(!banco.frm->isActiveWindow());
+    banco.Muove({75, 60});
+    QTRY_COMPARE(QToolTip::text(), banco.C2(1)->toolTip());
+    QVERIFY(QToolTip::isVisible());
+    QToolTip::hideText();
+}
+
+void tst_Gesti::DopoLoZoomOgniManigliaNominaIlSuo()
+{
+    Banco banco;
+    for (int k = 1; k <= 3; ++k) {
+        banco.Campo(QStringLiteral("campo%1").arg(k), 10 + 40 * k, 10);
+        banco.modello.Cornici[banco.Cornice(10 + 40 * k, 40, 30, 20)].Nome =
+            QStringLiteral("cornice%1").arg(k);
+        banco.Immagine(10 + 40 * k, 80, 30, 20, QStringLiteral("immagine%1").arg(k));
+    }
+    banco.frm->SelezionaImmagine(2);
+    banco.frm->SelezionaCornice(1);
+    banco.Muove({52, 12}); // the field pointed at last writes onto the frames' handle
+    QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo campo1"));
+    banco.Zoom(QStringLiteral("2"));
+    QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta Cornice cornice1"));
+    QCOMPARE(banco.S(3)->toolTip(), QStringLiteral("sposta Immagine immagine2"));
+    QCOMPARE(banco.S(1)->toolTip(), QString());
+    banco.frm->PosizionaCampo(3, false);
+    QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo campo3"));
+}
+
+void tst_Gesti::DopoLoZoomIlCampoInMano()
+{
+    Banco banco;
+    banco.Campo(QStringLiteral("uno"), 20, 20);
+    banco.Campo(QStringLiteral("due"), 60, 20);
+    banco.modello.Cornici[banco.Cornice(20, 60, 30, 20)].Nome = QStringLiteral("cornice");
+    banco.frm->SelezionaCampo(1);
+    banco.Zoom(QStringLiteral("2"));
+    QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo uno"));
+}
+
+void tst_Gesti::TrascinatoUnCampoLaManigliaDelleCorniciLoNomina()
+{
+    Banco banco;
+    banco.modello.Cornici[banco.Cornice(20, 60, 30, 20)].Nome = QStringLiteral("cornice");
+    banco.frm->SelezionaCornice(1);
+    // As the editor does, which draws the rows again and puts the handles back.
+    QObject::connect(banco.frm.get(), &Frm1::RigheDaRidisegnare, banco.frm.get(),
+                     &Frm1::RiancoraManiglie);
+    const QPointF presa = SullaManigliaDiRiga(banco);
+    banco.Preme(presa);
+    banco.Muove({100, 90});
+    banco.Rilascia({100, 90});
+    QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo R_Descr"));
+    banco.frm->PosizionaCornice(1, false);
+    QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta Cornice cornice"));
 }
 
 QTEST_MAIN(tst_Gesti)
