@@ -10,8 +10,11 @@
 
 namespace {
 
-// Below this spacing rows are no longer told apart, and a mistyped value would flood the preview.
-constexpr double InterlineaMinima = 0.5; // mm
+// A spacing mistyped too small must not flood the preview: of rows closer than this only so many
+// are drawn that the band they make looks the same.
+constexpr double PassoMinimo = 0.1; // mm
+// Below this one a number of rows is no longer a number.
+constexpr double InterlineaMinima = 1e-9; // mm
 // Farther away a spacing is lost in the last digit of a double, and the rows would not advance.
 constexpr double InizioAlMassimo = 1e9; // mm
 constexpr int CaratteriPerRiga = 200;
@@ -51,17 +54,19 @@ QList<Frm1::RigaSimulata> RigheSimulate(const Modello &modello, double zoom,
                                         const std::function<double(int)> &larghezzaCampo)
 {
     QList<Frm1::RigaSimulata> righe;
-    const double interlinea = modello.Righe.Interlinea;
     const std::optional<Fascia> fascia = FasciaRighe(modello, zoom, larghezzaCampo);
-    if (!fascia || interlinea < InterlineaMinima ||
+    if (!fascia || !(modello.Righe.Interlinea > 0) ||
         std::abs(modello.Righe.yInizio) > InizioAlMassimo) {
         return righe;
     }
+    const double interlinea = std::max(modello.Righe.Interlinea, InterlineaMinima);
+    const double unaOgni = std::max(1.0, std::ceil(PassoMinimo / interlinea));
     const Campo &primo = modello.Campi[fascia->primo];
     const double fine = std::min(modello.Righe.yFine, GeometriaAnteprima::AltezzaCarta);
     // Rows whose whole band lies above the sheet are skipped at once.
-    const double saltate = std::max(0.0, std::floor(-modello.Righe.yInizio / interlinea) - 1);
-    for (double n = saltate + 1;; ++n) {
+    const double saltate =
+        std::max(0.0, std::floor(-modello.Righe.yInizio / interlinea / unaOgni) - 1);
+    for (double n = 1 + saltate * unaOgni;; n += unaOgni) {
         const double y = modello.Righe.yInizio + n * interlinea;
         if (!(y < fine)) {
             break;

@@ -212,11 +212,13 @@ Riga::Riga(int numero)
 void Riga::Imposta(const QRectF &posto, const TestoScalato::Aspetto &aspetto, const QString &testo,
                    double punti)
 {
-    Colloca(posto);
     if (testo_.Imposta(aspetto, testo) || punti != punti_) {
         punti_ = punti;
         update();
     }
+    // A row lower than its text would show the blank above the sign and nothing of it.
+    const double altezza = std::max(posto.height(), testo_.Misura(punti).height());
+    Colloca(QRectF(posto.topLeft(), QSizeF(posto.width(), altezza)));
 }
 
 void Riga::paint(QPainter *penna, const QStyleOptionGraphicsItem *opzioni, QWidget *)

@@ -123,7 +123,7 @@ private:
     bool elastico_ = false;
 };
 
-/// A simulated body row: a label that clips its text.
+/// A simulated body row: a label that clips its text at the side, never in height.
 class Riga : public Controllo
 {
     Q_OBJECT

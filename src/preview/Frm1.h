@@ -104,7 +104,8 @@ public:
     /// empty rectangle shows nothing. Throws ErroreSistema 53 or 481 and leaves no background.
     void DipingeSfondo(const QString &percorso, const QRectF &millimetri);
 
-    /// A simulated body row: a label for display only, which clips its text and lets the mouse
+    /// A simulated body row: a label for display only, at least as high as its text, which it clips
+    /// at the side; it lets the mouse
     /// through to what lies below it.
     struct RigaSimulata
     {

@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include <cmath>
+#include <limits>
+
 namespace {
 
 constexpr double LarghezzaCampo = 30; // mm of screen
@@ -47,6 +50,8 @@ private slots:
     void AlloZoom();
     void SenzaCampiDiRigaNessunaRiga();
     void NomeMinuscoloNonEDiRiga();
+    void InterlineaStretta_data();
+    void InterlineaStretta();
     void ValoriSenzaSenso_data();
     void ValoriSenzaSenso();
 };
@@ -114,6 +119,47 @@ void tst_RigheSimulate::NomeMinuscoloNonEDiRiga()
     QVERIFY(RigheSimulate(modello, 1, Larghezza).isEmpty());
 }
 
+void tst_RigheSimulate::InterlineaStretta_data()
+{
+    QTest::addColumn<double>("interlinea");
+    QTest::addColumn<double>("passo"); // from one row to the next
+    QTest::newRow("mezzo millimetro") << 0.5 << 0.5;
+    QTest::newRow("appena meno") << 0.49 << 0.49;
+    QTest::newRow("tre decimi") << 0.3 << 0.3;
+    QTest::newRow("un decimo") << 0.1 << 0.1;
+    QTest::newRow("meno di un decimo: una riga ogni due") << 0.06 << 0.12;
+    QTest::newRow("un millesimo: una ogni cento") << 0.001 << 0.1;
+    QTest::newRow("quasi niente") << 1e-9 << 0.1;
+    QTest::newRow("il numero piu' piccolo") << std::numeric_limits<double>::denorm_min() << 0.1;
+}
+
+void tst_RigheSimulate::InterlineaStretta()
+{
+    QFETCH(const double, interlinea);
+    QFETCH(const double, passo);
+    for (const double yInizio : {0.0, 100.0, -1e6}) {
+        const double inizio = std::max(yInizio, 0.0);
+        const auto righe = RigheSimulate(ConRighe(yInizio, 1e6, interlinea), 1, Larghezza);
+        const double foglio = 350 - inizio;
+        // At most one for each 0.1 mm of sheet, but for the one that reaches onto it from above.
+        QVERIFY2(righe.size() <= std::ceil(foglio * 10) + 1,
+                 qPrintable(QString::number(righe.size())));
+        QVERIFY2(righe.size() >= std::floor(foglio / passo) - 1,
+                 qPrintable(QString::number(righe.size())));
+        const double primo = righe.first().posto.top();
+        if (yInizio >= 0) {
+            QVERIFY(std::abs(primo - (yInizio + interlinea)) < 1e-6);
+        } else {
+            QVERIFY(primo < passo);
+        }
+        for (int k = 1; k < righe.size(); ++k) {
+            const double distanza = righe[k].posto.top() - righe[k - 1].posto.top();
+            QVERIFY2(std::abs(distanza - passo) < 1e-6, qPrintable(QString::number(distanza)));
+        }
+        QVERIFY(righe.last().posto.top() < 350);
+    }
+}
+
 void tst_RigheSimulate::ValoriSenzaSenso_data()
 {
     QTest::addColumn<double>("yInizio");
@@ -122,7 +168,6 @@ void tst_RigheSimulate::ValoriSenzaSenso_data()
     QTest::addColumn<int>("righe");
     QTest::newRow("interlinea zero") << 100.0 << 130.0 << 0.0 << 0;
     QTest::newRow("interlinea negativa") << 100.0 << 130.0 << -5.0 << 0;
-    QTest::newRow("interlinea invisibile") << 100.0 << 130.0 << 1e-9 << 0;
     QTest::newRow("fine prima dell'inizio") << 130.0 << 100.0 << 5.0 << 0;
     QTest::newRow("area di un chilometro") << 100.0 << 1e6 << 5.0 << 49;
     QTest::newRow("inizio sotto il foglio") << 1e300 << 2e300 << 5.0 << 0;
