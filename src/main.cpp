@@ -2,6 +2,7 @@
 #include "Plakera.h"
 #include "base/Disco.h"
 #include "platform/Finestre.h"
+#include "platform/ScalaSchermo.h"
 #include "platform/SenzaFinestre.h"
 #include "platform/SuDisco.h"
 
@@ -24,10 +25,15 @@ LetturaArgomenti LeggeArgomentiDi(int &argc, char **argv)
     return LeggeArgomenti(QCoreApplication::arguments());
 }
 
-QApplication Applicazione(int &argc, char **argv)
+std::unique_ptr<QApplication> Applicazione(int &argc, char **argv)
 {
     const FineSenzaSchermo fine;
-    return {argc, argv};
+    auto applicazione = std::make_unique<QApplication>(argc, argv);
+    if (const AlmenoUnPixel almenoUnPixel; almenoUnPixel.Occorre()) {
+        applicazione.reset(); // there can be one at a time
+        applicazione = std::make_unique<QApplication>(argc, argv);
+    }
+    return applicazione;
 }
 
 } // namespace
@@ -45,7 +51,7 @@ int main(int argc, char *argv[])
         std::fputs(AvvisoSenzaSchermo, stderr);
         return 1;
     }
-    const QApplication applicazione = Applicazione(argc, argv);
+    const std::unique_ptr<QApplication> applicazione = Applicazione(argc, argv);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     Disco::UsaProprieta(&SuDisco::TieneProprieta);
     QApplication::setApplicationName(QStringLiteral("Plakera"));

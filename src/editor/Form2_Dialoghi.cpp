@@ -6,7 +6,7 @@
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
 #include "model/Numeri.h"
-#include "platform/Finestre.h"
+#include "platform/DialogoScorrevole.h"
 #include "platform/Guardia.h"
 #include "platform/Messaggi.h"
 #include "preview/Frm1.h"
@@ -100,7 +100,7 @@ void Form2::MostraDialogo(FrmElemento &dialogo)
     const QRect schermo = screen()->availableGeometry();
     // The dialog gets a frame like the editor's; its position is taken as that of its inside.
     // Left to itself it would be squeezed into two thirds of a small screen.
-    dialogo.resize(EntroLoSchermo(this, dialogo.sizeHint()));
+    AdattaAlloSchermo(dialogo);
     const QSize misura = dialogo.size().grownBy(cornice_);
     constexpr int Distanza = 20; // device-independent pixels
     const int sinistra = qMax(schermo.left(), schermo.right() - misura.width() - Distanza);

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <functional>
 #include <optional>
 
 namespace {
@@ -27,6 +28,7 @@ private slots:
     void initTestCase();
     void stessoLavoro_data();
     void stessoLavoro();
+    void menoDiUnPixelSiVedeComeUno();
 
 private:
     void OgniFinestraSulloSchermo(Scrivania &scrivania);
@@ -129,6 +131,35 @@ void tst_Schermi::stessoLavoro()
     scrivania.ChiudeEditor();
     scrivania.ChiudeInizio();
     QCOMPARE(Scrivania::EsitoDi(scrivania.Programma()), 0);
+}
+
+void tst_Schermi::menoDiUnPixelSiVedeComeUno()
+{
+    Scrivania scrivania;
+    Schermo &video = scrivania.Video();
+    QList<QImage> attesi;
+    const auto giro = [&](const std::function<void()> &guarda) {
+        scrivania.Avvia();
+        video.Attende(Scrivania::TitoloInizio);
+        guarda();
+        scrivania.ApreModello(Fattura);
+        guarda();
+        scrivania.ProprietaCampo({142, 97});
+        guarda();
+        video.Tasti({QStringLiteral("Escape")});
+        video.AttendeChiusa(Scrivania::TitoloCampo);
+        scrivania.ChiudeEditor();
+        scrivania.ChiudeInizio();
+        QCOMPARE(Scrivania::EsitoDi(scrivania.Programma()), 0);
+    };
+    giro([&] { attesi.append(video.Foto()); });
+    scrivania.Ambiente().insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("0.5"));
+    // More than once, for the blinking of the text cursor.
+    giro([&] {
+        const QImage atteso = attesi.takeFirst();
+        video.AttendeQui(QStringLiteral("the windows as at scale 1"),
+                         [&] { return video.Foto() == atteso; });
+    });
 }
 
 QTEST_GUILESS_MAIN(tst_Schermi)

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QStyleOptionFrame>
 #include <QTabBar>
 #include <QTabWidget>
@@ -142,6 +143,33 @@ int Controlla(const QWidget &finestra)
     return controllati;
 }
 
+/// Brings the keyboard to each control in turn; gives how many of them are not seen whole then.
+int NonSiRaggiungono(const QDialog &dialogo)
+{
+    int mancati = 0;
+    for (auto *controllo : dialogo.findChildren<QWidget *>()) {
+        if (!controllo->isVisible() || !(controllo->focusPolicy() & Qt::TabFocus) ||
+            controllo->focusProxy() != nullptr || !controllo->isEnabled()) {
+            continue;
+        }
+        controllo->setFocus();
+        const QRect posto(controllo->mapTo(&dialogo, QPoint()), controllo->size());
+        QRect visibile = dialogo.rect();
+        if (const auto *area = dialogo.findChild<QScrollArea *>()) {
+            visibile =
+                area->viewport()->rect().translated(area->viewport()->mapTo(&dialogo, QPoint()));
+            // A control wider than the window is seen as far as it can be.
+            visibile.setWidth(qMax(visibile.width(), posto.right() + 1 - visibile.left()));
+        }
+        if (!visibile.contains(posto)) {
+            QTest::qFail(qPrintable(NomeDi(controllo) + QStringLiteral(" stays out of sight")),
+                         __FILE__, __LINE__);
+            ++mancati;
+        }
+    }
+    return mancati;
+}
+
 bool Apre(EditoreDiProva &prova)
 {
     prova.Archivio.Riempie(2);
@@ -200,12 +228,16 @@ void tst_NienteTagliato::Dialogo()
     QVERIFY(Apre(prova));
     Robot robot;
     int controllati = 0;
+    int mancati = -1;
     robot.Agisce([&](QDialog *dialogo) {
+        QVERIFY(QTest::qWaitForWindowActive(dialogo));
         controllati = Controlla(*dialogo);
+        mancati = NonSiRaggiungono(*dialogo);
         dialogo->reject();
     });
     prova.ApreProprieta(genere, 1);
     QVERIFY(robot.Soddisfatto());
+    QCOMPARE(mancati, 0);
     QVERIFY(controllati > 15);
 }
 
