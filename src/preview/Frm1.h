@@ -105,8 +105,7 @@ public:
     void DipingeSfondo(const QString &percorso, const QRectF &millimetri);
 
     /// A simulated body row: a label for display only, at least as high as its text, which it clips
-    /// at the side; it lets the mouse
-    /// through to what lies below it.
+    /// at the side. It lets the mouse through to what lies below it.
     struct RigaSimulata
     {
         QRectF posto; ///< mm of screen
