@@ -648,6 +648,7 @@ void tst_SelezioneArchivifrm::Apri_invio()
     Carica();
     const QSignalSpy scelto(frm_.get(), &SelezioneArchivifrm::ModelloScelto);
     QTest::keyClick(Lista("List2"), Qt::Key_Down);
+    QTest::keyClick(Lista("List2"), Qt::Key_Down);
     QTest::keyClick(Lista("List2"), Qt::Key_Return);
     QCOMPARE(scelto.size(), 1);
     QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Beta.Mod"));

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "catalogue/SelezioneArchivifrm.h"
+#include "support/Controlli.h"
+#include "support/FileDiProva.h"
+#include "support/Robot.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// The start window over a data folder of its own, with the archive "Contabilita".
+class ArchiviDiProva
+{
+public:
+    ArchiviDiProva()
+    {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(cartella_.path()));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(cartella_.path()));
+        Crea(QStringLiteral("Contabilita"));
+    }
+
+    /// A full path below the data folder.
+    QString In(const QString &nome) const
+    {
+        return QDir::toNativeSeparators(cartella_.filePath(QStringLiteral("dati/") + nome));
+    }
+    /// A full path in the models folder of "Contabilita".
+    QString Ini(const QString &nome = QString()) const
+    {
+        return In(QStringLiteral("Contabilita/ini/") + nome);
+    }
+    void Crea(const QString &archivio) const
+    {
+        QVERIFY(QDir().mkpath(In(archivio + QStringLiteral("/ini"))));
+    }
+
+    /// Loads the window, which must succeed without a message, and shows it.
+    void Carica()
+    {
+        const Robot robot;
+        QVERIFY(Finestra.Form_Load(In(QString())));
+        QVERIFY(robot.Soddisfatto());
+        Mostra();
+    }
+    void Mostra()
+    {
+        Finestra.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&Finestra));
+        QApplication::setActiveWindow(&Finestra);
+    }
+
+    QListWidget *Lista(const char *nome) const
+    {
+        return Controlli::Trova<QListWidget>(Finestra, nome);
+    }
+    QStringList Voci(const char *nome) const
+    {
+        QStringList voci;
+        for (int i = 0; i < Lista(nome)->count(); ++i) {
+            voci.append(Lista(nome)->item(i)->text());
+        }
+        return voci;
+    }
+    /// The chosen entry; empty when there is none.
+    QString Scelto(const char *nome) const
+    {
+        const auto scelti = Lista(nome)->selectedItems();
+        return scelti.isEmpty() ? QString() : scelti.first()->text();
+    }
+    void Clic(const char *lista, const QString &voce,
+              Qt::KeyboardModifiers tasti = Qt::NoModifier) const
+    {
+        const auto trovate = Lista(lista)->findItems(voce, Qt::MatchExactly);
+        QCOMPARE(trovate.size(), 1);
+        QTest::mouseClick(Lista(lista)->viewport(), Qt::LeftButton, tasti,
+                          Lista(lista)->visualItemRect(trovate.first()).center());
+    }
+
+private:
+    QTemporaryDir cartella_;
+
+public:
+    StatoProgramma Stato;
+    SelezioneArchivifrm Finestra{Stato};
+};
