@@ -19,6 +19,8 @@
 #include <QFontInfo>
 #include <QShortcut>
 
+#include <utility>
+
 namespace {
 
 constexpr QLatin1String ArchivioAbituale("Contabilita");
@@ -59,6 +61,9 @@ void SelezioneArchivifrm::CollegaSegnali()
         invio->setContext(Qt::WidgetShortcut);
         Collega(invio, &QShortcut::activated, this, &Questa::Apri_Click);
     }
+    auto *aggiorna = new QShortcut(Qt::Key_F5, this);
+    aggiorna->setAutoRepeat(false);
+    Collega(aggiorna, &QShortcut::activated, this, &Questa::AggiornaElenchi);
 }
 
 bool SelezioneArchivifrm::Form_Load(const QString &datiIndicati)
@@ -97,20 +102,22 @@ bool SelezioneArchivifrm::LeggeCartellaDati(const QString &datiIndicati)
     if (cartella.isEmpty()) {
         return false;
     }
-    stato_.CartellaModelli =
+    cartellaDati_ =
         QDir::toNativeSeparators(QFileInfo(Percorsi::Risolve(cartella)).absoluteFilePath());
+    stato_.CartellaModelli = cartellaDati_;
     return true;
 }
 
-void SelezioneArchivifrm::ElencaArchivi()
+bool SelezioneArchivifrm::ElencaArchivi()
 {
     ui_->Dir1->clear();
     ui_->List1->clear();
     try {
-        ui_->Dir1->addItems(Percorsi::SottoCartelle(stato_.CartellaModelli));
+        ui_->Dir1->addItems(Percorsi::SottoCartelle(cartellaDati_));
     } catch (const ErroreSistema &errore) {
         Messaggi::Mostra(this, QStringLiteral("impossibile leggere la cartella dei dati\n%1\n%2")
-                                   .arg(stato_.CartellaModelli, errore.descrizione));
+                                   .arg(cartellaDati_, errore.descrizione));
+        return false;
     }
     for (int i = 0; i < ui_->Dir1->count(); ++i) {
         auto *archivio = new QListWidgetItem(ui_->Dir1->item(i)->text(), ui_->List1);
@@ -118,6 +125,7 @@ void SelezioneArchivifrm::ElencaArchivi()
         // No wider than the list: of a long path the beginning is left out, not the archive's name.
         archivio->setSizeHint({0, ui_->List1->sizeHintForRow(i)});
     }
+    return true;
 }
 
 void SelezioneArchivifrm::SelezionaArchivioPredefinito()
@@ -140,7 +148,7 @@ void SelezioneArchivifrm::showEvent(QShowEvent *evento)
     Guardia(this, [this] {
         if (riapertura_) {
             riapertura_ = false;
-            RiprendeModelli();
+            RiprendeElenchi(stato_.Aperto.NomeFile);
         }
         if (ArchivioScelto()) {
             ui_->List2->setFocus();
@@ -158,22 +166,57 @@ bool SelezioneArchivifrm::eventFilter(QObject *oggetto, QEvent *evento)
     return QWidget::eventFilter(oggetto, evento);
 }
 
-void SelezioneArchivifrm::RiprendeModelli()
+void SelezioneArchivifrm::AggiornaElenchi()
 {
-    ElencaModelli();
+    RiprendeElenchi(ModelloSelezionato() ? stato_.Aperto.NomeFile : QString());
+}
+
+void SelezioneArchivifrm::RiprendeElenchi(const QString &nomeFile)
+{
+    const bool letti = ElencaArchivi();
+    SvuotaModelli();
+    // A data folder that does not answer may do so later: its archive is not given up.
+    if (letti) {
+        RiprendeArchivio();
+        RiprendeModello(nomeFile);
+    }
+}
+
+void SelezioneArchivifrm::RiprendeArchivio()
+{
+    if (archivio_.isEmpty()) {
+        SelezionaArchivioPredefinito();
+        return;
+    }
+    const auto trovati = ui_->List1->findItems(archivio_, Qt::MatchExactly);
+    if (!trovati.isEmpty()) {
+        ui_->List1->setCurrentItem(trovati.first());
+        return;
+    }
+    const QString scomparso = std::exchange(archivio_, QString());
+    Messaggi::Mostra(this, QStringLiteral("l'archivio scelto non c'è più\n") + scomparso);
+}
+
+void SelezioneArchivifrm::RiprendeModello(const QString &nomeFile)
+{
     for (int i = 0; i < ui_->List2->count(); ++i) {
-        const QString nomeFile = ui_->List2->item(i)->text() + ElencoModelli::Estensione;
-        if (nomeFile.compare(stato_.Aperto.NomeFile, Qt::CaseInsensitive) == 0) {
+        const QString altro = ui_->List2->item(i)->text() + ElencoModelli::Estensione;
+        if (altro.compare(nomeFile, Qt::CaseInsensitive) == 0) {
             ui_->List2->setCurrentRow(i);
             return;
         }
     }
 }
 
-void SelezioneArchivifrm::ElencaModelli()
+void SelezioneArchivifrm::SvuotaModelli()
 {
     ui_->File1->clear();
     ui_->List2->clear();
+}
+
+void SelezioneArchivifrm::ElencaModelli()
+{
+    SvuotaModelli();
     try {
         const QStringList file =
             Percorsi::FileConModello(stato_.CartellaModelli, QStringLiteral("*.mod"));
@@ -191,9 +234,9 @@ void SelezioneArchivifrm::List1_Click()
         return;
     }
     elencatoColClic_ = true;
-    const QString archivio = ui_->List1->selectedItems().constFirst()->text();
+    archivio_ = ui_->List1->selectedItems().constFirst()->text();
     const QString barra = Percorsi::Separatore();
-    stato_.CartellaModelli = Percorsi::Risolve(archivio + barra + CartellaIni + barra);
+    stato_.CartellaModelli = Percorsi::Risolve(archivio_ + barra + CartellaIni + barra);
     ElencaModelli();
 }
 

@@ -32,7 +32,7 @@ signals:
     void ModelloScelto();
 
 protected:
-    /// Shown again after the editor, it lists the archive's models afresh.
+    /// Shown again after the editor, it lists archives and models afresh.
     void showEvent(QShowEvent *evento) override;
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
@@ -48,10 +48,17 @@ private:
     void CollegaSegnali();
     void PosizionaFinestra();
     bool LeggeCartellaDati(const QString &datiIndicati);
-    void ElencaArchivi();
+    /// False when the data folder cannot be read; the user has been told, and the list is empty.
+    bool ElencaArchivi();
     void SelezionaArchivioPredefinito();
     void ElencaModelli();
-    void RiprendeModelli();
+    void SvuotaModelli();
+    /// Lists archives and models again and chooses the same archive and, in it, the model of that
+    /// file name, as far as they are still there.
+    void RiprendeElenchi(const QString &nomeFile);
+    void RiprendeArchivio();
+    void RiprendeModello(const QString &nomeFile);
+    void AggiornaElenchi();
 
     void List1_Click();
     /// The end of a click on an archive: lists its models again when the click has not done so by
@@ -74,6 +81,8 @@ private:
     StatoProgramma &stato_;
     std::unique_ptr<Ui::SelezioneArchivifrm> ui_;
     IstanzaUnica istanza_;
+    QString cartellaDati_;
+    QString archivio_; ///< the chosen archive; empty until there is one, and once it has gone
     bool elencatoColClic_ = false; ///< the models were listed since the mouse was pressed on List1
     bool riapertura_ = false;      ///< the next showing follows the editor's closing
 };

@@ -24,10 +24,14 @@ public:
         Crea(QStringLiteral("Contabilita"));
     }
 
+    QString Dati() const
+    {
+        return QDir::toNativeSeparators(cartella_.filePath(QStringLiteral("dati")));
+    }
     /// A full path below the data folder.
     QString In(const QString &nome) const
     {
-        return QDir::toNativeSeparators(cartella_.filePath(QStringLiteral("dati/") + nome));
+        return Dati() + QDir::separator() + QDir::toNativeSeparators(nome);
     }
     /// A full path in the models folder of "Contabilita".
     QString Ini(const QString &nome = QString()) const
@@ -43,7 +47,7 @@ public:
     void Carica()
     {
         const Robot robot;
-        QVERIFY(Finestra.Form_Load(In(QString())));
+        QVERIFY(Finestra.Form_Load(Dati()));
         QVERIFY(robot.Soddisfatto());
         Mostra();
     }
