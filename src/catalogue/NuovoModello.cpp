@@ -13,6 +13,19 @@
 
 #include <QFileInfo>
 
+namespace {
+
+/// Compared with the extension in place, so none of these ever matches: the reserved names can be
+/// used, and archives hold models that are called so.
+bool Riservato(const QString &nomeFile)
+{
+    const QString maiuscolo = nomeFile.toUpper();
+    return maiuscolo == QLatin1String("FATTURA") ||
+           maiuscolo == QLatin1String("FATTURAACCOMPAGN") || maiuscolo == QLatin1String("DDT");
+}
+
+} // namespace
+
 void SelezioneArchivifrm::Nuovo_Click()
 {
     if (!ArchivioScelto()) {
@@ -24,10 +37,14 @@ void SelezioneArchivifrm::Nuovo_Click()
         return;
     }
     const QString nome = ChiedeNome(*richiesta);
-    if (nome.isEmpty() || !NomeAccettato(nome)) {
+    if (nome.isEmpty()) {
         return;
     }
     const QString nuovoNome = nome + ElencoModelli::Estensione;
+    if (Riservato(nuovoNome)) {
+        Messaggi::Mostra(this, QStringLiteral("inserire un mome diverso"));
+        return;
+    }
     if (!SovrascritturaAccettata(nuovoNome)) {
         return;
     }
@@ -64,32 +81,35 @@ std::optional<SelezioneArchivifrm::Richiesta> SelezioneArchivifrm::RichiestaScel
 
 QString SelezioneArchivifrm::ChiedeNome(const Richiesta &richiesta)
 {
-    return Messaggi::ChiedeTesto(this, QStringLiteral("Nuovo modello di stampa"),
-                                 richiesta.testo +
-                                     QStringLiteral("\n\nDigitare un nome per il nuovo modello"),
-                                 richiesta.nomeProposto)
-        .value_or(QString());
+    // A name that cannot be used comes back to be mended, not to be typed again.
+    QString nome = richiesta.nomeProposto;
+    do {
+        nome =
+            Messaggi::ChiedeTesto(
+                this, QStringLiteral("Nuovo modello di stampa"),
+                richiesta.testo + QStringLiteral("\n\nDigitare un nome per il nuovo modello"), nome)
+                .value_or(QString());
+    } while (!nome.isEmpty() && !NomeUtilizzabile(nome));
+    return nome;
 }
 
-bool SelezioneArchivifrm::NomeAccettato(const QString &nome)
+bool SelezioneArchivifrm::NomeUtilizzabile(const QString &nome)
 {
+    const QString nuovoNome = nome + ElencoModelli::Estensione;
     // Vastrel, too, must be able to open a file of this name.
-    if (!Percorsi::NomeFileValido(nome) || !Ansi::Rappresentabile(nome)) {
+    if (!Percorsi::NomeFileValido(nuovoNome) || !Ansi::Rappresentabile(nome)) {
         Messaggi::Mostra(
             this, QStringLiteral("\"%1\" non è un nome valido per un modello.\n\nUn nome non può "
                                  "contenere \\ / : * ? \" < > | né caratteri che Vastrel non "
-                                 "conosce, non può finire con un punto o uno spazio e non può "
-                                 "essere un nome riservato di Windows (CON, PRN, AUX, NUL, COM1, "
-                                 "LPT1...).")
+                                 "conosce e non può essere un nome riservato di Windows (CON, PRN, "
+                                 "AUX, NUL, COM1, LPT1...).")
                       .arg(nome));
         return false;
     }
-    // Compared with the extension in place, so none of these ever matches: the reserved names can
-    // be used, and archives hold models that are called so.
-    const QString maiuscolo = (nome + ElencoModelli::Estensione).toUpper();
-    if (maiuscolo == QLatin1String("FATTURA") || maiuscolo == QLatin1String("FATTURAACCOMPAGN") ||
-        maiuscolo == QLatin1String("DDT")) {
-        Messaggi::Mostra(this, QStringLiteral("inserire un mome diverso"));
+    if (QFileInfo(Percorsi::Risolve(stato_.CartellaModelli + nuovoNome)).isDir()) {
+        Messaggi::Mostra(this, QStringLiteral("%1 è il nome di una cartella: scegliere un nome "
+                                              "diverso per il modello")
+                                   .arg(nuovoNome));
         return false;
     }
     return true;
@@ -97,14 +117,7 @@ bool SelezioneArchivifrm::NomeAccettato(const QString &nome)
 
 bool SelezioneArchivifrm::SovrascritturaAccettata(const QString &nuovoNome)
 {
-    const QString percorso = Percorsi::Risolve(stato_.CartellaModelli + nuovoNome);
-    if (QFileInfo(percorso).isDir()) {
-        Messaggi::Mostra(this, QStringLiteral("%1 è il nome di una cartella: scegliere un nome "
-                                              "diverso per il modello")
-                                   .arg(nuovoNome));
-        return false;
-    }
-    return !Esiste(percorso) ||
+    return !Esiste(Percorsi::Risolve(stato_.CartellaModelli + nuovoNome)) ||
            Messaggi::Domanda(this, nuovoNome + QStringLiteral(" esiste già \nLO VUOI SOSTITUIRE?"),
                              Messaggi::Risposta::No);
 }

@@ -218,8 +218,8 @@ void SelezioneArchivifrm::ElencaModelli()
 {
     SvuotaModelli();
     try {
-        const QStringList file =
-            Percorsi::FileConModello(stato_.CartellaModelli, QStringLiteral("*.mod"));
+        const QStringList file = Percorsi::FileConModello(
+            stato_.CartellaModelli, QStringLiteral("*.mod"), Percorsi::NomiConPunto::Sempre);
         ui_->File1->addItems(file);
         ui_->List2->addItems(ElencoModelli::Nomi(file));
     } catch (const ErroreSistema &errore) {

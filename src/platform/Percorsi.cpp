@@ -162,12 +162,23 @@ QStringList Percorsi::SottoCartelle(const QString &cartella)
     return percorsi;
 }
 
-QStringList Percorsi::FileConModello(const QString &cartella, const QString &modelli)
+QStringList Percorsi::FileConModello(const QString &cartella, const QString &modelli,
+                                     NomiConPunto conPunto)
 {
     const QString nativa = Nativo(cartella);
     VerificaElencabile(nativa);
-    return Elencati(QDir(nativa).entryList(modelli.split(u';', Qt::SkipEmptyParts), QDir::Files,
-                                           QDir::Unsorted));
+    const QStringList nomiCercati = modelli.split(u';', Qt::SkipEmptyParts);
+    const QDir dove(nativa);
+    QStringList nomi = dove.entryList(nomiCercati, QDir::Files, QDir::Unsorted);
+    if (conPunto == NomiConPunto::Sempre) {
+        for (const QString &nome :
+             dove.entryList(nomiCercati, QDir::Files | QDir::Hidden, QDir::Unsorted)) {
+            if (nome.startsWith(u'.') && !nomi.contains(nome)) {
+                nomi.append(nome);
+            }
+        }
+    }
+    return Elencati(nomi);
 }
 
 void Percorsi::Copia(const QString &origine, const QString &destinazione)
@@ -220,8 +231,7 @@ QString Percorsi::EstraeNomeFile(const QString &percorso)
 
 bool Percorsi::NomeFileValido(const QString &nome)
 {
-    if (nome.isEmpty() || nome.startsWith(u'.') || nome.endsWith(u'.') || nome.endsWith(u' ') ||
-        NomeDiDispositivo(nome)) {
+    if (nome.isEmpty() || nome.endsWith(u'.') || nome.endsWith(u' ') || NomeDiDispositivo(nome)) {
         return false;
     }
     return std::none_of(nome.begin(), nome.end(), [](QChar c) {

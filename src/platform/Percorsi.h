@@ -20,10 +20,15 @@ QString Risolve(const QString &percorso);
 /// 76 when the folder does not exist, 75 when it cannot be read.
 QStringList SottoCartelle(const QString &cartella);
 
+/// Whether names that begin with a dot are listed: as the system has it, which hides them elsewhere
+/// than on Windows, or always.
+enum class NomiConPunto { ComeIlSistema, Sempre };
+
 /// Names of the files that match one of the patterns ("*.mod", "*jpg;*.bmp") without regard to
 /// case, in name order without regard to case. Folders never match. Throws ErroreSistema 76 when
 /// the folder does not exist, 75 when it cannot be read.
-QStringList FileConModello(const QString &cartella, const QString &modelli);
+QStringList FileConModello(const QString &cartella, const QString &modelli,
+                           NomiConPunto conPunto = NomiConPunto::ComeIlSistema);
 
 /// Replaces destinazione by a copy of origine, atomically; both are found in any case, as Risolve
 /// does. Throws ErroreSistema (53, 57, 61, 70, 75, 76) whose description names the file at fault.
@@ -42,7 +47,7 @@ QString EstraeNomeFile(const QString &percorso);
 
 /// True when the text can name one file inside a folder on every system: not empty, no separator,
 /// no ":*?\"<>|" or control character, no trailing dot or blank, no device
-/// name of Windows ("CON", "lpt1.x").
+/// name of Windows ("CON", "lpt1.x"). A name that is to get an extension is judged with it.
 bool NomeFileValido(const QString &nome);
 
 } // namespace Percorsi

@@ -66,13 +66,14 @@ void ProvaParti(const QString &percorso)
 /// A name that the catalogue accepts is one file of the folder, whatever it holds.
 void ProvaNome(const QString &cartella, const QString &nome)
 {
-    if (!Percorsi::NomeFileValido(nome)) {
+    const QString nomeFile = nome + ElencoModelli::Estensione;
+    if (!Percorsi::NomeFileValido(nomeFile)) {
         return;
     }
-    const QString percorso = cartella + nome + ElencoModelli::Estensione;
-    PRETENDE(QDir::cleanPath(cartella + nome) == cartella + nome);
+    const QString percorso = cartella + nomeFile;
+    PRETENDE(QDir::cleanPath(percorso) == percorso);
     PRETENDE(Percorsi::EstraeUltimaBarra(percorso) == cartella);
-    PRETENDE(Percorsi::EstraeNomeFile(percorso) == nome + ElencoModelli::Estensione);
+    PRETENDE(Percorsi::EstraeNomeFile(percorso) == nomeFile);
     PRETENDE(Percorsi::EstraeUltimaBarra(Percorsi::Risolve(percorso)) == cartella);
 }
 

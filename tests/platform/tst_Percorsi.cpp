@@ -32,6 +32,7 @@ private slots:
     void SottoCartelle_mancante();
     void SottoCartelle_illeggibile();
     void FileConModello();
+    void FileConModello_nomiConPunto();
     void FileConModello_piuModelli();
     void FileConModello_cartellaMancante();
     void FileConModello_unFile();
@@ -112,11 +113,15 @@ void tst_Percorsi::NomeFileValido_data()
           "OrdineCliente-Offerta_Pers", "Console", "COM", "COM10", "COM0", "a'b (2)"}) {
         riga(nome, true);
     }
-    for (const char *nome :
-         {"",          ".",    "..",    "a/b", "a\\b", "a:b",    "a*b",     "a?b",
-          "a\"b",      "a<b",  "a>b",   "a|b", "a.",   "a ",     "..\\a",   "a\tb",
-          ".nascosto", "a\nb", "a\x7f", "CON", "con",  "lpt1.x", "NUL.Mod", "Com9"}) {
+    for (const char *nome : {"",     ".",     "..",  "a/b", "a\\b",   "a:b",     "a*b",   "a?b",
+                             "a\"b", "a<b",   "a>b", "a|b", "a.",     "a ",      "..\\a", "a\tb",
+                             "a\nb", "a\x7f", "CON", "con", "lpt1.x", "NUL.Mod", "Com9"}) {
         riga(nome, false);
+    }
+    // What is wrong at the end of a name, or looks wrong at its start, is right before an
+    // extension.
+    for (const char *nome : {".nascosto", ".x.Mod", "nome..Mod", "nome .Mod", "..Mod"}) {
+        riga(nome, true);
     }
 }
 
@@ -250,6 +255,21 @@ void tst_Percorsi::FileConModello()
                                 QStringLiteral("zeta.mod")};
     QCOMPARE(Percorsi::FileConModello(cartella_->path(), QStringLiteral("*.mod")), attesi);
     QCOMPARE(Percorsi::FileConModello(cartella_->path() + u'\\', QStringLiteral("*.mod")), attesi);
+}
+
+void tst_Percorsi::FileConModello_nomiConPunto()
+{
+    for (const char *nome : {".x.Mod", "Alfa.Mod", ".mod", ".altro.txt"}) {
+        Scrive(QString::fromLatin1(nome));
+    }
+    QCOMPARE(Percorsi::FileConModello(cartella_->path(), QStringLiteral("*.mod"),
+                                      Percorsi::NomiConPunto::Sempre),
+             (QStringList{QStringLiteral(".mod"), QStringLiteral(".x.Mod"),
+                          QStringLiteral("Alfa.Mod")}));
+#ifndef Q_OS_WIN
+    QCOMPARE(Percorsi::FileConModello(cartella_->path(), QStringLiteral("*.mod")),
+             QStringList{QStringLiteral("Alfa.Mod")});
+#endif
 }
 
 void tst_Percorsi::FileConModello_piuModelli()
