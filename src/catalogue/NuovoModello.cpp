@@ -129,7 +129,10 @@ bool SelezioneArchivifrm::Esiste(const QString &percorso)
         return true;
     }
     const ErroreSistema assente(ErroreSistema::FileNonTrovato);
+    // Users know this box, which every new model shows; its last words keep it from being taken
+    // for a failure.
     Messaggi::MostraCritico(this, assente.Messaggio() + QStringLiteral("\nnon esiste il file ") +
-                                      percorso);
+                                      percorso +
+                                      QStringLiteral("\n\nil modello viene creato adesso"));
     return false;
 }

@@ -1,8 +1,9 @@
 #include "ArchiviDiProva.h"
 
+#include <QMessageBox>
 #include <QSignalSpy>
 
-/// The name that the user gives a new model.
+/// The name that the user gives a new model, and the box that comes before it is made.
 class tst_NuovoModello : public QObject
 {
     Q_OBJECT
@@ -14,6 +15,8 @@ private slots:
     void NomeNonValidoPoiRinuncia();
     void NomeLecitoConEstensione_data();
     void NomeLecitoConEstensione();
+    void AvvisoDiCreazione_data();
+    void AvvisoDiCreazione();
 
 private:
     static void Prepara(ArchiviDiProva &prova);
@@ -116,6 +119,39 @@ void tst_NuovoModello::NomeLecitoConEstensione()
     Controlli::Preme(prova.Finestra, "Apri");
     QCOMPARE(ByteDi(prova.Stato.CartellaModelli + prova.Stato.Aperto.NomeFile),
              QByteArray("fattura tipo"));
+}
+
+void tst_NuovoModello::AvvisoDiCreazione_data()
+{
+    QTest::addColumn<bool>("vuoto");
+
+    QTest::newRow("file che non c'e'") << false;
+    QTest::newRow("file vuoto") << true;
+}
+
+void tst_NuovoModello::AvvisoDiCreazione()
+{
+    QFETCH(bool, vuoto);
+    ArchiviDiProva prova;
+    const QString percorso = prova.Ini(QStringLiteral("Nuovo.Mod"));
+    if (vuoto) {
+        ScriveFile(percorso, QByteArray());
+    }
+    Prepara(prova);
+    QMessageBox::Icon icona = QMessageBox::NoIcon;
+    Robot robot;
+    robot.Digita(QStringLiteral("Nuovo")).Agisce([&icona](QDialog *d) {
+        icona = qobject_cast<QMessageBox *>(d)->icon();
+        d->accept();
+    });
+    Controlli::Preme(prova.Finestra, "Nuovo");
+    QVERIFY(robot.Soddisfatto());
+    const QString testo = robot.Testi().value(1);
+    QVERIFY2(testo.startsWith(QStringLiteral("errore 53 ")), qPrintable(testo));
+    QVERIFY2(testo.contains(QStringLiteral("non esiste il file ") + percorso), qPrintable(testo));
+    QVERIFY2(testo.endsWith(QStringLiteral("viene creato adesso")), qPrintable(testo));
+    QCOMPARE(icona, QMessageBox::Critical);
+    QCOMPARE(ByteDi(percorso), QByteArray("fattura tipo"));
 }
 
 QTEST_MAIN(tst_NuovoModello)
