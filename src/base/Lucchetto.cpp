@@ -1,6 +1,31 @@
 #include "base/Lucchetto.h"
 
+#include <QFileInfo>
 #include <QSysInfo>
+
+#include <filesystem>
+
+namespace {
+
+/// Whether something that no process ever locks takes the place of the lock file: a folder, a link
+/// that leads nowhere, a device. Qt would call it a lock that somebody holds, and reading a device
+/// may never end.
+bool PostoIngombro(const QString &file)
+{
+    namespace fs = std::filesystem;
+    const fs::path percorso = QFileInfo(file).filesystemFilePath();
+    std::error_code codice;
+    switch (fs::status(percorso, codice).type()) {
+    case fs::file_type::regular:
+        return false;
+    case fs::file_type::not_found:
+        return fs::symlink_status(percorso, codice).type() == fs::file_type::symlink;
+    default:
+        return true;
+    }
+}
+
+} // namespace
 
 Lucchetto::Lucchetto(const QString &file)
     : file_(file)
@@ -10,7 +35,13 @@ Lucchetto::Lucchetto(const QString &file)
 
 Lucchetto::Esito Lucchetto::Prende()
 {
-    if (file_.isLocked() || file_.tryLock(0)) {
+    if (file_.isLocked()) {
+        return Esito::Preso;
+    }
+    if (PostoIngombro(file_.fileName())) {
+        return Esito::Impossibile;
+    }
+    if (file_.tryLock(0)) {
         return Esito::Preso;
     }
     if (file_.error() != QLockFile::LockFailedError) {

@@ -13,9 +13,10 @@ public:
     enum class Esito {
         Preso,      ///< by this object, now or before, until its destruction
         Occupato,   ///< another object holds it, of this process or of another
-        Impossibile ///< the file cannot be made: a full disk, a folder without rights
+        Impossibile ///< the file cannot be made: a full disk, a folder without rights, something in
+                    ///< its place that is no file
     };
-    /// Does not wait.
+    /// Does not wait, whatever lies in the file's place.
     Esito Prende();
 
 private:

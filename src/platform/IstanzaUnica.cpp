@@ -26,6 +26,7 @@ IstanzaUnica::IstanzaUnica()
 
 bool IstanzaUnica::Acquisisce()
 {
-    // A full or read-only disk is no second instance; it must not keep the user out.
+    // A full or read-only disk is no second instance, nor is what somebody left in the lock's
+    // place; neither may keep the user out.
     return lucchetto_.Prende() != Lucchetto::Esito::Occupato;
 }

@@ -14,6 +14,7 @@ private slots:
     void editorEAnteprimaAlLoroPosto();
     void chiusoLEditorTornaLaFinestraIniziale();
     void secondaIstanza();
+    void unaCartellaAlPostoDelLucchetto();
     void dirtxtMancante();
     void allUscitaNonRestaNulla();
 };
@@ -130,6 +131,15 @@ void tst_PrimoGiro::secondaIstanza()
     scrivania.Uccide();
     scrivania.Avvia();
     scrivania.Video().Attende(Scrivania::TitoloInizio);
+}
+
+void tst_PrimoGiro::unaCartellaAlPostoDelLucchetto()
+{
+    Scrivania scrivania;
+    QVERIFY(QDir().mkpath(scrivania.In(QStringLiteral("esecuzione/plakera.lock"))));
+    scrivania.Avvia();
+    scrivania.Video().Attende(Scrivania::TitoloInizio);
+    QCOMPARE(scrivania.Video().Finestre().size(), 1);
 }
 
 void tst_PrimoGiro::dirtxtMancante()

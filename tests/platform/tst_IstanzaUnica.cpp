@@ -2,12 +2,15 @@
 #include "support/FileDiProva.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cstdio>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -44,6 +47,8 @@ private slots:
     void LucchettoVuoto();
     void DiscoPieno();
     void DiscoPienoDopoUnaCaduta();
+    void LucchettoCheNonLoE_data();
+    void LucchettoCheNonLoE();
     void RestaAcquisita();
 
 private:
@@ -64,6 +69,7 @@ void tst_IstanzaUnica::initTestCase()
 void tst_IstanzaUnica::init()
 {
     qputenv("XDG_RUNTIME_DIR", cartella_.path().toUtf8());
+    QDir(Lucchetto()).removeRecursively();
     QFile::remove(Lucchetto());
 }
 
@@ -149,6 +155,35 @@ void tst_IstanzaUnica::DiscoPienoDopoUnaCaduta()
     const LimiteFile nessunByte(0);
     IstanzaUnica istanza;
     QVERIFY2(istanza.Acquisisce(), "what has died is no first instance");
+}
+
+void tst_IstanzaUnica::LucchettoCheNonLoE_data()
+{
+    QTest::addColumn<QString>("cosa");
+
+    QTest::newRow("cartella") << QStringLiteral("cartella");
+    QTest::newRow("collegamento rotto") << QStringLiteral("collegamento");
+    QTest::newRow("dispositivo") << QStringLiteral("dispositivo");
+    QTest::newRow("tubo") << QStringLiteral("tubo");
+}
+
+void tst_IstanzaUnica::LucchettoCheNonLoE()
+{
+    QFETCH(QString, cosa);
+    if (cosa == QStringLiteral("cartella")) {
+        QVERIFY(QDir().mkdir(Lucchetto()));
+    } else if (cosa == QStringLiteral("collegamento")) {
+        QVERIFY(QFile::link(QStringLiteral("/manca/plakera.lock"), Lucchetto()));
+    } else if (cosa == QStringLiteral("dispositivo")) {
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), Lucchetto()));
+    } else {
+        QCOMPARE(mkfifo(QFile::encodeName(Lucchetto()).constData(), 0600), 0);
+    }
+    // In a process of its own, which the test outlives even where the question has no end.
+    QProcess programma;
+    Avvia(programma, "unica");
+    programma.closeWriteChannel();
+    QTRY_COMPARE(programma.state(), QProcess::NotRunning);
 }
 
 void tst_IstanzaUnica::RestaAcquisita()
