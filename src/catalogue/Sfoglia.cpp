@@ -154,7 +154,7 @@ void Sfoglia::ApreCartellaIniziale()
     if (conCartella && ApreCartella(CartellaEsistente(percorso))) {
         return;
     }
-    if (cartella_.isEmpty() || !ApreCartella(cartella_)) {
+    if (!ApreCartella(CartellaEsistente(partenza_)) && !ApreCartella(cartella_)) {
         ApreCartella(QDir::homePath());
     }
 }
@@ -243,6 +243,8 @@ void Sfoglia::ElencaCartelle(const QStringList &figlie)
 void Sfoglia::Dir1_Change()
 {
     file_->setStringList(nomiFile_);
+    ui_->CartellaInVista->setText(cartella_);
+    ui_->CartellaInVista->setToolTip(cartella_);
 }
 
 void Sfoglia::SelezionaDrive()

@@ -27,6 +27,8 @@ public:
 
     /// The label that holds the full file name handed in.
     QLabel *FileEntrata() const;
+    /// The folder to start in when the name handed in tells none; without it, the user's own.
+    void ImpostaPartenza(const QString &cartella) { partenza_ = cartella; }
     /// The open folder, as the folder list shows it; a root ends in a separator.
     QString CartellaAperta() const { return cartella_; }
 
@@ -59,6 +61,7 @@ private:
     std::unique_ptr<Ui::Sfoglia> ui_;
     QStringListModel *file_;
     QString cartella_;
+    QString partenza_;
     QStringList nomiFile_;  ///< of the open folder, read together with it
     qint16 confermato_ = 0; ///< Vero or Falso
 };

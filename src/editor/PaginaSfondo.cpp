@@ -180,6 +180,7 @@ void PaginaSfondo::SfondoSfoglia_Click()
 {
     Sfoglia sfoglia(window());
     sfoglia.FileEntrata()->setText(stato_.Aperto.Sfondo.File);
+    sfoglia.ImpostaPartenza(stato_.CartellaModelli);
     sfoglia.exec();
     const QString scelto = RisultatoSfoglia();
     if (scelto == stato_.Aperto.Sfondo.File) {

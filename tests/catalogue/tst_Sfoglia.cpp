@@ -38,6 +38,9 @@ private slots:
     void Attivazione_senzaBarra();
     void Attivazione_cartellaScomparsa();
     void Attivazione_nomeVuoto();
+    void Attivazione_cartellaDiPartenza_data();
+    void Attivazione_cartellaDiPartenza();
+    void CartellaInVista();
     void Ok_dopoUnaScelta();
     void Ok_senzaScelta();
     void DoppioClicSulFile();
@@ -230,6 +233,67 @@ void tst_Sfoglia::Attivazione_nomeVuoto()
     QCOMPARE(s.CartellaAperta(), QDir::toNativeSeparators(QDir::homePath()));
     s.accept();
     QCOMPARE(RisultatoSfoglia(), QString());
+}
+
+void tst_Sfoglia::Attivazione_cartellaDiPartenza_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("partenza");
+    QTest::addColumn<QString>("aperta");
+    const auto riga = [](const char *titolo, const char *file, const char *partenza,
+                         const char *aperta) {
+        QTest::newRow(titolo) << QString::fromLatin1(file) << QString::fromLatin1(partenza)
+                              << QString::fromLatin1(aperta);
+    };
+    riga("nessun file", "", "scansioni/", "scansioni");
+    riga("nome senza cartella", "b.jpg", "scansioni/", "scansioni");
+    riga("partenza scomparsa", "", "scansioni/tolta/", "scansioni");
+    riga("file con la sua cartella", "scansioni/bozze/x.jpg", "scansioni/", "scansioni/bozze");
+}
+
+void tst_Sfoglia::Attivazione_cartellaDiPartenza()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, partenza);
+    QFETCH(QString, aperta);
+    Sfoglia s;
+    s.ImpostaPartenza(In(partenza));
+    const QString entrata = file.contains(u'/') ? In(file) : file;
+    Mostra(s, entrata);
+    QCOMPARE(s.CartellaAperta(), In(aperta));
+    QCOMPARE(Etichetta(s, "CartellaInVista"), In(aperta));
+    // What was handed in is shown as it came.
+    QCOMPARE(Etichetta(s, "FileEntrata"), entrata);
+    QCOMPARE(Etichetta(s, "Percorso"),
+             file.contains(u'/') ? In(QStringLiteral("scansioni/bozze/")) : file);
+    s.reject();
+    QCOMPARE(RisultatoSfoglia(), entrata);
+}
+
+void tst_Sfoglia::CartellaInVista()
+{
+    Sfoglia s;
+    const QString entrata = In(QStringLiteral("scansioni/b.jpg"));
+    Mostra(s, entrata);
+    QCOMPARE(Etichetta(s, "CartellaInVista"), In(QStringLiteral("scansioni")));
+    QVERIFY(Trova<QLabel>(s, "CartellaInVista")->isVisible());
+    QTreeWidget *dir = Dir(s);
+    DoppioClic(dir, dir->model()->index(0, 0, dir->currentIndex()));
+    QCOMPARE(Etichetta(s, "CartellaInVista"), In(QStringLiteral("scansioni/bozze")));
+    QTest::keyClick(Drive(s), Qt::Key_Home);
+    Drive(s)->setCurrentIndex(-1);
+    QTest::keyClick(Drive(s), Qt::Key_Home);
+    QCOMPARE(Etichetta(s, "CartellaInVista"), s.CartellaAperta());
+    QVERIFY(QFileInfo(Etichetta(s, "CartellaInVista")).isRoot());
+    // One that cannot be opened leaves it where it was.
+    Drive(s)->addItem(In(QStringLiteral("dischetto assente")));
+    Robot robot;
+    robot.Ok();
+    QTest::keyClick(Drive(s), Qt::Key_End);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(QFileInfo(Etichetta(s, "CartellaInVista")).isRoot());
+    QCOMPARE(Etichetta(s, "Percorso"), In(QStringLiteral("scansioni")) + QDir::separator());
+    QCOMPARE(Etichetta(s, "NomeFile"), QStringLiteral("b.jpg"));
 }
 
 void tst_Sfoglia::Ok_dopoUnaScelta()

@@ -68,11 +68,7 @@ void tst_RestoDellaScrivania::ScegliScansione(Scrivania &scrivania)
     scrivania.Pagina(5);
     video.Tasti({QStringLiteral("alt+f")});
     video.Attende(QStringLiteral("^Sfoglia$"));
-    // From the user's own folder, the only visible one in it that begins with a "D", down to the
-    // models; the first child of the open folder lies below it.
-    video.Tasti({QStringLiteral("Down"), QStringLiteral("Return")}); // Dati
-    video.Tasti({QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
-    video.Tasti({QStringLiteral("Down"), QStringLiteral("Return")}); // ini
+    // It starts among the models, where the scan lies.
     const QStringList file =
         QDir(scrivania.CartellaModelli()).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
     video.Tasti({QStringLiteral("Tab"), QStringLiteral("End"), QStringLiteral("Home")});

@@ -106,6 +106,7 @@ private slots:
     void SfondoFileGuasto();
     void SfondoSiSpostaSulFoglio();
     void SfondoSceltoConSfoglia();
+    void SfondoSfogliaDallaCartellaDelModello();
     void SfondoCaratteriDiControlloIntatti();
 };
 
@@ -609,6 +610,22 @@ void tst_Pagine::SfondoSceltoConSfoglia()
     robot.Agisce([](QDialog *sfoglia) { Preme(*sfoglia, "Command7"); });
     Preme(*e.editor, "SfondoSfoglia"); // unchanged: nothing is asked
     QVERIFY(robot.Soddisfatto());
+}
+
+void tst_Pagine::SfondoSfogliaDallaCartellaDelModello()
+{
+    EditorDiProva e;
+    e.Aperto().Sfondo.File.clear();
+    QString aperta;
+    Robot robot;
+    robot.Agisce([&](QDialog *dialogo) {
+        aperta = qobject_cast<Sfoglia *>(dialogo)->CartellaAperta();
+        Preme(*dialogo, "Command7");
+    });
+    Preme(*e.editor, "SfondoSfoglia");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(aperta + QDir::separator(), e.prova.Stato().CartellaModelli);
+    QVERIFY(e.Aperto().Sfondo.File.isEmpty());
 }
 
 void tst_Pagine::SfondoCaratteriDiControlloIntatti()
