@@ -4,11 +4,15 @@
 #include "base/Misure.h"
 #include "platform/IntestazioneImmagine.h"
 #include "platform/Percorsi.h"
+#include "platform/SeparazioniJpeg.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+
+#include <algorithm>
 
 namespace {
 
@@ -47,6 +51,24 @@ QImage Scalata(const QImage &immagine, const QSize &pixel)
     return scalata;
 }
 
+/// A fourth byte that is zero throughout is one that its writer left empty, not a picture of
+/// nothing.
+void ToglieAlfaVuoto(QImage &immagine)
+{
+    const QRect tutta = immagine.rect();
+    for (int y = 0; y < tutta.height(); ++y) {
+        const auto *riga = reinterpret_cast<const QRgb *>(immagine.constScanLine(y));
+        if (std::any_of(riga, riga + tutta.width(), [](QRgb c) { return qAlpha(c) != 0; })) {
+            return;
+        }
+    }
+    for (int y = 0; y < tutta.height(); ++y) {
+        auto *riga = reinterpret_cast<QRgb *>(immagine.scanLine(y));
+        std::for_each(riga, riga + tutta.width(), [](QRgb &c) { c |= 0xFF000000; });
+    }
+    immagine.reinterpretAsFormat(QImage::Format_RGB32);
+}
+
 /// An open picture file whose header has been checked.
 class Lettore
 {
@@ -63,19 +85,19 @@ public:
             NonValida();
         }
         intestazione_ = IntestazioneImmagine::Legge(file_);
-        if (intestazione_.Formato.isEmpty() || !file_.seek(0)) {
+        // What Qt would do with a header that does not end is not to be waited for.
+        if (intestazione_.InizioDati <= 0 || !intestazione_.Credibile(file_.size())) {
             NonValida();
         }
-        // Other formats that Qt knows are not tried: the file's own bytes have named the format.
-        lettore_.setAutoDetectImageFormat(false);
-        lettore_.setFormat(intestazione_.Formato);
-        lettore_.setAutoTransform(true);
-        lettore_.setDevice(&file_);
-        pixel_ = intestazione_.Schermo.isEmpty() ? lettore_.size() : intestazione_.Schermo;
-        if (pixel_.isEmpty()) {
+        QImageReader lettore;
+        Prepara(lettore, file_);
+        pixel_ = intestazione_.Formato == "gif" && intestazione_.Pixel.isEmpty()
+                     ? lettore.size()
+                     : intestazione_.Pixel;
+        if (pixel_.isEmpty() || !lettore.canRead()) {
             NonValida();
         }
-        ruotata_ = lettore_.transformation() & QImageIOHandler::TransformationRotate90;
+        ruotata_ = lettore.transformation() & QImageIOHandler::TransformationRotate90;
     }
 
     /// Size after rotation.
@@ -90,45 +112,123 @@ public:
     }
 
     /// Decodes the picture; when minimo is valid, possibly smaller than its own size but not below
-    /// minimo in either direction.
+    /// minimo in either direction, unless it would not fit in memory otherwise.
     QImage Decodifica(const QSize &minimo)
     {
-        const qint64 pixel = qint64(pixel_.width()) * pixel_.height();
-        // The decoder has already read the header and goes on from where it stands.
-        const qint64 posto = file_.pos();
-        if (Troppi(pixel_) || !intestazione_.Credibile(file_.size(), pixel) ||
-            !intestazione_.Intera(file_) || !file_.seek(posto)) {
-            NonValida();
-        }
-        QImageReader::setAllocationLimit(LimiteMiB);
-        if (minimo.isValid() && intestazione_.Formato == "jpeg") {
-            lettore_.setScaledSize(Ridotta(Ruota(minimo)));
-        }
-        QImage immagine = lettore_.read();
+        QImage immagine = intestazione_.Formato == "bmp"    ? DecodificaBmp()
+                          : intestazione_.Formato == "jpeg" ? DecodificaJpeg(minimo)
+                                                            : DecodificaGif();
         if (immagine.isNull()) {
             NonValida();
         }
-        A32Bit(immagine);
         return immagine;
     }
 
 private:
     QSize Ruota(const QSize &misura) const { return ruotata_ ? misura.transposed() : misura; }
 
+    void Prepara(QImageReader &lettore, QIODevice &dispositivo) const
+    {
+        if (!dispositivo.seek(0)) {
+            NonValida();
+        }
+        // Other formats that Qt knows are not tried: the file's own bytes have named the format.
+        lettore.setAutoDetectImageFormat(false);
+        lettore.setFormat(intestazione_.Formato);
+        lettore.setAutoTransform(true);
+        lettore.setDevice(&dispositivo);
+    }
+
+    /// Null for what Qt cannot read.
+    QImage Legge(QIODevice &dispositivo, const QSize &ridotta = {}) const
+    {
+        QImageReader::setAllocationLimit(LimiteMiB);
+        QImageReader lettore;
+        Prepara(lettore, dispositivo);
+        if (ridotta.isValid()) {
+            lettore.setScaledSize(ridotta);
+        }
+        QImage immagine = lettore.read();
+        if (!immagine.isNull()) {
+            A32Bit(immagine);
+        }
+        return immagine;
+    }
+
+    QImage Legge(QByteArray byte, const QSize &ridotta = {}) const
+    {
+        QBuffer buffer(&byte);
+        buffer.open(QIODevice::ReadOnly);
+        return Legge(buffer, ridotta);
+    }
+
+    QByteArray Tutto()
+    {
+        if (!file_.seek(0)) {
+            NonValida();
+        }
+        return file_.readAll();
+    }
+
+    QImage DecodificaBmp()
+    {
+        const qint64 mancanti = intestazione_.FineRighe - file_.size();
+        if (intestazione_.FineDati > file_.size() || Troppi(pixel_)) {
+            NonValida();
+        }
+        // Qt wants what fills up the last row too.
+        QImage immagine = mancanti > 0 ? Legge(Tutto() + QByteArray(mancanti, '\0')) : Legge(file_);
+        if (immagine.hasAlphaChannel()) {
+            ToglieAlfaVuoto(immagine);
+        }
+        return immagine;
+    }
+
+    QImage DecodificaGif()
+    {
+        const QByteArray byte = Tutto();
+        if (Troppi(pixel_) || !intestazione_.Intera(byte)) {
+            NonValida();
+        }
+        return Legge(byte);
+    }
+
+    QImage DecodificaJpeg(const QSize &minimo)
+    {
+        const QSize ridotta = minimo.isValid() ? Ridotta(Ruota(minimo)) : pixel_;
+        const QByteArray byte = Tutto();
+        if (Troppi(ridotta) || !intestazione_.Intera(byte)) {
+            NonValida();
+        }
+        if (!intestazione_.InchiostriDiritti()) {
+            return Legge(byte, ridotta);
+        }
+        QImage immagine = Legge(SeparazioniJpeg::SenzaNero(byte, intestazione_), ridotta);
+        const QImage nero = Legge(SeparazioniJpeg::SoloNero(byte, intestazione_), ridotta);
+        if (immagine.isNull() || nero.size() != immagine.size()) {
+            NonValida();
+        }
+        SeparazioniJpeg::Unisce(immagine, nero);
+        return immagine;
+    }
+
     /// The stored size divided by the largest factor that the decoder handles itself.
     QSize Ridotta(const QSize &minimo) const
     {
+        const auto diviso = [this](int fattore) {
+            return QSize((pixel_.width() + fattore - 1) / fattore,
+                         (pixel_.height() + fattore - 1) / fattore);
+        };
         int fattore = 1;
-        while (fattore < RiduzioneMassima && pixel_.width() / (fattore * 2) >= minimo.width() &&
-               pixel_.height() / (fattore * 2) >= minimo.height()) {
+        while (fattore < RiduzioneMassima &&
+               (Troppi(diviso(fattore)) || (pixel_.width() / (fattore * 2) >= minimo.width() &&
+                                            pixel_.height() / (fattore * 2) >= minimo.height()))) {
             fattore *= 2;
         }
-        return {(pixel_.width() + fattore - 1) / fattore,
-                (pixel_.height() + fattore - 1) / fattore};
+        return diviso(fattore);
     }
 
     QFile file_;
-    QImageReader lettore_;
     IntestazioneImmagine intestazione_;
     QSize pixel_; ///< as stored, before rotation
     bool ruotata_ = false;
@@ -160,8 +260,8 @@ QImage Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
         NonValida();
     }
     Lettore lettore(percorso);
-    const QSize pixel = lettore.Pixel().boundedTo(massimo);
-    return Scalata(lettore.Decodifica(pixel), pixel);
+    const QImage immagine = lettore.Decodifica(lettore.Pixel().boundedTo(massimo));
+    return Scalata(immagine, immagine.size().boundedTo(massimo));
 }
 
 QString Immagini::PercorsoInCartella(const QString &cartella, const QString &nome)

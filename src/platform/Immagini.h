@@ -4,7 +4,8 @@
 #include <QSizeF>
 #include <QString>
 
-/// Pictures from files: BMP, GIF (first frame) and JPEG (CMYK and EXIF-rotated too).
+/// Pictures from files: BMP, GIF (first frame) and JPEG (CMYK and EXIF-rotated too). A file that
+/// would take a second to decode is refused (481), and so is one that ends before its pixels do.
 namespace Immagini {
 
 /// Natural size in mm, from the pixel size and the resolution that the file states (96 dpi when it
@@ -20,7 +21,8 @@ QImage Carica(const QString &percorso);
 QImage CaricaScalata(const QString &percorso, const QSize &pixel);
 
 /// As Carica, but at most massimo pixels wide and high (both positive): a larger picture is scaled
-/// down to it in the direction that exceeds. Throws ErroreSistema 53 or 481.
+/// down to it in the direction that exceeds, and one that would not fit in memory is read scaled.
+/// Throws ErroreSistema 53 or 481.
 QImage CaricaEntro(const QString &percorso, const QSize &massimo);
 
 /// Full path, in the spelling found on disk, of a picture of the models folder, which ends in a

@@ -1,11 +1,14 @@
 #include "platform/IntestazioneImmagine.h"
 
 #include "base/Misure.h"
+#include "platform/DatiGif.h"
+#include "platform/DatiJpeg.h"
+#include "platform/MarcatoriJpeg.h"
 
 #include <QIODevice>
 #include <QtEndian>
 
-#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -13,16 +16,23 @@ namespace {
 constexpr double PuntiMinimi = 10;
 constexpr double PuntiMassimi = 20000;
 
-constexpr int MarcatoreApp0 = 0xE0;
-constexpr int MarcatoreApp1 = 0xE1;
-constexpr int MarcatoreSos = 0xDA;
-constexpr int MarcatoreEoi = 0xD9;
+/// Parts that a JPEG is divided into: no picture has more. The decoder keeps some kinds of them in
+/// a chain that it walks from the start for each one it adds.
+constexpr int SegmentiMassimi = 1 << 12;
+constexpr int RiempitiviMassimi = 1 << 14;
 /// Progressive pictures have about ten scans; a file made of hundreds would decode for minutes.
 constexpr int ScansioniMassime = 64;
-/// Parts of a header, and blocks of a GIF's picture, that are walked over at most: no picture has
-/// more, and a file made only to be walked over must not hold the program up.
-constexpr int SegmentiMassimi = 1 << 14;
-constexpr int BlocchiMassimi = 1 << 18;
+
+// What is decoded within a second. A3 at 600 dots per inch has 70 million pixels; only a JPEG can
+// be decoded reduced, so it may be larger: A3 at 1200.
+constexpr qint64 PixelMassimi = 80'000'000;
+constexpr qint64 PixelJpegMassimi = 300'000'000;
+constexpr qint64 ByteMassimi = 64'000'000;
+constexpr qint64 ByteCompressiMassimi = 40'000'000;
+/// Of all scans together, where there are several.
+constexpr qint64 PixelScansioniMassimi = 1'500'000'000;
+/// The decoder keeps two bytes for each pixel of each component where there are several scans.
+constexpr qint64 CoefficientiMassimi = 256LL * 1024 * 1024;
 
 QByteArray Byte(QIODevice &file, qint64 posto, qint64 quanti)
 {
@@ -62,78 +72,32 @@ void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
 {
     const QByteArray testa = Byte(file, 0, 54);
     esito.InizioDati = Piccolo<quint32>(testa, 10);
-    if (Piccolo<quint32>(testa, 14) >= 40) {
+    const bool corta = Piccolo<quint32>(testa, 14) < 40;
+    const qint64 larghezza = corta ? Piccolo<quint16>(testa, 18) : Piccolo<qint32>(testa, 18);
+    // A negative height: the first row stored is the uppermost.
+    const qint64 altezza =
+        qAbs(corta ? qint64(Piccolo<quint16>(testa, 20)) : qint64(Piccolo<qint32>(testa, 22)));
+    const qint64 bit = corta ? Piccolo<quint16>(testa, 24) : Piccolo<quint16>(testa, 28);
+    if (testa.size() < 26 || larghezza <= 0 || altezza > std::numeric_limits<int>::max() ||
+        bit > 32) {
+        return;
+    }
+    esito.Pixel = QSize(int(larghezza), int(altezza));
+    const quint32 compressione = corta ? 0 : Piccolo<quint32>(testa, 30);
+    esito.Compressa = compressione == 1 || compressione == 2;
+    if (esito.Compressa) {
+        esito.FineRighe = esito.FineDati = esito.InizioDati + Piccolo<quint32>(testa, 34);
+    } else {
+        const qint64 riga = (larghezza * bit + 31) / 32 * 4;
+        const qint64 riempitivo = riga - (larghezza * bit + 7) / 8;
+        esito.FineRighe = esito.InizioDati + riga * altezza;
+        esito.FineDati = esito.FineRighe - riempitivo;
+    }
+    if (!corta) {
         const double perMetro = Misure::MillimetriPerPollice / 1000;
         Imposta(esito.PuntiPerPollice, Piccolo<qint32>(testa, 38) * perMetro,
                 Piccolo<qint32>(testa, 42) * perMetro);
     }
-}
-
-bool BmpIntero(QIODevice &file, qint64 inizioDati)
-{
-    const QByteArray testa = Byte(file, 0, 54);
-    if (testa.size() < 26) {
-        return false;
-    }
-    const bool corta = Piccolo<quint32>(testa, 14) < 40;
-    const qint64 larghezza = corta ? Piccolo<quint16>(testa, 18) : Piccolo<qint32>(testa, 18);
-    const qint64 altezza = corta ? Piccolo<quint16>(testa, 20) : Piccolo<qint32>(testa, 22);
-    const qint64 bit = corta ? Piccolo<quint16>(testa, 24) : Piccolo<quint16>(testa, 28);
-    const quint32 compressione = corta ? 0 : Piccolo<quint32>(testa, 30);
-    const bool rle = compressione == 1 || compressione == 2;
-    if (larghezza <= 0 || bit > 32) {
-        return false;
-    }
-    const qint64 riga = (larghezza * bit + 31) / 32 * 4;
-    const qint64 dati = rle ? Piccolo<quint32>(testa, 34) : riga * qAbs(altezza);
-    return inizioDati + dati <= file.size();
-}
-
-// --- GIF
-
-qint64 DopoTavolaGif(qint64 posto, int opzioni)
-{
-    return opzioni & 0x80 ? posto + 3 * (qint64(2) << (opzioni & 7)) : posto;
-}
-
-/// The offset after a chain of sub-blocks, -1 when the file ends before it.
-qint64 DopoBlocchiGif(QIODevice &file, qint64 posto)
-{
-    for (int passo = 0; passo < BlocchiMassimi; ++passo) {
-        const QByteArray lunghezza = Byte(file, posto, 1);
-        if (lunghezza.isEmpty()) {
-            return -1;
-        }
-        posto += 1 + quint8(lunghezza.at(0));
-        if (lunghezza.at(0) == 0) {
-            return posto;
-        }
-    }
-    return -1;
-}
-
-bool GifIntera(QIODevice &file)
-{
-    const QByteArray testa = Byte(file, 0, 13);
-    if (testa.size() < 13) {
-        return false;
-    }
-    qint64 posto = DopoTavolaGif(13, quint8(testa.at(10)));
-    for (int passo = 0; passo < SegmentiMassimi; ++passo) {
-        const QByteArray blocco = Byte(file, posto, 10);
-        if (blocco.startsWith('\x21')) { // extension: label, then sub-blocks
-            posto = DopoBlocchiGif(file, posto + 2);
-            if (posto < 0) {
-                return false;
-            }
-        } else if (blocco.startsWith('\x2C') && blocco.size() == 10) {
-            const qint64 dati = DopoTavolaGif(posto + 10, quint8(blocco.at(9)));
-            return DopoBlocchiGif(file, dati + 1) >= 0;
-        } else {
-            return false;
-        }
-    }
-    return false;
 }
 
 // --- JPEG
@@ -206,12 +170,24 @@ bool LeggeJfif(const QByteArray &segmento, QSizeF &puntiPerPollice)
                    Grande<quint16>(segmento, 10) * perPollice);
 }
 
+void LeggeFormato(qint64 posto, const QByteArray &segmento, IntestazioneImmagine &esito)
+{
+    const int componenti = segmento.size() < 6 ? 0 : quint8(segmento.at(5));
+    if (esito.PostoFormato == 0 && segmento.size() >= 6 + 3 * componenti) {
+        esito.PostoFormato = posto;
+        esito.Pixel = QSize(Grande<quint16>(segmento, 3), Grande<quint16>(segmento, 1));
+        esito.Componenti = componenti;
+    }
+}
+
 /// Walks the segments up to the first scan.
 void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
 {
     bool daJfif = false;
+    int segmenti = 0;
+    int riempitivi = 0;
     qint64 posto = 2;
-    for (int passo = 0; passo < SegmentiMassimi; ++passo) {
+    while (segmenti < SegmentiMassimi && riempitivi < RiempitiviMassimi) {
         const QByteArray testa = Byte(file, posto, 4);
         if (testa.size() < 4 || quint8(testa.at(0)) != 0xFF) {
             return;
@@ -219,59 +195,50 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
         const int marcatore = quint8(testa.at(1));
         if (marcatore == 0xFF) { // a fill byte before the marker
             ++posto;
+            ++riempitivi;
             continue;
         }
         const int lunghezza = Grande<quint16>(testa, 2);
         if (lunghezza < 2) {
             return;
         }
-        if (marcatore == MarcatoreSos) {
+        if (marcatore == MarcatoriJpeg::Sos) {
             esito.InizioDati = posto + 2 + lunghezza;
             return;
         }
-        if (marcatore == MarcatoreApp0 && !daJfif) {
+        if (marcatore == MarcatoriJpeg::App0 && !daJfif) {
             daJfif = LeggeJfif(file.read(lunghezza - 2), esito.PuntiPerPollice);
-        } else if (marcatore == MarcatoreApp1 && !daJfif) {
+        } else if (marcatore == MarcatoriJpeg::App1 && !daJfif) {
             LeggeExif(file.read(lunghezza - 2), esito.PuntiPerPollice);
+        } else if (marcatore == MarcatoriJpeg::App14) {
+            esito.Adobe = esito.Adobe || file.read(lunghezza - 2).startsWith("Adobe");
+        } else if (MarcatoriJpeg::DiFormato(marcatore)) {
+            LeggeFormato(posto, file.read(lunghezza - 2), esito);
         }
+        ++segmenti;
         posto += 2 + lunghezza;
     }
 }
 
-/// Compressed data never holds FF followed by the number of a marker, so the end marker cannot be
-/// mistaken; only a thumbnail in the header could hold another one, and that lies before the data.
-bool JpegIntero(QIODevice &file, qint64 inizioDati)
+/// Walks the whole file. The data of a scan never hold FF followed by the number of a marker, so
+/// the end marker cannot be mistaken.
+bool JpegIntero(QByteArrayView file, const IntestazioneImmagine &intestazione)
 {
-    constexpr qint64 Blocco = 1 << 18;
-    if (inizioDati <= 0 || !file.seek(inizioDati)) {
-        return false;
-    }
-    int scansioni = 1;
-    bool dopoFf = false;
-    for (QByteArray blocco = file.read(Blocco); !blocco.isEmpty(); blocco = file.read(Blocco)) {
-        const char *dopo = blocco.constData();
-        const char *fine = dopo + blocco.size();
-        while (dopo != fine) {
-            if (dopoFf) {
-                const int marcatore = quint8(*dopo);
-                if (marcatore == MarcatoreEoi) {
-                    return true;
-                }
-                if (marcatore == MarcatoreSos && ++scansioni > ScansioniMassime) {
-                    return false;
-                }
-                dopoFf = marcatore == 0xFF;
-                ++dopo;
-            } else {
-                dopo = std::find(dopo, fine, '\xFF');
-                if (dopo != fine) {
-                    dopoFf = true;
-                    ++dopo;
-                }
-            }
+    const qint64 pixel = qint64(intestazione.Pixel.width()) * intestazione.Pixel.height();
+    int segmenti = 0;
+    int scansioni = 0;
+    MarcatoriJpeg::Segmento segmento;
+    for (qint64 posto = 2; MarcatoriJpeg::Prossimo(file, posto, segmento); posto = segmento.Fine) {
+        scansioni += segmento.Marcatore == MarcatoriJpeg::Sos ? 1 : 0;
+        if (++segmenti > SegmentiMassimi || scansioni > ScansioniMassime) {
+            return false;
         }
     }
-    return false;
+    if (scansioni > 1 && (scansioni * pixel > PixelScansioniMassimi ||
+                          intestazione.Componenti * pixel > CoefficientiMassimi)) {
+        return false;
+    }
+    return segmento.Marcatore == MarcatoriJpeg::Eoi || DatiJpeg::Completi(file);
 }
 
 } // namespace
@@ -286,7 +253,8 @@ IntestazioneImmagine IntestazioneImmagine::Legge(QIODevice &file)
     } else if (inizio.startsWith("GIF8")) {
         esito.Formato = QByteArrayLiteral("gif");
         const QByteArray testa = Byte(file, 6, 4);
-        esito.Schermo = {Piccolo<quint16>(testa, 0), Piccolo<quint16>(testa, 2)};
+        esito.Pixel = {Piccolo<quint16>(testa, 0), Piccolo<quint16>(testa, 2)};
+        esito.InizioDati = 13;
     } else if (inizio.startsWith("\xFF\xD8\xFF")) {
         esito.Formato = QByteArrayLiteral("jpeg");
         LeggeJpeg(file, esito);
@@ -294,22 +262,27 @@ IntestazioneImmagine IntestazioneImmagine::Legge(QIODevice &file)
     return esito;
 }
 
-bool IntestazioneImmagine::Intera(QIODevice &file) const
+bool IntestazioneImmagine::Intera(QByteArrayView file) const
 {
-    if (Formato == "bmp") {
-        return BmpIntero(file, InizioDati);
-    }
     if (Formato == "gif") {
-        return GifIntera(file);
+        return DatiGif::Interi(file);
     }
-    return Formato == "jpeg" && JpegIntero(file, InizioDati);
+    return Formato == "jpeg" && InizioDati > 0 && JpegIntero(file, *this);
 }
 
-bool IntestazioneImmagine::Credibile(qint64 byte, qint64 pixel) const
+bool IntestazioneImmagine::Credibile(qint64 byte) const
 {
+    const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
+    const bool bmp = Formato == "bmp";
+    const bool jpeg = Formato == "jpeg";
+    const qint64 daLeggere = bmp ? byte - InizioDati : byte;
+    if (pixel > (jpeg ? PixelJpegMassimi : PixelMassimi) ||
+        (bmp && Compressa && daLeggere > ByteCompressiMassimi) || (!bmp && byte > ByteMassimi)) {
+        return false;
+    }
     // The best that each format can do: run lengths of 255 pixels in two bytes for BMP, codes of
     // 12 bits that stand for up to 4096 pixels for GIF, one bit for a block of 16x16 for JPEG.
-    const qint64 pixelPerByte = Formato == "bmp" ? 128 : Formato == "gif" ? 2731 : 2048;
+    const qint64 pixelPerByte = bmp ? 128 : jpeg ? 2048 : 2731;
     // Small pictures cost nothing, whatever they claim.
     constexpr qint64 Innocui = 4'000'000;
     return pixel <= Innocui || pixel / pixelPerByte <= byte;

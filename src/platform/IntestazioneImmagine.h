@@ -1,29 +1,47 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QSize>
 #include <QSizeF>
 
 class QIODevice;
 
 /// What the first bytes of a picture file state. Qt tells the pixel size without decoding, but not
-/// the resolution, and it accepts files that were cut short; both are read here.
+/// the resolution; it accepts files that were cut short, refuses some that were not, and takes any
+/// time over a file that was made for it. All that is read and judged here.
 struct IntestazioneImmagine
 {
     static constexpr double PuntiPerPollicePredefiniti = 96;
 
     QByteArray Formato; ///< Qt's name of the format: "bmp", "gif" or "jpeg"; empty = none of them
     QSizeF PuntiPerPollice{PuntiPerPollicePredefiniti, PuntiPerPollicePredefiniti}; ///< as stored
-    QSize Schermo{0, 0};   ///< pixels of a GIF's canvas; Qt tells only those of its first frame
-    qint64 InizioDati = 0; ///< offset of the first byte of picture data
+    QSize Pixel{0, 0};     ///< as stored; of a GIF its canvas, which may be empty; 0 x 0 = unknown
+    qint64 InizioDati = 0; ///< offset of the first byte of picture data; 0 = not found
+
+    // Of a BMP
+    qint64 FineDati = 0;  ///< offset behind the last pixel
+    qint64 FineRighe = 0; ///< offset behind what fills the last row up
+    bool Compressa = false;
+
+    // Of a JPEG
+    qint64 PostoFormato = 0; ///< offset of the marker that states the components
+    int Componenti = 0;
+    bool Adobe = false; ///< the marker that tells how colours are stored is there
 
     /// Reads the beginning of the file. Never fails: what cannot be read keeps its default.
     static IntestazioneImmagine Legge(QIODevice &file);
 
-    /// False when the file ends before its (first) picture does. Reads a JPEG to its end.
-    bool Intera(QIODevice &file) const;
+    /// True for a picture whose four inks are stored as they are; the marker's maker stores them
+    /// inverted, and that is what Qt takes all of them for.
+    bool InchiostriDiritti() const { return Componenti == 4 && !Adobe; }
 
-    /// False when no file of this length can really hold that many pixels: a few bytes that state
-    /// huge dimensions only mean to eat the memory.
-    bool Credibile(qint64 byte, qint64 pixel) const;
+    /// False for a file of this length that no program can have made in earnest: a few bytes that
+    /// state huge dimensions only mean to eat the memory, and more work than a second holds is more
+    /// than any picture for paper needs.
+    bool Credibile(qint64 byte) const;
+
+    /// For a GIF or JPEG, the whole file given: false when it ends before its (first) picture does,
+    /// or when decoding it would take beyond measure long. A JPEG may lack its end marker.
+    bool Intera(QByteArrayView file) const;
 };

@@ -368,8 +368,10 @@ void tst_Immagini::troncata_data()
 void tst_Immagini::troncata()
 {
     QFETCH(QByteArray, byte);
-    // The last byte of a GIF closes the file, not its first picture.
-    const qsizetype ultimo = byte.startsWith("GIF") ? byte.size() - 1 : byte.size();
+    // The last bytes of a GIF and of a JPEG close the file, not its (first) picture.
+    const qsizetype ultimo = byte.size() - (byte.startsWith("GIF")        ? 1
+                                            : byte.startsWith("\xFF\xD8") ? 2
+                                                                          : 0);
     for (qsizetype n = 0; n < ultimo; ++n) {
         const QString percorso = Scrive(dir_.filePath(QStringLiteral("troncata")), byte.left(n));
         QCOMPARE(Errore([&] { Immagini::Carica(percorso); }), ErroreSistema::ImmagineNonValida);
