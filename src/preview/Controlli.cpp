@@ -144,6 +144,12 @@ RiquadroImmagine::RiquadroImmagine(int i)
 
 void RiquadroImmagine::Carica(const QString &percorso)
 {
+    if (percorso != origine_.percorso) {
+        origine_ = {percorso, {}, 0};
+        tentata_ = {};
+        figura_ = {};
+        update();
+    }
     const QFileInfo file(percorso);
     if (!file.isFile()) {
         return;

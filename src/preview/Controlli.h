@@ -95,8 +95,9 @@ class RiquadroImmagine : public ControlloElemento
 public:
     explicit RiquadroImmagine(int indice);
 
-    /// Takes the picture from the file; the former one stays when it cannot be loaded. A file that
-    /// has not changed since is not read again.
+    /// Takes the picture from the file. Another file's picture never stays; that of the same file
+    /// does when it cannot be loaded for the moment. A file that has not changed since is not read
+    /// again. An empty path: no picture.
     void Carica(const QString &percorso);
     /// While its size is being dragged, the picture is stretched instead of decoded again.
     void ImpostaElastico(bool elastico);

@@ -84,8 +84,8 @@ void ElementiFoglio::CaricaImmagine(int i)
             Immagini::PercorsoInCartella(stato_.CartellaModelli, stato_.Aperto.Immagini[i].Nome);
     } catch (const ErroreSistema &) {
         // A name that is no file of the folder (a new image has none yet) is like a picture that
-        // cannot be loaded: no message, the box keeps what it has.
-        return;
+        // cannot be loaded: no message, an empty box.
+        percorso.clear();
     }
     static_cast<RiquadroImmagine &>(Elemento(Genere::Immagine, i)).Carica(percorso);
 }

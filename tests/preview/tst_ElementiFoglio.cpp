@@ -62,8 +62,9 @@ private slots:
     void MossoSegnaVariato();
     // Pictures
     void ImmagineRiempieIlRiquadro();
-    void ImmagineMancanteTieneLaPrecedente_data();
-    void ImmagineMancanteTieneLaPrecedente();
+    void ImmagineIlleggibileNonMostraQuellaDiPrima_data();
+    void ImmagineIlleggibileNonMostraQuellaDiPrima();
+    void ImmagineToltaPerUnMomentoRimane();
     void ImmagineRilettaSoloSeCambiata();
     void ImmagineFuoriCartellaIgnorata();
     // Creation, selection, stacking
@@ -449,7 +450,7 @@ void tst_ElementiFoglio::ImmagineRiempieIlRiquadro()
     QVERIFY(std::abs(banco.C3(1)->Figura().height() - misura.height()) <= 1);
 }
 
-void tst_ElementiFoglio::ImmagineMancanteTieneLaPrecedente_data()
+void tst_ElementiFoglio::ImmagineIlleggibileNonMostraQuellaDiPrima_data()
 {
     QTest::addColumn<QString>("nome");
     QTest::addColumn<QByteArray>("byte");
@@ -458,7 +459,7 @@ void tst_ElementiFoglio::ImmagineMancanteTieneLaPrecedente_data()
     QTest::newRow("no name") << QString() << QByteArray();
 }
 
-void tst_ElementiFoglio::ImmagineMancanteTieneLaPrecedente()
+void tst_ElementiFoglio::ImmagineIlleggibileNonMostraQuellaDiPrima()
 {
     QFETCH(QString, nome);
     QFETCH(QByteArray, byte);
@@ -472,13 +473,26 @@ void tst_ElementiFoglio::ImmagineMancanteTieneLaPrecedente()
     QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
     banco.modello.Immagini[1].Nome = nome;
     banco.frm->PosizionaImmagine(1, false);
-    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
-    banco.modello.Immagini[1].Larghezza = 90;
-    banco.frm->PosizionaImmagine(1, false);
-    QCOMPARE(ColoreFoto(banco.Fotografia(), {105, 35}), 0x00ff00u);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0xffffffu);
     // A box that never had one stays empty.
     banco.Immagine(120, 20, 60, 30, nome);
     QCOMPARE(ColoreFoto(banco.Fotografia(), {150, 35}), 0xffffffu);
+    banco.modello.Immagini[1].Nome = QStringLiteral("verde.bmp");
+    banco.frm->PosizionaImmagine(1, false);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
+}
+
+void tst_ElementiFoglio::ImmagineToltaPerUnMomentoRimane()
+{
+    Banco banco;
+    const QString percorso = banco.cartella.filePath(QStringLiteral("verde.bmp"));
+    ImmaginiDiProva::Tinta({8, 8}, 0xff00ff00).save(percorso);
+    banco.Immagine(20, 20, 60, 30, QStringLiteral("verde.bmp"));
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
+    QVERIFY(QFile::remove(percorso));
+    banco.modello.Immagini[1].Larghezza = 90;
+    banco.frm->PosizionaImmagine(1, false);
+    QCOMPARE(ColoreFoto(banco.Fotografia(), {105, 35}), 0x00ff00u);
 }
 
 void tst_ElementiFoglio::ImmagineRilettaSoloSeCambiata()
