@@ -3,6 +3,7 @@
 #include "ui_FrmImmagine.h"
 
 #include "model/Numeri.h"
+#include "platform/FiltroAnsi.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "platform/Immagini.h"
@@ -61,6 +62,7 @@ void FrmImmagine::Carica(int k)
     Caselle().Mostra(ui_->Bordo, immagine.Bordo);
     Caselle().Mostra(ui_->Largh, immagine.Larghezza);
     Caselle().Mostra(ui_->Alt, immagine.Altezza);
+    MostraAvviso({});
     Guardia(this, [this] { RiempieFileImmagini(); });
 }
 
@@ -70,6 +72,12 @@ void FrmImmagine::RiempieFileImmagini()
     // The first pattern has no point: a name that only ends in "jpg" is a picture too.
     ui_->FileImmagini->addItems(
         Percorsi::FileConModello(Stato().CartellaModelli, QStringLiteral("*jpg;*.bmp;*.gif")));
+    IndicaFileScelto();
+}
+
+void FrmImmagine::IndicaFileScelto()
+{
+    ui_->FileImmagini->setCurrentItem(nullptr);
     for (int i = 0; i < ui_->FileImmagini->count(); ++i) {
         QListWidgetItem *voce = ui_->FileImmagini->item(i);
         if (voce->text().compare(ui_->Nome->text(), Qt::CaseInsensitive) == 0) {
@@ -104,6 +112,12 @@ bool FrmImmagine::SceglieConTasto(int tasto)
 
 void FrmImmagine::FileImmagini_Click(QListWidgetItem *voce)
 {
+    const QString rifiuto = RifiutoDelNome(voce->text());
+    if (!rifiuto.isEmpty()) {
+        IndicaFileScelto();
+        Messaggi::Mostra(this, rifiuto);
+        return;
+    }
     Caselle().Mostra(ui_->Nome, voce->text());
     ImpostaImmagine();
 }
@@ -130,19 +144,34 @@ void FrmImmagine::ImpostaImmagine()
     }
 }
 
-QSizeF FrmImmagine::MisuraImmagine() const
+QSizeF FrmImmagine::MisuraImmagine()
 {
+    MostraAvviso({});
+    const QString nome = Caselle().Testo(ui_->Nome);
+    if (nome.isEmpty()) {
+        return {0, 0};
+    }
     const PuntatoreOccupato occupato; // a scan takes seconds
     try {
-        const QString percorso =
-            Immagini::PercorsoInCartella(Stato().CartellaModelli, Caselle().Testo(ui_->Nome));
+        const QString percorso = Immagini::PercorsoInCartella(Stato().CartellaModelli, nome);
         // The header alone would also measure a picture whose rest is damaged.
         Immagini::CaricaScalata(percorso, {1, 1});
         return Immagini::DimensioniNaturali(percorso);
-    } catch (const ErroreSistema &) {
+    } catch (const ErroreSistema &errore) {
         // A picture that is missing or damaged asks nothing: the size in the boxes stands.
+        MostraAvviso(errore.numero == ErroreSistema::FileNonTrovato
+                         ? QStringLiteral("«%1»: il file non si trova nella cartella").arg(nome)
+                         : QStringLiteral("«%1»: il file non si può leggere come immagine BMP, GIF "
+                                          "o JPEG, non sarà mostrato né stampato")
+                               .arg(nome));
         return {0, 0};
     }
+}
+
+void FrmImmagine::MostraAvviso(const QString &testo)
+{
+    ui_->AvvisoImmagine->setText(testo);
+    ui_->AvvisoImmagine->setVisible(!testo.isEmpty());
 }
 
 bool FrmImmagine::ChiedeRiduzione(const QSizeF &misura)

@@ -41,8 +41,12 @@ private:
 
     void RiempieFileImmagini();
     bool SceglieConTasto(int tasto);
-    /// Natural size in mm; 0 x 0 for a picture that cannot be loaded.
-    QSizeF MisuraImmagine() const;
+    /// Makes the file that the record names the current one of the list.
+    void IndicaFileScelto();
+    /// Natural size in mm; 0 x 0 for a picture that cannot be loaded, which a line below the list
+    /// then says.
+    QSizeF MisuraImmagine();
+    void MostraAvviso(const QString &testo);
     /// Proposes the percentage that makes a large picture fit and shows the reduced size; false
     /// when the user wants none.
     bool ChiedeRiduzione(const QSizeF &misura);

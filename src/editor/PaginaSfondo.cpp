@@ -4,10 +4,12 @@
 #include "catalogue/Sfoglia.h"
 #include "editor/TestiEsplicativi.h"
 #include "model/Numeri.h"
+#include "platform/FiltroAnsi.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "platform/Immagini.h"
 #include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
 #include "preview/Frm1.h"
 #include "ui_PaginaSfondo.h"
 
@@ -122,7 +124,7 @@ void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
         const QRectF posto(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
                            Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine));
         const PuntatoreOccupato occupato;
-        anteprima_.DipingeSfondo(sfondo.File, posto);
+        anteprima_.DipingeSfondo(FileSfondo(), posto);
         guastoMostrato_.clear();
     } catch (const ErroreSistema &errore) {
         SegnalaGuasto(errore);
@@ -142,10 +144,16 @@ void PaginaSfondo::SegnalaGuasto(const ErroreSistema &errore)
     }
 }
 
+QString PaginaSfondo::FileSfondo() const
+{
+    const QString &file = stato_.Aperto.Sfondo.File;
+    return Percorsi::EstraeNomeFile(file) == file ? file : Percorsi::Risolve(file);
+}
+
 void PaginaSfondo::ChiedeDimensione()
 {
     const QString file = stato_.Aperto.Sfondo.File;
-    const QSizeF naturali = Immagini::DimensioniNaturali(file);
+    const QSizeF naturali = Immagini::DimensioniNaturali(FileSfondo());
     const std::optional<QString> risposta = Messaggi::ChiedeTesto(
         window(), QStringLiteral("caricamento immagine ") + file,
         QStringLiteral("Impostare la % di riduzione delle dimensioni dell'immagine"),
@@ -184,6 +192,11 @@ void PaginaSfondo::SfondoSfoglia_Click()
     sfoglia.exec();
     const QString scelto = RisultatoSfoglia();
     if (scelto == stato_.Aperto.Sfondo.File) {
+        return;
+    }
+    const QString rifiuto = RifiutoDelNome(scelto);
+    if (!rifiuto.isEmpty()) {
+        Messaggi::Mostra(window(), rifiuto);
         return;
     }
     ui_->SfondoFileImmagine->setText(scelto);

@@ -48,6 +48,8 @@ private:
     void Collegamenti();
     void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
     void RidisegnaSeModificata(QLineEdit *casella);
+    /// Where the scan is, in the spelling found on disk; a name alone is taken as typed.
+    QString FileSfondo() const;
     void ChiedeDimensione();
     void SegnalaGuasto(const ErroreSistema &errore);
     void Sposta(QLineEdit *casella, double passo);

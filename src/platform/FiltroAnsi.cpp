@@ -6,6 +6,8 @@
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
+#include <algorithm>
+
 namespace {
 
 /// Without the characters that a line of a model file lacks.
@@ -18,6 +20,23 @@ QString Filtrato(QString testo)
 }
 
 } // namespace
+
+QString RifiutoDelNome(const QString &nome)
+{
+    const QList<uint> caratteri = nome.toUcs4();
+    const auto estraneo = std::find_if(caratteri.begin(), caratteri.end(), [](uint c) {
+        // A CR alone would end the line.
+        return c == u'\r' || c > 0xFFFF || !Ansi::Rappresentabile(QChar(c));
+    });
+    if (estraneo == caratteri.end()) {
+        return {};
+    }
+    const QString carattere = QString::fromUcs4(reinterpret_cast<const char32_t *>(&*estraneo), 1);
+    return QStringLiteral("%1\n\nil nome contiene il carattere «%2» (U+%3), che un modello non può "
+                          "contenere: il file non si ritroverebbe alla riapertura.\nRinominare il "
+                          "file o la cartella senza quel carattere e sceglierlo di nuovo.")
+        .arg(nome, carattere, QString::number(*estraneo, 16).toUpper().rightJustified(4, u'0'));
+}
 
 QValidator::State ValidatoreAnsi::validate(QString &testo, int &cursore) const
 {

@@ -5,6 +5,10 @@
 
 class QPlainTextEdit;
 
+/// Why a model file cannot hold the name of a file (it lacks one of its characters) and what to do,
+/// for the user; empty when it can.
+QString RifiutoDelNome(const QString &nome);
+
 /// Keeps a line's text within what one line of a model file can hold, dropping the other characters
 /// of a paste instead of refusing all of it. A CR, which alone would end the line in the file,
 /// becomes a blank, together with an LF right after it; any other LF stays, as the file keeps it.

@@ -6,6 +6,7 @@
 #include "support/Controlli.h"
 #include "support/Errori.h"
 #include "support/ImmaginiDiProva.h"
+#include "support/ImmaginiRare.h"
 #include "support/Robot.h"
 
 #include <QDir>
@@ -62,15 +63,16 @@ struct Prova
     /// Adds a file to the folder and shows the second picture again.
     void Aggiunge(const char *nome, const QByteArray &byte)
     {
-        ImmaginiDiProva::Scrive(cartella.filePath(QString::fromLatin1(nome)), byte);
+        ImmaginiDiProva::Scrive(cartella.filePath(QString::fromUtf8(nome)), byte);
         Apre(2);
     }
 
+    /// nome: UTF-8.
     void Clicca(const char *nome)
     {
         auto *elenco = Trova<QListWidget>(dialogo, "FileImmagini");
         const QList<QListWidgetItem *> voci =
-            elenco->findItems(QString::fromLatin1(nome), Qt::MatchExactly);
+            elenco->findItems(QString::fromUtf8(nome), Qt::MatchExactly);
         QCOMPARE(voci.size(), 1);
         elenco->scrollToItem(voci.first());
         QTest::mouseClick(elenco->viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -118,6 +120,9 @@ private slots:
     void FotografiaRuotata();
     void DanneggiataOMancanteSenzaDomanda_data();
     void DanneggiataOMancanteSenzaDomanda();
+    void IlleggibileDettaSottoLElenco();
+    void NomeCheIlModelloNonPuoContenere_data();
+    void NomeCheIlModelloNonPuoContenere();
     void ScrittaSubitoAncheSeSiChiude();
     void MisuraNonNumericaNonScrittaSubito();
     void RimisuraLImmagineScelta();
@@ -372,6 +377,9 @@ void TestFrmImmagine::FormatiLetti_data()
     QTest::newRow("BMP") << QByteArray("a.bmp") << Figura("bmp", 40, 10) << true;
     QTest::newRow("GIF") << QByteArray("a.gif") << ImmaginiDiProva::GifTrasparente() << false;
     QTest::newRow("GIF animata") << QByteArray("b.gif") << ImmaginiDiProva::GifAnimata() << false;
+    for (const ImmaginiRare::Rara &rara : ImmaginiRare::Tutte()) {
+        QTest::newRow(rara.Nome) << QByteArray("r.bmp") << rara.Byte << false;
+    }
 }
 
 void TestFrmImmagine::FormatiLetti()
@@ -389,6 +397,7 @@ void TestFrmImmagine::FormatiLetti()
     QCOMPARE(p.robot.Testi().size(), grande ? 1 : 0);
     QCOMPARE(p.Seconda().Nome, QString::fromLatin1(nome));
     QCOMPARE(qRound(p.Seconda().Larghezza), grande ? 20 : 50);
+    QVERIFY(!Trova<QLabel>(p.dialogo, "AvvisoImmagine")->isVisible());
 }
 
 void TestFrmImmagine::ScansioneA4A600PuntiPerPollice()
@@ -477,6 +486,69 @@ void TestFrmImmagine::DanneggiataOMancanteSenzaDomanda()
     QCOMPARE(p.Seconda().Larghezza, 33.5);
     QCOMPARE(p.Seconda().Altezza, 10.0);
     QCOMPARE(p.segnali.Voci(), QStringList({QStringLiteral("Ricollocato 2")}));
+}
+
+void TestFrmImmagine::IlleggibileDettaSottoLElenco()
+{
+    Prova p;
+    ImmaginiDiProva::Scrive(p.cartella.filePath(QStringLiteral("sparita.bmp")), "x");
+    ImmaginiDiProva::Scrive(p.cartella.filePath(QStringLiteral("buona.bmp")), Figura("bmp", 5, 5));
+    p.Aggiunge("guasta.bmp", "Fattura di prova");
+    QVERIFY(QFile::remove(p.cartella.filePath(QStringLiteral("sparita.bmp"))));
+    const auto *avviso = Trova<QLabel>(p.dialogo, "AvvisoImmagine");
+    QVERIFY(!avviso->isVisible());
+    p.Clicca("guasta.bmp");
+    QVERIFY(avviso->isVisible());
+    QVERIFY(avviso->text().startsWith(QStringLiteral("«guasta.bmp»: il file non si può leggere")));
+    const QWidget *elenco = Trova<QListWidget>(p.dialogo, "FileImmagini");
+    QCoreApplication::processEvents();
+    QVERIFY(avviso->y() >= elenco->geometry().bottom());
+    p.Clicca("sparita.bmp");
+    QVERIFY(avviso->text().startsWith(QStringLiteral("«sparita.bmp»: il file non si trova")));
+    p.Clicca("buona.bmp");
+    QVERIFY(!avviso->isVisible());
+    p.Clicca("guasta.bmp");
+    p.Apre(3); // another element says nothing of it
+    QVERIFY(!avviso->isVisible());
+    QVERIFY(p.robot.Soddisfatto() && p.robot.Testi().isEmpty());
+}
+
+void TestFrmImmagine::NomeCheIlModelloNonPuoContenere_data()
+{
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<QString>("carattere");
+    QTest::newRow("lettera polacca") << QStringLiteral("\u0142ogo.bmp") << QStringLiteral("U+0142");
+    QTest::newRow("accento staccato")
+        << QStringLiteral("Pero\u0300.bmp") << QStringLiteral("U+0300");
+    QTest::newRow("faccina") << QStringLiteral("\U0001F600.bmp") << QStringLiteral("U+1F600");
+    QTest::newRow("a capo") << QStringLiteral("a\rb.bmp") << QStringLiteral("U+000D");
+}
+
+void TestFrmImmagine::NomeCheIlModelloNonPuoContenere()
+{
+    QFETCH(QString, nome);
+    QFETCH(QString, carattere);
+    Prova p;
+    ImmaginiDiProva::Scrive(p.cartella.filePath(nome), Figura("bmp", 250, 100));
+    p.Apre(2);
+    const Modello prima = p.stato.Aperto;
+    p.robot.Ok();
+    auto *elenco = Trova<QListWidget>(p.dialogo, "FileImmagini");
+    const auto voci = elenco->findItems(nome, Qt::MatchExactly);
+    QCOMPARE(voci.size(), 1);
+    QTest::mouseClick(elenco->viewport(), Qt::LeftButton, {},
+                      elenco->visualItemRect(voci.first()).center());
+    QVERIFY(p.robot.Soddisfatto());
+    const QString detto = p.robot.Testi().constFirst();
+    QVERIFY2(detto.contains(carattere) && detto.contains(QStringLiteral("Rinominare il file")),
+             qPrintable(detto));
+    QVERIFY(p.stato.Aperto == prima);
+    QCOMPARE(Testo(p.dialogo, "Nome"), QStringLiteral("vecchia2.bmp"));
+    QVERIFY(elenco->currentItem() == nullptr);
+    QVERIFY(p.segnali.Voci().isEmpty());
+    p.Aggiunge("Però €.bmp", Figura("bmp", 15, 25));
+    p.Clicca("Però €.bmp");
+    QCOMPARE(p.Seconda().Nome, QStringLiteral("Però €.bmp"));
 }
 
 void TestFrmImmagine::ScrittaSubitoAncheSeSiChiude()
