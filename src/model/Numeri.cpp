@@ -133,6 +133,13 @@ private:
     bool cifreEsponente_ = false;
 };
 
+/// Files are read where only "," and "." are known, and hold no others: a locale with a separator
+/// of its own writes the point.
+QChar SeparatoreScritto(const QLocale &locale)
+{
+    return locale.decimalPoint() == QLatin1String(",") ? u',' : u'.';
+}
+
 /// The value with at most so many significant digits, and the decimal separator of the locale.
 QString Testo(double valore, int cifre, const QLocale &locale)
 {
@@ -148,7 +155,7 @@ QString Testo(double valore, int cifre, const QLocale &locale)
                    [](char c) { return c == 'e' ? QChar(u'E') : QChar(QLatin1Char(c)); });
     const qsizetype punto = testo.indexOf(u'.');
     if (punto >= 0) {
-        testo.replace(punto, 1, locale.decimalPoint());
+        testo[punto] = SeparatoreScritto(locale);
     }
     return testo;
 }

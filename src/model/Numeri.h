@@ -38,9 +38,10 @@ double PariPiuVicino(double valore);
 /// Int(value + 0.5): the nearest whole millimetre, halves going up (2.5 gives 3, -2.5 gives -2).
 double Ar(double valore);
 
-/// Up to 15 significant digits, no thousands separators: "12,5", "40". Always a text that can be
-/// read again: a value so near the end of the doubles that rounding to 15 digits would leave them,
-/// or beyond it, is written as the last number that can be.
+/// Up to 15 significant digits, no thousands separators: "12,5", "40". The separator is the
+/// locale's own where that is a comma, otherwise a point; all else is ASCII. Always a text that can
+/// be read again: a value so near the end of the doubles that rounding to 15 digits would leave
+/// them, or beyond it, is written as the last number that can be.
 QString NumeroPiano(double valore, const QLocale &locale = QLocale());
 
 /// As a print statement writes it: a blank or a minus sign, the plain number, a blank.

@@ -15,6 +15,7 @@ private slots:
     void ModelloSenzaElementi();
     void OgniRigaDelFile_data();
     void OgniRigaDelFile();
+    void SeparatoreDiUnAltroAlfabeto();
     void SoloCampi();
     void AssentiFuoriDalFile();
     void OltreCentoSiScrivonoCento();
@@ -113,6 +114,19 @@ void tst_FileModelloComposizione::OgniRigaDelFile()
     byte.replace("BORDO", "1.5");
 
     QCOMPARE(FileModello::Componi(modello, locale), byte);
+}
+
+void tst_FileModelloComposizione::SeparatoreDiUnAltroAlfabeto()
+{
+    const QLocale persiano(QLocale::Persian, QLocale::Iran);
+    QVERIFY2(persiano.decimalPoint() != QLatin1String(".") &&
+                 persiano.decimalPoint() != QLatin1String(","),
+             "a separator that the code page lacks");
+    Modello modello = ModelloDiProva(2);
+    modello.Campi[1].X = -1.5;
+    modello.Cornici[1].Bordo = 1.5;
+    modello.Righe.Interlinea = 4.25;
+    QCOMPARE(FileModello::Componi(modello, persiano), FileModello::Componi(modello, Punto));
 }
 
 void tst_FileModelloComposizione::SoloCampi()

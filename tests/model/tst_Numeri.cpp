@@ -26,6 +26,7 @@ private slots:
     void Ar();
     void NumeroPiano_data();
     void NumeroPiano();
+    void InOgniPaeseSoloVirgolaOPunto();
     void OgniNumeroPianoSiRilegge_data();
     void OgniNumeroPianoSiRilegge();
     void CstrX_data();
@@ -343,6 +344,23 @@ void tst_Numeri::NumeroPiano()
     const QString davanti = punto.startsWith(u'-') ? QString() : QStringLiteral(" ");
     QCOMPARE(Numeri::NumeroStampato(valore, Punto), davanti + punto + u' ');
     QCOMPARE(Numeri::NumeroStampato(valore, Virgola), davanti + virgola + u' ');
+}
+
+void tst_Numeri::InOgniPaeseSoloVirgolaOPunto()
+{
+    const QList<QLocale> paesi =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+    int conSeparatoreProprio = 0;
+    for (const QLocale &paese : paesi) {
+        const bool virgola = paese.decimalPoint() == QLatin1String(",");
+        conSeparatoreProprio += !virgola && paese.decimalPoint() != QLatin1String(".") ? 1 : 0;
+        const QString atteso = virgola ? QStringLiteral("-12,5") : QStringLiteral("-12.5");
+        QCOMPARE(Numeri::NumeroPiano(-12.5, paese), atteso);
+        QCOMPARE(Numeri::NumeroStampato(-12.5, paese), atteso + u' ');
+        QCOMPARE(Numeri::CstrX(-12.5, {}, paese), QStringLiteral("-12.5"));
+        QCOMPARE(Numeri::NumeroPiano(1234567890, paese), QStringLiteral("1234567890"));
+    }
+    QVERIFY2(conSeparatoreProprio > 0, "no locale has another separator");
 }
 
 void tst_Numeri::OgniNumeroPianoSiRilegge_data()
