@@ -8,6 +8,32 @@ constexpr QLatin1String FontNuovo("Arial");
 constexpr qint16 DimensioneNuova = 11;
 constexpr int CaratteriMascheraNuova = 30;
 
+bool CorniceConNome(const Modello &modello, const QString &nome)
+{
+    for (int i = 1; i <= modello.UltimoSlot(Genere::Cornice); ++i) {
+        if (modello.Cornici[i].Nome.compare(nome, Qt::CaseInsensitive) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// "Nuova", the minute and the second, of that time or the next one whose name no frame has: two
+/// frames of one name could not be confirmed. An hour has far more names than a model has frames.
+QString NomeCorniceNuova(const Modello &modello, int minuto, int secondo)
+{
+    constexpr int SecondiPerMinuto = 60;
+    constexpr int SecondiPerOra = 3600;
+    for (int istante = minuto * SecondiPerMinuto + secondo;; ++istante) {
+        const int nellOra = istante % SecondiPerOra;
+        QString nome = QStringLiteral("Nuova") + QString::number(nellOra / SecondiPerMinuto) +
+                       QString::number(nellOra % SecondiPerMinuto);
+        if (!CorniceConNome(modello, nome)) {
+            return nome;
+        }
+    }
+}
+
 } // namespace
 
 qint16 &Modello::Numero(Genere genere)
@@ -88,7 +114,7 @@ int Modello::AggiungeCornice(double x, double y, int minuto, int secondo)
     const qint16 coloreTesto = cornice.ColoreTesto;
     cornice = Cornice{};
     cornice.ColoreTesto = coloreTesto;
-    cornice.Nome = QStringLiteral("Nuova") + QString::number(minuto) + QString::number(secondo);
+    cornice.Nome = NomeCorniceNuova(*this, minuto, secondo);
     cornice.Testo = cornice.Nome;
     cornice.X = x;
     cornice.Y = y;

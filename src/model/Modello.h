@@ -138,8 +138,9 @@ struct Modello
     bool Presente(Genere genere, int indice) const;
 
     /// Raises the count of the kind, then fills the new slot with the values of a new element at
-    /// (x, y) mm and returns its number. minuto and secondo of the clock name a new frame. The
-    /// 101st addition throws ErroreSistema 9 with the count already raised.
+    /// (x, y) mm and returns its number. minuto and secondo of the clock name a new frame; they run
+    /// on until no other frame has the name, whatever its case. The 101st addition throws
+    /// ErroreSistema 9 with the count already raised.
     int AggiungeCampo(double x, double y);
     int AggiungeCornice(double x, double y, int minuto, int secondo);
     int AggiungeImmagine(double x, double y);

@@ -2,6 +2,7 @@
 
 #include "support/Errori.h"
 
+#include <QSet>
 #include <QTest>
 
 #include <type_traits>
@@ -20,6 +21,9 @@ private slots:
     void CorniceNuovaTieneIlColoreDelTesto();
     void NomeDiCorniceNuova_data();
     void NomeDiCorniceNuova();
+    void NomeDiCorniceNuovaLibero_data();
+    void NomeDiCorniceNuovaLibero();
+    void CentoCorniciNelloStessoSecondo();
     void ImmagineNuova();
     void CentounesimoElemento_data();
     void CentounesimoElemento();
@@ -181,6 +185,53 @@ void tst_Modello::NomeDiCorniceNuova()
     modello.AggiungeCornice(0, 0, minuto, secondo);
     QCOMPARE(modello.Cornici[1].Nome, nome);
     QCOMPARE(modello.Cornici[1].Testo, nome);
+}
+
+void tst_Modello::NomeDiCorniceNuovaLibero_data()
+{
+    QTest::addColumn<QStringList>("presenti");
+    QTest::addColumn<int>("minuto");
+    QTest::addColumn<int>("secondo");
+    QTest::addColumn<QString>("nome");
+
+    QTest::newRow("stesso secondo")
+        << QStringList{QStringLiteral("Nuova57")} << 5 << 7 << QStringLiteral("Nuova58");
+    QTest::newRow("maiuscole e minuscole")
+        << QStringList{QStringLiteral("NUOVA57"), QStringLiteral("nuova58")} << 5 << 7
+        << QStringLiteral("Nuova59");
+    QTest::newRow("minuto seguente")
+        << QStringList{QStringLiteral("Nuova559")} << 5 << 59 << QStringLiteral("Nuova60");
+    QTest::newRow("ora seguente") << QStringList{QStringLiteral("Nuova5959")} << 59 << 59
+                                  << QStringLiteral("Nuova00");
+    QTest::newRow("nome di un altro istante")
+        << QStringList{QStringLiteral("Nuova111")} << 11 << 1 << QStringLiteral("Nuova112");
+    QTest::newRow("eliminata") << QStringList{QString()} << 5 << 7 << QStringLiteral("Nuova57");
+}
+
+void tst_Modello::NomeDiCorniceNuovaLibero()
+{
+    QFETCH(QStringList, presenti);
+    QFETCH(int, minuto);
+    QFETCH(int, secondo);
+    QFETCH(QString, nome);
+    Modello modello;
+    for (const QString &presente : presenti) {
+        modello.Cornici[modello.AggiungeCornice(0, 0, 0, 0)].Nome = presente;
+    }
+    const Cornice &nuova = modello.Cornici[modello.AggiungeCornice(0, 0, minuto, secondo)];
+    QCOMPARE(nuova.Nome, nome);
+    QCOMPARE(nuova.Testo, nome);
+}
+
+void tst_Modello::CentoCorniciNelloStessoSecondo()
+{
+    Modello modello;
+    QSet<QString> nomi;
+    for (int i = 1; i <= 100; ++i) {
+        nomi.insert(modello.Cornici[modello.AggiungeCornice(0, 0, 59, 30)].Nome);
+    }
+    QCOMPARE(nomi.size(), 100);
+    QVERIFY(nomi.contains(QStringLiteral("Nuova5930")));
 }
 
 void tst_Modello::ImmagineNuova()
