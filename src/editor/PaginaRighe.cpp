@@ -2,7 +2,6 @@
 
 #include "editor/RigheSimulate.h"
 #include "editor/TestiEsplicativi.h"
-#include "model/Numeri.h"
 #include "platform/Guardia.h"
 #include "ui_PaginaRighe.h"
 
@@ -34,30 +33,28 @@ void PaginaRighe::Collegamenti()
 void PaginaRighe::Mostra()
 {
     // The boxes are read with "." as the decimal separator, so they are filled with it.
-    const auto testo = [](double valore) { return Numeri::NumeroPiano(valore, QLocale::c()); };
+    const QLocale colPunto = QLocale::c();
     const ParametriRighe &righe = stato_.Aperto.Righe;
-    ui_->yInizio->setText(testo(righe.yInizio));
-    ui_->yFine->setText(testo(righe.yFine));
-    ui_->Interlinea->setText(testo(righe.Interlinea));
-    ui_->InterlineaDescr->setText(testo(righe.InterlineaDescr));
-    ui_->SeguePag->setText(righe.SeguePag);
+    caselle_.Mostra(ui_->yInizio, righe.yInizio, colPunto);
+    caselle_.Mostra(ui_->yFine, righe.yFine, colPunto);
+    caselle_.Mostra(ui_->Interlinea, righe.Interlinea, colPunto);
+    caselle_.Mostra(ui_->InterlineaDescr, righe.InterlineaDescr, colPunto);
+    caselle_.Mostra(ui_->SeguePag, righe.SeguePag);
     ui_->OptSimuloRighe->setChecked(false);
 }
 
 void PaginaRighe::ConfermaPosizioneRighe_Click()
 {
-    const double yInizio = Numeri::Val(ui_->yInizio->text());
-    const double yFine = Numeri::Val(ui_->yFine->text());
-    const double interlinea = Numeri::Val(ui_->Interlinea->text());
-    const double interlineaDescr = Numeri::Val(ui_->InterlineaDescr->text());
+    const double yInizio = caselle_.Val(ui_->yInizio);
+    const double yFine = caselle_.Val(ui_->yFine);
+    const double interlinea = caselle_.Val(ui_->Interlinea);
+    const double interlineaDescr = caselle_.Val(ui_->InterlineaDescr);
     ParametriRighe &righe = stato_.Aperto.Righe;
     righe.yInizio = yInizio;
     righe.yFine = yFine;
     righe.Interlinea = interlinea;
     righe.InterlineaDescr = interlineaDescr;
-    if (ui_->SeguePag->isModified()) {
-        righe.SeguePag = ui_->SeguePag->text();
-    }
+    righe.SeguePag = caselle_.Testo(ui_->SeguePag);
     emit Variato();
     for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Campo); ++k) {
         if (CampoDiRiga(stato_.Aperto.Campi[k])) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/MemoriaCaselle.h"
 #include "model/StatoProgramma.h"
 
 #include <QWidget>
@@ -38,4 +39,5 @@ private:
     std::unique_ptr<Ui::PaginaRighe> ui_;
     StatoProgramma &stato_;
     Frm1 &anteprima_;
+    MemoriaCaselle caselle_;
 };

@@ -74,17 +74,21 @@ void PaginaSfondo::LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro
 {
     connect(casella, &QLineEdit::textChanged, this,
             [this, membro](const QString &testo) { stato_.Aperto.Sfondo.*membro = testo; });
-    connect(casella, &QLineEdit::textEdited, this, &PaginaSfondo::Variato);
+    connect(casella, &QLineEdit::textEdited, this, [this] {
+        // An undone text is an edit too: the preview may have been drawn with the one before.
+        scritta_ = true;
+        emit Variato();
+    });
     Collega(casella, &QLineEdit::editingFinished, this,
-            [this, casella] { RidisegnaSeModificata(casella); });
+            [this, casella] { RidisegnaSeScritta(casella); });
 }
 
-void PaginaSfondo::RidisegnaSeModificata(QLineEdit *casella)
+void PaginaSfondo::RidisegnaSeScritta(const QLineEdit *casella)
 {
-    if (!casella->isModified()) {
+    if (!scritta_) {
         return;
     }
-    casella->setModified(false);
+    scritta_ = false;
     if (casella == ui_->SfondoFileImmagine) {
         RiprendeMessaggi();
     }

@@ -47,7 +47,7 @@ protected:
 private:
     void Collegamenti();
     void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
-    void RidisegnaSeModificata(QLineEdit *casella);
+    void RidisegnaSeScritta(const QLineEdit *casella);
     /// Where the scan is, in the spelling found on disk; a name alone is taken as typed.
     QString FileSfondo() const;
     void ChiedeDimensione();
@@ -60,5 +60,6 @@ private:
     std::unique_ptr<Ui::PaginaSfondo> ui_;
     StatoProgramma &stato_;
     Frm1 &anteprima_;
+    bool scritta_ = false;   ///< a box has been edited since the last one that was finished
     QString guastoMostrato_; ///< the file whose failure the user has been told
 };
