@@ -8,6 +8,8 @@
 #include "platform/Guardia.h"
 #include "platform/Testo.h"
 
+#include <cmath>
+
 namespace {
 
 const auto BordoAssente = QStringLiteral("0");
@@ -117,14 +119,17 @@ void FrmCornice::ControllaColore(QLineEdit *casella, const QString &messaggio)
     }
 }
 
-double FrmCornice::LarghezzaScritta() const
+void FrmCornice::ControllaLarghezza() const
 {
-    const double larghezza = Doppio(ui_->Largh);
-    if (larghezza <= 0) {
+    if (Caselle().Val(ui_->Largh) <= 0) {
         throw Rifiuto{QStringLiteral("non si può LARGHEZZA cornice ZERO o minore di zero"),
                       ui_->Largh};
     }
-    return larghezza;
+}
+
+qint16 FrmCornice::ColoreIntero(const QLineEdit *casella)
+{
+    return Numeri::Intero16(std::floor(Numeri::Val(casella->text())));
 }
 
 FrmCornice::Misure FrmCornice::AdattaAllaScritta(const Carattere &carattere)
@@ -150,14 +155,16 @@ void FrmCornice::Confema_Click()
                 QStringLiteral("non si può impostare cornice senza bordo e senza etichetta"),
                 ui_->Testo};
         }
-        Misure misure{LarghezzaScritta(), 0};
+        ControllaLarghezza();
         ControllaColore(ui_->ColoreTesto, QStringLiteral("Colore errato"));
         ControllaColore(ui_->ColoreCorn, QStringLiteral("Colore cornice errato"));
         ControllaNomeScritto();
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
         const bool etichetta = ui_->OptEtichetta->isChecked();
+        Misure misure{};
         if (!etichetta) {
+            misure.Larghezza = Doppio(ui_->Largh);
             misure.Altezza = Doppio(ui_->Alt);
         }
 
@@ -179,18 +186,16 @@ void FrmCornice::Confema_Click()
 
 void FrmCornice::Command1_Click()
 {
-    Tenta([this] {
-        const PuntatoreOccupato occupato;
-        const qint16 coloreTesto = Intero16(ui_->ColoreTesto, ui_->ColoreTesto->text());
-        const qint16 coloreCornice = Intero16(ui_->ColoreCorn, ui_->ColoreCorn->text());
-        for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
-            Cornice &cornice = Aperto().Cornici[i];
-            cornice.ColoreTesto = coloreTesto;
-            cornice.ColoreCornice = coloreCornice;
-            emit Applicato(Genere::Cornice, i);
-        }
-        accept();
-    });
+    const PuntatoreOccupato occupato;
+    const qint16 coloreTesto = ColoreIntero(ui_->ColoreTesto);
+    const qint16 coloreCornice = ColoreIntero(ui_->ColoreCorn);
+    for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
+        Cornice &cornice = Aperto().Cornici[i];
+        cornice.ColoreTesto = coloreTesto;
+        cornice.ColoreCornice = coloreCornice;
+        emit Applicato(Genere::Cornice, i);
+    }
+    accept();
 }
 
 void FrmCornice::Command2_Click()
@@ -199,7 +204,7 @@ void FrmCornice::Command2_Click()
         ControllaColore(ui_->ColoreTesto, QStringLiteral("Colore errato"));
         const PuntatoreOccupato occupato;
         const Carattere carattere = CarattereScelto();
-        const qint16 coloreTesto = Intero16(ui_->ColoreTesto, ui_->ColoreTesto->text());
+        const qint16 coloreTesto = ColoreIntero(ui_->ColoreTesto);
         for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
             Cornice &cornice = Aperto().Cornici[i];
             Scrive(cornice, carattere);

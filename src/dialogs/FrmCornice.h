@@ -40,8 +40,11 @@ private:
     void ImpostaBordo(const QString &testo, bool abilitato);
     /// A wrong colour is no number or outside 0..15; throws Rifiuto with the message.
     static void ControllaColore(QLineEdit *casella, const QString &messaggio);
-    /// Throws Rifiuto when the width is zero or less.
-    double LarghezzaScritta() const;
+    /// Throws Rifiuto when the width, read leniently, is zero or less.
+    void ControllaLarghezza() const;
+    /// The whole part of the box, read leniently, whatever stands in it. Throws ErroreSistema 6
+    /// when 16 bits do not hold it.
+    static qint16 ColoreIntero(const QLineEdit *casella);
     /// Size of a label, from its text: the boxes then show it.
     Misure AdattaAllaScritta(const Carattere &carattere);
 

@@ -109,12 +109,13 @@ private slots:
 
     void EtichettaMisurataDalTesto();
     void EtichettaVuoleUnaLarghezzaPositiva();
-    void EtichettaNonLeggeLAltezza();
+    void EtichettaNonLeggeLeMisure();
     void CorniceSenzaBordoTieneLeMisure();
 
     void ColoriSuTutte();
+    void ColoriSuTutteSenzaControllo_data();
     void ColoriSuTutteSenzaControllo();
-    void ColoriSuTutteConTestoNonNumerico();
+    void ColoriSuTutteOltre16Bit();
     void FontSuTutte();
     void FontSuTutteConColoreErrato();
     void SuTutteCon101Cornici();
@@ -445,6 +446,9 @@ void TestFrmCornice::LarghezzaZeroOMinore_data()
     QTest::addColumn<QString>("testo");
     QTest::newRow("zero") << QStringLiteral("0");
     QTest::newRow("negativa") << QStringLiteral("-0.1");
+    QTest::newRow("lettere") << QStringLiteral("abc");
+    QTest::newRow("vuota") << QString();
+    QTest::newRow("virgola, che la lettura non conosce") << QStringLiteral("0,5");
 }
 
 void TestFrmCornice::LarghezzaZeroOMinore()
@@ -517,18 +521,19 @@ void TestFrmCornice::OrdineDeiControlli()
 {
     Prova p;
     const Modello prima = p.stato.Aperto;
-    p.robot.Ok().Ok().Ok().Ok().Ok().Ok();
+    p.robot.Ok().Ok().Ok().Ok().Ok().Ok().Ok();
     Digita(p.dialogo, "X", QStringLiteral("abc"));
     Digita(p.dialogo, "ColoreCorn", QStringLiteral("16"));
     Digita(p.dialogo, "ColoreTesto", QStringLiteral("16"));
-    Digita(p.dialogo, "Largh", QStringLiteral("0"));
+    Digita(p.dialogo, "Largh", QStringLiteral("abc"));
     Digita(p.dialogo, "Bordo", QStringLiteral("0"));
     Digita(p.dialogo, "Testo", QString());
     Digita(p.dialogo, "Nome", QStringLiteral("cornice1"));
     const QList<std::pair<const char *, QString>> correzioni{
         {"Nome", QStringLiteral("Box")},     {"Bordo", QStringLiteral("1")},
-        {"Largh", QStringLiteral("5")},      {"ColoreTesto", QStringLiteral("1")},
-        {"ColoreCorn", QStringLiteral("2")}, {"X", QStringLiteral("3")}};
+        {"Largh", QStringLiteral("5x")},     {"ColoreTesto", QStringLiteral("1")},
+        {"ColoreCorn", QStringLiteral("2")}, {"X", QStringLiteral("3")},
+        {"Largh", QStringLiteral("5")}};
     for (const auto &[casella, testo] : correzioni) {
         Preme(p.dialogo, "Confema");
         QVERIFY(p.stato.Aperto == prima);
@@ -540,10 +545,12 @@ void TestFrmCornice::OrdineDeiControlli()
                      QStringLiteral("non si può impostare cornice senza bordo e senza etichetta"),
                      QStringLiteral("non si può LARGHEZZA cornice ZERO o minore di zero"),
                      QStringLiteral("Colore errato"), QStringLiteral("Colore cornice errato"),
-                     QStringLiteral("Posizione X: «abc» non è un numero")}));
+                     QStringLiteral("Posizione X: «abc» non è un numero"),
+                     QStringLiteral("Larghezza: «5x» non è un numero")}));
     Preme(p.dialogo, "Confema");
     QVERIFY(!p.dialogo.isVisible());
     QCOMPARE(p.Seconda().X, 3.0);
+    QCOMPARE(p.Seconda().Larghezza, 5.0);
 }
 
 void TestFrmCornice::TestoCheNonENumero_data()
@@ -581,10 +588,10 @@ void TestFrmCornice::BordoConosceSoloIlPunto()
     QCOMPARE(Testo(p.dialogo, "Bordo"), QStringLiteral("1.5"));
     QCOMPARE(Testo(p.dialogo, "Largh"), QStringLiteral("12,5"));
     Digita(p.dialogo, "Bordo", QStringLiteral("2.4 mm"));
-    Digita(p.dialogo, "Largh", QStringLiteral("0,5"));
+    Digita(p.dialogo, "Largh", QStringLiteral("1,5"));
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.Seconda().Bordo, 2.4);
-    QCOMPARE(p.Seconda().Larghezza, 0.5);
+    QCOMPARE(p.Seconda().Larghezza, 1.5);
 }
 
 void TestFrmCornice::IndiceFuoriTabellaAllaConferma()
@@ -634,10 +641,11 @@ void TestFrmCornice::EtichettaVuoleUnaLarghezzaPositiva()
     QVERIFY(p.Seconda().Larghezza > 1);
 }
 
-void TestFrmCornice::EtichettaNonLeggeLAltezza()
+void TestFrmCornice::EtichettaNonLeggeLeMisure()
 {
     Prova p;
     Preme(p.dialogo, "OptEtichetta");
+    Digita(p.dialogo, "Largh", QStringLiteral("1x"));
     Digita(p.dialogo, "Alt", QStringLiteral("abc"));
     Preme(p.dialogo, "Confema");
     QVERIFY(p.robot.Soddisfatto());
@@ -673,30 +681,53 @@ void TestFrmCornice::ColoriSuTutte()
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
 
-void TestFrmCornice::ColoriSuTutteSenzaControllo()
+void TestFrmCornice::ColoriSuTutteSenzaControllo_data()
 {
-    Prova p;
-    Digita(p.dialogo, "ColoreCorn", QStringLiteral("99"));
-    Preme(p.dialogo, "Command1");
-    QVERIFY(p.robot.Soddisfatto());
-    QCOMPARE(p.stato.Aperto.Cornici[1].ColoreCornice, qint16(99));
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<int>("colore");
+    QTest::newRow("fuori dalla tavolozza") << QStringLiteral("99") << 99;
+    QTest::newRow("negativo") << QStringLiteral("-1") << -1;
+    QTest::newRow("lettere") << QStringLiteral("rosso") << 0;
+    QTest::newRow("vuoto") << QString() << 0;
+    QTest::newRow("numero e lettere") << QStringLiteral("12 blu") << 12;
+    QTest::newRow("parte intera") << QStringLiteral("3.7") << 3;
+    QTest::newRow("parte intera di un negativo") << QStringLiteral("-3.2") << -4;
+    QTest::newRow("la virgola chiude il numero") << QStringLiteral("3,7") << 3;
+    QTest::newRow("ultimo di 16 bit") << QStringLiteral("32767.9") << 32767;
 }
 
-void TestFrmCornice::ColoriSuTutteConTestoNonNumerico()
+void TestFrmCornice::ColoriSuTutteSenzaControllo()
+{
+    QFETCH(QString, testo);
+    QFETCH(int, colore);
+    for (const bool delTesto : {true, false}) {
+        Prova p;
+        Modello atteso = p.stato.Aperto;
+        for (int i = 1; i <= 3; ++i) {
+            atteso.Cornici[i].ColoreTesto = qint16(delTesto ? colore : 5);
+            atteso.Cornici[i].ColoreCornice = qint16(delTesto ? 5 : colore);
+        }
+        Digita(p.dialogo, "ColoreTesto", delTesto ? testo : QStringLiteral("5"));
+        Digita(p.dialogo, "ColoreCorn", delTesto ? QStringLiteral("5") : testo);
+        Preme(p.dialogo, "Command1");
+        QVERIFY(p.robot.Soddisfatto());
+        QVERIFY(p.stato.Aperto == atteso);
+        QVERIFY(!p.dialogo.isVisible());
+    }
+}
+
+void TestFrmCornice::ColoriSuTutteOltre16Bit()
 {
     Prova p;
     const Modello prima = p.stato.Aperto;
-    p.robot.Ok().Ok();
-    Digita(p.dialogo, "ColoreTesto", QStringLiteral("rosso"));
-    Preme(p.dialogo, "Command1");
-    Digita(p.dialogo, "ColoreTesto", QStringLiteral("1"));
+    p.robot.Ok();
     Digita(p.dialogo, "ColoreCorn", QStringLiteral("40000"));
     Preme(p.dialogo, "Command1");
-    QCOMPARE(p.robot.Testi(),
-             QStringList({QStringLiteral("Colore testo: «rosso» non è un numero"),
-                          QStringLiteral("Colore cornice: «40000» è un numero troppo grande")}));
+    QVERIFY2(p.robot.Testi().value(0).startsWith(QStringLiteral("errore 6 ")),
+             qPrintable(p.robot.Testi().value(0)));
     QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
     QVERIFY(p.segnali.Voci().isEmpty());
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
 
 void TestFrmCornice::FontSuTutte()
