@@ -64,16 +64,17 @@ void Anteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
     P1->setObjectName(QStringLiteral("P1"));
     P1->setAccessibleName(QStringLiteral("foglio"));
     P1->setGeometry(QRect(QPoint(0, 0), pixel));
-    P1Posto0 = P1->pos();
+    P1Left0 = P1->x();
+    P1Top0 = P1->y();
 
     AreaRighelloX = CreaArea(finestra, QStringLiteral("AreaRighelloX"));
     RighelloX = new RighelloFoglio(Qt::Horizontal, geometria.PixelPerMillimetro(), AreaRighelloX);
     RighelloX->setObjectName(QStringLiteral("RighelloX"));
-    RighelloX->setGeometry(P1Posto0.x(), 0, pixel.width(), spessore);
+    RighelloX->setGeometry(P1Left0, 0, pixel.width(), spessore);
     AreaRighelloY = CreaArea(finestra, QStringLiteral("AreaRighelloY"));
     RighelloY = new RighelloFoglio(Qt::Vertical, geometria.PixelPerMillimetro(), AreaRighelloY);
     RighelloY->setObjectName(QStringLiteral("RighelloY"));
-    RighelloY->setGeometry(0, P1Posto0.y(), spessore, pixel.height());
+    RighelloY->setGeometry(0, P1Top0, spessore, pixel.height());
 }
 
 void Anteprima::CreaScorrimento(QWidget *finestra)
@@ -143,14 +144,14 @@ void Anteprima::Dispone(QSize interna)
 
 void Anteprima::ScorreX()
 {
-    const int sinistra = P1Posto0.x() - geometria.Pixel(ScrollX->value());
+    const int sinistra = P1Left0 - geometria.Pixel(ScrollX->value());
     P1->move(sinistra, P1->y());
     RighelloX->move(sinistra, RighelloX->y());
 }
 
 void Anteprima::ScorreY()
 {
-    const int alto = P1Posto0.y() - geometria.Pixel(ScrollY->value());
+    const int alto = P1Top0 - geometria.Pixel(ScrollY->value());
     P1->move(P1->x(), alto);
     RighelloY->move(RighelloY->x(), alto);
 }

@@ -40,8 +40,9 @@ struct Anteprima
     QLineEdit *PY;
     QLabel *Label1;
     QLineEdit *TextZoom;
-    QLineEdit *LL;   ///< shows the control in hand, as "C1(4)"
-    QPoint P1Posto0; ///< P1Left0 and P1Top0: where the sheet rests in its area, pixels
+    QLineEdit *LL; ///< shows the control in hand, as "C1(4)"
+    int P1Left0;   ///< where the sheet rests in its area, pixels
+    int P1Top0;    ///< the same from the top
 
 private:
     void CreaFoglio(QWidget *finestra, const StatoProgramma &stato);

@@ -81,7 +81,7 @@ void StampaProva::StampaCornice(int i)
 }
 
 void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etichetta &etichetta,
-                        QRgb campione, double tipo, double spessore)
+                        QRgb P, double tipo, double spessore)
 {
     if (!etichetta.Testo.isEmpty()) {
         const QRgb prima = pagina_.Colore();
@@ -92,13 +92,13 @@ void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etiche
         pagina_.Colore(prima);
     }
     if (tipo == TipoRettangolo) {
-        pagina_.Barra(x1, y1, x2 - x1, spessore, campione);
-        pagina_.Barra(x1, y1, spessore, y2 - y1, campione);
-        pagina_.Barra(x2, y1, spessore, y2 - y1, campione);
+        pagina_.Barra(x1, y1, x2 - x1, spessore, P);
+        pagina_.Barra(x1, y1, spessore, y2 - y1, P);
+        pagina_.Barra(x2, y1, spessore, y2 - y1, P);
         // Longer by its own thickness: the right bar stands beyond x2, and the corner is closed.
-        pagina_.Barra(x1, y2, x2 - x1 + spessore, spessore, campione);
+        pagina_.Barra(x1, y2, x2 - x1 + spessore, spessore, P);
     } else if (tipo == TipoLineaSuperiore) {
-        pagina_.Barra(x1, y1, x2 - x1, spessore, campione);
+        pagina_.Barra(x1, y1, x2 - x1, spessore, P);
     }
 }
 
