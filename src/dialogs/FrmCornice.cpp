@@ -77,7 +77,7 @@ void FrmCornice::Carica(int k)
 
 void FrmCornice::ImpostaBordo(const QString &testo, bool abilitato)
 {
-    ui_->Bordo->setText(testo);
+    MostraDallInizio(ui_->Bordo, testo);
     ui_->Bordo->setEnabled(abilitato);
 }
 

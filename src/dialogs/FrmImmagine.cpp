@@ -12,6 +12,8 @@
 
 #include <QKeyEvent>
 
+#include <cmath>
+
 namespace {
 
 constexpr double LarghezzaGrande = 19;     // mm
@@ -177,14 +179,15 @@ void FrmImmagine::MostraAvviso(const QString &testo)
 bool FrmImmagine::ChiedeRiduzione(const QSizeF &misura)
 {
     const QString larghezzaPrima = ui_->Largh->text();
-    ui_->Largh->setText(NumeroSingolo(misura.width()));
-    const double percentuale = ChiedePercentuale();
-    if (percentuale == 0) {
-        ui_->Largh->setText(larghezzaPrima);
+    MostraDallInizio(ui_->Largh, NumeroSingolo(misura.width()));
+    const QSizeF ridotta = misura * ChiedePercentuale() / Intero;
+    // A size beyond a double is as little wanted as none.
+    if (ridotta.isNull() || !std::isfinite(ridotta.width()) || !std::isfinite(ridotta.height())) {
+        MostraDallInizio(ui_->Largh, larghezzaPrima);
         return false;
     }
-    Caselle().Mostra(ui_->Largh, misura.width() * percentuale / Intero);
-    Caselle().Mostra(ui_->Alt, misura.height() * percentuale / Intero);
+    Caselle().Mostra(ui_->Largh, ridotta.width());
+    Caselle().Mostra(ui_->Alt, ridotta.height());
     return true;
 }
 

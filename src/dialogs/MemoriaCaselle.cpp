@@ -2,10 +2,15 @@
 
 #include "model/Numeri.h"
 
-void MemoriaCaselle::Mostra(QLineEdit *casella, const QString &testo)
+void MostraDallInizio(QLineEdit *casella, const QString &testo)
 {
     casella->setText(testo);
     casella->setCursorPosition(0);
+}
+
+void MemoriaCaselle::Mostra(QLineEdit *casella, const QString &testo)
+{
+    MostraDallInizio(casella, testo);
     riempimenti_.insert(casella, {casella->text(), testo, std::nullopt});
 }
 

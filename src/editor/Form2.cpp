@@ -1,5 +1,6 @@
 #include "editor/Form2.h"
 
+#include "dialogs/MemoriaCaselle.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
 #include "editor/PaginaSfondo.h"
@@ -85,13 +86,13 @@ bool Form2::Form_Load()
     }
     anteprima_ = std::make_unique<Frm1>(stato_);
     CreaPagine();
+    LimitaAlCodice(this); // before the filling, which it would show from the end
     ui_->Label21->setText(stato_.CartellaModelli);
     ui_->Label21->setToolTip(stato_.CartellaModelli);
-    ui_->Tipo->setText(stato_.Aperto.Tipo);
+    MostraDallInizio(ui_->Tipo, stato_.Aperto.Tipo);
     righe_->Mostra();
     spostamento_->Mostra();
     sfondo_->Mostra();
-    LimitaAlCodice(this);
     ImpostaHelp(this);
     Collegamenti();
     CollegaAnteprima();

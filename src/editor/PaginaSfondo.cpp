@@ -2,6 +2,7 @@
 
 #include "base/ErroreSistema.h"
 #include "catalogue/Sfoglia.h"
+#include "dialogs/MemoriaCaselle.h"
 #include "editor/TestiEsplicativi.h"
 #include "model/Numeri.h"
 #include "platform/FiltroAnsi.h"
@@ -17,6 +18,8 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
+#include <cmath>
+
 namespace {
 
 constexpr double PassoSpostamento = 0.5; // mm
@@ -31,7 +34,35 @@ void MostraTesto(QLineEdit *casella, const QString &testo)
 {
     // Filling a box is no edit: the model keeps the text that was read.
     const QSignalBlocker muto(casella);
-    casella->setText(testo);
+    MostraDallInizio(casella, testo);
+}
+
+/// The size at that percentage; nothing when it is beyond a double.
+std::optional<QSizeF> Ridotta(const QSizeF &naturali, const QString &percentuale)
+{
+    constexpr double Intero = 100; // percent
+    try {
+        const QSizeF misura = naturali * Numeri::Val(percentuale) / Intero;
+        if (std::isfinite(misura.width()) && std::isfinite(misura.height())) {
+            return misura;
+        }
+    } catch (const ErroreSistema &) {
+        return std::nullopt; // the percentage alone is beyond it
+    }
+    return std::nullopt;
+}
+
+void SelezionaTutto(QLineEdit *casella)
+{
+    // Queued, because the press that brings the focus still places the cursor afterwards. From the
+    // end backwards, so that the beginning of a long text stays in sight.
+    QMetaObject::invokeMethod(
+        casella,
+        [casella] {
+            const int lunghezza = static_cast<int>(casella->text().size());
+            casella->setSelection(lunghezza, -lunghezza);
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace
@@ -165,9 +196,14 @@ void PaginaSfondo::ChiedeDimensione()
     if (!risposta) {
         return; // cancelled: the sizes stay as they are
     }
-    const double percentuale = Numeri::Val(*risposta);
-    ui_->SfondoXimmagine->setText(TestoNumero(naturali.width() * percentuale / 100));
-    ui_->SfondoYImmagine->setText(TestoNumero(naturali.height() * percentuale / 100));
+    const std::optional<QSizeF> misura = Ridotta(naturali, *risposta);
+    if (!misura) {
+        Messaggi::Mostra(
+            window(), QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(*risposta));
+        return;
+    }
+    MostraDallInizio(ui_->SfondoXimmagine, TestoNumero(misura->width()));
+    MostraDallInizio(ui_->SfondoYImmagine, TestoNumero(misura->height()));
     emit Variato();
 }
 
@@ -203,7 +239,7 @@ void PaginaSfondo::SfondoSfoglia_Click()
         Messaggi::Mostra(window(), rifiuto);
         return;
     }
-    ui_->SfondoFileImmagine->setText(scelto);
+    MostraDallInizio(ui_->SfondoFileImmagine, scelto);
     emit Variato();
     ImpostaImmagineSfondo(true);
     emit ModificaConclusa();
@@ -233,14 +269,24 @@ void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
 {
     const double posto = Numeri::Val(casella->text()) + passo;
     emit Variato();
-    casella->setText(TestoNumero(posto));
+    MostraDallInizio(casella, TestoNumero(posto));
     ImpostaImmagineSfondo(false);
     emit ModificaConclusa();
 }
 
-void PaginaSfondo::TogliFile()
+void PaginaSfondo::SfondoXimmagine_GotFocus()
 {
-    if (stato_.Aperto.Sfondo.File.isEmpty()) {
+    SelezionaTutto(ui_->SfondoXimmagine);
+}
+
+void PaginaSfondo::SfondoYimmagine_GotFocus()
+{
+    SelezionaTutto(ui_->SfondoYImmagine);
+}
+
+void PaginaSfondo::VisualizzaImmagineSfondo_MouseDown(Qt::MouseButton bottone)
+{
+    if (bottone != Qt::RightButton || stato_.Aperto.Sfondo.File.isEmpty()) {
         return;
     }
     ui_->SfondoFileImmagine->clear();
@@ -252,14 +298,15 @@ void PaginaSfondo::TogliFile()
 bool PaginaSfondo::eventFilter(QObject *oggetto, QEvent *evento)
 {
     if (oggetto == ui_->VisualizzaImmagineSfondo && evento->type() == QEvent::MouseButtonPress) {
-        if (static_cast<QMouseEvent *>(evento)->button() == Qt::RightButton) {
-            Guardia(window(), [this] { TogliFile(); });
-            return true;
-        }
-    } else if (evento->type() == QEvent::FocusIn) {
-        if (auto *casella = qobject_cast<QLineEdit *>(oggetto)) {
-            // Queued, because the press that brings the focus still places the cursor afterwards.
-            QMetaObject::invokeMethod(casella, "selectAll", Qt::QueuedConnection);
+        const Qt::MouseButton bottone = static_cast<QMouseEvent *>(evento)->button();
+        Guardia(window(), [&] { VisualizzaImmagineSfondo_MouseDown(bottone); });
+        return bottone == Qt::RightButton;
+    }
+    if (evento->type() == QEvent::FocusIn) {
+        if (oggetto == ui_->SfondoXimmagine) {
+            SfondoXimmagine_GotFocus();
+        } else if (oggetto == ui_->SfondoYImmagine) {
+            SfondoYimmagine_GotFocus();
         }
     }
     return QWidget::eventFilter(oggetto, evento);

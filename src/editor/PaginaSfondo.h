@@ -36,6 +36,11 @@ public:
     void SfondoSpostaDx_Click();
     void SfondoSpostaSu_Click();
     void SfondoSpostaGiu_Click();
+    /// Select the whole text, so that typing replaces it.
+    void SfondoXimmagine_GotFocus();
+    void SfondoYimmagine_GotFocus();
+    /// The right button empties the file; the others are the check box's own.
+    void VisualizzaImmagineSfondo_MouseDown(Qt::MouseButton bottone);
 
 signals:
     void Variato();
@@ -53,7 +58,6 @@ private:
     void ChiedeDimensione();
     void SegnalaGuasto(const ErroreSistema &errore);
     void Sposta(QLineEdit *casella, double passo);
-    void TogliFile();
     /// From now on a file that cannot be loaded is told again.
     void RiprendeMessaggi() { guastoMostrato_.clear(); }
 

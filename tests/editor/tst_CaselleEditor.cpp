@@ -4,6 +4,9 @@
 #include "model/FileModello.h"
 #include "support/ImmaginiDiProva.h"
 
+#include <QAbstractItemView>
+#include <QTabWidget>
+
 namespace {
 
 /// Types a text into a box in the place of its own.
@@ -42,6 +45,15 @@ QColor Colore(const Form2 &editor, double x, double y)
     return foto.toImage().pixelColor(qRound(x * scala), qRound(y * scala));
 }
 
+/// Whether a box too narrow for its text shows the beginning of it.
+bool MostraLInizio(QLineEdit &casella)
+{
+    casella.setFixedWidth(60);
+    casella.grab(); // painting scrolls the text to the cursor
+    return casella.fontMetrics().horizontalAdvance(casella.text()) > casella.width() &&
+           casella.cursorPositionAt({2, casella.height() / 2}) == 0;
+}
+
 } // namespace
 
 class tst_CaselleEditor : public QObject
@@ -55,6 +67,16 @@ private slots:
     void NumeriDelleRigheNonToccatiRestanoEsatti();
     void TipoAnnullatoValeComeSiVede();
     void SfondoAnnullatoDopoUnoZoomSiRidisegna();
+    void INumeriLunghiMostranoLInizio();
+    void LaMisuraCalcolataMostraLInizio();
+    void LaSelezioneAllEntrataMostraLInizio();
+    void PercentualeTroppoGrandeRifiutataComeNumero_data();
+    void PercentualeTroppoGrandeRifiutataComeNumero();
+    void ColoriFuoriDallaTavolozzaSonoNeri();
+    void IlFuocoNascondeIlMarcatoreDelGenere_data();
+    void IlFuocoNascondeIlMarcatoreDelGenere();
+    void GliElenchiSiApronoSuVentiRighe_data();
+    void GliElenchiSiApronoSuVentiRighe();
 };
 
 void tst_CaselleEditor::SeguePagAnnullatoValeComeSiVede()
@@ -141,6 +163,174 @@ void tst_CaselleEditor::SfondoAnnullatoDopoUnoZoomSiRidisegna()
     QCOMPARE(Colore(*prova.Editor, 15, 85), QColor(Qt::red));
     QCOMPARE(Colore(*prova.Editor, 60, 85), QColor(Qt::white));
     prova.Editor->Variato = false;
+}
+
+void tst_CaselleEditor::INumeriLunghiMostranoLInizio()
+{
+    EditoreDiProva prova;
+    Modello &modello = prova.Archivio.Aperto();
+    constexpr double Lungo = -1.23456789012345e-105;
+    const QString testo = QStringLiteral("123456789012345678901234567890");
+    modello.Righe = {Lungo, Lungo, Lungo, Lungo, testo};
+    modello.Sfondo = {testo, testo, testo, testo, testo, 0};
+    modello.Tipo = testo;
+    QVERIFY(prova.Apre());
+    for (const char *nome :
+         {"yInizio", "yFine", "Interlinea", "InterlineaDescr", "SeguePag", "SfondoFileImmagine",
+          "SfondoXimmagine", "SfondoYImmagine", "SfondoXPosImm", "SfondoYPosImm", "Tipo"}) {
+        auto *casella = Trova<QLineEdit>(*prova.Editor, nome);
+        QVERIFY2(MostraLInizio(*casella),
+                 qPrintable(QString::fromLatin1(nome) + u' ' + casella->text()));
+    }
+}
+
+void tst_CaselleEditor::LaMisuraCalcolataMostraLInizio()
+{
+    EditoreDiProva prova;
+    prova.Archivio.Aperto().Sfondo.File = Scansione(prova.Archivio, 40, 40);
+    prova.Archivio.Aperto().Sfondo.Visualizza = 1;
+    prova.Archivio.Aperto().Sfondo.XPos = QStringLiteral("1.123456789012");
+    QVERIFY(prova.Apre());
+    Robot robot;
+    robot.Digita(QStringLiteral("33.3333333333333"));
+    Preme(*prova.Editor, "Command8");
+    QVERIFY(robot.Soddisfatto());
+    Preme(*prova.Editor, "SfondoSpostaDx");
+    for (const char *nome : {"SfondoXimmagine", "SfondoYImmagine", "SfondoXPosImm"}) {
+        QVERIFY2(MostraLInizio(*Trova<QLineEdit>(*prova.Editor, nome)), nome);
+    }
+    prova.Editor->Variato = false;
+}
+
+void tst_CaselleEditor::LaSelezioneAllEntrataMostraLInizio()
+{
+    EditoreDiProva prova;
+    const QString lungo = QStringLiteral("123456789012345678901234567890");
+    prova.Archivio.Aperto().Sfondo.Ximmagine = lungo;
+    QVERIFY(prova.Apre());
+    Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(5);
+    prova.Editor->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    auto *casella = Trova<QLineEdit>(*prova.Editor, "SfondoXimmagine");
+    casella->setFocus();
+    QTRY_COMPARE(casella->selectedText(), lungo);
+    QVERIFY(MostraLInizio(*casella));
+}
+
+void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero_data()
+{
+    QTest::addColumn<QString>("risposta");
+    QTest::newRow("oltre un doppio") << QStringLiteral("1e400");
+    QTest::newRow("misura oltre un doppio") << QStringLiteral("1e308");
+}
+
+void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero()
+{
+    QFETCH(QString, risposta);
+    EditoreDiProva prova;
+    const ImmagineSfondo sfondo{Scansione(prova.Archivio, 40, 40),
+                                QStringLiteral("40"),
+                                QStringLiteral("40"),
+                                QStringLiteral("20"),
+                                QStringLiteral("150"),
+                                1};
+    prova.Archivio.Aperto().Sfondo = sfondo;
+    QVERIFY(prova.Apre());
+    Robot robot;
+    robot.Digita(risposta).Ok();
+    Preme(*prova.Editor, "Command8");
+    QVERIFY2(robot.Soddisfatto(), "one mistake, one box");
+    QCOMPARE(robot.Testi().value(1),
+             QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(risposta));
+    QCOMPARE(prova.Archivio.Aperto().Sfondo, sfondo);
+    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
+    QVERIFY(!prova.Editor->Variato);
+}
+
+void tst_CaselleEditor::ColoriFuoriDallaTavolozzaSonoNeri()
+{
+    EditoreDiProva prova;
+    prova.Archivio.AggiungeCornice(QStringLiteral("Riquadro"), 50, 60, 40, 20);
+    Cornice &cornice = prova.Archivio.Aperto().Cornici[1];
+    cornice.Bordo = 1.9;
+    cornice.ColoreCornice = 4;
+    QVERIFY(prova.Apre());
+    const auto rosso = [&] { return Colore(*prova.Editor, 70, 60); };
+    QVERIFY(rosso() != QColor(Qt::black));
+    for (const char *testo : {"99", "-7", "32767"}) {
+        Robot robot;
+        robot.Agisce([testo](QDialog *d) {
+            Trova<QLineEdit>(*d, "ColoreCorn")->setText(QString::fromLatin1(testo));
+            Trova<QLineEdit>(*d, "ColoreTesto")->setText(QString::fromLatin1(testo));
+            Preme(*d, "Command1");
+        });
+        prova.ApreProprieta(Genere::Cornice, 1);
+        QVERIFY(robot.Soddisfatto());
+        QCOMPARE(int(prova.Archivio.Aperto().Cornici[1].ColoreCornice), QByteArray(testo).toInt());
+        prova.Foto();
+        QCOMPARE(rosso(), QColor(Qt::black));
+        QCOMPARE(prova.Stampa(), QStringList());
+    }
+    prova.Editor->Variato = false;
+}
+
+void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere_data()
+{
+    QTest::addColumn<QByteArray>("combo");
+    QTest::addColumn<int>("pagina");
+    QTest::addColumn<QString>("nascosto");
+    QTest::newRow("ComboCampi") << QByteArray("ComboCampi") << 0 << QStringLiteral("S1");
+    QTest::newRow("ComboCornici") << QByteArray("ComboCornici") << 2 << QStringLiteral("S2");
+    QTest::newRow("ComboImmagini") << QByteArray("ComboImmagini") << 3 << QStringLiteral("S3");
+}
+
+void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere()
+{
+    QFETCH(QByteArray, combo);
+    QFETCH(int, pagina);
+    QFETCH(QString, nascosto);
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(1);
+    QVERIFY(prova.Apre());
+    prova.Editor->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(pagina);
+    Trova<QLineEdit>(*prova.Editor, "Tipo")->setFocus();
+    Frm1 &anteprima = *prova.Editor->Anteprima();
+    for (const Genere genere : Generi) {
+        anteprima.Seleziona(genere, 1);
+    }
+    Trova<QComboBox>(*prova.Editor, combo.constData())->setFocus();
+    for (const QString &marcatore :
+         {QStringLiteral("S1"), QStringLiteral("S2"), QStringLiteral("S3")}) {
+        QCOMPARE(ElementoAnteprima(anteprima, marcatore)->isVisible(), marcatore != nascosto);
+    }
+}
+
+void tst_CaselleEditor::GliElenchiSiApronoSuVentiRighe_data()
+{
+    QTest::addColumn<QByteArray>("combo");
+    QTest::addColumn<int>("pagina");
+    QTest::newRow("ComboCampi") << QByteArray("ComboCampi") << 0;
+    QTest::newRow("ComboCornici") << QByteArray("ComboCornici") << 2;
+    QTest::newRow("ComboImmagini") << QByteArray("ComboImmagini") << 3;
+}
+
+void tst_CaselleEditor::GliElenchiSiApronoSuVentiRighe()
+{
+    QFETCH(QByteArray, combo);
+    QFETCH(int, pagina);
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(100);
+    QVERIFY(prova.Apre());
+    Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(pagina);
+    auto *elenco = Trova<QComboBox>(*prova.Editor, combo.constData());
+    elenco->showPopup();
+    QTRY_VERIFY(elenco->view()->isVisible());
+    const double righe =
+        double(elenco->view()->viewport()->height()) / elenco->view()->sizeHintForRow(0);
+    QVERIFY2(righe > 10 && righe <= 20.5, qPrintable(QString::number(righe)));
+    elenco->hidePopup();
 }
 
 QTEST_MAIN(tst_CaselleEditor)
