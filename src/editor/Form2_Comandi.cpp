@@ -29,11 +29,17 @@ bool Form2::SalvareVariazioni()
     }
     bool salvato = false;
     Guardia(this, [&] {
-        if (PuoSovrascrivere()) {
-            const PuntatoreOccupato occupato;
-            ScriveSulDisco();
-            Variato = false;
-            salvato = true;
+        try {
+            if (PuoSovrascrivere()) {
+                const PuntatoreOccupato occupato;
+                ScriveSulDisco();
+                Variato = false;
+                salvato = true;
+            }
+        } catch (const ErroreSistema &errore) {
+            throw ErroreSistema(errore.numero,
+                                QStringLiteral("%1\nsalvataggio del file %2")
+                                    .arg(errore.descrizione, stato_.Aperto.NomeFile));
         }
     });
     return salvato;

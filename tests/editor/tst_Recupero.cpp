@@ -651,7 +651,8 @@ void tst_Recupero::SalvatoNonostanteLErroreNonChiede()
     Preme(editor, "Salva");
     Disco::UsaSincronizzazione(nullptr, nullptr);
     QVERIFY(robot.Soddisfatto());
-    QCOMPARE(robot.Testi().constLast(), QStringLiteral("errore 57 Errore di I/O della periferica"));
+    QCOMPARE(robot.Testi().constLast(), QStringLiteral("errore 57 Errore di I/O della periferica\n"
+                                                       "salvataggio del file Prova.Mod"));
     QVERIFY(editor.Variato);
     QVERIFY2(prova.Riletto().Campi[1].X == 60.0, "the new file had its place already");
     prova.Aperto().Campi[1].X = 70;

@@ -132,7 +132,8 @@ void tst_SalvataggioImpossibile::SalvaDiceIlPerche()
         Preme(*prova.Editor, "Salva");
     }
     QVERIFY(robot.Soddisfatto());
-    QCOMPARE(robot.Testi().constLast(), messaggio);
+    QCOMPARE(robot.Testi().constLast(),
+             messaggio + QStringLiteral("\nsalvataggio del file Prova.Mod"));
     QVERIFY(prova.Editor->Variato);
     QCOMPARE(prova.Archivio.ByteDelFile(), prima);
     QCOMPARE(NomiIn(prova.Archivio.Stato().CartellaModelli), nomi);
