@@ -1,9 +1,11 @@
 #include "platform/Messaggi.h"
 
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -61,6 +63,25 @@ int Esegue(QDialog &riquadro)
     return riquadro.exec();
 }
 
+/// Qt keeps a place for the icon and indents the text beside it, also where there is none.
+void SenzaRientro(const QMessageBox &riquadro)
+{
+    auto *testo = riquadro.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    auto *griglia = qobject_cast<QGridLayout *>(riquadro.layout());
+    if (testo == nullptr || griglia == nullptr) {
+        return; // a box of the system's own
+    }
+    testo->setIndent(0);
+    testo->setContentsMargins({});
+    QLayoutItem *posto = griglia->itemAtPosition(0, 0);
+    if (posto != nullptr && posto->spacerItem() != nullptr) {
+        griglia->removeItem(posto);
+        delete posto;
+        griglia->removeWidget(testo);
+        griglia->addWidget(testo, 0, 0, 1, griglia->columnCount());
+    }
+}
+
 void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icona)
 {
     if (soloErroreStandard) {
@@ -70,6 +91,9 @@ void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icon
     QMessageBox riquadro(icona, Messaggi::Titolo, Leggibile(testo), QMessageBox::Ok, padre);
     riquadro.setTextFormat(Qt::PlainText);
     riquadro.button(QMessageBox::Ok)->setText(QStringLiteral("OK"));
+    if (icona == QMessageBox::NoIcon) {
+        SenzaRientro(riquadro);
+    }
     Esegue(riquadro);
 }
 
