@@ -43,8 +43,8 @@ private:
     bool SceglieConTasto(int tasto);
     /// Makes the file that the record names the current one of the list.
     void IndicaFileScelto();
-    /// Natural size in mm; 0 x 0 for a picture that cannot be loaded, which a line below the list
-    /// then says.
+    /// Natural size in mm, which the preview's scratch image Itmp would take; 0 x 0, as without a
+    /// picture in it, for one that cannot be loaded, which a line below the list then says.
     QSizeF MisuraImmagine();
     void MostraAvviso(const QString &testo);
     /// Proposes the percentage that makes a large picture fit and shows the reduced size; false

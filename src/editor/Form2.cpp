@@ -133,20 +133,14 @@ void Form2::Collegamenti()
         SegnaVariato();
     });
     Collega(ui_->Tipo, &QLineEdit::editingFinished, this, &Form2::ModificaConclusa);
-    Collega(&Pagina(Genere::Campo), &PaginaElementi::Aggiunge, this, &Form2::Aggiungicampo_Click);
-    Collega(&Pagina(Genere::Cornice), &PaginaElementi::Aggiunge, this,
-            &Form2::AggiungiCornice_Click);
-    Collega(&Pagina(Genere::Immagine), &PaginaElementi::Aggiunge, this,
-            &Form2::AggiungiImmagine_Click);
+    CollegaPagina(Genere::Campo, &Form2::Aggiungicampo_Click, &Form2::VariazioneCampo_Click,
+                  &Form2::Command1_Click, &Form2::ComboCampi_GotFocus);
+    CollegaPagina(Genere::Cornice, &Form2::AggiungiCornice_Click, &Form2::VariazioneCornice_Click,
+                  &Form2::Command3_Click, &Form2::ComboCornici_GotFocus);
+    CollegaPagina(Genere::Immagine, &Form2::AggiungiImmagine_Click,
+                  &Form2::VariazioneImmagine_Click, &Form2::Command4_Click,
+                  &Form2::ComboImmagini_GotFocus);
     Collega(&Pagina(Genere::Cornice), &PaginaElementi::EliminaTutte, this, &Form2::Command7_Click);
-    for (const Genere genere : Generi) {
-        PaginaElementi *pagina = &Pagina(genere);
-        Collega(pagina, &PaginaElementi::Modifica, this, [this, genere] { Modifica(genere); });
-        Collega(pagina, &PaginaElementi::PrimoPiano, this,
-                [this, genere] { anteprima_->PrimoPiano(genere); });
-        Collega(pagina, &PaginaElementi::FuocoPreso, this,
-                [this, genere] { anteprima_->NascondiMarcatore(genere); });
-    }
     connect(righe_, &PaginaRighe::Variato, this, &Form2::SegnaVariato);
     connect(sfondo_, &PaginaSfondo::Variato, this, &Form2::SegnaVariato);
     Collega(righe_, &PaginaRighe::ModificaConclusa, this, &Form2::ModificaConclusa);
@@ -155,6 +149,16 @@ void Form2::Collegamenti()
         ModificaConclusa();
     });
     Collega(sfondo_, &PaginaSfondo::ModificaConclusa, this, &Form2::ModificaConclusa);
+}
+
+void Form2::CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica,
+                          Procedura primoPiano, Procedura fuocoPreso)
+{
+    const PaginaElementi *pagina = &Pagina(genere);
+    Collega(pagina, &PaginaElementi::Aggiunge, this, aggiunge);
+    Collega(pagina, &PaginaElementi::Modifica, this, modifica);
+    Collega(pagina, &PaginaElementi::PrimoPiano, this, primoPiano);
+    Collega(pagina, &PaginaElementi::FuocoPreso, this, fuocoPreso);
 }
 
 void Form2::CollegaAnteprima()
@@ -248,6 +252,36 @@ void Form2::VariazioneCornice_Click()
 void Form2::VariazioneImmagine_Click()
 {
     Modifica(Genere::Immagine);
+}
+
+void Form2::Command1_Click()
+{
+    anteprima_->PrimoPianoCampi();
+}
+
+void Form2::Command3_Click()
+{
+    anteprima_->PrimoPianoCornici();
+}
+
+void Form2::Command4_Click()
+{
+    anteprima_->PrimoPianoImmagini();
+}
+
+void Form2::ComboCampi_GotFocus()
+{
+    anteprima_->NascondiMarcatore(Genere::Campo);
+}
+
+void Form2::ComboCornici_GotFocus()
+{
+    anteprima_->NascondiMarcatore(Genere::Cornice);
+}
+
+void Form2::ComboImmagini_GotFocus()
+{
+    anteprima_->NascondiMarcatore(Genere::Immagine);
 }
 
 void Form2::Modifica(Genere genere)

@@ -64,7 +64,13 @@ public:
     void Elimina_Click();
     void Stampa_Click();
     void StampaRetino_Click();
+    void Command1_Click(); ///< restack the fields by area
+    void Command3_Click(); ///< restack the frames by area
+    void Command4_Click(); ///< restack the images by area
     void Command7_Click(); ///< delete all frames
+    void ComboCampi_GotFocus();
+    void ComboCornici_GotFocus();
+    void ComboImmagini_GotFocus();
     void Image1_Click();
     void SSTab1_Click();
     /// Hides the selection markers and restacks images, frames and fields by area.
@@ -80,7 +86,10 @@ protected:
     void moveEvent(QMoveEvent *evento) override;
 
 private:
+    using Procedura = void (Form2::*)();
     void Collegamenti();
+    void CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica, Procedura primoPiano,
+                       Procedura fuocoPreso);
     void CollegaAnteprima();
     void CollegaDialogo(FrmElemento &dialogo);
     PaginaElementi &Pagina(Genere genere) const;

@@ -30,6 +30,8 @@ public:
     /// Prefixes the item with " ELIMINATO: ", which keeps it from being opened.
     void SegnaEliminata(int indice);
     bool VoceEliminata() const;
+    /// The chosen element, 0 for the separator. The commands ask for it when they need it: choosing
+    /// an item (ComboCampi_Click, ComboCornici_Click, ComboImmagini_Change) does nothing by itself.
     int Indice() const;
 
 signals:
