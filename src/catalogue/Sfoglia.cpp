@@ -82,6 +82,7 @@ Sfoglia::Sfoglia(QWidget *padre)
     ui_->setupUi(this);
     ui_->File1->setModel(file_);
     resize(EntroLoSchermo(this, size()));
+    FermaRotella(this);
     CollegaSegnali();
 }
 

@@ -34,10 +34,12 @@ void FrmCarattere::RiempieComboImpostazioni()
     }
 }
 
-void FrmCarattere::MostraCarattere(const QString &testo, bool grassetto)
+void FrmCarattere::MostraCarattere(const QString &testo, bool grassetto, qint16 dimensione)
 {
     Caselle().Mostra(carattere_.Testo, testo);
+    MettePrimo(carattere_.Testo);
     carattere_.Bold->setChecked(grassetto);
+    dimensione_ = dimensione;
 }
 
 bool FrmCarattere::eventFilter(QObject *oggetto, QEvent *evento)
@@ -57,6 +59,13 @@ FrmCarattere::Carattere FrmCarattere::CarattereScelto() const
 {
     if (carattere_.ComboFont->currentText().isEmpty()) {
         throw Rifiuto{QStringLiteral("Font: nessuno scelto"), carattere_.ComboFont};
+    }
+    if (carattere_.ComboDim->currentText().isEmpty()) {
+        throw Rifiuto{
+            QStringLiteral("%1: l'elemento ha %2, che non è nell'elenco; sceglierne una da %3 a %4")
+                .arg(carattere_.ComboDim->accessibleName(), QString::number(dimensione_),
+                     QString::number(DimensioneMinima), QString::number(DimensioneMassima)),
+            carattere_.ComboDim};
     }
     return {carattere_.ComboFont->currentText(), carattere_.Bold->isChecked() ? Vero : Falso,
             Intero16(carattere_.ComboDim, carattere_.ComboDim->currentText())};

@@ -41,23 +41,24 @@ protected:
     /// A double click in the box Nome is Nome_DblClick.
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
-    /// Throws Rifiuto when no size is chosen.
+    /// Throws Rifiuto when no font or no size is chosen.
     Carattere CarattereScelto() const;
     template <typename Elemento>
     static void Scrive(Elemento &elemento, const Carattere &carattere);
 
 private:
     void Nome_DblClick();
-    void MostraCarattere(const QString &testo, bool grassetto);
+    void MostraCarattere(const QString &testo, bool grassetto, qint16 dimensione);
 
     QLineEdit *nome_ = nullptr;
     ControlliCarattere carattere_;
+    qint16 dimensione_ = 0; ///< the element's own, points; ComboDim may lack it
 };
 
 template <typename Elemento>
 void FrmCarattere::CaricaCarattere(const Elemento &elemento)
 {
-    MostraCarattere(elemento.Testo, elemento.Grassetto != Falso);
+    MostraCarattere(elemento.Testo, elemento.Grassetto != Falso, elemento.Dimensione);
 }
 
 template <typename Elemento>

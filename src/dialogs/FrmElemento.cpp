@@ -45,6 +45,7 @@ void FrmElemento::Form_Load(const Controlli &controlli)
     controlli_.Num->setPalette(tavolozza);
     ImpostaHelp(this);
     LimitaAlCodice(this);
+    FermaRotella(this);
 }
 
 void FrmElemento::CaricaElemento(int k)
@@ -55,8 +56,14 @@ void FrmElemento::CaricaElemento(int k)
     caselle_.Mostra(controlli_.X, aperto.X(genere_, k));
     caselle_.Mostra(controlli_.Y, aperto.Y(genere_, k));
     controlli_.Num->setText(QString::number(k));
-    controlli_.Nome->setFocus();
-    controlli_.Nome->selectAll();
+}
+
+void FrmElemento::MettePrimo(QLineEdit *casella)
+{
+    casella->setFocus();
+    // Backwards, so that a long text shows its beginning.
+    const int lunghezza = static_cast<int>(casella->text().size());
+    casella->setSelection(lunghezza, -lunghezza);
 }
 
 int FrmElemento::Indice() const

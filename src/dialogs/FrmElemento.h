@@ -58,6 +58,10 @@ protected:
     /// table, with the dialog untouched.
     void CaricaElemento(int k);
 
+    /// The box in which the dialog opens, never the name's: a stray key must not rename the
+    /// element.
+    static void MettePrimo(QLineEdit *casella);
+
     Modello &Aperto() { return stato_.Aperto; }
     const Modello &Aperto() const { return stato_.Aperto; }
     const StatoProgramma &Stato() const { return stato_; }

@@ -65,6 +65,7 @@ void FrmImmagine::Carica(int k)
     Caselle().Mostra(ui_->Largh, immagine.Larghezza);
     Caselle().Mostra(ui_->Alt, immagine.Altezza);
     MostraAvviso({});
+    MettePrimo(ui_->Descrizione);
     Guardia(this, [this] { RiempieFileImmagini(); });
 }
 

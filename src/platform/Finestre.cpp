@@ -4,6 +4,8 @@
 #include "platform/FiltroAnsi.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QEvent>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTranslator>
@@ -23,6 +25,20 @@ constexpr int LunghezzaDiQt = 32767;
 
 /// The room that a title bar and borders may take, not known before a window is shown.
 constexpr QSize Bordi(16, 48);
+
+class FiltroRotella : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override
+    {
+        if (evento->type() != QEvent::Wheel) {
+            return QObject::eventFilter(oggetto, evento);
+        }
+        evento->ignore(); // so that it goes on to the list's parent
+        return true;
+    }
+};
 
 QScreen *SchermoDi(const QWidget *finestra)
 {
@@ -119,5 +135,12 @@ void LimitaAlCodice(QWidget *finestra)
         casella->installEventFilter(new FiltroTasti(casella));
         QObject::connect(casella, &QPlainTextEdit::textChanged, casella,
                          [casella] { ToglieNonAnsi(casella); });
+    }
+}
+
+void FermaRotella(QWidget *finestra)
+{
+    for (QComboBox *elenco : finestra->findChildren<QComboBox *>()) {
+        elenco->installEventFilter(new FiltroRotella(elenco));
     }
 }

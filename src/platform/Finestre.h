@@ -42,3 +42,7 @@ public:
 /// Makes every text box below the window refuse characters that a model file cannot hold, typed or
 /// pasted, and lifts the length limit that would cut a long text.
 void LimitaAlCodice(QWidget *finestra);
+
+/// Lets the wheel pass over every closed list below the window, which would change what is chosen
+/// in it; what lies below the list may scroll instead.
+void FermaRotella(QWidget *finestra);

@@ -57,6 +57,7 @@ private slots:
     void Drive_radice();
     void Drive_nonDisponibile();
     void Drive_fileNellaRadice();
+    void Drive_laRotellaNonLoCambia();
     void SceltaDaTastiera();
     void DiecimilaFile();
     void GuidaNonAssegnata();
@@ -494,6 +495,17 @@ void tst_Sfoglia::Drive_fileNellaRadice()
     Mostra(s, radice + file.first());
     QCOMPARE(s.CartellaAperta(), radice);
     QCOMPARE(RisultatoSfoglia(), radice + file.first());
+}
+
+void tst_Sfoglia::Drive_laRotellaNonLoCambia()
+{
+    Sfoglia s;
+    s.show();
+    Drive(s)->addItem(QStringLiteral("un altro"));
+    const int scelto = Drive(s)->currentIndex();
+    QVERIFY2(!Controlli::GiraRotella(Drive(s), -1), "taken by the list");
+    QVERIFY(!Controlli::GiraRotella(Drive(s), 1));
+    QCOMPARE(Drive(s)->currentIndex(), scelto);
 }
 
 void tst_Sfoglia::SceltaDaTastiera()

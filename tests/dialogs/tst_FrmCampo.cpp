@@ -97,7 +97,6 @@ private slots:
     void CaricaIlCampo();
     void CaricaUnIndiceFuoriTabellaEErrore9();
     void LaDidascaliaSegueLaMaschera();
-    void IlFuocoStaSulNome();
 
     void ConfermaScriveTuttiIValori();
     void ConfermaSegnalaAnteprimaPoiElenco();
@@ -118,7 +117,6 @@ private slots:
     void TestoCheNonENumero();
     void NumeriConLaVirgolaDellaLocale();
     void IndiceFuoriTabellaAllaConferma();
-    void DimensioneNonScelta();
 
     void CambiaMascheraVuotaNonFaNulla();
     void DaNumericoAdAlfanumericoRifiutato();
@@ -294,12 +292,6 @@ void TestFrmCampo::LaDidascaliaSegueLaMaschera()
     QCOMPARE(didascalia(), QStringLiteral("ripristina stampa campo"));
     Digita(p.dialogo, "Maschera", QStringLiteral("NO"));
     QCOMPARE(didascalia(), QStringLiteral("non stampare campo"));
-}
-
-void TestFrmCampo::IlFuocoStaSulNome()
-{
-    const Prova p;
-    QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, "Nome"));
 }
 
 void TestFrmCampo::ConfermaScriveTuttiIValori()
@@ -579,18 +571,6 @@ void TestFrmCampo::IndiceFuoriTabellaAllaConferma()
     }
     QVERIFY(p.stato.Aperto == prima);
     QVERIFY(p.segnali.Voci().isEmpty() && p.dialogo.isVisible());
-}
-
-void TestFrmCampo::DimensioneNonScelta()
-{
-    Prova p;
-    const Modello prima = p.stato.Aperto;
-    p.robot.Ok().Ok();
-    p.dialogo.Dimensioni()->setCurrentIndex(-1);
-    Preme(p.dialogo, "PConfemaCampo");
-    Preme(p.dialogo, "Command2");
-    QCOMPARE(p.robot.Testi(), QStringList(2, QStringLiteral("Dim.: manca il numero")));
-    QVERIFY(p.stato.Aperto == prima && p.segnali.Voci().isEmpty());
 }
 
 void TestFrmCampo::CambiaMascheraVuotaNonFaNulla()

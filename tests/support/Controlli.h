@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QString>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 
 /// Works the controls of a window as a user does, finding them by their names.
@@ -48,6 +49,18 @@ inline void Digita(QWidget &finestra, const char *nome, const QString &testo)
 inline QString Testo(const QWidget &finestra, const char *nome)
 {
     return Trova<QLineEdit>(finestra, nome)->text();
+}
+
+/// Turns the wheel over a control; true when the control takes it for itself.
+inline bool GiraRotella(QWidget *controllo, int scatti)
+{
+    constexpr int Scatto = 120; // eighths of a degree
+    const QPointF centro = controllo->rect().center();
+    QWheelEvent giro(centro, controllo->mapToGlobal(centro), {}, {0, scatti * Scatto}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    giro.ignore();
+    QCoreApplication::sendEvent(controllo, &giro);
+    return giro.isAccepted();
 }
 
 } // namespace Controlli
