@@ -146,6 +146,7 @@ int StampaSenzaFinestre(const Richieste &richieste)
                 })) {
                 return;
             }
+            stato.Aperto.ArrotondaTutti();
             StampaPdf(stato.Aperto, stato.CartellaModelli, richieste);
         }
         if (!richieste.anteprima.isEmpty()) {

@@ -1,5 +1,7 @@
 #include "model/Modello.h"
 
+#include "model/Numeri.h"
+
 #include <algorithm>
 
 namespace {
@@ -139,6 +141,29 @@ int Modello::AggiungeImmagine(double x, double y)
     immagine.Larghezza = 50;
     immagine.Bordo = 1;
     return n;
+}
+
+void Modello::Arrotonda(Genere genere, int indice)
+{
+    if (genere == Genere::Campo) {
+        Campo &campo = Campi[indice];
+        campo.Y = CampoDiRiga(campo) ? Righe.yInizio : Numeri::Ar(campo.Y);
+        campo.X = Numeri::Ar(campo.X);
+    } else if (genere == Genere::Cornice) {
+        Cornice &cornice = Cornici[indice];
+        for (double *valore : {&cornice.Larghezza, &cornice.Altezza, &cornice.X, &cornice.Y}) {
+            *valore = Numeri::Ar(*valore);
+        }
+    }
+}
+
+void Modello::ArrotondaTutti()
+{
+    for (const Genere genere : Generi) {
+        for (int i = 1; i <= UltimoSlot(genere); ++i) {
+            Arrotonda(genere, i);
+        }
+    }
 }
 
 bool CampoDiRiga(const Campo &campo)

@@ -145,6 +145,12 @@ struct Modello
     int AggiungeCornice(double x, double y, int minuto, int secondo);
     int AggiungeImmagine(double x, double y);
 
+    /// Gives the element the place at which it is shown and printed: fields and frames stand at
+    /// whole millimetres (frames' sizes too), a row field at yInizio, images where they are.
+    void Arrotonda(Genere genere, int indice);
+    /// Arrotonda for every element.
+    void ArrotondaTutti();
+
 private:
     /// One body for the constant and the changeable model.
     template <typename Questo, typename Azione>

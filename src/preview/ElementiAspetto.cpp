@@ -1,7 +1,6 @@
 // How the controls take their look and their place from the model.
 
 #include "base/ErroreSistema.h"
-#include "model/Numeri.h"
 #include "model/StatoProgramma.h"
 #include "model/Tavolozza.h"
 #include "platform/Immagini.h"
@@ -90,21 +89,6 @@ void ElementiFoglio::CaricaImmagine(int i)
     static_cast<RiquadroImmagine &>(Elemento(Genere::Immagine, i)).Carica(percorso);
 }
 
-void ElementiFoglio::ArrotondaCampo(int i)
-{
-    Campo &campo = stato_.Aperto.Campi[i];
-    campo.Y = CampoDiRiga(campo) ? stato_.Aperto.Righe.yInizio : Numeri::Ar(campo.Y);
-    campo.X = Numeri::Ar(campo.X);
-}
-
-void ElementiFoglio::ArrotondaCornice(int i)
-{
-    Cornice &cornice = stato_.Aperto.Cornici[i];
-    for (double *valore : {&cornice.Larghezza, &cornice.Altezza, &cornice.X, &cornice.Y}) {
-        *valore = Numeri::Ar(*valore);
-    }
-}
-
 QRectF ElementiFoglio::PostoDa(Genere genere, int i) const
 {
     const Modello &modello = stato_.Aperto;
@@ -140,16 +124,9 @@ void ElementiFoglio::ScriveSuggerimentoManiglia(Genere genere, int i)
 void ElementiFoglio::Posiziona(Genere genere, int i, bool mosso)
 {
     ControlloElemento &controllo = Elemento(genere, i);
-    switch (genere) {
-    case Genere::Campo:
-        ArrotondaCampo(i);
-        break;
-    case Genere::Cornice:
-        ArrotondaCornice(i);
-        break;
-    case Genere::Immagine:
+    stato_.Aperto.Arrotonda(genere, i);
+    if (genere == Genere::Immagine) {
         CaricaImmagine(i);
-        break;
     }
     controllo.Colloca(PostoDa(genere, i));
     AncoraManiglia(genere, i);

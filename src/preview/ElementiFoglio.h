@@ -78,8 +78,6 @@ private:
     void ImpostaCornice(int i);
     void ImpostaImmagine(int i);
     void CaricaImmagine(int i);
-    void ArrotondaCampo(int i);
-    void ArrotondaCornice(int i);
     QRectF PostoDa(Genere genere, int i) const;
     double Area(Genere genere, int i) const;
     void ScriveSuggerimentoManiglia(Genere genere, int i);

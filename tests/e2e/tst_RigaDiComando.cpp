@@ -1,3 +1,4 @@
+#include "model/FileModello.h"
 #include "support/FileDiProva.h"
 #include "support/LettorePdf.h"
 
@@ -18,6 +19,7 @@ private slots:
     void versione();
     void stampaInPdf();
     void stampaConINomi();
+    void stampaComeLEditor();
     void anteprima();
     void pdfEAnteprimaInsieme();
     void modelloMancante();
@@ -138,6 +140,39 @@ void tst_RigaDiComando::stampaConINomi()
     const LettorePdf foglio(pdf);
     QVERIFY(foglio.Testi().contains(QStringLiteral("Doc_Numero")));
     QVERIFY(!foglio.Testi().contains(QStringLiteral("128/A")));
+}
+
+void tst_RigaDiComando::stampaComeLEditor()
+{
+    // The editor moves a row field to the rows' start and everything else to whole millimetres.
+    ::Modello modello;
+    modello.Righe.yInizio = 95.3;
+    const auto campo = [&](const char *nome, double x, double y) {
+        Campo &nuovo = modello.Campi[modello.AggiungeCampo(x, y)];
+        nuovo.Nome = QString::fromLatin1(nome);
+        nuovo.Testo = nuovo.Nome;
+    };
+    campo("R_Qta", 20, 231.7);
+    campo("Totale", 30.5, 40.49);
+    Cornice &cornice = modello.Cornici[modello.AggiungeCornice(50.5, 150.4, 1, 1)];
+    cornice.Testo.clear();
+    cornice.Larghezza = 40.5;
+    cornice.Altezza = 20.6;
+    const QString file = In(QStringLiteral("Frazioni.Mod"));
+    FileModello::ScriveModello(modello, file);
+
+    const QString pdf = In(QStringLiteral("foglio.pdf"));
+    const Esito esito = Esegue({QStringLiteral("--modello"), file, QStringLiteral("--pdf"), pdf});
+    QCOMPARE(esito.errori, QString());
+    const LettorePdf foglio(pdf);
+    const auto vicini = [](double a, double b) { return std::abs(a - b) < 0.1; };
+    const QRectF riga = foglio.Parola1(QStringLiteral("R_Qta"));
+    const QRectF totale = foglio.Parola1(QStringLiteral("Totale"));
+    QVERIFY(vicini(riga.left(), 20) && vicini(totale.left(), 31));
+    QVERIFY2(vicini(riga.top() - totale.top(), 95.3 - 40), qPrintable(QString::number(riga.top())));
+    const QRectF quadro = foglio.Inchiostro(QRectF(45, 140, 60, 40));
+    QVERIFY(vicini(quadro.left(), 51) && vicini(quadro.top(), 150));
+    QVERIFY(vicini(quadro.width(), 41.3) && vicini(quadro.height(), 21.3));
 }
 
 void tst_RigaDiComando::anteprima()

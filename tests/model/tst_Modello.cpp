@@ -34,6 +34,8 @@ private slots:
     void CampoDiRiga_data();
     void CampoDiRiga();
     void EUnValore();
+    void ArrotondaAMillimetriInteri();
+    void ArrotondaLeRigheAllInizio();
 };
 
 Q_DECLARE_METATYPE(Genere)
@@ -359,6 +361,38 @@ void tst_Modello::EUnValore()
     modello.Campi[1].X = 3;
     QVERIFY(!(copia == modello));
     QCOMPARE(copia.Campi[1].X, 1.0);
+}
+
+void tst_Modello::ArrotondaAMillimetriInteri()
+{
+    Modello modello;
+    modello.AggiungeCampo(30.5, -2.5);
+    modello.AggiungeCornice(50.49, 60.5, 1, 1);
+    modello.Cornici[1].Larghezza = 40.5;
+    modello.Cornici[1].Altezza = 7.4;
+    modello.AggiungeImmagine(70.7, 80.2);
+    modello.Immagini[1].Larghezza = 11.5;
+    Modello atteso = modello;
+    atteso.Campi[1].X = 31;
+    atteso.Campi[1].Y = -2;
+    atteso.Cornici[1].X = 50;
+    atteso.Cornici[1].Y = 61;
+    atteso.Cornici[1].Larghezza = 41;
+    atteso.Cornici[1].Altezza = 7;
+    modello.ArrotondaTutti(); // images stay as they are
+    QVERIFY(modello == atteso);
+    QCOMPARE(ErroreDi([&] { modello.Arrotonda(Genere::Campo, 101); }), 9);
+}
+
+void tst_Modello::ArrotondaLeRigheAllInizio()
+{
+    Modello modello;
+    modello.Righe.yInizio = 95.3;
+    modello.AggiungeCampo(10.5, 231.7);
+    modello.Campi[1].Nome = QStringLiteral("R_Qta");
+    modello.ArrotondaTutti();
+    QCOMPARE(modello.Campi[1].X, 11.0);
+    QCOMPARE(modello.Campi[1].Y, 95.3);
 }
 
 QTEST_GUILESS_MAIN(tst_Modello)
