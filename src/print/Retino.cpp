@@ -18,12 +18,15 @@ constexpr double RientroBordo = 1;    ///< mm by which the far edges fall inside
 constexpr int PrimaLinea = 20;        ///< mm
 constexpr int PuntiNumeri = 8;
 
-/// Calls azione for primo, primo + 10 ... up to fine, which is rounded to a whole millimetre.
+/// mm; the page's measures come from points and inches, and a bound that falls on a whole
+/// millimetre must not lose its line to the last digit of a double.
+constexpr double ScartoDiConversione = 1e-6;
+
+/// Calls azione for primo, primo + 10 ... up to fine.
 template <typename Azione>
 void OgniCentimetro(int primo, double fine, Azione azione)
 {
-    const double ultimo = Numeri::PariPiuVicino(fine);
-    for (int v = primo; v <= ultimo; v += Centimetro) {
+    for (int v = primo; v <= fine + ScartoDiConversione; v += Centimetro) {
         azione(v);
     }
 }
@@ -38,7 +41,8 @@ void Bordo(Pagina &pagina, double w, double h)
 
 void RigheNumerate(Pagina &pagina, double w, double h)
 {
-    OgniCentimetro(Centimetro, w - MargineTacche, [&](int x) {
+    // The top ruler's numbers alone may reach half a millimetre further.
+    OgniCentimetro(Centimetro, Numeri::PariPiuVicino(w - MargineTacche), [&](int x) {
         pagina.Linea(x, 0, x, TaccaNumerata);
         pagina.Posizione(x - PrimaDellaTacca, pagina.Posizione().y());
         pagina.Stampa(QString::number(x));

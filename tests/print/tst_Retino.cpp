@@ -47,6 +47,7 @@ void tst_Retino::foglio_data()
     QTest::newRow("200 mm wide") << QSizeF(210, 297) << QMarginsF(5, 5, 5, 5);
     QTest::newRow("a printer's usual margins") << QSizeF(210, 297) << QMarginsF(4.2, 4.9, 4.2, 4.9);
     QTest::newRow("A5 across") << QSizeF(210, 148) << QMarginsF(3, 3, 3, 3);
+    QTest::newRow("bounds just short of whole centimetres") << QSizeF(194.68, 294.7) << QMarginsF();
     QTest::newRow("uneven area") << QSizeF(157.3, 203.8) << QMarginsF(1.4, 2.6, 3.1, 0.5);
 }
 
@@ -75,10 +76,14 @@ void tst_Retino::foglio()
         QList<double> numerate = Tratti(pdf, punto(2, 2.6), orizzontale, fine - 2);
         QList<double> attese;
         QList<double> atteseNumerate;
-        const double ultima = std::nearbyint(lunghezza - 5);
-        for (int v = 5; v <= ultima; v += 5) {
-            attese.append(v);
-            if (v % 10 == 0) {
+        // Only the numbers at the top have a bound rounded to a whole millimetre.
+        const double ultima = lunghezza - 5;
+        const double ultimaNumerata = orizzontale ? std::nearbyint(ultima) : ultima;
+        for (int v = 5; v <= std::max(ultima, ultimaNumerata); v += 5) {
+            if (v <= (v % 10 == 0 ? ultimaNumerata : ultima)) {
+                attese.append(v);
+            }
+            if (v % 10 == 0 && v <= ultimaNumerata) {
                 atteseNumerate.append(v);
             }
         }
@@ -99,7 +104,7 @@ void tst_Retino::foglio()
         const QPointF inizio = origine + (orizzontale ? QPointF(15.5, 25) : QPointF(25, 15.5));
         const QList<double> linee = Tratti(pdf, inizio, orizzontale, lunghezza - 31);
         QList<double> attese;
-        for (int v = 20; v <= std::nearbyint(lunghezza - 15); v += 10) {
+        for (int v = 20; v <= lunghezza - 15; v += 10) {
             attese.append(v);
         }
         QCOMPARE(linee.size(), attese.size());
@@ -145,7 +150,7 @@ void tst_Retino::foglio()
     for (int x = 10; x <= std::nearbyint(w - 5); x += 10, ++numeri) {
         numero(x, QPointF(x - 2, 3));
     }
-    for (int y = 10; y <= std::nearbyint(h - 5); y += 10, ++numeri) {
+    for (int y = 10; y <= h - 5; y += 10, ++numeri) {
         numero(y, QPointF(3, y - 2));
     }
     QCOMPARE(pdf.Parole().size(), numeri);
