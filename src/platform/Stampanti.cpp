@@ -1,11 +1,10 @@
 #include "platform/Stampanti.h"
 
 #include "base/ErroreSistema.h"
+#include "platform/Testo.h"
 
 #include <QFile>
-#include <QFont>
 #include <QFontDatabase>
-#include <QFontInfo>
 #include <QPrinterInfo>
 
 #include <algorithm>
@@ -14,15 +13,6 @@ namespace {
 
 constexpr QLatin1String Arial("Arial");
 constexpr int RisoluzionePdf = 1200;
-
-/// True when the system sets Arial with a face of its own choosing made to the same widths.
-bool ArialSostituito()
-{
-    const QFontInfo trovato{QFont(Arial)};
-    return trovato.family().contains(QLatin1String("Liberation Sans")) ||
-           trovato.family().contains(QLatin1String("Arimo")) ||
-           trovato.family().contains(QLatin1String("Nimbus Sans"));
-}
 
 /// The writer of PDF files tells nobody when the disk is full: its last words must be there.
 bool PdfIntero(const QString &percorso)
@@ -40,11 +30,11 @@ QStringList Stampanti::ElencoFont()
     QStringList famiglie;
     const QStringList tutte = QFontDatabase::families();
     for (const QString &famiglia : tutte) {
-        if (!QFontDatabase::isPrivateFamily(famiglia)) {
+        if (!QFontDatabase::isPrivateFamily(famiglia) && !FontGenerico(famiglia)) {
             famiglie.append(famiglia);
         }
     }
-    if (!famiglie.contains(Arial, Qt::CaseInsensitive) && ArialSostituito()) {
+    if (!famiglie.contains(Arial, Qt::CaseInsensitive) && FontSostituitoAllaPari(Arial)) {
         famiglie.append(Arial);
     }
     famiglie.sort(Qt::CaseInsensitive);

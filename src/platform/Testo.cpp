@@ -2,16 +2,97 @@
 
 #include "base/Misure.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+
+namespace {
+
+const auto Arial = QStringLiteral("Arial");
+
+/// Families of the users' own machines, and those that other systems make to the same widths.
+struct Gemelli
+{
+    std::array<QLatin1String, 2> Nomi;
+    std::array<QLatin1String, 3> Pari;
+};
+constexpr std::array<Gemelli, 3> FamiglieGemelle{{
+    {{QLatin1String("Arial"), QLatin1String("Helvetica")},
+     {QLatin1String("Liberation Sans"), QLatin1String("Arimo"), QLatin1String("Nimbus Sans")}},
+    {{QLatin1String("Times New Roman"), QLatin1String("Times")},
+     {QLatin1String("Liberation Serif"), QLatin1String("Tinos"), QLatin1String("Nimbus Roman")}},
+    {{QLatin1String("Courier New"), QLatin1String("Courier")},
+     {QLatin1String("Liberation Mono"), QLatin1String("Cousine"), QLatin1String("Nimbus Mono")}},
+}};
+
+bool Disponibile(const QString &famiglia)
+{
+    return (QFontDatabase::hasFamily(famiglia) && !FontGenerico(famiglia)) ||
+           FontSostituitoAllaPari(famiglia);
+}
+
+/// The fonts change only when one is installed, and texts are set by the hundred.
+class FontNoti
+{
+public:
+    FontNoti()
+    {
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
+                         [this] { noti_.clear(); });
+    }
+    bool Disponibile(const QString &famiglia)
+    {
+        const auto noto = noti_.constFind(famiglia);
+        return noto != noti_.constEnd() ? *noto : *noti_.insert(famiglia, ::Disponibile(famiglia));
+    }
+
+private:
+    QHash<QString, bool> noti_;
+};
+
+} // namespace
+
+bool FontGenerico(const QString &famiglia)
+{
+    static constexpr std::array<QLatin1String, 7> Generici{
+        QLatin1String("Serif"),     QLatin1String("Sans Serif"), QLatin1String("Sans-Serif"),
+        QLatin1String("Sans"),      QLatin1String("Monospace"),  QLatin1String("Cursive"),
+        QLatin1String("System-UI"),
+    };
+    return std::any_of(Generici.begin(), Generici.end(), [&](QLatin1String generico) {
+        return famiglia.compare(generico, Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool FontSostituitoAllaPari(const QString &famiglia)
+{
+    const auto e = [](const QString &nome) {
+        return
+            [&nome](QLatin1String altro) { return nome.compare(altro, Qt::CaseInsensitive) == 0; };
+    };
+    for (const Gemelli &gemelli : FamiglieGemelle) {
+        if (std::any_of(gemelli.Nomi.begin(), gemelli.Nomi.end(), e(famiglia))) {
+            const QString trovata = QFontInfo{QFont(famiglia)}.family();
+            return std::any_of(gemelli.Pari.begin(), gemelli.Pari.end(),
+                               [&](QLatin1String pari) { return trovata.contains(pari); });
+        }
+    }
+    return false;
+}
 
 QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel)
 {
+    static FontNoti noti;
     QFont carattere;
-    // As a list: a name is one family, whatever commas it has.
-    carattere.setFamilies({famiglia.trimmed().isEmpty() ? QStringLiteral("Arial") : famiglia});
+    // As a list: a name is one family, whatever commas it has. A family that is missing is not left
+    // to the system, whose choice would differ from what the dialogs announce.
+    carattere.setFamilies({noti.Disponibile(famiglia) ? famiglia : Arial});
     carattere.setStyleHint(QFont::SansSerif);
     carattere.setPixelSize(pixel);
     carattere.setBold(grassetto);

@@ -4,8 +4,15 @@
 #include <QSizeF>
 #include <QString>
 
+/// True for the system's names of a kind of font ("Sans Serif"), which are no fonts.
+bool FontGenerico(const QString &famiglia);
+
+/// True for a well-known family that the system does not have but sets with one of its own, made to
+/// the same widths.
+bool FontSostituitoAllaPari(const QString &famiglia);
+
 /// The font of a text of the model, on the screen as on paper: unhinted, pixel high. A family
-/// without a name is Arial, one that the system lacks falls back to a plain one.
+/// without a name, or that the system neither has nor sets to the same widths, is Arial.
 QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel);
 
 /// The points in which a text of the model is set, on the screen as on paper: a size of zero or

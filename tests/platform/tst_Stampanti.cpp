@@ -7,6 +7,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+namespace {
+
+const QStringList Generici{QStringLiteral("Serif"), QStringLiteral("Sans Serif"),
+                           QStringLiteral("Monospace")};
+
+} // namespace
+
 class tst_Stampanti : public QObject
 {
     Q_OBJECT
@@ -14,6 +21,7 @@ class tst_Stampanti : public QObject
 private slots:
     void elencoFont();
     void elencoFontSenzaDoppi();
+    void iNomiGenericiNonSonoFont();
     void senzaStampantePredefinita();
     void suPdfInMillimetri();
 };
@@ -24,7 +32,7 @@ void tst_Stampanti::elencoFont()
     QVERIFY(!elenco.isEmpty());
     QVERIFY2(elenco.contains(QStringLiteral("Arial")), "a new element's font must be on the list");
     for (const QString &famiglia : QFontDatabase::families()) {
-        if (!QFontDatabase::isPrivateFamily(famiglia)) {
+        if (!QFontDatabase::isPrivateFamily(famiglia) && !Generici.contains(famiglia)) {
             QVERIFY2(elenco.contains(famiglia), qPrintable(famiglia));
         }
     }
@@ -37,6 +45,14 @@ void tst_Stampanti::elencoFontSenzaDoppi()
     QStringList ordinato = elenco;
     ordinato.sort(Qt::CaseInsensitive);
     QCOMPARE(elenco, ordinato);
+}
+
+void tst_Stampanti::iNomiGenericiNonSonoFont()
+{
+    const QStringList elenco = Stampanti::ElencoFont();
+    for (const QString &nome : Generici) {
+        QVERIFY2(!elenco.contains(nome, Qt::CaseInsensitive), qPrintable(nome));
+    }
 }
 
 void tst_Stampanti::senzaStampantePredefinita()

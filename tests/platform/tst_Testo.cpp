@@ -28,7 +28,8 @@ private slots:
     void PuntiDiUnTesto();
     void SenzaNomeEArial();
     void UnNomeConVirgoleEUnFontSolo();
-    void UnFontCheNonEsisteSiMisuraLoStesso();
+    void UnFontCheNonEsisteEArial_data();
+    void UnFontCheNonEsisteEArial();
     void SuUnaRigaSoloCioCheSiVede();
 };
 
@@ -129,15 +130,32 @@ void TestTesto::SenzaNomeEArial()
 
 void TestTesto::UnNomeConVirgoleEUnFontSolo()
 {
-    const QString nome = QStringLiteral("Courier New, Arial");
-    QCOMPARE(CarattereDiTesto(nome, false, 100).families(), QStringList{nome});
+    const QString nome = QStringLiteral("Courier New, DejaVu Sans");
+    QCOMPARE(CarattereDiTesto(nome, false, 100), CarattereDiTesto(Arial, false, 100));
 }
 
-void TestTesto::UnFontCheNonEsisteSiMisuraLoStesso()
+void TestTesto::UnFontCheNonEsisteEArial_data()
 {
-    QVERIFY(
-        MisuraTesto(QStringLiteral("abc"), QStringLiteral("Font Mai Esistito"), 11, false).width() >
-        0);
+    QTest::addColumn<QString>("famiglia");
+    QTest::addColumn<QString>("attesa");
+    QTest::newRow("inventato") << QStringLiteral("Font Mai Esistito") << Arial;
+    QTest::newRow("nome generico") << QStringLiteral("Serif") << Arial;
+    QTest::newRow("altro nome generico") << QStringLiteral("monospace") << Arial;
+    QTest::newRow("installato") << QStringLiteral("DejaVu Sans") << QStringLiteral("DejaVu Sans");
+    QTest::newRow("installato, altre maiuscole")
+        << QStringLiteral("dejavu sans") << QStringLiteral("dejavu sans");
+    QTest::newRow("di pari larghezze")
+        << QStringLiteral("Times New Roman") << QStringLiteral("Times New Roman");
+}
+
+void TestTesto::UnFontCheNonEsisteEArial()
+{
+    QFETCH(QString, famiglia);
+    QFETCH(QString, attesa);
+    QCOMPARE(CarattereDiTesto(famiglia, false, 100), CarattereDiTesto(attesa, false, 100));
+    QCOMPARE(CarattereDiTesto(famiglia, false, 100).families(), QStringList{attesa});
+    const QString testo = QStringLiteral("Spett.le Ditta");
+    QCOMPARE(MisuraTesto(testo, famiglia, 11, true), MisuraTesto(testo, attesa, 11, true));
 }
 
 void TestTesto::SuUnaRigaSoloCioCheSiVede()

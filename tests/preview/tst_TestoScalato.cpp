@@ -216,6 +216,8 @@ void tst_TestoScalato::FontInesistente()
                                     QStringLiteral("a,b;\"c\"")}) {
         const TestoScalato testo = Testo(Frase, {famiglia});
         QVERIFY(testo.Misura(11).width() > 20);
+        QCOMPARE(testo.Misura(11), Testo(Frase, {QStringLiteral("Arial")}).Misura(11));
+        QCOMPARE(Dipinto(testo, 11), Dipinto(Testo(Frase, {QStringLiteral("Arial")}), 11));
         QVERIFY(!Inchiostro(Dipinto(testo, 11)).isEmpty());
     }
 }

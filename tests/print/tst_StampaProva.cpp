@@ -55,6 +55,7 @@ private slots:
     void campoInMillimetri();
     void lunghezzaGiusta_data();
     void lunghezzaGiusta();
+    void fontMancanteComeArial();
     void grassetto();
     void nomiInvece();
     void mascheraNo_data();
@@ -153,6 +154,22 @@ void tst_StampaProva::lunghezzaGiusta()
     const double larghezza = LarghezzaDisegnata(testo, famiglia, punti, grassetto);
     QVERIFY2(Vicini(parola.width(), larghezza),
              qPrintable(QStringLiteral("%1 instead of %2").arg(parola.width()).arg(larghezza)));
+}
+
+void tst_StampaProva::fontMancanteComeArial()
+{
+    const QString testo = QStringLiteral("SpettabileDitta");
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), testo, 10, 20).Font = QStringLiteral("Mai Esistito");
+    foglio.ConCampo(QStringLiteral("B"), testo, 10, 40).Font = QStringLiteral("Serif");
+    foglio.ConCampo(QStringLiteral("C"), testo, 10, 60);
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(pdf.Caratteri().size(), 1); // one face for all three
+    QCOMPARE(pdf.Parole().size(), 3);
+    const double larghezza = LarghezzaDisegnata(testo, QStringLiteral("Arial"), 11, false);
+    for (const auto &parola : pdf.Parole()) {
+        QVERIFY(Vicini(parola.Millimetri.width(), larghezza));
+    }
 }
 
 void tst_StampaProva::grassetto()
