@@ -15,6 +15,19 @@
 #include "print/Retino.h"
 #include "print/StampaProva.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+/// Lets the hourglass and the place of a closed question be painted before the program waits for
+/// the print system.
+void MostraAttesa()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
 void Form2::Salva_Click()
 {
     Variato = true;
@@ -107,6 +120,7 @@ void Form2::Stampa_Click()
     const auto stampante = Stampanti::Predefinita();
     StampaModello(stato_.Aperto, stato_.CartellaModelli, *stampante, StampaNome,
                   [this](const QString &testo) { Messaggi::Mostra(this, testo); });
+    MostraAttesa();
 }
 
 void Form2::StampaRetino_Click()
@@ -115,6 +129,7 @@ void Form2::StampaRetino_Click()
     const auto stampante = Stampanti::Predefinita();
     StampaRetino(*stampante);
 }
+    MostraAttesa();
 
 void Form2::Image1_Click()
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Destinazione.h"
+
 #include <QPrinter>
 #include <QStringList>
 
@@ -10,22 +12,21 @@ namespace Stampanti {
 
 inline constexpr int FontAlMassimo = 2000;
 
-/// The printer's font families. "Arial" is among them also where the system knows it only through
-/// substitution, so that models made elsewhere find their fonts.
+/// The printer's font families, without the system's generic names. "Arial" is among them also
+/// where the system knows it only through substitution, so that models made elsewhere find their
+/// fonts.
 QStringList ElencoFont();
 
-/// The default printer at its own page and highest resolution, origin at the printable corner, no
-/// fitting. Throws ErroreSistema 482 when there is none.
-std::unique_ptr<QPrinter> Predefinita();
+/// The default printer's own page at its highest resolution, origin at the printable corner, no
+/// fitting. Throws ErroreSistema 482 when there is none or when the print system does not answer
+/// within ten seconds.
+std::unique_ptr<Destinazione> Predefinita();
 
-/// A printer that writes an A4 sheet without margins to a PDF file, pictures lossless.
-std::unique_ptr<QPrinter> SuPdf(const QString &percorso);
+/// Writes an A4 sheet without margins to a PDF file, pictures lossless. Asks no print system.
+std::unique_ptr<Destinazione> SuPdf(const QString &percorso);
 
-/// False when the system no longer knows the printer; true for one that writes to a file.
-bool Pronta(const QPrinter &stampante);
-
-/// After the end of a document: false when it is known not to have been taken, because the printer
-/// has vanished or failed or the PDF file is not whole.
-bool Consegnata(const QPrinter &stampante);
+/// The system's default printer set to its own page and margins. Throws ErroreSistema 482 when
+/// there is none. It asks the print system, and waits for it as long as that takes.
+std::unique_ptr<QPrinter> NativaPredefinita();
 
 } // namespace Stampanti

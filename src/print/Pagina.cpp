@@ -3,12 +3,11 @@
 #include "base/ErroreSistema.h"
 #include "base/Misure.h"
 #include "platform/Immagini.h"
-#include "platform/Stampanti.h"
 #include "platform/Testo.h"
 #include "print/Sovrapposizione.h"
 
 #include <QFontMetricsF>
-#include <QPrinter>
+#include <QPageLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -41,18 +40,21 @@ std::pair<double, double> Tratto(double da, double a)
 
 } // namespace
 
-Pagina::Pagina(QPrinter &stampante)
-    : stampante_(stampante)
+Pagina::Pagina(Destinazione &destinazione)
+    : destinazione_(destinazione)
+    , dispositivo_(destinazione.Dispositivo())
 {
-    if (!Stampanti::Pronta(stampante) || !pittore_.begin(&stampante)) {
-        throw ErroreSistema(ErroreSistema::Stampante);
+    destinazione.Prepara();
+    if (!pittore_.begin(&dispositivo_)) {
+        throw destinazione.Rifiuto();
     }
-    pixelPerMillimetro_ = stampante.resolution() / Misure::MillimetriPerPollice;
+    risoluzione_ = dispositivo_.logicalDpiX();
+    pixelPerMillimetro_ = risoluzione_ / Misure::MillimetriPerPollice;
     area_ = QRectF(0, 0, InPixel(Larghezza()), InPixel(Altezza()));
     // The printer engines put their origin at a whole point near the corner, up to 0.18 mm off.
-    const QPointF angolo = stampante.pageRect(QPrinter::Millimeter).topLeft();
-    const QPointF origine =
-        stampante.pageLayout().paintRectPixels(stampante.resolution()).topLeft();
+    const QPageLayout foglio = dispositivo_.pageLayout();
+    const QPointF angolo = foglio.paintRect(QPageLayout::Millimeter).topLeft();
+    const QPointF origine = foglio.paintRectPixels(risoluzione_).topLeft();
     pittore_.translate(QPointF(InPixel(angolo.x()), InPixel(angolo.y())) - origine);
     Font({}, 0);
 }
@@ -60,24 +62,24 @@ Pagina::Pagina(QPrinter &stampante)
 Pagina::~Pagina()
 {
     if (!finita_) {
-        stampante_.abort();
+        destinazione_.Rinuncia();
     }
 }
 
 double Pagina::Larghezza() const
 {
-    return stampante_.pageRect(QPrinter::Millimeter).width();
+    return dispositivo_.pageLayout().paintRect(QPageLayout::Millimeter).width();
 }
 
 double Pagina::Altezza() const
 {
-    return stampante_.pageRect(QPrinter::Millimeter).height();
+    return dispositivo_.pageLayout().paintRect(QPageLayout::Millimeter).height();
 }
 
 void Pagina::Font(const QString &famiglia, int punti, bool grassetto)
 {
     font_ = CarattereDiTesto(famiglia, grassetto, UnitaPerPunto * int(PuntiDiTesto(punti)));
-    const QFontMetricsF misure(font_, &stampante_);
+    const QFontMetricsF misure(font_, &dispositivo_);
     const double millimetri = Misure::MillimetriPerPollice / UnitaPerPollice;
     ascendente_ = misure.ascent() * millimetri;
     interlinea_ = misure.lineSpacing() * millimetri;
@@ -87,7 +89,7 @@ void Pagina::Stampa(const QString &testo)
 {
     if (!testo.isEmpty() && Raggiungibile(posizione_.x()) && Raggiungibile(posizione_.y())) {
         const QPointF base(InPixel(posizione_.x()), InPixel(posizione_.y() + ascendente_));
-        const double scala = stampante_.resolution() / UnitaPerPollice;
+        const double scala = risoluzione_ / UnitaPerPollice;
         foglio_.Segni.append(Tracciati::Testo{base, font_, scala, SuUnaRiga(testo), colore_});
     }
     posizione_ = {0, posizione_.y() + interlinea_};
@@ -163,7 +165,7 @@ void Pagina::Dipinge()
     for (const Tracciati::Segno &segno : std::as_const(foglio_.Segni)) {
         Sovrapposizione::Dipinge(pittore_, segno);
     }
-    const auto pezze = Sovrapposizione::Pezze(foglio_, &stampante_, area_, stampante_.resolution());
+    const auto pezze = Sovrapposizione::Pezze(foglio_, &dispositivo_, area_, risoluzione_);
     for (const Sovrapposizione::Pezza &pezza : pezze) {
         DipingeImmagine(pezza.Posto, pezza.Immagine, true);
     }
@@ -173,7 +175,8 @@ void Pagina::Fine()
 {
     Dipinge();
     finita_ = true;
-    if (!pittore_.end() || !Stampanti::Consegnata(stampante_)) {
-        throw ErroreSistema(ErroreSistema::Stampante);
+    if (!pittore_.end()) {
+        throw destinazione_.Rifiuto();
     }
+    destinazione_.Consegna();
 }

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "platform/Destinazione.h"
 #include "print/Tracciati.h"
 
 #include <QPainter>
 #include <QPointF>
 #include <QRectF>
-
-class QPrinter;
 
 /// One printed page whose unit is the millimetre, from the corner of the printable area, x to the
 /// right and y downwards. It prints at true size whatever the printer's resolution and paper.
@@ -17,9 +16,9 @@ class Pagina
 public:
     static constexpr double LineaSottile = 0.1; ///< mm; a pen of no width is invisible at 1200 dpi
 
-    /// Starts the document; the printer must outlive the page. Throws ErroreSistema 482 when the
-    /// printer is gone or refuses.
-    explicit Pagina(QPrinter &stampante);
+    /// Starts the document; the destination must outlive the page. Throws the destination's
+    /// ErroreSistema when nothing can be printed there.
+    explicit Pagina(Destinazione &destinazione);
     /// Gives the document up unless Fine() was called.
     ~Pagina();
     Q_DISABLE_COPY_MOVE(Pagina)
@@ -47,7 +46,7 @@ public:
     /// page; what is transparent in it leaves the page as it is. Throws ErroreSistema 53 or 481.
     void FiguraAnd(const QString &percorso, const QRectF &millimetri);
 
-    /// Sends the page. Throws ErroreSistema 482 when the printer does not take it.
+    /// Sends the page. Throws the destination's ErroreSistema when it is not taken.
     void Fine();
 
 private:
@@ -63,7 +62,9 @@ private:
     void Dipinge();
     void DipingeImmagine(const QRectF &posto, const QImage &immagine, bool senzaPerdita);
 
-    QPrinter &stampante_;
+    Destinazione &destinazione_;
+    QPagedPaintDevice &dispositivo_;
+    int risoluzione_ = 0; ///< dots per inch
     QPainter pittore_;
     QRectF area_; ///< printable area, printer pixels
     double pixelPerMillimetro_;

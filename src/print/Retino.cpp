@@ -72,10 +72,10 @@ void Griglia(Pagina &pagina, double w, double h)
 
 } // namespace
 
-void StampaRetino(QPrinter &stampante)
+void StampaRetino(Destinazione &destinazione)
 {
-    stampante.setDocName(QStringLiteral("Griglia millimetrata"));
-    Pagina pagina(stampante);
+    destinazione.Titolo(QStringLiteral("Griglia millimetrata"));
+    Pagina pagina(destinazione);
     pagina.Font(QStringLiteral("arial"), PuntiNumeri);
     const double w = pagina.Larghezza();
     const double h = pagina.Altezza();

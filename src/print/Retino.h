@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QPrinter>
+class Destinazione;
 
-/// Prints one sheet with a grid and rulers in millimetres of the printable area. Throws
-/// ErroreSistema 482 when the printer refuses.
-void StampaRetino(QPrinter &stampante);
+/// Prints one sheet with a grid and rulers in millimetres of the printable area. Throws the
+/// destination's ErroreSistema when the sheet is not taken.
+void StampaRetino(Destinazione &destinazione);

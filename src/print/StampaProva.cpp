@@ -151,11 +151,11 @@ QString StampaProva::Diagnosi(const Immagine &immagine, const ErroreSistema &err
              QString::number(errore.numero), errore.descrizione, cartellaModelli_ + immagine.Nome);
 }
 
-void StampaModello(const Modello &modello, const QString &cartellaModelli, QPrinter &stampante,
-                   bool StampaNome, const Numeri::Avviso &avviso)
+void StampaModello(const Modello &modello, const QString &cartellaModelli,
+                   Destinazione &destinazione, bool StampaNome, const Numeri::Avviso &avviso)
 {
-    stampante.setDocName(modello.NomeFile);
-    Pagina pagina(stampante);
+    destinazione.Titolo(modello.NomeFile);
+    Pagina pagina(destinazione);
     StampaProva(modello, cartellaModelli, pagina, avviso).Stampa(StampaNome);
     pagina.Fine();
 }

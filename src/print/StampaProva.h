@@ -3,9 +3,9 @@
 #include "model/Modello.h"
 #include "model/Numeri.h"
 
-#include <QPrinter>
 #include <QRgb>
 
+class Destinazione;
 class Pagina;
 
 /// The test print of a model on one page: all fields, then all frames and captions, then all
@@ -57,6 +57,6 @@ private:
 };
 
 /// Prints the model on the printer. Messages about single elements go through avviso and do not
-/// stop the print; ErroreSistema 482 is thrown when the printer refuses.
-void StampaModello(const Modello &modello, const QString &cartellaModelli, QPrinter &stampante,
-                   bool StampaNome, const Numeri::Avviso &avviso);
+/// stop the print; the destination's ErroreSistema is thrown when it does not take the sheet.
+void StampaModello(const Modello &modello, const QString &cartellaModelli,
+                   Destinazione &destinazione, bool StampaNome, const Numeri::Avviso &avviso);

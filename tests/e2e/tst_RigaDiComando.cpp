@@ -240,10 +240,13 @@ void tst_RigaDiComando::immagineMancante()
 
 void tst_RigaDiComando::pdfNonScrivibile()
 {
-    const Esito esito = Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"),
-                                In(QStringLiteral("non/esiste/a.pdf"))});
+    const QString pdf = In(QStringLiteral("non/esiste/a.pdf"));
+    const Esito esito =
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"), pdf});
     QCOMPARE(esito.stato, 1);
-    QVERIFY2(esito.errori.contains(QStringLiteral("482")), qPrintable(esito.errori));
+    QVERIFY2(esito.errori.contains(QStringLiteral("impossibile scrivere ") + pdf),
+             qPrintable(esito.errori));
+    QVERIFY2(!esito.errori.contains(QStringLiteral("482")), qPrintable(esito.errori));
 }
 
 void tst_RigaDiComando::anteprimaNonScrivibile()

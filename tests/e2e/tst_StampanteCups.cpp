@@ -2,9 +2,11 @@
 #include "support/CodaDiStampa.h"
 #include "support/Errori.h"
 
-#include <QPrinterInfo>
+#include <QElapsedTimer>
 #include <QTest>
 
+#include <cmath>
+#include <functional>
 #include <optional>
 
 using namespace ImmaginiDiProva;
@@ -15,6 +17,7 @@ constexpr double MillimetriPerPunto = 25.4 / 72;
 
 const QString Prova = QStringLiteral("Prova");
 const QString Stretta = QStringLiteral("Stretta");
+const QString Particolare = QStringLiteral("Particolare");
 
 } // namespace
 
@@ -30,6 +33,12 @@ private slots:
     void areaStampabile();
     void foglioNormale_data();
     void foglioNormale();
+    void foglioDellaStampante_data();
+    void foglioDellaStampante();
+    void grigliaSulFoglioDellaStampante_data();
+    void grigliaSulFoglioDellaStampante();
+    void foglioOrizzontale();
+    void impostazioniCheRidurrebbero();
     void modelloPiuGrandeDelFoglio();
     void immagineMancante();
     void retino();
@@ -37,12 +46,22 @@ private slots:
     void senzaPredefinita();
     void svanitaPrimaDiStampare();
     void svanitaMentreStampa();
+    void codaCheRifiuta();
+    void codaCheRifiutaMentreStampa();
+    void quotaEsaurita();
+    void spoolNonScrivibile();
+    void cartellaTemporaneaMancante();
+    void serverBloccato_data();
+    void serverBloccato();
     void serverMorto();
 
 private:
     /// Prints and gives the only sheet back.
     LettorePdf Stampa(FoglioDiProva &foglio);
     LettorePdf UnicoFoglio();
+    /// What the user is told when the page cannot be printed; mentre runs while it is being
+    /// painted.
+    QString ErroreStampando(const std::function<void()> &mentre = [] {});
 
     std::optional<CodaDiStampa> coda_;
 };
@@ -88,6 +107,20 @@ LettorePdf tst_StampanteCups::Stampa(FoglioDiProva &foglio)
     return UnicoFoglio();
 }
 
+QString tst_StampanteCups::ErroreStampando(const std::function<void()> &mentre)
+{
+    FoglioDiProva foglio;
+    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("a"), 500, 10);
+    try {
+        const auto stampante = Stampanti::Predefinita();
+        StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
+                      [&](const QString &) { mentre(); });
+    } catch (const ErroreSistema &errore) {
+        return errore.Messaggio();
+    }
+    return {};
+}
+
 void tst_StampanteCups::areaStampabile_data()
 {
     QTest::addColumn<QString>("coda");
@@ -103,11 +136,10 @@ void tst_StampanteCups::areaStampabile()
     QFETCH(QRectF, punti);
     coda_->Predefinita(coda);
     const auto stampante = Stampanti::Predefinita();
-    QCOMPARE(stampante->printerName(), coda);
-    const QRectF area = stampante->pageRect(QPrinter::Millimeter);
+    const QRectF area = stampante->Dispositivo().pageLayout().paintRect(QPageLayout::Millimeter);
     const QRectF attesa(punti.topLeft() * MillimetriPerPunto, punti.size() * MillimetriPerPunto);
     QVERIFY2(Vicini(area.left(), attesa.left()) && Vicini(area.top(), attesa.top()), Testo(area));
-    // The description's sheet is rounded to whole points, the printer object's is a true A4.
+    // The description's sheet is rounded to whole points, the program's is a true A4.
     QVERIFY2(Vicini(area, attesa, 0.15), Testo(area));
 }
 
@@ -173,6 +205,104 @@ void tst_StampanteCups::foglioNormale()
     QCOMPARE(colore(35, 250.5), qRgb(0, 255, 0)); // cyan AND yellow
     QCOMPARE(colore(25, 250.5), qRgb(255, 255, 0));
     QCOMPARE(colore(35, 247), qRgb(0, 255, 255));
+}
+
+void tst_StampanteCups::foglioDellaStampante_data()
+{
+    QTest::addColumn<QString>("formato");
+    QTest::addColumn<QSizeF>("millimetri");
+    QTest::newRow("A4") << QStringLiteral("A4") << QSizeF(210, 297);
+    QTest::newRow("A5") << QStringLiteral("A5") << QSizeF(148, 210);
+    QTest::newRow("Letter") << QStringLiteral("Letter") << QSizeF(215.9, 279.4);
+    QTest::newRow("A3") << QStringLiteral("A3") << QSizeF(297, 420);
+    QTest::newRow("a form of its own") << QStringLiteral("Custom.240x350mm") << QSizeF(240, 350);
+    QTest::newRow("wider than high") << QStringLiteral("Custom.210x100mm") << QSizeF(210, 100);
+}
+
+void tst_StampanteCups::foglioDellaStampante()
+{
+    QFETCH(QString, formato);
+    QFETCH(QSizeF, millimetri);
+    const CodaDiStampa::Bordi bordi{10.3, 7.6, 20.9, 30.2};
+    coda_->Aggiunge(Stretta, bordi, {QStringLiteral("PageSize=") + formato});
+    coda_->Predefinita(Stretta);
+    // Near the printable corner, and near the far end of the sheet.
+    const double w = std::floor(millimetri.width() - 45);
+    const double h = std::floor(millimetri.height() - 40);
+    FoglioDiProva foglio;
+    foglio.ConCornice({5, 6, 20, 10}, 1.5);
+    foglio.ConCornice({w, h, 20, 10}, 1.5);
+    const LettorePdf pdf = Stampa(foglio);
+    QVERIFY(Vicini(pdf.Foglio().width(), millimetri.width(), 0.6)); // its own whole points
+    QVERIFY(Vicini(pdf.Foglio().height(), millimetri.height(), 0.6));
+    const QPointF angolo = QPointF(bordi.Sinistra, bordi.Sopra) * MillimetriPerPunto;
+    const QRectF vicino = pdf.Inchiostro(QRectF(angolo, QSizeF(30, 20))).translated(-angolo);
+    QVERIFY2(Vicini(vicino, QRectF(5, 6, 20.5, 10.5)), Testo(vicino));
+    const QRectF lontano =
+        pdf.Inchiostro(QRectF(angolo + QPointF(w - 2, h - 2), QSizeF(25, 15))).translated(-angolo);
+    QVERIFY2(Vicini(lontano, QRectF(w, h, 20.5, 10.5)), Testo(lontano));
+}
+
+void tst_StampanteCups::grigliaSulFoglioDellaStampante_data()
+{
+    foglioDellaStampante_data();
+}
+
+void tst_StampanteCups::grigliaSulFoglioDellaStampante()
+{
+    QFETCH(QString, formato);
+    QFETCH(QSizeF, millimetri);
+    coda_->Aggiunge(Prova, {}, {QStringLiteral("PageSize=") + formato});
+    const auto stampante = Stampanti::Predefinita();
+    StampaRetino(*stampante);
+    const LettorePdf pdf = UnicoFoglio();
+    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    // The last numbered ticks of both rulers stand at their millimetres.
+    const double x = std::floor((millimetri.width() - 24 * MillimetriPerPunto - 6) / 10) * 10;
+    const double y = std::floor((millimetri.height() - 28 * MillimetriPerPunto - 6) / 10) * 10;
+    const QRectF sopra =
+        pdf.Inchiostro(QRectF(angolo + QPointF(x - 1, 1), QSizeF(2, 1))).translated(-angolo);
+    QVERIFY2(Vicini(sopra.center().x(), x), Testo(sopra));
+    const QRectF sinistra =
+        pdf.Inchiostro(QRectF(angolo + QPointF(1, y - 1), QSizeF(1, 2))).translated(-angolo);
+    QVERIFY2(Vicini(sinistra.center().y(), y), Testo(sinistra));
+}
+
+void tst_StampanteCups::foglioOrizzontale()
+{
+    const CodaDiStampa::Bordi bordi{10.3, 7.6, 20.9, 30.2};
+    coda_->Aggiunge(Stretta, bordi, {QStringLiteral("orientation-requested-default=4")});
+    coda_->Predefinita(Stretta);
+    const auto stampante = Stampanti::Predefinita();
+    const QSizeF area =
+        stampante->Dispositivo().pageLayout().paintRect(QPageLayout::Millimeter).size();
+    QVERIFY(Vicini(area.width(), (842 - 7.6 - 30.2) * MillimetriPerPunto, 0.15));
+    QVERIFY(Vicini(area.height(), (595 - 10.3 - 20.9) * MillimetriPerPunto, 0.15));
+    FoglioDiProva foglio;
+    foglio.ConCornice({230, 20, 40, 10}, 1.5); // beyond the width of an upright sheet
+    const LettorePdf pdf = Stampa(foglio);
+    // The sheet lies upright and shows the page turned to the left.
+    QVERIFY(Vicini(pdf.Foglio().width(), 210, 0.3));
+    const double sopra = 842 * MillimetriPerPunto - bordi.Sotto * MillimetriPerPunto - 270.5;
+    const QRectF atteso(bordi.Sinistra * MillimetriPerPunto + 20, sopra, 10.5, 40.5);
+    const QRectF quadro = pdf.Inchiostro();
+    QVERIFY2(Vicini(quadro, atteso), Testo(quadro));
+}
+
+void tst_StampanteCups::impostazioniCheRidurrebbero()
+{
+    coda_->Aggiunge(Particolare, {},
+                    {QStringLiteral("fit-to-page-default=true"),
+                     QStringLiteral("number-up-default=2"),
+                     QStringLiteral("print-scaling-default=fit")});
+    coda_->Predefinita(Particolare);
+    FoglioDiProva foglio;
+    foglio.ConCornice({20, 30, 100, 100}, 1.5);
+    const LettorePdf pdf = Stampa(foglio);
+    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    const QRectF quadro = pdf.Inchiostro().translated(-angolo);
+    QVERIFY2(Vicini(quadro, QRectF(20, 30, 100.5, 100.5)), Testo(quadro));
+    coda_->Toglie(Particolare);
 }
 
 void tst_StampanteCups::modelloPiuGrandeDelFoglio()
@@ -273,6 +403,84 @@ void tst_StampanteCups::svanitaMentreStampa()
              }),
              int(ErroreSistema::Stampante));
     QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampanteCups::codaCheRifiuta()
+{
+    coda_->Rifiuta(Prova);
+    const QString errore = ErroreStampando([] { QFAIL("painted for a queue that takes nothing"); });
+    QVERIFY2(errore.startsWith(QLatin1String("errore 482 La stampante \"Prova\" non ha accettato")),
+             qPrintable(errore));
+    QVERIFY2(errore.contains(QLatin1String("rifiuta nuovi lavori")), qPrintable(errore));
+    QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampanteCups::codaCheRifiutaMentreStampa()
+{
+    const QString errore = ErroreStampando([this] { coda_->Rifiuta(Prova); });
+    QVERIFY2(errore.contains(QLatin1String("rifiuta nuovi lavori")), qPrintable(errore));
+    QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampanteCups::quotaEsaurita()
+{
+    coda_->Aggiunge(Particolare, {},
+                    {QStringLiteral("job-quota-period=3600"), QStringLiteral("job-k-limit=1")});
+    coda_->Predefinita(Particolare);
+    QCOMPARE(ErroreStampando(), QString());
+    QCOMPARE(coda_->Fogli().size(), 1);
+    const QString errore = ErroreStampando();
+    QVERIFY2(errore.contains(QLatin1String("non ha accettato la stampa: ")), qPrintable(errore));
+    QVERIFY(coda_->Fogli().isEmpty());
+    coda_->Toglie(Particolare);
+}
+
+void tst_StampanteCups::spoolNonScrivibile()
+{
+    coda_->SenzaSpool(true);
+    const QString errore = ErroreStampando();
+    coda_->SenzaSpool(false);
+    QVERIFY2(errore.contains(QLatin1String("non ha accettato la stampa: ")), qPrintable(errore));
+    QVERIFY(coda_->Fogli().isEmpty()); // and no job without a document holds the queue up
+    QCOMPARE(ErroreStampando(), QString());
+    QCOMPARE(coda_->Fogli().size(), 1);
+}
+
+void tst_StampanteCups::cartellaTemporaneaMancante()
+{
+    const QByteArray prima = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/cartella/che/non/esiste");
+    const QString errore = ErroreStampando();
+    prima.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", prima);
+    QCOMPARE(errore, QString());
+    QCOMPARE(coda_->Fogli().size(), 1);
+}
+
+void tst_StampanteCups::serverBloccato_data()
+{
+    QTest::addColumn<bool>("primaDiStampare");
+    QTest::newRow("before the print") << true;
+    QTest::newRow("while the page is painted") << false;
+}
+
+void tst_StampanteCups::serverBloccato()
+{
+    QFETCH(bool, primaDiStampare);
+    QElapsedTimer tempo;
+    tempo.start();
+    if (primaDiStampare) {
+        coda_->SiBlocca();
+    }
+    const QString errore = ErroreStampando([&] { coda_->SiBlocca(); });
+    const qint64 attesa = tempo.elapsed();
+    coda_->Riprende();
+    QVERIFY2(errore.startsWith(QLatin1String("errore 482 Il sistema di stampa non risponde")),
+             qPrintable(errore));
+    constexpr qint64 AlMassimo = 10'000;
+    QVERIFY2(attesa < AlMassimo, qPrintable(QString::number(attesa)));
+    coda_->Fogli();
+    QCOMPARE(ErroreStampando(), QString()); // and it serves again
+    QCOMPARE(coda_->Fogli().size(), 1);
 }
 
 void tst_StampanteCups::serverMorto()

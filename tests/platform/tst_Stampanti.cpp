@@ -65,6 +65,8 @@ void tst_Stampanti::senzaStampantePredefinita()
         QFAIL("a printer out of nothing");
     } catch (const ErroreSistema &errore) {
         QCOMPARE(errore.numero, int(ErroreSistema::Stampante));
+        QVERIFY(errore.descrizione.contains(QStringLiteral("Nessuna stampante predefinita")));
+        QVERIFY(errore.descrizione.contains(QStringLiteral("impostazioni del sistema")));
     }
 }
 
@@ -72,7 +74,7 @@ void tst_Stampanti::suPdfInMillimetri()
 {
     QTemporaryDir dir;
     const auto stampante = Stampanti::SuPdf(dir.filePath(QStringLiteral("foglio.pdf")));
-    const QRectF pagina = stampante->pageRect(QPrinter::Millimeter);
+    const QRectF pagina = stampante->Dispositivo().pageLayout().paintRect(QPageLayout::Millimeter);
     QCOMPARE(pagina.topLeft(), QPointF(0, 0));
     QVERIFY(qAbs(pagina.width() - 210) < 0.01 && qAbs(pagina.height() - 297) < 0.01);
 }

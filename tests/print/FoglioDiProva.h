@@ -59,12 +59,12 @@ public:
     QString Cartella() const { return dir_.path() + QDir::separator(); }
     QString Pdf() const { return dir_.filePath(QStringLiteral("foglio.pdf")); }
 
-    std::unique_ptr<QPrinter> Stampante() const
+    std::unique_ptr<Destinazione> Stampante() const
     {
         auto stampante = Stampanti::SuPdf(Pdf());
-        stampante->setPageSize(
+        stampante->Dispositivo().setPageSize(
             QPageSize(Misura, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
-        stampante->setPageMargins(Margini, QPageLayout::Millimeter);
+        stampante->Dispositivo().setPageMargins(Margini, QPageLayout::Millimeter);
         return stampante;
     }
 

@@ -643,9 +643,9 @@ void tst_StampaProva::stampanteCheRifiuta()
     QCOMPARE(ErroreDi([&] {
                  StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false, avviso);
              }),
-             int(ErroreSistema::Stampante));
+             int(ErroreSistema::AccessoFile));
     QVERIFY2(foglio.Avvisi.isEmpty(), "nothing is asked of a printer that does not begin");
-    QCOMPARE(ErroreDi([&] { StampaRetino(*stampante); }), int(ErroreSistema::Stampante));
+    QCOMPARE(ErroreDi([&] { StampaRetino(*stampante); }), int(ErroreSistema::AccessoFile));
 }
 
 void tst_StampaProva::discoPieno()
@@ -660,7 +660,7 @@ void tst_StampaProva::discoPieno()
                  StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
                                [](const QString &) {});
              }),
-             int(ErroreSistema::Stampante));
+             int(ErroreSistema::AccessoFile));
 }
 
 void tst_StampaProva::ordineDeiMessaggi()

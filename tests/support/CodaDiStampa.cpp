@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include <csignal>
 #include <grp.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -76,6 +77,7 @@ CodaDiStampa::CodaDiStampa()
 
 CodaDiStampa::~CodaDiStampa()
 {
+    Riprende();
     server_.terminate();
     if (!server_.waitForFinished(AttesaMassima)) {
         server_.kill();
@@ -147,26 +149,44 @@ QByteArray CodaDiStampa::Comando(const QString &programma, const QStringList &ar
     return processo.readAllStandardOutput();
 }
 
-void CodaDiStampa::Aggiunge(const QString &nome, const Bordi &bordi)
+void CodaDiStampa::Aggiunge(const QString &nome, const Bordi &bordi, const QStringList &opzioni)
 {
     QFile originale(Descrizione);
     if (!originale.open(QIODevice::ReadOnly)) {
         Fallisce(originale.errorString());
     }
-    constexpr double Larghezza = 595; // A4 in points, as the description gives it
-    constexpr double Altezza = 842;
-    QString testo = QString::fromLatin1(originale.readAll());
-    testo.replace(QStringLiteral("*ImageableArea A4/A4: \"0 0 595 842\""),
-                  QStringLiteral("*ImageableArea A4/A4: \"%1 %2 %3 %4\"")
-                      .arg(bordi.Sinistra)
-                      .arg(bordi.Sotto)
-                      .arg(Larghezza - bordi.Destra)
-                      .arg(Altezza - bordi.Sopra));
+    static const QRegularExpression Area(
+        QStringLiteral("^(\\*ImageableArea [^:]*: *)\"0 0 (\\d+) (\\d+)\"$"));
+    QStringList righe = QString::fromLatin1(originale.readAll()).split(u'\n');
+    for (QString &riga : righe) {
+        if (const auto area = Area.match(riga); area.hasMatch()) {
+            riga = QStringLiteral("%1\"%2 %3 %4 %5\"")
+                       .arg(area.captured(1))
+                       .arg(bordi.Sinistra)
+                       .arg(bordi.Sotto)
+                       .arg(area.captured(2).toInt() - bordi.Destra)
+                       .arg(area.captured(3).toInt() - bordi.Sopra);
+        } else if (riga.startsWith(QLatin1String("*HWMargins:"))) { // those of custom sizes
+            riga = QStringLiteral("*HWMargins: %1 %2 %3 %4")
+                       .arg(bordi.Sinistra)
+                       .arg(bordi.Sotto)
+                       .arg(bordi.Destra)
+                       .arg(bordi.Sopra);
+        }
+    }
     const QString descrizione = In(nome + QStringLiteral(".ppd"));
-    Scrive(descrizione, testo);
-    Comando(QStringLiteral("/usr/sbin/lpadmin"),
-            {QStringLiteral("-p"), nome, QStringLiteral("-E"), QStringLiteral("-v"),
-             QStringLiteral("cups-pdf:/") + istanza_, QStringLiteral("-P"), descrizione});
+    Scrive(descrizione, righe.join(u'\n'));
+    QStringList argomenti{QStringLiteral("-p"),
+                          nome,
+                          QStringLiteral("-E"),
+                          QStringLiteral("-v"),
+                          QStringLiteral("cups-pdf:/") + istanza_,
+                          QStringLiteral("-P"),
+                          descrizione};
+    for (const QString &opzione : opzioni) {
+        argomenti << QStringLiteral("-o") << opzione;
+    }
+    Comando(QStringLiteral("/usr/sbin/lpadmin"), argomenti);
 }
 
 void CodaDiStampa::Predefinita(const QString &nome)
@@ -177,6 +197,32 @@ void CodaDiStampa::Predefinita(const QString &nome)
 void CodaDiStampa::Toglie(const QString &nome)
 {
     Comando(QStringLiteral("/usr/sbin/lpadmin"), {QStringLiteral("-x"), nome});
+}
+
+void CodaDiStampa::Rifiuta(const QString &nome)
+{
+    Comando(QStringLiteral("/usr/sbin/cupsreject"), {nome});
+}
+
+void CodaDiStampa::SiBlocca()
+{
+    if (kill(pid_t(server_.processId()), SIGSTOP) != 0) {
+        Fallisce(QStringLiteral("cannot stop the print server"));
+    }
+}
+
+void CodaDiStampa::Riprende()
+{
+    kill(pid_t(server_.processId()), SIGCONT);
+}
+
+void CodaDiStampa::SenzaSpool(bool senza)
+{
+    const QString spool = In(QStringLiteral("spool"));
+    const QString via = spool + QStringLiteral(".via");
+    if (!QFile::rename(senza ? spool : via, senza ? via : spool)) {
+        Fallisce(QStringLiteral("cannot move the spool"));
+    }
 }
 
 QStringList CodaDiStampa::Fogli()

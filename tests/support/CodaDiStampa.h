@@ -34,10 +34,18 @@ public:
     /// The folder in which the sheets arrive.
     QString CartellaFogli() const;
 
-    /// Adds a queue for A4 sheets. Throws std::runtime_error.
-    void Aggiunge(const QString &nome, const Bordi &bordi);
+    /// Adds a queue for A4 sheets, with the margins on every size, or sets an existing one up anew.
+    /// opzioni are those of lpadmin's -o ("PageSize=A5"). Throws std::runtime_error.
+    void Aggiunge(const QString &nome, const Bordi &bordi, const QStringList &opzioni = {});
     void Predefinita(const QString &nome);
     void Toglie(const QString &nome);
+    /// The queue takes no jobs any more.
+    void Rifiuta(const QString &nome);
+    /// Stops the server where it stands: it takes calls and answers none. Riprende ends that.
+    void SiBlocca();
+    void Riprende();
+    /// Takes the folder away in which the server keeps the jobs' documents, or puts it back.
+    void SenzaSpool(bool senza);
 
     /// Waits until no job is left, then names the sheets that have come since the last call, oldest
     /// first. Throws std::runtime_error when the queue does not come to rest.

@@ -1,0 +1,277 @@
+#include "platform/SistemaDiStampa.h"
+
+#include <QtGlobal>
+
+#ifndef Q_OS_WIN
+
+#include "base/ErroreSistema.h"
+
+#include <QElapsedTimer>
+#include <QUrl>
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <utility>
+
+namespace {
+
+/// A print costs two conversations that may find a silent system, and the user waits for both.
+constexpr int AttesaSecondi = 3;
+constexpr int AttesaMillisecondi = 1000 * AttesaSecondi;
+constexpr double UnitaPerMillimetro = 100; ///< sheets are measured in hundredths of a millimetre
+
+struct Rilascia
+{
+    void operator()(http_t *http) const { httpClose(http); }
+    void operator()(ipp_t *ipp) const { ippDelete(ipp); }
+};
+using Connessione = std::unique_ptr<http_t, Rilascia>;
+using Risposta = std::unique_ptr<ipp_t, Rilascia>; ///< or a request that stays ours
+
+ErroreSistema Errore(const QString &testo)
+{
+    return {ErroreSistema::Stampante, testo};
+}
+
+ErroreSistema NonRisponde()
+{
+    return Errore(QStringLiteral("Il sistema di stampa non risponde: non si sa se il foglio uscirà."
+                                 "\nControllare la stampante e ripetere."));
+}
+
+ErroreSistema NonPresa(const QString &coda, const QString &motivo)
+{
+    return Errore(QStringLiteral("La stampante \"%1\" non ha accettato la stampa: %2\nIl foglio "
+                                 "non uscirà.")
+                      .arg(coda, motivo));
+}
+
+QString Motivo()
+{
+    switch (cupsLastError()) {
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+        return QStringLiteral("la coda rifiuta nuovi lavori.");
+    case IPP_STATUS_ERROR_NOT_FOUND:
+        return QStringLiteral("la coda non esiste più.");
+    default:
+        return QString::fromUtf8(cupsLastErrorString());
+    }
+}
+
+/// Null when nobody is there.
+Connessione Connette()
+{
+    Connessione connessione(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                         cupsEncryption(), 1, AttesaMillisecondi, nullptr));
+    if (connessione) {
+        httpSetTimeout(connessione.get(), AttesaSecondi, nullptr, nullptr);
+    }
+    return connessione;
+}
+
+Connessione ConnetteAdOgniCosto()
+{
+    Connessione connessione = Connette();
+    if (!connessione) {
+        throw NonRisponde();
+    }
+    return connessione;
+}
+
+/// A request about a queue; the caller frees it, or hands it to the library, which does.
+ipp_t *Domanda(ipp_op_t operazione, const QString &coda)
+{
+    std::array<char, HTTP_MAX_URI> indirizzo{};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, indirizzo.data(), int(indirizzo.size()), "ipp", nullptr,
+                     "localhost", 0, "/printers/%s", coda.toUtf8().constData());
+    ipp_t *domanda = ippNewRequest(operazione);
+    ippAddString(domanda, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, indirizzo.data());
+    ippAddString(domanda, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    return domanda;
+}
+
+/// The attributes of a queue that are named; throws when they do not come.
+template <std::size_t N>
+Risposta Chiede(http_t *http, const QString &coda, const std::array<const char *, N> &attributi)
+{
+    ipp_t *domanda = Domanda(IPP_OP_GET_PRINTER_ATTRIBUTES, coda);
+    ippAddStrings(domanda, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", int(N),
+                  nullptr, attributi.data());
+    Risposta risposta(cupsDoRequest(http, domanda, "/")); // which frees the question
+    if (!risposta) {
+        throw NonRisponde();
+    }
+    if (cupsLastError() >= IPP_STATUS_ERROR_BAD_REQUEST) {
+        throw NonPresa(coda, Motivo());
+    }
+    return risposta;
+}
+
+int Intero(ipp_t *raccolta, const char *nome)
+{
+    ipp_attribute_t *valore = ippFindAttribute(raccolta, nome, IPP_TAG_INTEGER);
+    return valore == nullptr ? 0 : ippGetInteger(valore, 0);
+}
+
+std::optional<QSizeF> MisuraDi(ipp_t *risposta)
+{
+    ipp_attribute_t *carta =
+        ippFindAttribute(risposta, "media-col-default", IPP_TAG_BEGIN_COLLECTION);
+    if (carta == nullptr) {
+        return std::nullopt;
+    }
+    ipp_attribute_t *misura =
+        ippFindAttribute(ippGetCollection(carta, 0), "media-size", IPP_TAG_BEGIN_COLLECTION);
+    if (misura == nullptr) {
+        return std::nullopt;
+    }
+    ipp_t *lati = ippGetCollection(misura, 0);
+    const QSizeF lunghi(Intero(lati, "x-dimension"), Intero(lati, "y-dimension"));
+    return lunghi.isEmpty() ? std::nullopt : std::optional(lunghi / UnitaPerMillimetro);
+}
+
+/// The settings that the user has given the queue, but those that would scale or crowd the sheet.
+/// All queues are asked for, because a library that misses one goes to look for it on the network,
+/// for as long as that takes.
+SistemaDiStampa::Impostazioni ImpostazioniDi(http_t *http, const QString &coda)
+{
+    static constexpr std::array Riducono{"fit-to-page",     "fitplot",   "scaling",      "fill",
+                                         "natural-scaling", "number-up", "print-scaling"};
+    cups_dest_t *code = nullptr;
+    const int numero = cupsGetDests2(http, &code);
+    SistemaDiStampa::Impostazioni impostazioni;
+    const cups_dest_t *trovata = cupsGetDest(coda.toUtf8().constData(), nullptr, numero, code);
+    for (int i = 0; trovata != nullptr && i < trovata->num_options; ++i) {
+        const cups_option_t &opzione = trovata->options[i];
+        if (std::none_of(Riducono.begin(), Riducono.end(),
+                         [&](const char *nome) { return qstricmp(nome, opzione.name) == 0; })) {
+            impostazioni.emplace_back(opzione.name, opzione.value);
+        }
+    }
+    cupsFreeDests(numero, code);
+    return impostazioni;
+}
+
+/// The settings of one job, as the library wants them.
+class OpzioniDelLavoro
+{
+public:
+    explicit OpzioniDelLavoro(const SistemaDiStampa::Impostazioni &impostazioni)
+    {
+        for (const auto &[nome, valore] : impostazioni) {
+            Aggiunge(nome, valore);
+        }
+        Aggiunge("print-scaling", "none");
+        Aggiunge("number-up", "1");
+    }
+    ~OpzioniDelLavoro() { cupsFreeOptions(numero_, opzioni_); }
+    Q_DISABLE_COPY_MOVE(OpzioniDelLavoro)
+
+    int Numero() const { return numero_; }
+    cups_option_t *Opzioni() const { return opzioni_; }
+
+private:
+    void Aggiunge(const char *nome, const char *valore)
+    {
+        numero_ = cupsAddOption(nome, valore, numero_, &opzioni_);
+    }
+
+    int numero_ = 0;
+    cups_option_t *opzioni_ = nullptr;
+};
+
+/// Request and document in one; null when no answer comes. The library's own ways to print first
+/// look for the queue again, on a connection that waits for minutes.
+Risposta Spedisce(http_t *http, ipp_t *domanda, const QString &coda, const QByteArray &pdf)
+{
+    constexpr qsizetype Pezzo = 65536;
+    const QByteArray risorsa = "/printers/" + QUrl::toPercentEncoding(coda);
+    http_status_t stato =
+        cupsSendRequest(http, domanda, risorsa.constData(),
+                        ippLength(domanda) + static_cast<std::size_t>(pdf.size()));
+    for (qsizetype dato = 0; stato == HTTP_STATUS_CONTINUE && dato < pdf.size(); dato += Pezzo) {
+        stato = cupsWriteRequestData(http, pdf.constData() + dato,
+                                     static_cast<std::size_t>(std::min(Pezzo, pdf.size() - dato)));
+    }
+    return Risposta(stato == HTTP_STATUS_ERROR ? nullptr
+                                               : cupsGetResponse(http, risorsa.constData()));
+}
+
+} // namespace
+
+bool SistemaDiStampa::Risponde()
+{
+    QElapsedTimer tempo;
+    tempo.start();
+    const Connessione connessione = Connette();
+    if (!connessione) {
+        return !tempo.hasExpired(AttesaMillisecondi / 2);
+    }
+    const Risposta risposta(
+        cupsDoRequest(connessione.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+    return risposta != nullptr;
+}
+
+SistemaDiStampa::FoglioDellaCoda SistemaDiStampa::ChiedeFoglio(const QString &coda)
+{
+    constexpr std::array<const char *, 2> Attributi{"media-col-default",
+                                                    "landscape-orientation-requested-preferred"};
+    const Connessione connessione = ConnetteAdOgniCosto();
+    const Risposta risposta = Chiede(connessione.get(), coda, Attributi);
+    FoglioDellaCoda foglio;
+    foglio.Misura = MisuraDi(risposta.get());
+    foglio.DellUtente = ImpostazioniDi(connessione.get(), coda);
+    QByteArray verso;
+    for (const auto &[nome, valore] : std::as_const(foglio.DellUtente)) {
+        if (nome == "orientation-requested") {
+            verso = valore;
+        }
+    }
+    foglio.Orizzontale = verso == QByteArray::number(IPP_ORIENT_LANDSCAPE) ||
+                         verso == QByteArray::number(IPP_ORIENT_REVERSE_LANDSCAPE);
+    ipp_attribute_t *preferito =
+        ippFindAttribute(risposta.get(), "landscape-orientation-requested-preferred", IPP_TAG_ENUM);
+    foglio.InSensoOrario =
+        preferito != nullptr && ippGetInteger(preferito, 0) == IPP_ORIENT_REVERSE_LANDSCAPE;
+    return foglio;
+}
+
+void SistemaDiStampa::Prepara(const QString &coda)
+{
+    constexpr std::array<const char *, 1> Attributi{"printer-is-accepting-jobs"};
+    const Connessione connessione = ConnetteAdOgniCosto();
+    const Risposta risposta = Chiede(connessione.get(), coda, Attributi);
+    ipp_attribute_t *accetta = ippFindAttribute(risposta.get(), Attributi.front(), IPP_TAG_BOOLEAN);
+    if (accetta != nullptr && ippGetBoolean(accetta, 0) == 0) {
+        throw NonPresa(coda, QStringLiteral("la coda rifiuta nuovi lavori."));
+    }
+}
+
+void SistemaDiStampa::Consegna(const QString &coda, const QString &titolo,
+                               const Impostazioni &impostazioni, const QByteArray &pdf)
+{
+    const Connessione connessione = ConnetteAdOgniCosto();
+    const OpzioniDelLavoro opzioni(impostazioni);
+    const Risposta domanda(Domanda(IPP_OP_PRINT_JOB, coda));
+    ippAddString(domanda.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                 titolo.toUtf8().constData());
+    ippAddString(domanda.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 CUPS_FORMAT_PDF);
+    cupsEncodeOptions2(domanda.get(), opzioni.Numero(), opzioni.Opzioni(), IPP_TAG_OPERATION);
+    cupsEncodeOptions2(domanda.get(), opzioni.Numero(), opzioni.Opzioni(), IPP_TAG_JOB);
+    QElapsedTimer tempo;
+    tempo.start();
+    const Risposta risposta = Spedisce(connessione.get(), domanda.get(), coda, pdf);
+    if (!risposta && tempo.hasExpired(AttesaMillisecondi)) {
+        throw NonRisponde(); // the library does not tell silence from a refusal
+    }
+    if (!risposta || ippGetStatusCode(risposta.get()) > IPP_STATUS_OK_CONFLICTING) {
+        throw NonPresa(coda, Motivo());
+    }
+}
+
+#endif

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QSizeF>
+#include <QString>
+
+#include <optional>
+#include <utility>
+
+/// Conversations with the print system of the systems that have CUPS. Each uses a connection of its
+/// own that is given up when nothing comes for some seconds, where Qt's would wait for minutes.
+namespace SistemaDiStampa {
+
+/// False when something takes calls at the print system's address and never answers. A system that
+/// is not there at all gives true: it has no printers, and says so at once.
+bool Risponde();
+
+/// Names and values of what a queue does unasked, or is asked for one job.
+using Impostazioni = QList<std::pair<QByteArray, QByteArray>>;
+
+/// What the queue prints on when nothing is asked of it.
+struct FoglioDellaCoda
+{
+    std::optional<QSizeF> Misura; ///< mm, upright; nothing when the queue does not tell
+    bool Orizzontale = false;     ///< the sheet is used with its long side across
+    bool InSensoOrario = false;   ///< ... and turned to the right for it
+    Impostazioni DellUtente;      ///< what else the user has set for the queue
+};
+
+/// Throws ErroreSistema 482 when the queue does not answer or is unknown.
+FoglioDellaCoda ChiedeFoglio(const QString &coda);
+
+/// Gives the queue a PDF to print, never scaled. Throws ErroreSistema 482 with the reason unless
+/// the print system has taken all of it.
+void Consegna(const QString &coda, const QString &titolo, const Impostazioni &impostazioni,
+              const QByteArray &pdf);
+
+/// Throws ErroreSistema 482 when the queue is not there, takes no jobs or does not answer.
+void Prepara(const QString &coda);
+
+} // namespace SistemaDiStampa
