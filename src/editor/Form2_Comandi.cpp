@@ -113,23 +113,26 @@ void Form2::EliminaElemento(Genere genere, int n)
 
 void Form2::Stampa_Click()
 {
-    const bool StampaNome = Messaggi::Domanda(
+    const Messaggi::Scelta scelta = Messaggi::DomandaRinunciabile(
         this, QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
         Messaggi::Risposta::No);
+    if (scelta == Messaggi::Scelta::Annulla) {
+        return;
+    }
     const PuntatoreOccupato occupato;
-    const auto stampante = Stampanti::Predefinita();
-    StampaModello(stato_.Aperto, stato_.CartellaModelli, *stampante, StampaNome,
-                  [this](const QString &testo) { Messaggi::Mostra(this, testo); });
     MostraAttesa();
+    const auto stampante = Stampanti::Predefinita();
+    StampaModello(stato_.Aperto, stato_.CartellaModelli, *stampante, scelta == Messaggi::Scelta::Si,
+                  [this](const QString &testo) { Messaggi::Mostra(this, testo); });
 }
 
 void Form2::StampaRetino_Click()
 {
     const PuntatoreOccupato occupato;
+    MostraAttesa();
     const auto stampante = Stampanti::Predefinita();
     StampaRetino(*stampante);
 }
-    MostraAttesa();
 
 void Form2::Image1_Click()
 {

@@ -112,6 +112,8 @@ public:
 
     /// Neither Escape nor the close box answers: a No that nobody chose would lose work.
     void VuoleRisposta() { vuoleRisposta_ = true; }
+    /// Escape and the close box end the box without any of its buttons.
+    void SiRinuncia() { siRinuncia_ = true; }
 
     void reject() override
     {
@@ -123,7 +125,9 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *evento) override
     {
-        if (!vuoleRisposta_ || evento->key() != Qt::Key_Escape) {
+        if (evento->key() == Qt::Key_Escape && siRinuncia_) {
+            done(QDialog::Rejected);
+        } else if (!vuoleRisposta_ || evento->key() != Qt::Key_Escape) {
             QMessageBox::keyPressEvent(evento);
         }
     }
@@ -131,6 +135,8 @@ protected:
     {
         if (vuoleRisposta_) {
             evento->ignore();
+        } else if (siRinuncia_) {
+            QDialog::closeEvent(evento); // a message box would press No
         } else {
             QMessageBox::closeEvent(evento);
         }
@@ -145,6 +151,7 @@ private:
     }
 
     bool vuoleRisposta_ = false;
+    bool siRinuncia_ = false;
 };
 
 } // namespace
@@ -172,6 +179,25 @@ bool Messaggi::Domanda(QWidget *padre, const QString &testo, Risposta predefinit
         riquadro.VuoleRisposta();
     }
     return Esegue(riquadro) == QMessageBox::Yes;
+}
+
+Messaggi::Scelta Messaggi::DomandaRinunciabile(QWidget *padre, const QString &testo,
+                                               Risposta predefinita)
+{
+    if (soloErroreStandard) {
+        return predefinita == Risposta::Si ? Scelta::Si : Scelta::No;
+    }
+    RiquadroDomanda riquadro(padre, testo, QMessageBox::Yes | QMessageBox::No);
+    riquadro.setDefaultButton(predefinita == Risposta::Si ? QMessageBox::Yes : QMessageBox::No);
+    riquadro.SiRinuncia();
+    switch (Esegue(riquadro)) {
+    case QMessageBox::Yes:
+        return Scelta::Si;
+    case QMessageBox::No:
+        return Scelta::No;
+    default:
+        return Scelta::Annulla;
+    }
 }
 
 Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &testo,

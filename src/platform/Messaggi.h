@@ -29,6 +29,9 @@ enum class Scelta { Si, No, Annulla };
 /// Yes/No/Cancel; the window's close box and Escape cancel. Without windows: No.
 Scelta DomandaAnnullabile(QWidget *padre, const QString &testo, Scelta predefinita);
 
+/// Yes/No; the close box and Escape answer neither (Annulla). Without windows: the default.
+Scelta DomandaRinunciabile(QWidget *padre, const QString &testo, Risposta predefinita);
+
 /// A text-input box; nothing when the user cancels (always nothing without windows).
 std::optional<QString> ChiedeTesto(QWidget *padre, const QString &titolo, const QString &richiesta,
                                    const QString &proposta);

@@ -82,6 +82,8 @@ private slots:
     void NuovoCampoDavantiATutti();
     void CambioPaginaRiordina();
     void StampaDomandaESenzaStampante();
+    void StampaDomandaSenzaRisposta_data();
+    void StampaDomandaSenzaRisposta();
     void GrigliaSenzaStampante();
     void ChiusuraDuranteLaDomanda();
 };
@@ -858,6 +860,34 @@ void tst_Form2::StampaDomandaESenzaStampante()
              QStringList({QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
                           SenzaStampante}));
     QCOMPARE(robot.Predefiniti().constFirst(), QStringLiteral("&No"));
+    QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+}
+
+void tst_Form2::StampaDomandaSenzaRisposta_data()
+{
+    QTest::addColumn<bool>("esc");
+    QTest::newRow("Escape") << true;
+    QTest::newRow("la croce") << false;
+}
+
+void tst_Form2::StampaDomandaSenzaRisposta()
+{
+    QFETCH(bool, esc);
+    // Printing would say that there is no printer.
+    qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+    EditorAperto prova(1);
+    Robot robot;
+    robot.Agisce([esc](QDialog *domanda) {
+        QCOMPARE(qobject_cast<QMessageBox *>(domanda)->buttons().size(), 2);
+        if (esc) {
+            QTest::keyClick(domanda, Qt::Key_Escape);
+        } else {
+            domanda->close();
+        }
+    });
+    Preme(prova.Editor(), "Stampa");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().size(), 1);
     QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
 }
 
