@@ -216,12 +216,28 @@ void CodaDiStampa::Riprende()
     kill(pid_t(server_.processId()), SIGCONT);
 }
 
-void CodaDiStampa::SenzaSpool(bool senza)
+bool CodaDiStampa::RiempieSpool()
 {
     const QString spool = In(QStringLiteral("spool"));
-    const QString via = spool + QStringLiteral(".via");
-    if (!QFile::rename(senza ? spool : via, senza ? via : spool)) {
-        Fallisce(QStringLiteral("cannot move the spool"));
+    if (QProcess::execute(QStringLiteral("mount"),
+                          {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                           QStringLiteral("size=64k"), QStringLiteral("tmpfs"), spool}) != 0) {
+        return false;
+    }
+    QFile riempitivo(spool + QStringLiteral("/riempitivo"));
+    constexpr qsizetype PiuDelDisco = 100'000;
+    if (!riempitivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        Fallisce(riempitivo.errorString());
+    }
+    riempitivo.write(QByteArray(PiuDelDisco, 'x'));
+    return true;
+}
+
+void CodaDiStampa::SvuotaSpool()
+{
+    if (QProcess::execute(QStringLiteral("umount"),
+                          {QStringLiteral("-l"), In(QStringLiteral("spool"))}) != 0) {
+        Fallisce(QStringLiteral("cannot empty the spool"));
     }
 }
 

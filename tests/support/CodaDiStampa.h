@@ -44,8 +44,10 @@ public:
     /// Stops the server where it stands: it takes calls and answers none. Riprende ends that.
     void SiBlocca();
     void Riprende();
-    /// Takes the folder away in which the server keeps the jobs' documents, or puts it back.
-    void SenzaSpool(bool senza);
+    /// Fills the disk on which the server keeps the jobs' documents; false where the system lets no
+    /// such disk be made. SvuotaSpool ends that.
+    bool RiempieSpool();
+    void SvuotaSpool();
 
     /// Waits until no job is left, then names the sheets that have come since the last call, oldest
     /// first. Throws std::runtime_error when the queue does not come to rest.
