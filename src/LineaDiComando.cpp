@@ -1,5 +1,7 @@
 #include "LineaDiComando.h"
 
+#include "FileDiUscita.h"
+#include "base/Disco.h"
 #include "base/ErroreSistema.h"
 #include "editor/Form2.h"
 #include "model/FileModello.h"
@@ -11,9 +13,12 @@
 #include "preview/Frm1.h"
 #include "print/StampaProva.h"
 
+#include <QBuffer>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QPixmap>
+
+#include <limits>
 
 namespace {
 
@@ -65,17 +70,14 @@ QString CartellaDi(const QString &percorso)
     return QFileInfo(percorso).absolutePath() + Percorsi::Separatore();
 }
 
-bool StessoFile(const QString &uno, const QString &altro)
-{
-    const QString canonico = QFileInfo(Percorsi::Risolve(uno)).canonicalFilePath();
-    return !canonico.isEmpty() && canonico == QFileInfo(altro).canonicalFilePath();
-}
-
 void StampaPdf(const Modello &modello, const QString &cartella, const Richieste &richieste)
 {
-    const auto stampante = Stampanti::SuPdf(richieste.pdf);
-    StampaModello(modello, cartella, *stampante, richieste.nomi,
-                  [](const QString &testo) { Messaggi::Mostra(nullptr, testo); });
+    FileDiUscita::Scrive(richieste.pdf, [&](const QString &appoggio) {
+        const auto stampante = Stampanti::SuPdf(appoggio);
+        StampaModello(modello, cartella, *stampante, richieste.nomi,
+                      [](const QString &testo) { Messaggi::Mostra(nullptr, testo); });
+        return Disco::Legge(appoggio, std::numeric_limits<qint64>::max());
+    });
 }
 
 void SalvaAnteprima(StatoProgramma &stato, const Richieste &richieste)
@@ -85,10 +87,20 @@ void SalvaAnteprima(StatoProgramma &stato, const Richieste &richieste)
         return;
     }
     auto *foglio = editor.Anteprima()->findChild<QWidget *>(QStringLiteral("P1"));
-    if (!foglio->grab().save(richieste.anteprima, "PNG")) {
-        throw ErroreSistema(ErroreSistema::AccessoFile,
-                            QStringLiteral("impossibile scrivere ") + richieste.anteprima);
-    }
+    FileDiUscita::Scrive(richieste.anteprima, [&](const QString &) {
+        QBuffer byte;
+        if (!byte.open(QIODevice::WriteOnly) || !foglio->grab().save(&byte, "PNG")) {
+            throw ErroreSistema(ErroreSistema::MemoriaEsaurita);
+        }
+        return byte.data();
+    });
+}
+
+QStringList Uscite(const Richieste &richieste)
+{
+    QStringList uscite{richieste.pdf, richieste.anteprima};
+    uscite.removeAll(QString());
+    return uscite;
 }
 
 } // namespace
@@ -133,19 +145,13 @@ int StampaSenzaFinestre(const Richieste &richieste)
         StatoProgramma stato;
         stato.CartellaModelli = CartellaDi(percorso);
         stato.Aperto.NomeFile = QFileInfo(percorso).fileName();
-        for (const QString &uscita : {richieste.pdf, richieste.anteprima}) {
-            if (!uscita.isEmpty() && StessoFile(uscita, percorso)) {
-                throw ErroreSistema(ErroreSistema::AccessoFile,
-                                    QStringLiteral("il modello non può essere sovrascritto: ") +
-                                        uscita);
-            }
+        if (!FileModello::LeggeModello(stato.Aperto, percorso, [](const QString &testo) {
+                Messaggi::Mostra(nullptr, testo);
+            })) {
+            return;
         }
+        FileDiUscita::Verifica(Uscite(richieste), percorso, stato.Aperto);
         if (!richieste.pdf.isEmpty()) {
-            if (!FileModello::LeggeModello(stato.Aperto, percorso, [](const QString &testo) {
-                    Messaggi::Mostra(nullptr, testo);
-                })) {
-                return;
-            }
             stato.Aperto.ArrotondaTutti();
             StampaPdf(stato.Aperto, stato.CartellaModelli, richieste);
         }

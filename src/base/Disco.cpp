@@ -140,18 +140,25 @@ public:
         }
     }
 
-    void Apre()
+    /// Who may read the new file.
+    enum class Per {
+        ChiPoteva, ///< those who could read the old one; of a new one those that the system lets
+        Utente     ///< the user alone
+    };
+
+    void Apre(Per chi)
     {
         // Unbuffered: a failing write is seen where it happens, not when a buffer is flushed.
         constexpr auto modo = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
         errno = 0;
         // Until it carries the old file's permissions, nobody else may look into the new one.
-        creato_ = bersaglio_.exists() ? file_.open(modo, QFile::ReadOwner | QFile::WriteOwner)
-                                      : file_.open(modo);
+        creato_ = bersaglio_.exists() || chi == Per::Utente
+                      ? file_.open(modo, QFile::ReadOwner | QFile::WriteOwner)
+                      : file_.open(modo);
         if (!creato_) {
             Fallisce(Causa(bersaglio_.path()));
         }
-        if (bersaglio_.exists()) {
+        if (bersaglio_.exists() && chi == Per::ChiPoteva) {
             // Before the permissions, for a change of owner may take some of them away. Where it
             // is refused the file stays with the user who saves it.
             if (tieneProprieta != nullptr) {
@@ -173,6 +180,14 @@ public:
                 Fallisce(codice);
             }
         }
+    }
+
+    /// Closes the file and gives it out of hand; its path.
+    QString Lascia()
+    {
+        file_.close();
+        creato_ = false;
+        return file_.fileName();
     }
 
     QDateTime Nascita() const { return file_.fileTime(QFileDevice::FileModificationTime); }
@@ -227,11 +242,23 @@ void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
 {
     const QFileInfo bersaglio = Bersaglio(percorso);
     FileTemporaneo nuovo(bersaglio);
-    nuovo.Apre();
+    nuovo.Apre(FileTemporaneo::Per::ChiPoteva);
     // Before writing, for they may be what fills the disk.
     SpazzaResti(bersaglio.dir(), nuovo.Nascita());
     nuovo.Scrive(byte);
     nuovo.PrendeIlPosto();
+}
+
+Disco::Appoggio::Appoggio(const QString &percorso)
+{
+    FileTemporaneo vuoto(Bersaglio(percorso));
+    vuoto.Apre(FileTemporaneo::Per::Utente);
+    percorso_ = vuoto.Lascia();
+}
+
+Disco::Appoggio::~Appoggio()
+{
+    QFile::remove(percorso_);
 }
 
 void Disco::CreaCartellaPrivata(const QString &cartella)

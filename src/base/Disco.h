@@ -24,6 +24,24 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 /// later.
 void Sostituisce(const QString &percorso, const QByteArray &byte);
 
+/// An empty file beside another, for its user alone and with a name that no other file has, for a
+/// library that writes into files only; removed with the object. What a killed program leaves is
+/// swept as that of Sostituisce.
+class Appoggio
+{
+public:
+    /// Throws ErroreSistema as Sostituisce does for percorso, which need not exist.
+    explicit Appoggio(const QString &percorso);
+    ~Appoggio();
+    Appoggio(const Appoggio &) = delete;
+    Appoggio &operator=(const Appoggio &) = delete;
+
+    const QString &Percorso() const { return percorso_; }
+
+private:
+    QString percorso_;
+};
+
 /// Makes a folder that is the user's alone, and those above it as the system makes them. One that
 /// exists stays as it is. Throws ErroreSistema: 75 when there is none then, and what Sostituisce
 /// throws when a new one's name cannot be forced onto the medium.

@@ -1,0 +1,120 @@
+#include "FileDiUscita.h"
+
+#include "base/Disco.h"
+#include "base/ErroreSistema.h"
+#include "model/Modello.h"
+#include "platform/Immagini.h"
+#include "platform/Percorsi.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+constexpr QLatin1String EstensioneModello(".Mod");
+
+bool UnSoloFile(const QString &uno, const QString &altro)
+{
+    std::error_code codice;
+    return std::filesystem::equivalent(QFileInfo(uno).filesystemFilePath(),
+                                       QFileInfo(altro).filesystemFilePath(), codice) &&
+           !codice;
+}
+
+/// True also for two names of a file that is not there yet. Names that differ only by case are one
+/// to the program, and on some disks.
+bool Coincidono(const QString &uno, const QString &altro)
+{
+    const QFileInfo primo(uno);
+    const QFileInfo secondo(altro);
+    return UnSoloFile(Percorsi::Risolve(uno), Percorsi::Risolve(altro)) ||
+           (primo.fileName().compare(secondo.fileName(), Qt::CaseInsensitive) == 0 &&
+            (primo.absolutePath() == secondo.absolutePath() ||
+             UnSoloFile(primo.path(), secondo.path())));
+}
+
+/// The files behind the pictures and the scan of the model; they need not exist.
+QStringList FigureDi(const Modello &modello, const QString &cartella)
+{
+    QStringList figure;
+    if (!modello.Sfondo.File.isEmpty()) {
+        figure.append(modello.Sfondo.File);
+    }
+    for (int i = 1; i <= modello.UltimoSlot(Genere::Immagine); ++i) {
+        try {
+            figure.append(Immagini::PercorsoInCartella(cartella, modello.Immagini[i].Nome));
+        } catch (const ErroreSistema &) {
+            continue; // a name that leads to no file of the archive has none to be lost
+        }
+    }
+    return figure;
+}
+
+bool HaNomeDiModello(const QString &percorso)
+{
+    const QString dietroICollegamenti = QFileInfo(percorso).canonicalFilePath();
+    return percorso.endsWith(EstensioneModello, Qt::CaseInsensitive) ||
+           dietroICollegamenti.endsWith(EstensioneModello, Qt::CaseInsensitive);
+}
+
+bool EModello(const QString &uscita, const QString &percorsoModello)
+{
+    return HaNomeDiModello(uscita) || UnSoloFile(uscita, percorsoModello);
+}
+
+[[noreturn]] void Rifiuta(const QString &motivo, const QString &file)
+{
+    throw ErroreSistema(ErroreSistema::AccessoFile, motivo + QStringLiteral(": ") + file);
+}
+
+/// Runs the action; what it throws names the file.
+void Nominando(const QString &percorso, const std::function<void()> &azione)
+{
+    try {
+        azione();
+    } catch (const ErroreSistema &errore) {
+        throw ErroreSistema(
+            errore.numero,
+            QStringLiteral("impossibile scrivere %1: %2").arg(percorso, errore.descrizione));
+    }
+}
+
+} // namespace
+
+void FileDiUscita::Verifica(const QStringList &uscite, const QString &percorsoModello,
+                            const Modello &modello)
+{
+    const QString cartella = QFileInfo(percorsoModello).absolutePath() + Percorsi::Separatore();
+    const QStringList figure = FigureDi(modello, cartella);
+    for (qsizetype i = 0; i < uscite.size(); ++i) {
+        const QString &uscita = uscite[i];
+        if (EModello(uscita, percorsoModello)) {
+            Rifiuta(QStringLiteral("il modello non può essere sovrascritto"), uscita);
+        }
+        if (std::any_of(figure.begin(), figure.end(),
+                        [&](const QString &figura) { return Coincidono(uscita, figura); })) {
+            Rifiuta(QStringLiteral("un'immagine del modello non può essere sovrascritta"), uscita);
+        }
+        for (qsizetype k = 0; k < i; ++k) {
+            if (Coincidono(uscita, uscite[k])) {
+                Rifiuta(QStringLiteral("due uscite nello stesso file"), uscita);
+            }
+        }
+    }
+}
+
+void FileDiUscita::Scrive(const QString &percorso,
+                          const std::function<QByteArray(const QString &appoggio)> &compone)
+{
+    Nominando(percorso, [&] {
+        QByteArray byte;
+        {
+            const Disco::Appoggio appoggio(percorso);
+            byte = compone(appoggio.Percorso());
+        }
+        Disco::Sostituisce(percorso, byte);
+    });
+}
