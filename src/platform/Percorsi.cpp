@@ -102,11 +102,14 @@ void VerificaElencabile(const QString &cartella)
 /// Names that Windows keeps for devices, whatever extension follows.
 bool NomeDiDispositivo(const QString &nome)
 {
-    static const QStringList dispositivi = {QStringLiteral("CON"), QStringLiteral("PRN"),
-                                            QStringLiteral("AUX"), QStringLiteral("NUL")};
+    static const QStringList dispositivi = {QStringLiteral("CON"),    QStringLiteral("PRN"),
+                                            QStringLiteral("AUX"),    QStringLiteral("NUL"),
+                                            QStringLiteral("CONIN$"), QStringLiteral("CONOUT$")};
+    // Windows takes the superscripts of its own character set for digits.
+    static const QString numeri = QStringLiteral("123456789¹²³");
     const QString base = nome.section(u'.', 0, 0).trimmed().toUpper();
     const bool numerato =
-        base.size() == 4 && base[3] >= u'1' && base[3] <= u'9' &&
+        base.size() == 4 && numeri.contains(base[3]) &&
         (base.startsWith(QLatin1String("COM")) || base.startsWith(QLatin1String("LPT")));
     return numerato || dispositivi.contains(base);
 }

@@ -47,7 +47,7 @@ QString EstraeNomeFile(const QString &percorso);
 
 /// True when the text can name one file inside a folder on every system: not empty, no separator,
 /// no ":*?\"<>|" or control character, no trailing dot or blank, no device
-/// name of Windows ("CON", "lpt1.x"). A name that is to get an extension is judged with it.
+/// name of Windows ("CON", "lpt1.x", "COM¹"). A name that is to get an extension is judged with it.
 bool NomeFileValido(const QString &nome);
 
 } // namespace Percorsi

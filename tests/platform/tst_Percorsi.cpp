@@ -108,14 +108,16 @@ void tst_Percorsi::NomeFileValido_data()
         QTest::addRow("%s", QByteArray(nome).toPercentEncoding(" \\/:*?\"<>|").constData())
             << QString::fromUtf8(nome) << valido;
     };
-    for (const char *nome :
-         {"DDT", "Fattura_pers", "Fattura_pers.Mod_nuovo", "Fattura è", " Fattura",
-          "OrdineCliente-Offerta_Pers", "Console", "COM", "COM10", "COM0", "a'b (2)"}) {
+    for (const char *nome : {"DDT", "Fattura_pers", "Fattura_pers.Mod_nuovo", "Fattura è",
+                             " Fattura", "OrdineCliente-Offerta_Pers", "Console", "COM", "COM10",
+                             "COM0", "COM½", "CONIN", "CONOUT", "COM1¹", "a'b (2)"}) {
         riga(nome, true);
     }
-    for (const char *nome : {"",     ".",     "..",  "a/b", "a\\b",   "a:b",     "a*b",   "a?b",
-                             "a\"b", "a<b",   "a>b", "a|b", "a.",     "a ",      "..\\a", "a\tb",
-                             "a\nb", "a\x7f", "CON", "con", "lpt1.x", "NUL.Mod", "Com9"}) {
+    for (const char *nome :
+         {"",        ".",    "..",   "a/b",    "a\\b", "a:b",    "a*b",
+          "a?b",     "a\"b", "a<b",  "a>b",    "a|b",  "a.",     "a ",
+          "..\\a",   "a\tb", "a\nb", "a\x7f",  "CON",  "con",    "lpt1.x",
+          "NUL.Mod", "Com9", "COM¹", "com².x", "Lpt³", "CONIN$", "conout$.Mod"}) {
         riga(nome, false);
     }
     // What is wrong at the end of a name, or looks wrong at its start, is right before an
