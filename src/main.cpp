@@ -40,6 +40,7 @@ std::unique_ptr<QApplication> Applicazione(int &argc, char **argv)
 
 int main(int argc, char *argv[])
 {
+    SuDisco::FallisceOltreIlLimite();
     const LetturaArgomenti lettura = LeggeArgomentiDi(argc, argv);
     if (!lettura.richieste) {
         std::fputs(qUtf8Printable(lettura.testo), lettura.stato == 0 ? stdout : stderr);

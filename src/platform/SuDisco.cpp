@@ -7,6 +7,7 @@
 #ifdef _WIN32
 #include <io.h>
 #else
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -69,5 +70,18 @@ bool SuDisco::TieneProprieta([[maybe_unused]] int descrittore,
     }
     constexpr auto Immutato = static_cast<uid_t>(-1);
     return fchown(descrittore, Immutato, prima.st_gid) == 0 && prima.st_uid == adesso.st_uid;
+#endif
+}
+
+void SuDisco::FallisceOltreIlLimite()
+{
+#ifndef _WIN32
+    struct sigaction azione
+    {
+    };
+    // A function, for to ignore the signal would be handed on to the programs that are started.
+    azione.sa_handler = [](int) {};
+    azione.sa_flags = SA_RESTART;
+    sigaction(SIGXFSZ, &azione, nullptr);
 #endif
 }

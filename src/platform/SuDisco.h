@@ -20,4 +20,9 @@ std::error_code SincronizzaCartella(const QString &cartella);
 /// from the folder, and nothing is to be done.
 bool TieneProprieta(int descrittore, const QString &vecchio);
 
+/// Makes a write beyond the system's limit for the size of a file (ulimit -f) fail like any other,
+/// where the system would end the program. Programs started later meet the system's own way again.
+/// On Windows there is no such limit.
+void FallisceOltreIlLimite();
+
 } // namespace SuDisco

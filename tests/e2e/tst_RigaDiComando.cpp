@@ -45,6 +45,7 @@ private slots:
     void discoPienoLasciaLeUsciteDiPrima_data();
     void discoPienoLasciaLeUsciteDiPrima();
     void sostituisceLUscitaDiPrima();
+    void limiteDiDimensioneNonFinisceIlProgramma();
 
 private:
     struct Esito
@@ -522,6 +523,23 @@ void tst_RigaDiComando::sostituisceLUscitaDiPrima()
     QCOMPARE(esito.stato, 0);
     QCOMPARE(LettorePdf(pdf).Pagine(), 1);
     QCOMPARE(QFile::permissions(pdf), permessi);
+}
+
+void tst_RigaDiComando::limiteDiDimensioneNonFinisceIlProgramma()
+{
+    QProcess programma;
+    programma.setProcessEnvironment(Ambiente());
+    programma.start(QStringLiteral("/bin/sh"),
+                    {QStringLiteral("-c"), QStringLiteral("ulimit -f 2; exec \"$0\" \"$@\""),
+                     QStringLiteral(PROGRAMMA), QStringLiteral("--modello"), Modello(),
+                     QStringLiteral("--anteprima"), In(QStringLiteral("a.png"))});
+    QVERIFY(programma.waitForFinished(60'000));
+    QVERIFY2(programma.exitStatus() == QProcess::NormalExit, "ended by the system's signal");
+    QCOMPARE(programma.exitCode(), 1);
+    QCOMPARE(QString::fromUtf8(programma.readAllStandardError()),
+             QStringLiteral("errore 61 impossibile scrivere %1: Disco pieno\n")
+                 .arg(In(QStringLiteral("a.png"))));
+    QVERIFY(!QFile::exists(In(QStringLiteral("a.png"))));
 }
 
 QTEST_GUILESS_MAIN(tst_RigaDiComando)
