@@ -229,7 +229,7 @@ QByteArray Disco::Legge(const QString &percorso, qint64 massimo)
         throw ErroreSistema(senzaCartella ? ErroreSistema::PercorsoNonTrovato : numero);
     }
     if (file.size() > massimo) {
-        throw ErroreSistema(ErroreSistema::MemoriaEsaurita);
+        throw ErroreSistema(ErroreSistema::MemoriaEsaurita, QStringLiteral("File troppo grande"));
     }
     QByteArray byte = file.readAll();
     if (file.error() != QFileDevice::NoError) {

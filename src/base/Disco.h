@@ -10,8 +10,8 @@
 namespace Disco {
 
 /// The bytes of a regular file. Throws 53 when the file is not there, 76 when its folder is not,
-/// 75 when it cannot be opened or is no file, 57 when reading fails, and 7 when it holds more than
-/// massimo bytes (nothing is kept then).
+/// 75 when it cannot be opened or is no file, 57 when reading fails, and 7 ("File troppo grande")
+/// when it holds more than massimo bytes (nothing is kept then).
 QByteArray Legge(const QString &percorso, qint64 massimo);
 
 /// Puts byte into the place of the file: whoever opens it finds the old bytes or the new ones,

@@ -16,7 +16,7 @@ namespace {
 constexpr QByteArrayView Firma = "plakera-recupero 1";
 constexpr QLatin1String Estensione(".recupero");
 constexpr QLatin1String EstensioneLucchetto(".lock");
-constexpr qint64 DimensioneMassima = FileModello::DimensioneMassima + 4096;
+constexpr qint64 DimensioneMassima = FileModello::DimensioneMassima + qint64(64) * 1024;
 constexpr int RigheIntestazione = 4;
 constexpr const char *Assente = "assente";
 
@@ -107,10 +107,12 @@ CopiaRecupero &CopiaRecupero::operator=(CopiaRecupero &&) noexcept = default;
 void CopiaRecupero::Parte(const std::optional<QByteArray> &byte)
 {
     impronta_ = Impronta(byte);
+    tentata_.clear();
 }
 
 void CopiaRecupero::Tentati(const QByteArray &byte)
 {
+    tentata_ = Somma(byte);
     try {
         if (Disco::Legge(percorsoModello_, FileModello::DimensioneMassima) == byte) {
             Parte(byte);
@@ -194,7 +196,9 @@ void CopiaRecupero::Riprende(const Trovata &trovata)
 bool CopiaRecupero::FileCambiato() const
 {
     try {
-        return Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima)) != impronta_;
+        const QByteArray adesso =
+            Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima));
+        return adesso != impronta_ && adesso != tentata_;
     } catch (const ErroreSistema &errore) {
         switch (errore.numero) {
         case ErroreSistema::MemoriaEsaurita: // far larger than any model
@@ -228,7 +232,7 @@ void CopiaRecupero::Scrive(const Modello &modello)
     lucchetto_->Prende(); // the copy is worth more than its lock, where the disk has no room for it
     // The copy is read back whatever the locale, so it is written with a point: nothing is rounded
     // away by going through it.
-    const QByteArray corpo = FileModello::Componi(modello, QLocale::c());
+    const QByteArray corpo = FileModello::ComponiLeggibile(modello, QLocale::c());
     Disco::Sostituisce(propria_, Intestazione(percorsoModello_, impronta_, corpo) + corpo);
     if (!ripresa_.isEmpty() && Elimina(ripresa_)) {
         ripresa_.clear();

@@ -46,7 +46,7 @@ public:
     void Parte(const std::optional<QByteArray> &byte);
 
     /// A save that failed was writing these bytes: should they stand in the file all the same, they
-    /// count as written.
+    /// count as written, also when that can only be seen later.
     void Tentati(const QByteArray &byte);
 
     /// The whole copies of this model, newest first. Damaged ones are left alone; avviso is told
@@ -87,6 +87,7 @@ private:
     QString percorsoModello_;
     QString radice_;      ///< start of the names of this model's copies
     QByteArray impronta_; ///< of the model file at Parte
+    QByteArray tentata_;  ///< what the file holds should the failed save have come through
     QStringList offerte_; ///< files of the copies the user has been asked about
     QString ripresa_;     ///< file of the copy that the user goes on from
     QString propria_;     ///< empty until the first copy of this opening

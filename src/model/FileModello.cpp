@@ -21,9 +21,20 @@ void FileModello::Carica(Modello &modello, const QString &percorso)
     Analizza(LeggeByte(modello, percorso), modello);
 }
 
+QByteArray FileModello::ComponiLeggibile(const Modello &modello, const QLocale &locale)
+{
+    QByteArray byte = Componi(modello, locale);
+    if (byte.size() > DimensioneMassima) {
+        throw ErroreSistema(
+            ErroreSistema::MemoriaEsaurita,
+            QStringLiteral("Modello troppo grande: salvato, non si potrebbe più aprire"));
+    }
+    return byte;
+}
+
 void FileModello::Salva(const Modello &modello, const QString &percorso, const QLocale &locale)
 {
-    Disco::Sostituisce(percorso, Componi(modello, locale));
+    Disco::Sostituisce(percorso, ComponiLeggibile(modello, locale));
 }
 
 bool FileModello::LeggeModello(Modello &modello, const QString &percorso,
@@ -45,7 +56,7 @@ bool FileModello::LeggeModello(Modello &modello, const QString &percorso,
 
 void FileModello::ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte)
 {
-    const QByteArray composti = Componi(modello);
+    const QByteArray composti = ComponiLeggibile(modello);
     if (byte != nullptr) {
         *byte = composti;
     }

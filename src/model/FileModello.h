@@ -13,7 +13,7 @@
 namespace FileModello {
 
 /// In bytes. More than a model can hold whose every text fills its text box; what is larger is no
-/// model and is not read into memory.
+/// model, is not read into memory and is not written.
 inline constexpr qint64 DimensioneMassima = qint64(64) * 1024 * 1024;
 
 /// Parses byte into modello: the counts start from 0, NomeFile stays. Throws ErroreSistema (62 past
@@ -25,11 +25,16 @@ void Analizza(const QByteArray &byte, Modello &modello);
 /// and plain numbers; a frame's border always has a point. A CR inside a text becomes a blank.
 QByteArray Componi(const Modello &modello, const QLocale &locale = QLocale());
 
+/// Componi for a file that is to be read again. Throws ErroreSistema 7 for a model that would be
+/// larger than DimensioneMassima: one read from a file just below it may be, since numbers and ends
+/// of lines can be written longer than they were.
+QByteArray ComponiLeggibile(const Modello &modello, const QLocale &locale = QLocale());
+
 /// Reads the file. Throws ErroreSistema (53, 57, 75, 76 for the file, 7 when it is larger than
 /// DimensioneMassima, and those of Analizza).
 void Carica(Modello &modello, const QString &percorso);
 
-/// Replaces the file by Disco::Sostituisce: after a failure (thrown as ErroreSistema 61, 70, 75,
+/// Replaces the file by Disco::Sostituisce: after a failure (thrown as ErroreSistema 7, 61, 70, 75,
 /// 76, 57) the old file stands whole.
 void Salva(const Modello &modello, const QString &percorso, const QLocale &locale = QLocale());
 

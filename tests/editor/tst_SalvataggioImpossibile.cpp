@@ -1,5 +1,6 @@
 #include "EditoreDiProva.h"
 #include "base/Disco.h"
+#include "model/FileModello.h"
 #include "support/FileDiProva.h"
 
 #include <QDir>
@@ -18,6 +19,7 @@ private slots:
     void SalvaDiceIlPerche();
     void ChiudendoNonSiPerdeNulla();
     void AttraversoUnCollegamento();
+    void NonOltreQuantoSiRilegge();
 
 private:
     /// So long as one lives, the model cannot be saved.
@@ -180,6 +182,39 @@ void tst_SalvataggioImpossibile::AttraversoUnCollegamento()
     QVERIFY(robot.Soddisfatto());
     QVERIFY(QFileInfo(prova.Archivio.Percorso()).isSymLink());
     QCOMPARE(prova.Archivio.Riletto().Campi[1].X, 77.0);
+}
+
+void tst_SalvataggioImpossibile::NonOltreQuantoSiRilegge()
+{
+    // Lines that end in CR alone are written with CR LF: the file would grow beyond what is read.
+    ArchivioDiProva prova;
+    prova.Riempie(1);
+    prova.Scrive();
+    const QByteArray descrizione = prova.Aperto().Immagini[1].Descrizione.toLatin1();
+    QByteArray byte = prova.ByteDelFile().replace("\r\n", "\r");
+    byte.insert(byte.indexOf(descrizione),
+                QByteArray(FileModello::DimensioneMassima - byte.size(), 'x'));
+    ScriveFile(prova.Percorso(), byte);
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    const QString perche =
+        QStringLiteral("errore 7 Modello troppo grande: salvato, non si potrebbe più aprire");
+    Robot robot;
+    robot.Ok().Si().Ok();
+    editor.Variato = true;
+    emit editor.Anteprima()->ModificaConclusa();
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constFirst(),
+             QStringLiteral("copia di recupero non scritta: ") + perche);
+    QCOMPARE(robot.Testi().constLast(), perche);
+    QVERIFY(editor.Variato);
+    QVERIFY2(prova.ByteDelFile() == byte, "the file that can be opened stands");
+    prova.Aperto().Immagini[1].Descrizione.chop(1'000'000);
+    robot.Si();
+    Preme(editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(prova.Riletto().Immagini[1].Descrizione.endsWith(QLatin1String("xxx")));
 }
 
 QTEST_MAIN(tst_SalvataggioImpossibile)

@@ -43,6 +43,7 @@ private slots:
     void NonLeggibileSiDice();
     void NonEliminabileSiRiprova();
     void ByteDiUnSalvataggioFallito();
+    void ByteFallitiCheSiVedonoPiuTardi();
 
 private:
     QString Cartella() const { return dir_->filePath(QStringLiteral("stato/plakera")); }
@@ -367,12 +368,28 @@ void tst_CopiaRecupero::ByteDiUnSalvataggioFallito()
     copia.Tentati(tentati);
     QVERIFY2(!copia.FileCambiato(), "the old bytes stand");
     ScriveFile(Percorso(), tentati);
-    QVERIFY(copia.FileCambiato());
     copia.Tentati(tentati);
     QVERIFY2(!copia.FileCambiato(), "they are the program's own");
     copia.Scrive(ModelloDiProva(8));
     QVERIFY2(!Aperta().Cerca().constFirst().fileCambiato, "nor are they after a fall");
     ScriveFile(Percorso(), prima);
+    QVERIFY(copia.FileCambiato());
+}
+
+void tst_CopiaRecupero::ByteFallitiCheSiVedonoPiuTardi()
+{
+    // The disk that failed behind the renaming cannot be read either, for a while.
+    const QByteArray tentati = FileModello::Componi(ModelloDiProva(7), Punto);
+    CopiaRecupero copia = Aperta();
+    ScriveFile(Percorso(), tentati);
+    const QString altrove = dir_->filePath(QStringLiteral("altrove"));
+    QVERIFY(QFile::rename(Percorso(), altrove));
+    QVERIFY(QDir().mkdir(Percorso()));
+    copia.Tentati(tentati);
+    QVERIFY(QDir().rmdir(Percorso()));
+    QVERIFY(QFile::rename(altrove, Percorso()));
+    QVERIFY2(!copia.FileCambiato(), "they are the program's own");
+    ScriveFile(Percorso(), tentati + "x");
     QVERIFY(copia.FileCambiato());
 }
 

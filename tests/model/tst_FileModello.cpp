@@ -38,6 +38,7 @@ private slots:
     void FileMancanteAzzeraIConti();
     void FileEnorme_data();
     void FileEnorme();
+    void EnormeSiDiceTroppoGrande();
 
     void LimiteDiDimensione_data();
     void LimiteDiDimensione();
@@ -247,6 +248,17 @@ void tst_FileModello::FileEnorme()
     // Generous, for builds that check every access; refusing takes no time at all.
     QVERIFY2(tempo.Entro(errore == 7 ? 100 : 5'000),
              qPrintable(QString::number(tempo.MilliSecondi())));
+}
+
+void tst_FileModello::EnormeSiDiceTroppoGrande()
+{
+    QVERIFY(QFile::resize(File(), FileModello::DimensioneMassima + 1));
+    QString detto;
+    Modello modello;
+    modello.NomeFile = QStringLiteral("Fattura.Mod");
+    QVERIFY(
+        !FileModello::LeggeModello(modello, File(), [&](const QString &testo) { detto = testo; }));
+    QCOMPARE(detto, QStringLiteral("impossibile leggere file Fattura.Mod\n7\nFile troppo grande"));
 }
 
 void tst_FileModello::LimiteDiDimensione_data()
