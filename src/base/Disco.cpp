@@ -211,42 +211,69 @@ private:
     bool creato_ = false;
 };
 
-} // namespace
-
-QByteArray Disco::Legge(const QString &percorso, qint64 massimo)
+void Apre(QFile &file)
 {
-    const QFileInfo info(percorso);
+    const QFileInfo info(file);
     // A folder, and a pipe on which opening would wait for ever.
     if (info.exists() && !info.isFile()) {
         throw ErroreSistema(ErroreSistema::AccessoFile);
     }
-    QFile file(percorso);
     errno = 0;
     if (!file.open(QIODevice::ReadOnly)) {
         const int numero =
-            info.exists() ? ErroreSistema::AccessoFile : NumeroErrore(Causa(info.path()));
+            info.exists() ? ErroreSistema::AccessoFile : Disco::NumeroErrore(Causa(info.path()));
         const bool senzaCartella = numero == ErroreSistema::FileNonTrovato && !info.dir().exists();
         throw ErroreSistema(senzaCartella ? ErroreSistema::PercorsoNonTrovato : numero);
     }
-    if (file.size() > massimo) {
-        throw ErroreSistema(ErroreSistema::MemoriaEsaurita, QStringLiteral("File troppo grande"));
-    }
-    QByteArray byte = file.readAll();
+}
+
+/// The bytes, unless reading them from the file failed.
+QByteArray Intero(const QFile &file, QByteArray byte)
+{
     if (file.error() != QFileDevice::NoError) {
         throw ErroreSistema(ErroreSistema::ErroreIO);
     }
     return byte;
 }
 
-void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
+void Sostituisce(const QString &percorso, const QByteArray &byte, FileTemporaneo::Per chi)
 {
     const QFileInfo bersaglio = Bersaglio(percorso);
     FileTemporaneo nuovo(bersaglio);
-    nuovo.Apre(FileTemporaneo::Per::ChiPoteva);
+    nuovo.Apre(chi);
     // Before writing, for they may be what fills the disk.
     SpazzaResti(bersaglio.dir(), nuovo.Nascita());
     nuovo.Scrive(byte);
     nuovo.PrendeIlPosto();
+}
+
+} // namespace
+
+QByteArray Disco::Legge(const QString &percorso, qint64 massimo)
+{
+    QFile file(percorso);
+    Apre(file);
+    if (file.size() > massimo) {
+        throw ErroreSistema(ErroreSistema::MemoriaEsaurita, QStringLiteral("File troppo grande"));
+    }
+    return Intero(file, file.readAll());
+}
+
+QByteArray Disco::LeggeInizio(const QString &percorso, qint64 massimo)
+{
+    QFile file(percorso);
+    Apre(file);
+    return Intero(file, file.read(massimo));
+}
+
+void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
+{
+    ::Sostituisce(percorso, byte, FileTemporaneo::Per::ChiPoteva);
+}
+
+void Disco::SostituisceInPrivato(const QString &percorso, const QByteArray &byte)
+{
+    ::Sostituisce(percorso, byte, FileTemporaneo::Per::Utente);
 }
 
 Disco::Appoggio::Appoggio(const QString &percorso)

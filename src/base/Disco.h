@@ -14,6 +14,9 @@ namespace Disco {
 /// when it holds more than massimo bytes (nothing is kept then).
 QByteArray Legge(const QString &percorso, qint64 massimo);
 
+/// The first bytes of a regular file, at most massimo of them. Throws as Legge, but not 7.
+QByteArray LeggeInizio(const QString &percorso, qint64 massimo);
+
 /// Puts byte into the place of the file: whoever opens it finds the old bytes or the new ones,
 /// never a part. Follows symbolic links and keeps the file's permissions, and its owner and group
 /// as far as the user may. After a failure (61 disk or quota full, 70 write-protected or busy, 75
@@ -23,6 +26,9 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 /// program left behind in the same folder is removed by the first call that comes ten minutes
 /// later.
 void Sostituisce(const QString &percorso, const QByteArray &byte);
+
+/// Sostituisce for what nobody but the user shall read, whatever the folder lets others do.
+void SostituisceInPrivato(const QString &percorso, const QByteArray &byte);
 
 /// An empty file beside another, for its user alone and with a name that no other file has, for a
 /// library that writes into files only; removed with the object. What a killed program leaves is

@@ -2,37 +2,20 @@
 
 #include "base/Disco.h"
 #include "base/Lucchetto.h"
+#include "model/FileCopia.h"
 #include "model/FileModello.h"
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QUrl>
+
+#include <filesystem>
 
 namespace {
 
-constexpr QByteArrayView Firma = "plakera-recupero 1";
-constexpr QLatin1String Estensione(".recupero");
-constexpr QLatin1String EstensioneLucchetto(".lock");
-constexpr qint64 DimensioneMassima = FileModello::DimensioneMassima + qint64(64) * 1024;
-constexpr int RigheIntestazione = 4;
-constexpr const char *Assente = "assente";
-
-QByteArray Somma(const QByteArray &byte)
-{
-    return QCryptographicHash::hash(byte, QCryptographicHash::Sha256).toHex();
-}
-
-/// The head of a copy: signature, path of the model, checksum of the model file, checksum of the
-/// body; one line each. The path is percent-encoded, since it may hold a line feed.
-QByteArray Intestazione(const QString &percorso, const QByteArray &impronta,
-                        const QByteArray &corpo)
-{
-    return Firma.toByteArray() + '\n' + QUrl::toPercentEncoding(percorso) + '\n' + impronta + '\n' +
-           Somma(corpo) + '\n';
-}
+using FileCopia::Assente;
+using FileCopia::Somma;
 
 /// A file that is not there, or cannot be read, equals no file that ever was.
 QByteArray Impronta(const std::optional<QByteArray> &byte)
@@ -46,55 +29,36 @@ bool Cambiato(const QByteArray &allora, const QByteArray &adesso)
     return adesso != Assente && adesso != allora;
 }
 
-struct Letta
+/// The path with the links on it resolved, as far as there is anything at it.
+QString SenzaCollegamenti(const QString &percorso)
 {
-    QString percorso;
-    QByteArray impronta;
-    QByteArray corpo;
-};
+    const QFileInfo file(percorso);
+    if (const QString vero = file.canonicalFilePath(); !vero.isEmpty()) {
+        return vero;
+    }
+    const QString cartella = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return cartella.isEmpty() ? file.absoluteFilePath() : cartella + u'/' + file.fileName();
+}
 
-std::optional<Letta> Legge(const QString &file)
+bool UnSoloFile(const QString &uno, const QString &altro)
 {
-    const QByteArray byte = Disco::Legge(file, DimensioneMassima);
-    QList<QByteArray> righe;
-    qsizetype inizio = 0;
-    while (righe.size() < RigheIntestazione) {
-        const qsizetype fine = byte.indexOf('\n', inizio);
-        if (fine < 0) {
-            return std::nullopt;
-        }
-        righe.append(byte.mid(inizio, fine - inizio));
-        inizio = fine + 1;
-    }
-    const QByteArray corpo = byte.mid(inizio);
-    if (righe[0] != Firma || righe[3] != Somma(corpo)) {
-        return std::nullopt;
-    }
-    return Letta{QUrl::fromPercentEncoding(righe[1]), righe[2], corpo};
+    std::error_code codice;
+    return uno == altro ||
+           (std::filesystem::equivalent(QFileInfo(uno).filesystemFilePath(),
+                                        QFileInfo(altro).filesystemFilePath(), codice) &&
+            !codice);
 }
 
 std::unique_ptr<Lucchetto> LucchettoDi(const QString &copia)
 {
-    return std::make_unique<Lucchetto>(copia + EstensioneLucchetto);
-}
-
-/// True when a living program is writing the copy.
-bool InUso(const QString &copia)
-{
-    return LucchettoDi(copia)->Prende() == Lucchetto::Esito::Occupato;
-}
-
-/// False when the copy is still there.
-bool Elimina(const QString &copia)
-{
-    return QFile::remove(copia) || !QFileInfo::exists(copia);
+    return std::make_unique<Lucchetto>(copia + FileCopia::EstensioneLucchetto);
 }
 
 } // namespace
 
 CopiaRecupero::CopiaRecupero(QString cartella, const QString &percorsoModello)
     : cartella_(std::move(cartella))
-    , percorsoModello_(QFileInfo(percorsoModello).absoluteFilePath())
+    , percorsoModello_(SenzaCollegamenti(percorsoModello))
     , radice_(QString::fromLatin1(
           QCryptographicHash::hash(percorsoModello_.toUtf8(), QCryptographicHash::Sha1).toHex()))
 {
@@ -123,50 +87,69 @@ void CopiaRecupero::Tentati(const QByteArray &byte)
     }
 }
 
-QStringList CopiaRecupero::FileDelModello(const QString &estensione) const
-{
-    const QDir cartella(cartella_);
-    QStringList file;
-    const QStringList nomi =
-        cartella.entryList({radice_ + QStringLiteral("-*") + estensione}, QDir::Files, QDir::Time);
-    for (const QString &nome : nomi) {
-        file.append(cartella.filePath(nome));
-    }
-    return file;
-}
-
 void CopiaRecupero::PulisceLucchetti() const
 {
-    for (const QString &file : FileDelModello(Estensione + EstensioneLucchetto)) {
-        // Taken over and given back, the lock of a program that has died is gone.
-        InUso(file.chopped(EstensioneLucchetto.size()));
+    if (cartella_.isEmpty()) {
+        return;
     }
+    const QDir cartella(cartella_);
+    const QStringList nomi = cartella.entryList(
+        {radice_ + QStringLiteral("-*") + FileCopia::Estensione + FileCopia::EstensioneLucchetto},
+        QDir::Files);
+    for (const QString &nome : nomi) {
+        // Taken over and given back, the lock of a program that has died is gone.
+        FileCopia::InUso(cartella.filePath(nome.chopped(FileCopia::EstensioneLucchetto.size())));
+    }
+}
+
+bool CopiaRecupero::DelModello(const QString &percorso, const QByteArray &impronta) const
+{
+    if (UnSoloFile(percorso, percorsoModello_)) {
+        return true;
+    }
+    // An archive that has been renamed or moved took its models along.
+    const QFileInfo altrove(percorso);
+    return !altrove.exists() && impronta == impronta_ && impronta != Assente &&
+           altrove.fileName().compare(QFileInfo(percorsoModello_).fileName(),
+                                      Qt::CaseInsensitive) == 0;
 }
 
 QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca(const Avviso &avviso) const
 {
     PulisceLucchetti();
+    const auto avvisa = [&avviso](const QString &file, const ErroreSistema &errore) {
+        if (avviso) {
+            avviso(file, errore);
+        }
+    };
     QList<Trovata> trovate;
-    for (const QString &file : FileDelModello(Estensione)) {
+    for (const QString &file : FileCopia::Elenca(cartella_)) {
+        bool mia = QFileInfo(file).fileName().startsWith(radice_);
         try {
-            const std::optional<Letta> letta = Legge(file);
-            if (!letta || letta->percorso != percorsoModello_) {
+            if (const auto testa = FileCopia::LeggeTesta(file)) {
+                mia = DelModello(testa->percorso, testa->impronta);
+            }
+            if (!mia) {
                 continue;
+            }
+            const std::optional<FileCopia::Copia> letta = FileCopia::Legge(file);
+            if (!letta) {
+                throw ErroreSistema(ErroreSistema::ErroreIO,
+                                    QString::fromUtf8(FileCopia::Danneggiata));
             }
             Trovata trovata{file,
                             QFileInfo(file).lastModified(),
                             Cambiato(letta->impronta, impronta_),
-                            InUso(file),
+                            FileCopia::InUso(file),
                             {}};
             FileModello::Analizza(letta->corpo, trovata.modello);
             trovate.append(std::move(trovata));
         } catch (const ErroreSistema &errore) {
-            // One that holds no model is none, and one that has just gone belonged to a program
-            // that no longer needs it. The others may hold work.
-            const bool nonSiLegge = errore.numero == ErroreSistema::ErroreIO ||
-                                    errore.numero == ErroreSistema::AccessoFile;
-            if (avviso && nonSiLegge) {
-                avviso(file, errore);
+            // One that has just gone belonged to a program that no longer needs it. Of those that
+            // cannot be read the others may hold work.
+            if (mia && errore.numero != ErroreSistema::FileNonTrovato &&
+                errore.numero != ErroreSistema::PercorsoNonTrovato) {
+                avvisa(file, errore);
             }
         }
     }
@@ -179,7 +162,7 @@ bool CopiaRecupero::EliminaSuperata(const Trovata &trovata, const Modello &letto
         FileModello::Componi(letto, QLocale::c())) {
         return false;
     }
-    Elimina(trovata.file);
+    FileCopia::Elimina(trovata.file);
     return true;
 }
 
@@ -217,12 +200,17 @@ void CopiaRecupero::ScegliePropria()
     // A name that no copy has had or will have: neither is an earlier one written over, declined or
     // not, nor is one that another program has begun meanwhile ever taken for one of ours.
     const quint64 caso = QRandomGenerator::system()->generate64();
-    propria_ = QDir(cartella_).filePath(radice_ + u'-' + QString::number(caso, 16) + Estensione);
+    propria_ = QDir(cartella_).filePath(radice_ + u'-' + QString::number(caso, 16) +
+                                        FileCopia::Estensione);
     lucchetto_ = LucchettoDi(propria_);
 }
 
 void CopiaRecupero::Scrive(const Modello &modello)
 {
+    if (cartella_.isEmpty()) {
+        throw ErroreSistema(ErroreSistema::PercorsoNonTrovato,
+                            QStringLiteral("l'utente non ha una cartella personale"));
+    }
     // What firms bill is nobody else's business on a shared machine. Each time, for somebody may
     // have tidied the folder away.
     Disco::CreaCartellaPrivata(cartella_);
@@ -233,15 +221,16 @@ void CopiaRecupero::Scrive(const Modello &modello)
     // The copy is read back whatever the locale, so it is written with a point: nothing is rounded
     // away by going through it.
     const QByteArray corpo = FileModello::ComponiLeggibile(modello, QLocale::c());
-    Disco::Sostituisce(propria_, Intestazione(percorsoModello_, impronta_, corpo) + corpo);
-    if (!ripresa_.isEmpty() && Elimina(ripresa_)) {
+    Disco::SostituisceInPrivato(
+        propria_, FileCopia::Compone({percorsoModello_, impronta_, QByteArray(), corpo}));
+    if (!ripresa_.isEmpty() && FileCopia::Elimina(ripresa_)) {
         ripresa_.clear();
     }
 }
 
 void CopiaRecupero::EliminaPropria()
 {
-    if (!propria_.isEmpty() && Elimina(propria_)) {
+    if (!propria_.isEmpty() && FileCopia::Elimina(propria_)) {
         propria_.clear();
         lucchetto_.reset();
     }
@@ -250,5 +239,5 @@ void CopiaRecupero::EliminaPropria()
 void CopiaRecupero::EliminaOfferte()
 {
     EliminaPropria();
-    offerte_.removeIf(&Elimina);
+    offerte_.removeIf(&FileCopia::Elimina);
 }

@@ -15,13 +15,14 @@ class Lucchetto;
 
 /// The safety copies of one model file, kept in a folder of the user's own: what a modified model
 /// looked like at the end of the last edit, should the program or the machine die before it is
-/// saved. A copy belongs to one model file by its full path, and carries a checksum of that file as
-/// it was opened and one of itself, so a torn or foreign copy is never offered.
+/// saved. A copy belongs to one model file, by whatever path that is reached; it carries that
+/// file's path and checksum as it was opened, by which one that has moved with its archive is known
+/// again, and a checksum of itself, so a torn or foreign copy is never offered.
 class CopiaRecupero
 {
 public:
-    /// cartella is made when the first copy is written. percorsoModello is the model's file,
-    /// spelled as on disk.
+    /// cartella is made when the first copy is written; empty, none can be written (Scrive throws
+    /// 76). percorsoModello is the model's file, spelled as on disk.
     CopiaRecupero(QString cartella, const QString &percorsoModello);
     ~CopiaRecupero();
     CopiaRecupero(CopiaRecupero &&) noexcept;
@@ -49,8 +50,8 @@ public:
     /// count as written, also when that can only be seen later.
     void Tentati(const QByteArray &byte);
 
-    /// The whole copies of this model, newest first. Damaged ones are left alone; avviso is told
-    /// the path and the error (57 or 75) of those that the system does not let be read.
+    /// The whole copies of this model, newest first. avviso is told the path and the error of those
+    /// that are damaged or that the system does not let be read; they are left alone.
     using Avviso = std::function<void(const QString &file, const ErroreSistema &errore)>;
     QList<Trovata> Cerca(const Avviso &avviso = {}) const;
 
@@ -79,7 +80,8 @@ public:
     void EliminaOfferte();
 
 private:
-    QStringList FileDelModello(const QString &estensione) const;
+    /// True for the copy of a file that had that path and checksum.
+    bool DelModello(const QString &percorso, const QByteArray &impronta) const;
     void PulisceLucchetti() const;
     void ScegliePropria();
 

@@ -1,5 +1,7 @@
 #include "base/ErroreSistema.h"
 #include "model/CopiaRecupero.h"
+#include "model/CopieRimaste.h"
+#include "model/FileCopia.h"
 #include "model/FileModello.h"
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
@@ -10,6 +12,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -44,6 +50,15 @@ private slots:
     void NonEliminabileSiRiprova();
     void ByteDiUnSalvataggioFallito();
     void ByteFallitiCheSiVedonoPiuTardi();
+    void SoltantoPerLUtente();
+    void PerQualunqueStrada_data();
+    void PerQualunqueStrada();
+    void ArchivioRinominato();
+    void DanneggiataSiDice();
+    void DiUnaVersionePrima();
+    void SenzaCartellaPersonale();
+    void RimasteSenzaModello_data();
+    void RimasteSenzaModello();
 
 private:
     QString Cartella() const { return dir_->filePath(QStringLiteral("stato/plakera")); }
@@ -324,6 +339,9 @@ void tst_CopiaRecupero::NonLeggibileSiDice()
     Lascia(60);
     QVERIFY(QFile::setPermissions(dir_->path(), Permessi::PerTutti));
     QVERIFY(QFile::setPermissions(Cartella(), Permessi::PerTutti));
+    for (const QString &altra : Copie()) {
+        QVERIFY(QFile::setPermissions(Cartella() + u'/' + altra, Permessi::PerTutti));
+    }
     QVERIFY(QFile::setPermissions(file, Permessi::Nessuno));
     QStringList detti;
     qsizetype trovate = 0;
@@ -391,6 +409,179 @@ void tst_CopiaRecupero::ByteFallitiCheSiVedonoPiuTardi()
     QVERIFY2(!copia.FileCambiato(), "they are the program's own");
     ScriveFile(Percorso(), tentati + "x");
     QVERIFY(copia.FileCambiato());
+}
+
+void tst_CopiaRecupero::SoltantoPerLUtente()
+{
+    // Also in a folder that somebody made for all to look into.
+    QVERIFY(QDir().mkpath(Cartella()));
+    QCOMPARE(chmod(QFile::encodeName(Cartella()).constData(), 0755), 0);
+    const mode_t maschera = umask(0);
+    CopiaRecupero copia = Aperta();
+    copia.Scrive(ModelloDiProva(2));
+    const QString file = copia.Cerca().constFirst().file;
+    constexpr auto SoloSua =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QCOMPARE(QFileInfo(file).permissions(), SoloSua);
+    // And when it is written over one that an earlier version made for all.
+    QCOMPARE(chmod(QFile::encodeName(file).constData(), 0644), 0);
+    copia.Scrive(ModelloDiProva(3));
+    umask(maschera);
+    QCOMPARE(QFileInfo(file).permissions(), SoloSua);
+}
+
+void tst_CopiaRecupero::PerQualunqueStrada_data()
+{
+    QTest::addColumn<QString>("strada");
+    QTest::newRow("link to the data folder") << QStringLiteral("altra/Prova.Mod");
+    QTest::newRow("link to the model") << QStringLiteral("Legata.Mod");
+    QTest::newRow("hard link of the model") << QStringLiteral("Dura.Mod");
+    QTest::newRow("detour") << QStringLiteral("altra/./Prova.Mod");
+}
+
+void tst_CopiaRecupero::PerQualunqueStrada()
+{
+    QFETCH(QString, strada);
+    const QString altra = dir_->filePath(strada);
+    QVERIFY(QFile::link(dir_->path(), dir_->filePath(QStringLiteral("altra"))));
+    QVERIFY(QFile::link(Percorso(), dir_->filePath(QStringLiteral("Legata.Mod"))));
+    QCOMPARE(link(QFile::encodeName(Percorso()).constData(),
+                  QFile::encodeName(dir_->filePath(QStringLiteral("Dura.Mod"))).constData()),
+             0);
+    Lascia(50);
+    CopiaRecupero copia(Cartella(), altra);
+    copia.Parte(ByteDi(altra));
+    const auto trovate = copia.Cerca();
+    QCOMPARE(trovate.size(), 1);
+    QCOMPARE(trovate[0].modello.Campi[1].X, 50.0);
+    QVERIFY(!trovate[0].fileCambiato);
+}
+
+void tst_CopiaRecupero::ArchivioRinominato()
+{
+    const QString prima = dir_->filePath(QStringLiteral("prima"));
+    QVERIFY(QDir().mkdir(prima));
+    const QString modello = prima + QStringLiteral("/Fattura.Mod");
+    FileModello::Salva(ModelloDiProva(2), modello, Punto);
+    {
+        CopiaRecupero copia(Cartella(), modello);
+        copia.Parte(ByteDi(modello));
+        copia.Scrive(ModelloDiProva(3));
+    }
+    const QString dopo = dir_->filePath(QStringLiteral("dopo"));
+    QVERIFY(QDir().rename(prima, dopo));
+    const auto trovate = [&](const QString &nome, const QByteArray &byte) {
+        const QString file = dopo + u'/' + nome;
+        ScriveFile(file, byte);
+        CopiaRecupero copia(Cartella(), file);
+        copia.Parte(byte);
+        return copia.Cerca().size();
+    };
+    const QByteArray byte = ByteDi(dopo + QStringLiteral("/Fattura.Mod"));
+    QCOMPARE(trovate(QStringLiteral("FATTURA.MOD"), byte), qsizetype(1));
+    QVERIFY2(trovate(QStringLiteral("Altra.Mod"), byte) == 0, "a copy made of it is another model");
+    QVERIFY2(trovate(QStringLiteral("Fattura.Mod"), byte + "x") == 0, "nor is one of that name it");
+    // Where the old file still stands, the new one is its copy.
+    QVERIFY(QDir().mkdir(prima));
+    ScriveFile(modello, byte);
+    QCOMPARE(trovate(QStringLiteral("Fattura.Mod"), byte), qsizetype(0));
+}
+
+void tst_CopiaRecupero::DanneggiataSiDice()
+{
+    Lascia(50);
+    const QString file = Aperta().Cerca().constFirst().file;
+    const QByteArray intera = ByteDi(file);
+    const auto detti = [this] {
+        QStringList testi;
+        Aperta().Cerca([&](const QString &quale, const ErroreSistema &errore) {
+            testi.append(quale + u' ' + errore.Messaggio());
+        });
+        return testi;
+    };
+    const QStringList attesi{file + QStringLiteral(" errore 57 la copia è danneggiata")};
+    for (const qsizetype byte : {qsizetype(0), qsizetype(10), intera.indexOf('\n') + 3,
+                                 intera.size() / 2, intera.size() - 1}) {
+        ScriveFile(file, intera.left(byte));
+        QCOMPARE(detti(), attesi);
+    }
+    ScriveFile(file, intera);
+    QVERIFY(detti().isEmpty());
+    // The start tells of it too.
+    ScriveFile(file, intera.left(100));
+    const auto trovate = CopieRimaste::Cerca(Cartella());
+    QCOMPARE(trovate.nonLette.size(), 1);
+    QCOMPARE(trovate.nonLette[0].file, file);
+    QVERIFY(trovate.rimaste.isEmpty());
+}
+
+void tst_CopiaRecupero::DiUnaVersionePrima()
+{
+    Lascia(50);
+    const QString file = Aperta().Cerca().constFirst().file;
+    const QByteArray corpo = FileModello::Componi(ModelloDiProva(4), Punto);
+    ScriveFile(file, "plakera-recupero 1\n" + QUrl::toPercentEncoding(Percorso()) + '\n' +
+                         FileCopia::Somma(ByteDi(Percorso())) + '\n' + FileCopia::Somma(corpo) +
+                         '\n' + corpo);
+    const auto trovate = Aperta().Cerca();
+    QCOMPARE(trovate.size(), 1);
+    QCOMPARE(trovate[0].modello.NumCampi, qint16(4));
+    QVERIFY(!trovate[0].fileCambiato);
+}
+
+void tst_CopiaRecupero::SenzaCartellaPersonale()
+{
+    CopiaRecupero copia(QString(), Percorso());
+    copia.Parte(ByteDi(Percorso()));
+    const QStringList qui = NomiIn(QDir::currentPath());
+    QVERIFY(copia.Cerca().isEmpty());
+    QCOMPARE(ErroreDi([&] { copia.Scrive(ModelloDiProva(2)); }), 76);
+    QVERIFY(CopieRimaste::Cerca(QString()).rimaste.isEmpty());
+    QCOMPARE(NomiIn(QDir::currentPath()), qui);
+}
+
+void tst_CopiaRecupero::RimasteSenzaModello_data()
+{
+    using Azione = std::function<void(const QString &)>;
+    QTest::addColumn<Azione>("azione");
+    QTest::addColumn<bool>("rimasta");
+    QTest::addColumn<bool>("modelloCe");
+    const auto niente = [](const QString &) {};
+    QTest::newRow("model as it was") << Azione(niente) << false << true;
+    QTest::newRow("model gone") << Azione([](const QString &file) { QVERIFY(QFile::remove(file)); })
+                                << true << false;
+    QTest::newRow("model renamed") << Azione([](const QString &file) {
+        QVERIFY(QFile::rename(file, file + QStringLiteral(".Mod")));
+    }) << true << false;
+    QTest::newRow("model cut short")
+        << Azione([](const QString &file) { ScriveFile(file, "x\r\n"); }) << true << true;
+    QTest::newRow("folder in its place")
+        << Azione([](const QString &file) { QVERIFY(QFile::remove(file) && QDir().mkdir(file)); })
+        << true << true;
+}
+
+void tst_CopiaRecupero::RimasteSenzaModello()
+{
+    using Azione = std::function<void(const QString &)>;
+    QFETCH(Azione, azione);
+    QFETCH(bool, rimasta);
+    QFETCH(bool, modelloCe);
+    Lascia(50);
+    azione(Percorso());
+    const auto trovate = CopieRimaste::Cerca(Cartella());
+    QVERIFY(trovate.nonLette.isEmpty());
+    QCOMPARE(trovate.rimaste.size(), rimasta ? 1 : 0);
+    if (rimasta) {
+        QCOMPARE(trovate.rimaste[0].modelloCe, modelloCe);
+        QCOMPARE(trovate.rimaste[0].percorso, QFileInfo(Percorso()).absoluteFilePath());
+        QCOMPARE(trovate.rimaste[0].modello.NomeFile, QStringLiteral("Prova.Mod"));
+        QCOMPARE(trovate.rimaste[0].modello.Campi[1].X, 50.0);
+    }
+    // What its program is still at waits.
+    CopiaRecupero viva(Cartella(), Percorso());
+    viva.Parte(std::nullopt);
+    viva.Scrive(ModelloDiProva(1));
+    QCOMPARE(CopieRimaste::Cerca(Cartella()).rimaste.size(), rimasta ? 1 : 0);
 }
 
 QTEST_GUILESS_MAIN(tst_CopiaRecupero)
