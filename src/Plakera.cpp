@@ -3,6 +3,7 @@
 #include "catalogue/ApriManuale.h"
 #include "catalogue/SelezioneArchivifrm.h"
 #include "editor/Form2.h"
+#include "editor/LavoroRimasto.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "preview/Frm1.h"
@@ -16,6 +17,7 @@ Plakera::Plakera(QObject *padre)
 {
     qApp->installEventFilter(this);
     connect(this, &Plakera::Dipinta, this, &Plakera::DopoLaPrimaPittura, Qt::QueuedConnection);
+    connect(this, &Plakera::Mostrata, this, &Plakera::OffreLavoro, Qt::QueuedConnection);
 }
 
 Plakera::~Plakera() = default;
@@ -61,11 +63,25 @@ void Plakera::DopoLaPrimaPittura()
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/plakera.png")));
 }
 
+void Plakera::OffreLavoro()
+{
+    Guardia(scelta_.get(), [this] {
+        if (OffreLavoroRimasto(scelta_.get(), stato_)) {
+            scelta_->RiprendeModelli();
+        }
+    });
+}
+
 bool Plakera::eventFilter(QObject *oggetto, QEvent *evento)
 {
     if (!dipinta_ && evento->type() == QEvent::Paint) {
         dipinta_ = true;
         emit Dipinta();
+    }
+    // Not with the box of a message that the loading shows.
+    if (!mostrata_ && evento->type() == QEvent::Paint && scelta_ && scelta_->isVisible()) {
+        mostrata_ = true;
+        emit Mostrata();
     }
     if (evento->type() == QEvent::KeyPress && oggetto->isWidgetType() &&
         static_cast<QKeyEvent *>(evento)->key() == Qt::Key_F1) {

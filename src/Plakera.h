@@ -25,6 +25,8 @@ public:
 signals:
     /// Something is about to be painted for the first time.
     void Dipinta();
+    /// The start window is about to be painted for the first time.
+    void Mostrata();
 
 protected:
     /// F1 opens the help topic of the control that has the focus. The first painting starts what
@@ -35,9 +37,11 @@ private:
     void ApreEditor();
     void ChiudeEditor();
     void DopoLaPrimaPittura();
+    void OffreLavoro();
 
     StatoProgramma stato_;
     std::unique_ptr<SelezioneArchivifrm> scelta_;
     std::unique_ptr<Form2> editor_;
-    bool dipinta_ = false; ///< the start window has been on the screen
+    bool dipinta_ = false;  ///< something has been on the screen
+    bool mostrata_ = false; ///< the start window has
 };

@@ -26,6 +26,9 @@ public:
     /// data folder. False when the program must end; the user has been told why.
     bool Form_Load(const QString &datiIndicati);
 
+    /// Lists the chosen archive's models afresh and selects the one that was opened last.
+    void RiprendeModelli();
+
 signals:
     /// A model was opened or created: CartellaModelli and Aperto.NomeFile are set and the window
     /// has closed itself.

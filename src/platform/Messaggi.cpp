@@ -222,6 +222,27 @@ Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &tes
     }
 }
 
+int Messaggi::DomandaAScelta(QWidget *padre, const QString &testo, const QStringList &bottoni,
+                             int rinuncia)
+{
+    if (soloErroreStandard) {
+        return rinuncia;
+    }
+    RiquadroDomanda riquadro(padre, testo, QMessageBox::NoButton);
+    QList<QAbstractButton *> inOrdine;
+    for (qsizetype i = 0; i < bottoni.size(); ++i) {
+        // One role, so that they stand in the order in which they were given on every system.
+        QPushButton *bottone = riquadro.addButton(bottoni[i], QMessageBox::ActionRole);
+        inOrdine.append(bottone);
+        if (i == rinuncia) {
+            riquadro.setDefaultButton(bottone);
+            riquadro.setEscapeButton(bottone);
+        }
+    }
+    Esegue(riquadro);
+    return int(inOrdine.indexOf(riquadro.clickedButton()));
+}
+
 std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &titolo,
                                              const QString &richiesta, const QString &proposta)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -31,6 +32,10 @@ Scelta DomandaAnnullabile(QWidget *padre, const QString &testo, Scelta predefini
 
 /// Yes/No; the close box and Escape answer neither (Annulla). Without windows: the default.
 Scelta DomandaRinunciabile(QWidget *padre, const QString &testo, Risposta predefinita);
+
+/// A button for each of bottoni, from left to right; the index of the one pressed. The window's
+/// close box and Escape press the one at rinuncia, which is the default. Without windows: rinuncia.
+int DomandaAScelta(QWidget *padre, const QString &testo, const QStringList &bottoni, int rinuncia);
 
 /// A text-input box; nothing when the user cancels (always nothing without windows).
 std::optional<QString> ChiedeTesto(QWidget *padre, const QString &titolo, const QString &richiesta,

@@ -14,6 +14,7 @@ private slots:
     void ripreseESalvate();
     void rifiutateERimaste();
     void secondaIstanzaNonTocca();
+    void modelloSparito();
 
 private:
     /// Opens the invoice, moves a field and kills the program.
@@ -129,6 +130,29 @@ void tst_Caduta::secondaIstanzaNonTocca()
     const QByteArray differenza = RigheFile(PercorsoDi(scrivania)).Differenza(atteso);
     QVERIFY2(differenza.isEmpty(), differenza);
     QVERIFY(Copie(scrivania).isEmpty());
+    scrivania.ChiudeEditor();
+}
+
+void tst_Caduta::modelloSparito()
+{
+    Scrivania scrivania;
+    const RigheFile atteso = ConCampoMosso(PercorsoDi(scrivania));
+    LavoraECade(scrivania);
+    QVERIFY(QFile::remove(PercorsoDi(scrivania)));
+    // The start offers what no opening can.
+    scrivania.Avvia();
+    scrivania.Video().Attende(Scrivania::TitoloRiquadro);
+    scrivania.Video().Tasti({QStringLiteral("alt+s")});
+    scrivania.Video().Attende(QStringLiteral("Nuovo modello di stampa"));
+    scrivania.Video().Tasti({QStringLiteral("Return")});
+    const QString nuovo = Fattura + QStringLiteral("_recuperato");
+    const QString file = scrivania.CartellaModelli() + nuovo + QStringLiteral(".Mod");
+    AttendeChe(QStringLiteral("the new model"), [&] { return QFile::exists(file); });
+    AttendeChe(QStringLiteral("the end of the copy"), [&] { return Copie(scrivania).isEmpty(); });
+    const QByteArray differenza = RigheFile(file).Differenza(atteso);
+    QVERIFY2(differenza.isEmpty(), differenza);
+    // It is in the list already.
+    scrivania.ApreModello(nuovo);
     scrivania.ChiudeEditor();
 }
 

@@ -1,0 +1,55 @@
+#include "editor/FrmLavoroRimasto.h"
+
+#include "model/StatoProgramma.h"
+#include "platform/Finestre.h"
+#include "platform/Percorsi.h"
+#include "preview/Frm1.h"
+#include "ui_FrmLavoroRimasto.h"
+
+#include <QFileInfo>
+#include <QPixmap>
+#include <QScreen>
+
+namespace {
+
+/// The sheet as the preview shows it.
+QPixmap Ritratto(StatoProgramma &stato)
+{
+    Frm1 anteprima(stato);
+    for (const Genere genere : Generi) {
+        for (int k = 1; k <= stato.Aperto.UltimoSlot(genere); ++k) {
+            anteprima.CreaElemento(genere, k);
+            anteprima.Impostazioni(genere, k);
+            anteprima.Posiziona(genere, k, false);
+        }
+    }
+    anteprima.NascondiMarcatori();
+    anteprima.PrimoPianoImmagini();
+    anteprima.PrimoPianoCornici();
+    anteprima.PrimoPianoCampi();
+    return anteprima.findChild<QWidget *>(QStringLiteral("P1"))->grab();
+}
+
+} // namespace
+
+FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percorso,
+                                   const QStringList &elencoFont, QWidget *padre)
+    : QDialog(padre)
+    , ui_(std::make_unique<Ui::FrmLavoroRimasto>())
+{
+    ui_->setupUi(this);
+    setWindowTitle(QStringLiteral("Plakera: lavoro non salvato di ") + modello.NomeFile);
+    StatoProgramma stato;
+    stato.Aperto = modello;
+    stato.CartellaModelli = QFileInfo(percorso).path() + Percorsi::Separatore();
+    stato.ElencoFont = elencoFont;
+    const QPixmap ritratto = Ritratto(stato);
+    ui_->Foglio->setPixmap(ritratto);
+    // Room for the scroll bars and the button.
+    constexpr int Intorno = 80;
+    resize(
+        EntroLoSchermo(this, ritratto.deviceIndependentSize().toSize() + QSize(Intorno, Intorno)));
+    connect(ui_->Chiudi, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+FrmLavoroRimasto::~FrmLavoroRimasto() = default;

@@ -1,0 +1,172 @@
+#include "editor/LavoroRimasto.h"
+
+#include "base/Ansi.h"
+#include "editor/FrmLavoroRimasto.h"
+#include "model/CopieRimaste.h"
+#include "model/FileCopia.h"
+#include "model/FileModello.h"
+#include "model/StatoProgramma.h"
+#include "platform/CartellaStato.h"
+#include "platform/Guardia.h"
+#include "platform/Messaggi.h"
+#include "platform/Percorsi.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <optional>
+
+namespace {
+
+using CopieRimaste::NonLetta;
+using CopieRimaste::Rimasta;
+
+constexpr QLatin1String EstensioneModello(".Mod");
+
+void EliminaCopia(const QString &file)
+{
+    if (!FileCopia::Elimina(file)) {
+        throw ErroreSistema(ErroreSistema::AutorizzazioneNegata,
+                            DescrizioneErrore(ErroreSistema::AutorizzazioneNegata) +
+                                QStringLiteral(": ") + QDir::toNativeSeparators(file));
+    }
+}
+
+void OffreNonLetta(QWidget *padre, const NonLetta &nonLetta)
+{
+    const QString testo = QStringLiteral("copia di recupero non letta: ") +
+                          nonLetta.errore.Messaggio() + u'\n' +
+                          QDir::toNativeSeparators(nonLetta.file);
+    enum { Tieni, GettaVia };
+    if (Messaggi::DomandaAScelta(padre, testo,
+                                 {QStringLiteral("&Tieni"), QStringLiteral("&Getta via")},
+                                 Tieni) == GettaVia) {
+        EliminaCopia(nonLetta.file);
+    }
+}
+
+/// The folder for a new model: that of the old one, else that of the chosen archive; empty when
+/// there is neither.
+QString CartellaPerNuovo(const Rimasta &rimasta, const StatoProgramma &stato)
+{
+    const QString sua = QFileInfo(rimasta.percorso).path();
+    if (QFileInfo(sua).isDir()) {
+        return QDir::toNativeSeparators(sua) + Percorsi::Separatore();
+    }
+    // Without an archive it is still the folder of all of them.
+    const bool archivio =
+        QDir(stato.CartellaModelli).dirName().compare(QLatin1String("ini"), Qt::CaseInsensitive) ==
+        0;
+    return archivio ? stato.CartellaModelli : QString();
+}
+
+/// The file of the new model, in the spelling that the user gave it; nothing when he gave up.
+std::optional<QString> ChiedeFile(QWidget *padre, const Rimasta &rimasta, const QString &cartella)
+{
+    QString proposto =
+        QFileInfo(rimasta.percorso).completeBaseName() + QStringLiteral("_recuperato");
+    for (;;) {
+        const std::optional<QString> nome = Messaggi::ChiedeTesto(
+            padre, QStringLiteral("Nuovo modello di stampa"),
+            QStringLiteral(
+                "lavoro non salvato di %1\n\nDigitare un nome per il nuovo modello in\n%2")
+                .arg(rimasta.modello.NomeFile, cartella),
+            proposto);
+        if (!nome || nome->isEmpty()) {
+            return std::nullopt;
+        }
+        const QString file = cartella + *nome + EstensioneModello;
+        if (!Percorsi::NomeFileValido(*nome) || !Ansi::Rappresentabile(*nome)) {
+            Messaggi::Mostra(
+                padre, QStringLiteral("\"%1\" non è un nome valido per un modello.").arg(*nome));
+        } else if (QFileInfo::exists(Percorsi::Risolve(file))) {
+            Messaggi::Mostra(padre, QStringLiteral("%1 esiste già: scegliere un nome diverso")
+                                        .arg(*nome + EstensioneModello));
+        } else {
+            return file;
+        }
+        proposto = *nome;
+    }
+}
+
+/// False when the user gave up.
+bool SalvaComeNuovo(QWidget *padre, const Rimasta &rimasta, const StatoProgramma &stato)
+{
+    const QString cartella = CartellaPerNuovo(rimasta, stato);
+    if (cartella.isEmpty()) {
+        Messaggi::Mostra(padre, QStringLiteral("Selezionare una cartella"));
+        return false;
+    }
+    const std::optional<QString> file = ChiedeFile(padre, rimasta, cartella);
+    if (!file) {
+        return false;
+    }
+    FileModello::ScriveModello(rimasta.modello, *file);
+    EliminaCopia(rimasta.file);
+    return true;
+}
+
+bool GettaVia(QWidget *padre, const Rimasta &rimasta)
+{
+    if (!Messaggi::Domanda(
+            padre,
+            QStringLiteral("Il lavoro non salvato di %1 andrà perso.\nLO VUOI GETTARE "
+                           "VIA?")
+                .arg(rimasta.modello.NomeFile),
+            Messaggi::Risposta::No)) {
+        return false;
+    }
+    EliminaCopia(rimasta.file);
+    return true;
+}
+
+enum class Esito { ChiedeAncora, Tenuta, Salvata, GettataVia };
+
+Esito Offre(QWidget *padre, const Rimasta &rimasta, const StatoProgramma &stato)
+{
+    const QString testo =
+        QStringLiteral(
+            "lavoro non salvato di %1 del %2, rimasto da una chiusura imprevista.\n%3\n%4")
+            .arg(rimasta.modello.NomeFile,
+                 QLocale(QLocale::Italian).toString(rimasta.scritta, QLocale::ShortFormat),
+                 rimasta.modelloCe ? QStringLiteral("Il modello non si può leggere:")
+                                   : QStringLiteral("Il modello non c'è più:"),
+                 QDir::toNativeSeparators(rimasta.percorso));
+    enum { Guarda, Tieni, Salva, Getta };
+    switch (Messaggi::DomandaAScelta(padre, testo,
+                                     {QStringLiteral("G&uarda"), QStringLiteral("&Tieni"),
+                                      QStringLiteral("&Salva come nuovo modello"),
+                                      QStringLiteral("&Getta via")},
+                                     Tieni)) {
+    case Guarda:
+        FrmLavoroRimasto(rimasta.modello, rimasta.percorso, stato.ElencoFont, padre).exec();
+        return Esito::ChiedeAncora;
+    case Salva:
+        return SalvaComeNuovo(padre, rimasta, stato) ? Esito::Salvata : Esito::ChiedeAncora;
+    case Getta:
+        return GettaVia(padre, rimasta) ? Esito::GettataVia : Esito::ChiedeAncora;
+    default:
+        return Esito::Tenuta;
+    }
+}
+
+} // namespace
+
+bool OffreLavoroRimasto(QWidget *padre, const StatoProgramma &stato)
+{
+    const CopieRimaste::Trovate trovate = CopieRimaste::Cerca(CartellaStato());
+    for (const NonLetta &nonLetta : trovate.nonLette) {
+        Guardia(padre, [&] { OffreNonLetta(padre, nonLetta); });
+    }
+    bool salvata = false;
+    for (const Rimasta &rimasta : trovate.rimaste) {
+        Esito esito = Esito::ChiedeAncora;
+        while (esito == Esito::ChiedeAncora) {
+            // A failure is told, and the question comes again: the work is still there.
+            Guardia(padre, [&] { esito = Offre(padre, rimasta, stato); });
+        }
+        salvata = salvata || esito == Esito::Salvata;
+    }
+    return salvata;
+}
