@@ -55,6 +55,7 @@ int main(int argc, char *argv[])
     const std::unique_ptr<QApplication> applicazione = Applicazione(argc, argv);
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     Disco::UsaProprieta(&SuDisco::TieneProprieta);
+    Disco::UsaScambio(&SuDisco::PrendeIlPosto);
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));
     ImpostaLingua();

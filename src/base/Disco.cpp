@@ -1,7 +1,5 @@
 #include "base/Disco.h"
 
-#include "base/ErroreSistema.h"
-
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -19,6 +17,7 @@ namespace {
 Disco::Sincronizzazione sincronizza = nullptr;
 Disco::SincronizzazioneCartella sincronizzaCartella = nullptr;
 Disco::Proprieta tieneProprieta = nullptr;
+Disco::Scambio scambia = nullptr;
 
 // Names of temporary files are nobody else's, so sweeping cannot hit a user's own copy, and do not
 // contain the final name, which may already be as long as the file system allows.
@@ -116,10 +115,28 @@ QFileInfo Bersaglio(const QString &percorso)
         }
         file.setFile(file.symLinkTarget());
     }
-    if (file.fileName().isEmpty() || (file.exists() && (!file.isFile() || !file.isWritable()))) {
+    // The administrator may write what nobody is meant to: whoever protected it wants it so.
+    constexpr auto PerQualcuno = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    if (file.fileName().isEmpty() || (file.exists() && (!file.isFile() || !file.isWritable() ||
+                                                        !(file.permissions() & PerQualcuno)))) {
         throw ErroreSistema(ErroreSistema::AccessoFile);
     }
     return file;
+}
+
+/// Writes through to the medium.
+void Scrive(QFile &file, const QByteArray &byte)
+{
+    errno = 0;
+    if (file.write(byte) != byte.size() || file.error() != QFileDevice::NoError ||
+        !file.resize(byte.size())) {
+        Fallisce(Causa(QFileInfo(file).path()));
+    }
+    if (sincronizza != nullptr) {
+        if (const std::error_code codice = sincronizza(file.handle())) {
+            Fallisce(codice);
+        }
+    }
 }
 
 /// The new bytes on their way: a file beside the final one, removed unless it took its place.
@@ -146,7 +163,7 @@ public:
         Utente     ///< the user alone
     };
 
-    void Apre(Per chi)
+    std::error_code Apre(Per chi)
     {
         // Unbuffered: a failing write is seen where it happens, not when a buffer is flushed.
         constexpr auto modo = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
@@ -156,31 +173,23 @@ public:
                       ? file_.open(modo, QFile::ReadOwner | QFile::WriteOwner)
                       : file_.open(modo);
         if (!creato_) {
-            Fallisce(Causa(bersaglio_.path()));
+            return Causa(bersaglio_.path());
         }
         if (bersaglio_.exists() && chi == Per::ChiPoteva) {
-            // Before the permissions, for a change of owner may take some of them away. Where it
-            // is refused the file stays with the user who saves it.
-            if (tieneProprieta != nullptr) {
-                tieneProprieta(file_.handle(), bersaglio_.filePath());
+            tieneTutto_ =
+                tieneProprieta == nullptr || tieneProprieta(file_.handle(), bersaglio_.filePath());
+            if (tieneProprieta == nullptr || !tieneTutto_) {
+                // File systems without permissions refuse this, and have none to keep.
+                file_.setPermissions(bersaglio_.permissions());
             }
-            // File systems without permissions refuse this, and have none to keep.
-            file_.setPermissions(bersaglio_.permissions());
         }
+        return {};
     }
 
-    void Scrive(const QByteArray &byte)
-    {
-        errno = 0;
-        if (file_.write(byte) != byte.size() || file_.error() != QFileDevice::NoError) {
-            Fallisce(Causa(bersaglio_.path()));
-        }
-        if (sincronizza != nullptr) {
-            if (const std::error_code codice = sincronizza(file_.handle())) {
-                Fallisce(codice);
-            }
-        }
-    }
+    /// After Apre: the new file has everything that the old one has.
+    bool TieneTutto() const { return tieneTutto_; }
+
+    void Scrive(const QByteArray &byte) { ::Scrive(file_, byte); }
 
     /// Closes the file and gives it out of hand; its path.
     QString Lascia()
@@ -192,23 +201,25 @@ public:
 
     QDateTime Nascita() const { return file_.fileTime(QFileDevice::FileModificationTime); }
 
-    void PrendeIlPosto()
+    std::error_code PrendeIlPosto()
     {
         file_.close();
         std::error_code codice;
-        std::filesystem::rename(QFileInfo(file_).filesystemFilePath(),
-                                bersaglio_.filesystemFilePath(), codice);
-        if (codice) {
-            Fallisce(codice);
+        if (scambia != nullptr) {
+            codice = scambia(file_.fileName(), bersaglio_.filePath());
+        } else {
+            std::filesystem::rename(QFileInfo(file_).filesystemFilePath(),
+                                    bersaglio_.filesystemFilePath(), codice);
         }
-        creato_ = false;
-        SincronizzaNomi(bersaglio_.path());
+        creato_ = bool(codice);
+        return codice;
     }
 
 private:
     QFileInfo bersaglio_;
     QFile file_;
     bool creato_ = false;
+    bool tieneTutto_ = true;
 };
 
 void Apre(QFile &file)
@@ -236,15 +247,80 @@ QByteArray Intero(const QFile &file, QByteArray byte)
     return byte;
 }
 
-void Sostituisce(const QString &percorso, const QByteArray &byte, FileTemporaneo::Per chi)
+/// What must become of the file when a new one cannot have all that it has.
+enum class Altrimenti { SiPerde, SiRiscrive };
+
+/// True when the folder, or what it holds, lets the user write into the file but not replace it.
+bool SoloSulPosto(const std::error_code &codice)
 {
-    const QFileInfo bersaglio = Bersaglio(percorso);
+    return codice == std::errc::permission_denied || codice == std::errc::operation_not_permitted;
+}
+
+bool HaAltriNomi(const QFileInfo &file)
+{
+    std::error_code codice;
+    const auto nomi = std::filesystem::hard_link_count(file.filesystemFilePath(), codice);
+    return !codice && nomi > 1;
+}
+
+/// False when the old file has to be rewritten instead.
+bool MetteIlNuovo(const QFileInfo &bersaglio, const QByteArray &byte, FileTemporaneo::Per chi,
+                  Altrimenti altrimenti)
+{
+    const bool puoRiscrivere = altrimenti == Altrimenti::SiRiscrive && bersaglio.exists();
+    if (puoRiscrivere && HaAltriNomi(bersaglio)) {
+        return false;
+    }
     FileTemporaneo nuovo(bersaglio);
-    nuovo.Apre(chi);
+    if (const std::error_code codice = nuovo.Apre(chi)) {
+        if (puoRiscrivere && SoloSulPosto(codice)) {
+            return false;
+        }
+        Fallisce(codice);
+    }
+    if (puoRiscrivere && !nuovo.TieneTutto()) {
+        return false;
+    }
     // Before writing, for they may be what fills the disk.
     SpazzaResti(bersaglio.dir(), nuovo.Nascita());
     nuovo.Scrive(byte);
-    nuovo.PrendeIlPosto();
+    if (const std::error_code codice = nuovo.PrendeIlPosto()) {
+        if (puoRiscrivere && SoloSulPosto(codice)) {
+            return false;
+        }
+        Fallisce(codice);
+    }
+    SincronizzaNomi(bersaglio.path());
+    return true;
+}
+
+void RimetteIVecchi(QFile &file, const QByteArray &vecchi, const ErroreSistema &causa)
+{
+    try {
+        file.unsetError();
+        file.seek(0);
+        Scrive(file, vecchi);
+    } catch (const ErroreSistema &) {
+        throw Disco::FileIncompleto(
+            causa.numero, causa.descrizione + QStringLiteral("; il file è rimasto incompleto"));
+    }
+}
+
+void Riscrive(const QFileInfo &bersaglio, const QByteArray &byte)
+{
+    QFile file(bersaglio.filePath());
+    errno = 0;
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
+        Fallisce(Causa(bersaglio.path()));
+    }
+    const QByteArray vecchi = Intero(file, file.readAll());
+    try {
+        file.seek(0);
+        Scrive(file, byte);
+    } catch (const ErroreSistema &errore) {
+        RimetteIVecchi(file, vecchi, errore);
+        throw;
+    }
 }
 
 } // namespace
@@ -266,20 +342,28 @@ QByteArray Disco::LeggeInizio(const QString &percorso, qint64 massimo)
     return Intero(file, file.read(massimo));
 }
 
-void Disco::Sostituisce(const QString &percorso, const QByteArray &byte)
+void Disco::Sostituisce(const QString &percorso, const QByteArray &byte,
+                        const PrimaDiRiscrivere &prima)
 {
-    ::Sostituisce(percorso, byte, FileTemporaneo::Per::ChiPoteva);
+    const QFileInfo bersaglio = Bersaglio(percorso);
+    const auto altrimenti = prima ? Altrimenti::SiRiscrive : Altrimenti::SiPerde;
+    if (!MetteIlNuovo(bersaglio, byte, FileTemporaneo::Per::ChiPoteva, altrimenti)) {
+        prima();
+        Riscrive(bersaglio, byte);
+    }
 }
 
 void Disco::SostituisceInPrivato(const QString &percorso, const QByteArray &byte)
 {
-    ::Sostituisce(percorso, byte, FileTemporaneo::Per::Utente);
+    MetteIlNuovo(Bersaglio(percorso), byte, FileTemporaneo::Per::Utente, Altrimenti::SiPerde);
 }
 
 Disco::Appoggio::Appoggio(const QString &percorso)
 {
     FileTemporaneo vuoto(Bersaglio(percorso));
-    vuoto.Apre(FileTemporaneo::Per::Utente);
+    if (const std::error_code codice = vuoto.Apre(FileTemporaneo::Per::Utente)) {
+        Fallisce(codice);
+    }
     percorso_ = vuoto.Lascia();
 }
 
@@ -312,6 +396,11 @@ void Disco::UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella 
 void Disco::UsaProprieta(Proprieta proprieta)
 {
     tieneProprieta = proprieta;
+}
+
+void Disco::UsaScambio(Scambio scambio)
+{
+    scambia = scambio;
 }
 
 int Disco::NumeroErrore(const std::error_code &codice)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "base/ErroreSistema.h"
+
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <system_error>
 
 /// Whole files, read and replaced at one go. Every failure is an ErroreSistema with the number of
@@ -17,15 +20,34 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 /// The first bytes of a regular file, at most massimo of them. Throws as Legge, but not 7.
 QByteArray LeggeInizio(const QString &percorso, qint64 massimo);
 
+/// Sees to it that the new bytes are safe on the medium elsewhere; throws when it cannot.
+using PrimaDiRiscrivere = std::function<void()>;
+
 /// Puts byte into the place of the file: whoever opens it finds the old bytes or the new ones,
-/// never a part. Follows symbolic links and keeps the file's permissions, and its owner and group
-/// as far as the user may. After a failure (61 disk or quota full, 70 write-protected or busy, 75
+/// never a part. Follows symbolic links and keeps the file's permissions, and its owner, group and
+/// attributes as far as the user may. A file without a right to write for anybody is refused (75),
+/// to the administrator too.
+///
+/// With prima nothing of these is ever lost: where a new file cannot have them all, or the old one
+/// has further names, or the folder takes no new file, prima is called and the old file rewritten
+/// in its place. Only then may the end of the program leave a part; after a failure the old bytes
+/// are put back. Throws FileIncompleto where that fails too, and what prima throws.
+///
+/// After a failure (61 disk or quota full, 70 write-protected or busy, 75
 /// no right or no file, 76 folder gone, 57 anything else) the old file stands whole and the
 /// temporary one is gone. One failure comes later: when the folder cannot be forced onto the medium
 /// the new file stands already, and only a power cut could bring the old one back. What a killed
 /// program left behind in the same folder is removed by the first call that comes ten minutes
 /// later.
-void Sostituisce(const QString &percorso, const QByteArray &byte);
+void Sostituisce(const QString &percorso, const QByteArray &byte,
+                 const PrimaDiRiscrivere &prima = {});
+
+/// A file was being rewritten in its place and is now neither the old one nor the new.
+class FileIncompleto : public ErroreSistema
+{
+public:
+    using ErroreSistema::ErroreSistema;
+};
 
 /// Sostituisce for what nobody but the user shall read, whatever the folder lets others do.
 void SostituisceInPrivato(const QString &percorso, const QByteArray &byte);
@@ -63,12 +85,18 @@ using SincronizzazioneCartella = std::error_code (*)(const QString &cartella);
 /// after may lose the new bytes.
 void UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella cartella);
 
-/// Gives an open file (a C descriptor) the owner and group of the file of that path, as far as the
-/// system lets the user; true when it has both.
+/// Gives an open file (a C descriptor) the owner, group, permissions and attributes of the file of
+/// that path, as far as the system lets the user; true when it has them all.
 using Proprieta = bool (*)(int descrittore, const QString &vecchio);
 
 /// Qt offers no such call either. Without one, a replaced file belongs to whoever replaced it.
 void UsaProprieta(Proprieta proprieta);
+
+/// Moves a new file into the place of another, which may be there or not.
+using Scambio = std::error_code (*)(const QString &nuovo, const QString &vecchio);
+
+/// For a system where the plain renaming does not keep what the old file had.
+void UsaScambio(Scambio scambio);
 
 /// The number of a failed operation on a file: 53, 57, 61, 70 or 75.
 int NumeroErrore(const std::error_code &codice);

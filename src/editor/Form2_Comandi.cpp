@@ -62,7 +62,13 @@ void Form2::ScriveSulDisco()
 {
     QByteArray byte;
     try {
-        FileModello::ScriveModello(stato_.Aperto, percorso_, &byte);
+        FileModello::ScriveModello(stato_.Aperto, percorso_, &byte,
+                                   [&] { copia_->TieneIlLavoro(stato_.Aperto, byte); });
+    } catch (const Disco::FileIncompleto &errore) {
+        copia_->Incompleto();
+        throw ErroreSistema(errore.numero,
+                            errore.descrizione +
+                                QStringLiteral(", il lavoro è nella copia di recupero"));
     } catch (const ErroreSistema &) {
         // The new bytes may stand all the same; they would be no other program's.
         copia_->Tentati(byte);

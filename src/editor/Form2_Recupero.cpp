@@ -49,6 +49,11 @@ Form2::Recupero Form2::OffreRecupero(bool letto)
             domanda += QStringLiteral("\n\nAttenzione: da allora il file è cambiato; riprendendo "
                                       "queste modifiche e salvando, i cambiamenti andranno persi.");
         }
+        if (trovata.interrotta) {
+            domanda +=
+                QStringLiteral("\n\nAttenzione: un salvataggio è stato interrotto e il file è "
+                               "rimasto incompleto.");
+        }
         copia_->SegnaOfferta(trovata);
         const auto predefinita = trovata.fileCambiato ? Messaggi::Scelta::No : Messaggi::Scelta::Si;
         switch (Messaggi::DomandaAnnullabile(nullptr, domanda, predefinita)) {

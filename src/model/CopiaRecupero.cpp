@@ -72,11 +72,14 @@ void CopiaRecupero::Parte(const std::optional<QByteArray> &byte)
 {
     impronta_ = Impronta(byte);
     tentata_.clear();
+    riscrittura_.clear();
+    incompleto_ = false;
 }
 
 void CopiaRecupero::Tentati(const QByteArray &byte)
 {
     tentata_ = Somma(byte);
+    riscrittura_.clear();
     try {
         if (Disco::Legge(percorsoModello_, FileModello::DimensioneMassima) == byte) {
             Parte(byte);
@@ -137,9 +140,12 @@ QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca(const Avviso &avviso) const
                 throw ErroreSistema(ErroreSistema::ErroreIO,
                                     QString::fromUtf8(FileCopia::Danneggiata));
             }
+            const bool cambiato =
+                impronta_ != letta->riscrittura && Cambiato(letta->impronta, impronta_);
             Trovata trovata{file,
                             QFileInfo(file).lastModified(),
-                            Cambiato(letta->impronta, impronta_),
+                            cambiato && letta->riscrittura.isEmpty(),
+                            cambiato && !letta->riscrittura.isEmpty(),
                             FileCopia::InUso(file),
                             {}};
             FileModello::Analizza(letta->corpo, trovata.modello);
@@ -178,6 +184,9 @@ void CopiaRecupero::Riprende(const Trovata &trovata)
 
 bool CopiaRecupero::FileCambiato() const
 {
+    if (incompleto_) {
+        return false;
+    }
     try {
         const QByteArray adesso =
             Somma(Disco::Legge(percorsoModello_, FileModello::DimensioneMassima));
@@ -222,10 +231,26 @@ void CopiaRecupero::Scrive(const Modello &modello)
     // away by going through it.
     const QByteArray corpo = FileModello::ComponiLeggibile(modello, QLocale::c());
     Disco::SostituisceInPrivato(
-        propria_, FileCopia::Compone({percorsoModello_, impronta_, QByteArray(), corpo}));
+        propria_, FileCopia::Compone({percorsoModello_, impronta_, riscrittura_, corpo}));
     if (!ripresa_.isEmpty() && FileCopia::Elimina(ripresa_)) {
         ripresa_.clear();
     }
+}
+
+void CopiaRecupero::TieneIlLavoro(const Modello &modello, const QByteArray &byte)
+{
+    riscrittura_ = Somma(byte);
+    try {
+        Scrive(modello);
+    } catch (const ErroreSistema &errore) {
+        throw ErroreSistema(errore.numero,
+                            QStringLiteral("copia di recupero non scritta: ") + errore.descrizione);
+    }
+}
+
+void CopiaRecupero::Incompleto()
+{
+    incompleto_ = true;
 }
 
 void CopiaRecupero::EliminaPropria()

@@ -36,6 +36,7 @@ public:
         QString file;      ///< the copy itself
         QDateTime scritta; ///< local time
         bool fileCambiato; ///< the model file can be read and is not the one the copy came from
+        bool interrotta;   ///< nor is it another's: a save into its place was cut short
         bool inUso;        ///< a living program is still writing it
         Modello modello;   ///< NomeFile empty
     };
@@ -49,6 +50,14 @@ public:
     /// A save that failed was writing these bytes: should they stand in the file all the same, they
     /// count as written, also when that can only be seen later.
     void Tentati(const QByteArray &byte);
+
+    /// To be called before byte, the model's, is written over the model file in its place: from
+    /// then on the work is safe in this opening's copy, which knows of that. Throws ErroreSistema
+    /// when it cannot be written.
+    void TieneIlLavoro(const Modello &modello, const QByteArray &byte);
+    /// That has left the file with neither its old bytes nor the new ones: until Parte nobody else
+    /// is taken to have changed it.
+    void Incompleto();
 
     /// The whole copies of this model, newest first. avviso is told the path and the error of those
     /// that are damaged or that the system does not let be read; they are left alone.
@@ -87,8 +96,10 @@ private:
 
     QString cartella_;
     QString percorsoModello_;
-    QString radice_;      ///< start of the names of this model's copies
-    QByteArray impronta_; ///< of the model file at Parte
+    QString radice_;         ///< start of the names of this model's copies
+    QByteArray impronta_;    ///< of the model file at Parte
+    QByteArray riscrittura_; ///< of what is written over it in its place; empty: nothing is
+    bool incompleto_ = false;
     QByteArray tentata_;  ///< what the file holds should the failed save have come through
     QStringList offerte_; ///< files of the copies the user has been asked about
     QString ripresa_;     ///< file of the copy that the user goes on from

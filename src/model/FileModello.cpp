@@ -1,6 +1,5 @@
 #include "model/FileModello.h"
 
-#include "base/Disco.h"
 #include "base/ErroreSistema.h"
 
 namespace {
@@ -54,11 +53,12 @@ bool FileModello::LeggeModello(Modello &modello, const QString &percorso,
     }
 }
 
-void FileModello::ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte)
+void FileModello::ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte,
+                                const Disco::PrimaDiRiscrivere &prima)
 {
     const QByteArray composti = ComponiLeggibile(modello);
     if (byte != nullptr) {
         *byte = composti;
     }
-    Disco::Sostituisce(percorso, composti);
+    Disco::Sostituisce(percorso, composti, prima);
 }

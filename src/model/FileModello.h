@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Disco.h"
 #include "model/Modello.h"
 #include "model/Numeri.h"
 
@@ -45,8 +46,10 @@ void Salva(const Modello &modello, const QString &percorso, const QLocale &local
 bool LeggeModello(Modello &modello, const QString &percorso, const Numeri::Avviso &avviso,
                   std::optional<QByteArray> *byte = nullptr);
 
-/// The editor's save: writes to percorso as Salva does. byte, when asked for, gets the bytes before
-/// they are written, so that they are known after a failure too.
-void ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte = nullptr);
+/// The editor's save: writes to percorso as Salva does, with prima as Disco::Sostituisce. byte,
+/// when asked for, gets the bytes before they are written, so that they are known to prima and
+/// after a failure.
+void ScriveModello(const Modello &modello, const QString &percorso, QByteArray *byte = nullptr,
+                   const Disco::PrimaDiRiscrivere &prima = {});
 
 } // namespace FileModello

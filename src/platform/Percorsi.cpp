@@ -195,7 +195,8 @@ void Percorsi::Copia(const QString &origine, const QString &destinazione)
         throw ConPercorso(errore, da);
     }
     try {
-        Disco::Sostituisce(a, byte);
+        // What is copied stands where it was, should the copy be cut short.
+        Disco::Sostituisce(a, byte, [] {});
     } catch (const ErroreSistema &errore) {
         throw ConPercorso(errore, a);
     }

@@ -15,10 +15,15 @@ std::error_code Sincronizza(int descrittore);
 /// look into counts as done, and so does every folder on Windows, where none can be forced.
 std::error_code SincronizzaCartella(const QString &cartella);
 
-/// Gives the open file the owner and group of the file vecchio, or at least its group: only the
-/// administrator gives files away. True when it has both. On Windows a file inherits its rights
-/// from the folder, and nothing is to be done.
+/// Gives the open file the owner, group, permissions, access list and user attributes of the file
+/// vecchio, as far as the system lets the user: only the administrator gives files away. Takes from
+/// it what the folder gives new files and vecchio has not. True when nothing is missing. On Windows
+/// PrendeIlPosto keeps them, and nothing is to be done.
 bool TieneProprieta(int descrittore, const QString &vecchio);
+
+/// Moves the file nuovo into the place of vecchio, which may be there or not. On Windows it takes
+/// over the access list and the attributes of the old file.
+std::error_code PrendeIlPosto(const QString &nuovo, const QString &vecchio);
 
 /// Makes a write beyond the system's limit for the size of a file (ulimit -f) fail like any other,
 /// where the system would end the program. Programs started later meet the system's own way again.

@@ -95,7 +95,7 @@ bool ProprietaFinta(int descrittore, const QString &vecchio)
     modoAllaProprieta = fstat(descrittore, &stato) == 0 ? stato.st_mode & 07777 : -1;
     chiestiAllaProprieta.append(vecchio);
     // As a change of owner may do.
-    return fchmod(descrittore, 0400) == 0 && proprietaTenuta;
+    return fchmod(descrittore, proprietaTenuta ? 0664 : 0400) == 0 && proprietaTenuta;
 }
 
 std::error_code SincroniaFinta(int)

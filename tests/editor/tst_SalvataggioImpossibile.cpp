@@ -107,6 +107,13 @@ void tst_SalvataggioImpossibile::SalvaDiceIlPerche_data()
     QTest::newRow("read-only folder") << Ostacola([](const ArchivioDiProva &archivio) {
         return SolaLettura(archivio, archivio.Stato().CartellaModelli, 0555, 0755);
     }) << QStringLiteral("errore 75 Errore di accesso al percorso/file");
+    QTest::newRow("read-only folder, a file to be rewritten, no place for the safety copy")
+        << Ostacola([](const ArchivioDiProva &archivio) {
+               Permessi(archivio.Percorso(), 0666);
+               return SolaLettura(archivio, archivio.Stato().CartellaModelli, 0555, 0755);
+           })
+        << QStringLiteral(
+               "errore 75 copia di recupero non scritta: Errore di accesso al percorso/file");
     QTest::newRow("read-only file") << Ostacola([](const ArchivioDiProva &archivio) {
         return SolaLettura(archivio, archivio.Percorso(), 0444, 0644);
     }) << QStringLiteral("errore 75 Errore di accesso al percorso/file");

@@ -1,9 +1,11 @@
 /* Loaded before the C library (LD_PRELOAD): makes one call on a file of one folder fail.
  *
  *   GUASTI_CARTELLA   only files whose path begins so count
- *   GUASTI_CHIAMATA   open, write, sync or rename
+ *   GUASTI_CHIAMATA   open, write, truncate, sync, rename, chown or xattr
  *   GUASTI_N          which of these calls fails, from 1
  *   GUASTI_ERRNO      the errno that it fails with
+ *   GUASTI_SEMPRE     set: so do all such calls that follow it
+ *   GUASTI_UCCIDE     set: instead of failing, the call kills the program
  *   GUASTI_META       set: that write writes half its bytes, and the one after it fails
  *
  * "GUASTO" goes to standard error when the fault has happened, so that a test can tell a save that
@@ -13,12 +15,14 @@
 #include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
+#include <signal.h>
 #include <stdarg.h>
 #include <stdbool.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 #include <sys/syscall.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 static int chiamate = 0;
@@ -53,13 +57,21 @@ static bool descrittore_nella_cartella(int descrittore)
 static bool tocca(const char *chiamata, int ritardo)
 {
     const char *scelta = getenv("GUASTI_CHIAMATA");
-    return scelta && strcmp(scelta, chiamata) == 0 && ++chiamate == numero("GUASTI_N") + ritardo;
+    if (!scelta || strcmp(scelta, chiamata) != 0) {
+        return false;
+    }
+    ++chiamate;
+    const int n = numero("GUASTI_N") + ritardo;
+    return chiamate == n || (chiamate > n && getenv("GUASTI_SEMPRE"));
 }
 
 static int guasto(void)
 {
     static const char messaggio[] = "GUASTO\n";
     syscall(SYS_write, STDERR_FILENO, messaggio, sizeof messaggio - 1);
+    if (getenv("GUASTI_UCCIDE")) {
+        raise(SIGKILL);
+    }
     errno = numero("GUASTI_ERRNO");
     return -1;
 }
@@ -110,6 +122,34 @@ int fdatasync(int descrittore)
         return guasto();
     }
     return VERA(fdatasync)(descrittore);
+}
+
+#define TRONCA(nome, tipo)                                                                         \
+    int nome(int descrittore, tipo misura)                                                         \
+    {                                                                                              \
+        if (descrittore_nella_cartella(descrittore) && tocca("truncate", 0)) {                     \
+            return guasto();                                                                       \
+        }                                                                                          \
+        return VERA(nome)(descrittore, misura);                                                    \
+    }
+
+TRONCA(ftruncate, off_t)
+TRONCA(ftruncate64, off64_t)
+
+int fchown(int descrittore, uid_t proprietario, gid_t gruppo)
+{
+    if (descrittore_nella_cartella(descrittore) && tocca("chown", 0)) {
+        return guasto();
+    }
+    return VERA(fchown)(descrittore, proprietario, gruppo);
+}
+
+int fsetxattr(int descrittore, const char *nome, const void *byte, size_t quanti, int modo)
+{
+    if (descrittore_nella_cartella(descrittore) && tocca("xattr", 0)) {
+        return guasto();
+    }
+    return VERA(fsetxattr)(descrittore, nome, byte, quanti, modo);
 }
 
 int rename(const char *da, const char *a)

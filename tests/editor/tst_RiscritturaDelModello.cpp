@@ -1,0 +1,171 @@
+#include "EditoreDiProva.h"
+#include "base/Disco.h"
+#include "model/CopiaRecupero.h"
+#include "model/FileModello.h"
+#include "support/FileDiProva.h"
+
+#include <QDir>
+#include <QMessageBox>
+#include <QTest>
+
+#include <cerrno>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// Models that no new file can take the place of: they are saved into the old one.
+class tst_RiscritturaDelModello : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Disco::UsaSincronizzazione(nullptr, nullptr); }
+
+    void ConDueNomi();
+    void InUnaCartellaNonScrivibile();
+    void RestatoIncompletoSiDice();
+    void InterrottaSiRiprende();
+};
+
+namespace {
+
+QString AltroNome(const ArchivioDiProva &prova)
+{
+    const QString altro = prova.Stato().CartellaModelli + QStringLiteral("Altra.Mod");
+    if (!QFile::exists(altro) && link(QFile::encodeName(prova.Percorso()).constData(),
+                                      QFile::encodeName(altro).constData()) != 0) {
+        QTest::qFail("no hard link", __FILE__, __LINE__);
+    }
+    return altro;
+}
+
+QStringList Copie(const ArchivioDiProva &prova)
+{
+    return QDir(prova.CartellaStato() + QStringLiteral("/plakera"))
+        .entryList({QStringLiteral("*.recupero")}, QDir::Files);
+}
+
+QString ModelloGuasto;
+
+/// The medium refuses what is forced onto it of the one file.
+std::error_code SincroniaFallita(int descrittore)
+{
+    const QFileInfo via(QStringLiteral("/proc/self/fd/%1").arg(descrittore));
+    return via.symLinkTarget() == ModelloGuasto ? std::error_code(EIO, std::generic_category())
+                                                : std::error_code();
+}
+
+} // namespace
+
+void tst_RiscritturaDelModello::ConDueNomi()
+{
+    EditorAperto prova(2);
+    const QString altro = AltroNome(prova);
+    Robot robot;
+    for (const double x : {60.0, 70.0}) {
+        prova.Aperto().Campi[1].X = x;
+        robot.Si();
+        Preme(prova.Editor(), "Salva");
+        QVERIFY(robot.Soddisfatto());
+        QVERIFY(!prova.Editor().Variato);
+        QCOMPARE(prova.Riletto().Campi[1].X, x);
+        QCOMPARE(ByteDi(altro), prova.ByteDelFile());
+        QVERIFY(Copie(prova).isEmpty());
+    }
+}
+
+void tst_RiscritturaDelModello::InUnaCartellaNonScrivibile()
+{
+    if (geteuid() != 0) {
+        QSKIP("only the administrator gives up his rights");
+    }
+    EditorAperto prova(2);
+    const QByteArray archivio = QFile::encodeName(prova.Stato().CartellaModelli);
+    QVERIFY(QDir().mkpath(prova.CartellaStato()));
+    QCOMPARE(chmod(QFile::encodeName(prova.CartellaStato()).constData(), 0777), 0);
+    QCOMPARE(chmod((archivio + "/../..").constData(), 0755), 0);
+    QCOMPARE(chmod(QFile::encodeName(prova.Percorso()).constData(), 0666), 0);
+    QCOMPARE(chmod(archivio.constData(), 0555), 0);
+    prova.Aperto().Campi[1].X = 60;
+    Robot robot;
+    robot.Si();
+    {
+        const UtenteComune utente;
+        Preme(prova.Editor(), "Salva");
+    }
+    QCOMPARE(chmod(archivio.constData(), 0755), 0);
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QVERIFY(!prova.Editor().Variato);
+    QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
+}
+
+void tst_RiscritturaDelModello::RestatoIncompletoSiDice()
+{
+    EditorAperto prova(2);
+    AltroNome(prova);
+    prova.Aperto().Campi[1].X = 60;
+    ModelloGuasto = QFileInfo(prova.Percorso()).canonicalFilePath();
+    Disco::UsaSincronizzazione(&SincroniaFallita, nullptr);
+    Robot robot;
+    robot.Si().Ok();
+    Preme(prova.Editor(), "Salva");
+    Disco::UsaSincronizzazione(nullptr, nullptr);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constLast(),
+             QStringLiteral("errore 57 Errore di I/O della periferica; il file è rimasto "
+                            "incompleto, il lavoro è nella copia di recupero"));
+    QVERIFY(prova.Editor().Variato);
+    QCOMPARE(Copie(prova).size(), 1);
+    // What is left in the file is nobody else's.
+    ScriveFile(prova.Percorso(), prova.ByteDelFile().chopped(10));
+    robot.Si();
+    Preme(prova.Editor(), "Salva");
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
+    QVERIFY(Copie(prova).isEmpty());
+}
+
+void tst_RiscritturaDelModello::InterrottaSiRiprende()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    const QByteArray prima = prova.ByteDelFile();
+    {
+        // The program ended with half of the new bytes over the old ones.
+        CopiaRecupero copia(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
+        copia.Parte(prima);
+        Modello modello = prova.Aperto();
+        modello.Campi[1].X = 60;
+        modello.Tipo = QStringLiteral("piu' lungo di prima");
+        const QByteArray nuovi = FileModello::Componi(modello, QLocale::c());
+        copia.TieneIlLavoro(modello, nuovi);
+        ScriveFile(prova.Percorso(), nuovi.first(nuovi.size() / 2) + prima.mid(nuovi.size() / 2));
+    }
+    Form2 editor(prova.Stato());
+    Robot robot;
+    // Whether what stands in the file is a model still is a matter of luck.
+    const auto prende = [](QDialog *dialogo) {
+        QVERIFY(qobject_cast<QMessageBox *>(dialogo)->text().endsWith(
+            QStringLiteral("Attenzione: un salvataggio è stato interrotto e il file è rimasto "
+                           "incompleto.")));
+        qobject_cast<QMessageBox *>(dialogo)->button(QMessageBox::Yes)->click();
+    };
+    Modello rotto;
+    try {
+        FileModello::Carica(rotto, prova.Percorso());
+    } catch (const ErroreSistema &) {
+        robot.Ok();
+    }
+    robot.Agisce(prende);
+    QVERIFY(editor.Form_Load());
+    QCOMPARE(robot.Predefiniti().constLast(), QStringLiteral("&Sì"));
+    QCOMPARE(prova.Aperto().Campi[1].X, 60.0);
+    robot.Si();
+    Preme(editor, "Salva");
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QCOMPARE(prova.Riletto().Tipo, QStringLiteral("piu' lungo di prima"));
+}
+
+QTEST_MAIN(tst_RiscritturaDelModello)
+#include "tst_RiscritturaDelModello.moc"
