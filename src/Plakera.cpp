@@ -67,7 +67,7 @@ void Plakera::OffreLavoro()
 {
     Guardia(scelta_.get(), [this] {
         if (OffreLavoroRimasto(scelta_.get(), stato_)) {
-            scelta_->RiprendeModelli();
+            scelta_->AggiornaElenchi();
         }
     });
 }

@@ -26,8 +26,8 @@ public:
     /// data folder. False when the program must end; the user has been told why.
     bool Form_Load(const QString &datiIndicati);
 
-    /// Lists the chosen archive's models afresh and selects the one that was opened last.
-    void RiprendeModelli();
+    /// Lists archives and models afresh; what was chosen stays chosen.
+    void AggiornaElenchi();
 
 signals:
     /// A model was opened or created: CartellaModelli and Aperto.NomeFile are set and the window
@@ -61,7 +61,6 @@ private:
     void RiprendeElenchi(const QString &nomeFile);
     void RiprendeArchivio();
     void RiprendeModello(const QString &nomeFile);
-    void AggiornaElenchi();
 
     void List1_Click();
     /// The end of a click on an archive: lists its models again when the click has not done so by
