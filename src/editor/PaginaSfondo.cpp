@@ -146,7 +146,11 @@ void PaginaSfondo::Mostra()
 
 void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
 {
-    anteprima_.PulisceSfondo();
+    if (chiedeDimensione) {
+        anteprima_.DimenticaSfondo(); // the picture is to be loaded again
+    } else {
+        anteprima_.PulisceSfondo();
+    }
     const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
     if (sfondo.Visualizza == 0 || sfondo.File.isEmpty()) {
         return;

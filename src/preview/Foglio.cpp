@@ -73,6 +73,12 @@ void Foglio::PulisceSfondo()
     viewport()->update();
 }
 
+void Foglio::DimenticaSfondo()
+{
+    sfondo_.Dimentica();
+    viewport()->update();
+}
+
 void Foglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
 {
     penna->fillRect(rettangolo, backgroundBrush());

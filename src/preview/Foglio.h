@@ -53,6 +53,8 @@ public:
     /// As Sfondo::Imposta.
     void DipingeSfondo(const QString &percorso, const QRectF &millimetri);
     void PulisceSfondo();
+    /// As Sfondo::Dimentica.
+    void DimenticaSfondo();
 
 protected:
     void drawBackground(QPainter *penna, const QRectF &rettangolo) override;

@@ -326,6 +326,11 @@ void Frm1::PulisceSfondo()
     parti_->P1->PulisceSfondo();
 }
 
+void Frm1::DimenticaSfondo()
+{
+    parti_->P1->DimenticaSfondo();
+}
+
 void Frm1::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
 {
     parti_->P1->DipingeSfondo(percorso, millimetri);

@@ -99,6 +99,8 @@ public:
     QSizeF MisuraControllo(Genere genere, int i) const;
 
     void PulisceSfondo();
+    /// PulisceSfondo, and the next DipingeSfondo reads the file anew.
+    void DimenticaSfondo();
     /// Paints the picture behind the elements, stretched into a rectangle in mm of the sheet; it
     /// then follows the zoom by itself. A file already decoded at that size is not read again. An
     /// empty rectangle shows nothing. Throws ErroreSistema 53 or 481 and leaves no background.

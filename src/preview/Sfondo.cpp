@@ -27,18 +27,18 @@ bool Disegnabile(const QRectF &r)
 
 } // namespace
 
-void Sfondo::Pulisce()
+void Sfondo::Dimentica()
 {
+    Pulisce();
     origine_ = {};
     maestra_ = {};
     scalata_ = {};
-    millimetri_ = {};
 }
 
 void Sfondo::Imposta(const QString &percorso, const QRectF &millimetri, double pixelPerMillimetro)
 {
+    Pulisce();
     if (!Disegnabile(millimetri)) {
-        Pulisce();
         Immagini::DimensioniNaturali(
             percorso); // a file that is no picture is reported all the same
         return;
@@ -49,7 +49,7 @@ void Sfondo::Imposta(const QString &percorso, const QRectF &millimetri, double p
         PixelPer(millimetri.height(), GeometriaAnteprima::AltezzaCarta, pixelPerMillimetro));
     const Origine origine{percorso, file.lastModified(), file.size(), pixel};
     if (maestra_.isNull() || !(origine == origine_)) {
-        Pulisce();
+        Dimentica();
         maestra_ = Immagini::CaricaScalata(percorso, pixel);
         maestra_.convertTo(maestra_.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                       : QImage::Format_RGB32);
@@ -71,7 +71,7 @@ const QImage &Sfondo::Scalata(QSize pixel)
 
 void Sfondo::Dipinge(QPainter &penna, const QRectF &esposto, double zoom)
 {
-    if (maestra_.isNull()) {
+    if (Vuoto()) {
         return;
     }
     const QRectF posto(millimetri_.topLeft() / zoom, millimetri_.size() / zoom);

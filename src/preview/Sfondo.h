@@ -13,10 +13,14 @@ class Sfondo
 {
 public:
     /// pixelPerMillimetro: device pixels. An empty rectangle (mm of the sheet) shows nothing.
-    /// Throws ErroreSistema 53 or 481 and then shows nothing either.
+    /// The file is read again only when it, or the size it needs, has changed. Throws ErroreSistema
+    /// 53 or 481 and then shows nothing either.
     void Imposta(const QString &percorso, const QRectF &millimetri, double pixelPerMillimetro);
-    void Pulisce();
-    bool Vuoto() const { return maestra_.isNull(); }
+    /// Shows nothing; what was decoded is kept, for the next Imposta mostly shows it again.
+    void Pulisce() { millimetri_ = {}; }
+    /// Pulisce, and the next Imposta reads the file whatever is known of it.
+    void Dimentica();
+    bool Vuoto() const { return millimetri_.isNull(); }
     /// Paints the part that lies in esposto; the painter's unit is the mm of screen.
     void Dipinge(QPainter &penna, const QRectF &esposto, double zoom);
     /// What is in memory of the file.
@@ -36,7 +40,7 @@ private:
     const QImage &Scalata(QSize pixel);
 
     Origine origine_;
-    QRectF millimetri_;
+    QRectF millimetri_; // null: nothing is shown
     QImage maestra_;
     QImage scalata_; // maestra_ at the size on the screen
 };

@@ -3,6 +3,11 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImageWriter>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
 
 QByteArray ImmaginiDiProva::GifTrasparente()
 {
@@ -24,6 +29,61 @@ QByteArray ImmaginiDiProva::JpegCmyk()
         "EBAQEBAQEBAQEBAQEBAQEBAQEBAQEBAQ/8AAFAgACAAIBAERAAIRAQMRAQQRAP/EABUAAQEAAAAAAAAAAAAAAAAA"
         "AAcI/8QAFBABAAAAAAAAAAAAAAAAAAAAAP/EABQBAQAAAAAAAAAAAAAAAAAAAAj/xAAUEQEAAAAAAAAAAAAAAAAA"
         "AAAA/9oADgQBAAIRAxEEAAA/ACwjRHWA/9k=");
+}
+
+QImage ImmaginiDiProva::Fotografia(const QSize &pixel, unsigned seme)
+{
+    constexpr double Rumore = 6; // standard deviation, of 255
+    std::mt19937 caso(seme);
+    std::normal_distribution<double> rumore(0, Rumore);
+    QImage foto(pixel, QImage::Format_RGB32);
+    const double passo = 0.02 + seme % 7 * 0.01;
+    for (int y = 0; y < pixel.height(); ++y) {
+        auto *riga = reinterpret_cast<QRgb *>(foto.scanLine(y));
+        for (int x = 0; x < pixel.width(); ++x) {
+            const double luce = 128 + 90 * std::sin(x * passo + seme) * std::cos(y * passo * 0.7);
+            const auto canale = [&](double tinta) {
+                return std::clamp(int(luce * tinta + rumore(caso)), 0, 255);
+            };
+            riga[x] = qRgb(canale(1), canale(0.9), canale(0.7 + seme % 5 * 0.05));
+        }
+    }
+    return foto;
+}
+
+QImage ImmaginiDiProva::Disegno(const QSize &pixel, const QString &testo)
+{
+    QImage disegno(pixel, QImage::Format_RGB32);
+    disegno.fill(Qt::white);
+    QPainter penna(&disegno);
+    const int lato = std::min(pixel.width(), pixel.height());
+    const auto tinta = int(qHash(testo) % 360);
+    penna.setPen(QPen(QColor::fromHsv(tinta, 255, 120), lato / 40 + 1));
+    penna.setBrush(QColor::fromHsv(tinta, 120, 255));
+    penna.drawEllipse(
+        QRect(QPoint(0, 0), pixel).adjusted(lato / 8, lato / 8, -lato / 8, -lato / 8));
+    penna.drawLine(0, pixel.height() - 1, pixel.width() - 1, 0);
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(lato / 6 + 1);
+    penna.setFont(font);
+    penna.setPen(Qt::black);
+    penna.drawText(disegno.rect(), Qt::AlignCenter | Qt::TextWordWrap, testo);
+    return disegno;
+}
+
+QImage ImmaginiDiProva::ModuloA4()
+{
+    QImage modulo(4960, 7016, QImage::Format_RGB32);
+    std::minstd_rand caso(1);
+    for (int y = 0; y < modulo.height(); ++y) {
+        auto *riga = reinterpret_cast<QRgb *>(modulo.scanLine(y));
+        for (int x = 0; x < modulo.width(); ++x) {
+            const bool segno = x % 700 < 8 || y % 500 < 8;
+            const int grigio = segno ? 40 : 235 + int(caso() >> 20 & 15);
+            riga[x] = qRgb(grigio, grigio, grigio);
+        }
+    }
+    return modulo;
 }
 
 QImage ImmaginiDiProva::Tinta(const QSize &pixel, QRgb colore)

@@ -18,6 +18,12 @@ QByteArray JpegCmyk();
 /// (dots per inch; 0 = none stated).
 QByteArray InFormato(const QImage &immagine, const char *formato, double puntiPerPollice = 0);
 QImage Tinta(const QSize &pixel, QRgb colore);
+/// A picture as cameras take them: soft shapes and, everywhere, noise; other for another seme.
+QImage Fotografia(const QSize &pixel, unsigned seme);
+/// A picture as firms draw them: flat colours with sharp edges, and a text.
+QImage Disegno(const QSize &pixel, const QString &testo);
+/// An A4 form as a scanner gives it at 600 dpi: printed boxes on paper that is not quite white.
+QImage ModuloA4();
 
 /// A small file, or one made only to be walked over, that claims or costs far more than a picture.
 struct Bomba
