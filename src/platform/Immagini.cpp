@@ -4,6 +4,7 @@
 #include "base/Misure.h"
 #include "platform/IntestazioneImmagine.h"
 #include "platform/Percorsi.h"
+#include "platform/Rimpicciolimento.h"
 #include "platform/SeparazioniJpeg.h"
 
 #include <QBuffer>
@@ -13,6 +14,7 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -21,6 +23,10 @@ constexpr qint64 BytePerPixel = 4;
 constexpr qint64 PixelMassimi = LimiteMiB * 1024LL * 1024 / BytePerPixel;
 /// A JPEG is decoded at a half, a quarter or an eighth of its size for little cost.
 constexpr int RiduzioneMassima = 8;
+/// What is decoded at most for a printed page, pixels: an A4 scan at 600 dpi and a margin. Where
+/// that is not enough, the picture is taken coarser rather than more memory.
+constexpr qint64 PixelDecodificati = 45'000'000;
+constexpr qint64 PixelStampati = 36'000'000;
 
 [[noreturn]] void NonValida()
 {
@@ -69,6 +75,32 @@ void ToglieAlfaVuoto(QImage &immagine)
     immagine.reinterpretAsFormat(QImage::Format_RGB32);
 }
 
+/// The picture on white paper, in its own memory.
+void SuBianco(QImage &immagine)
+{
+    if (!immagine.hasAlphaChannel()) {
+        return;
+    }
+    const auto misto = [](int colore, int alfa) {
+        return (colore * alfa + 255 * (255 - alfa) + 127) / 255;
+    };
+    for (int y = 0; y < immagine.height(); ++y) {
+        auto *riga = reinterpret_cast<QRgb *>(immagine.scanLine(y));
+        std::transform(riga, riga + immagine.width(), riga, [&](QRgb c) {
+            const int alfa = qAlpha(c);
+            return qRgb(misto(qRed(c), alfa), misto(qGreen(c), alfa), misto(qBlue(c), alfa));
+        });
+    }
+    immagine.reinterpretAsFormat(QImage::Format_RGB32);
+}
+
+/// The size with its proportions, made smaller where it has too many pixels.
+QSize Entro(const QSize &pixel, qint64 massimi)
+{
+    const double parte = double(massimi) / (double(pixel.width()) * pixel.height());
+    return parte >= 1 ? pixel : (QSizeF(pixel) * std::sqrt(parte)).toSize().expandedTo({1, 1});
+}
+
 /// An open picture file whose header has been checked.
 class Lettore
 {
@@ -97,11 +129,22 @@ public:
         if (pixel_.isEmpty() || !lettore.canRead()) {
             NonValida();
         }
-        ruotata_ = lettore.transformation() & QImageIOHandler::TransformationRotate90;
+        const QImageIOHandler::Transformations volta = lettore.transformation();
+        ruotata_ = volta & QImageIOHandler::TransformationRotate90;
+        copiata_ = volta != QImageIOHandler::TransformationNone;
     }
 
     /// Size after rotation.
     QSize Pixel() const { return Ruota(pixel_); }
+
+    bool DaJpeg() const { return intestazione_.Formato == "jpeg"; }
+
+    /// That many pixels, or half as many when a second copy is made of them: of a picture that is
+    /// turned, or put together from its inks.
+    qint64 Sostenibili(qint64 pixel) const
+    {
+        return copiata_ || intestazione_.InchiostriDiritti() ? pixel / 2 : pixel;
+    }
 
     QSizeF Millimetri() const
     {
@@ -112,7 +155,7 @@ public:
     }
 
     /// Decodes the picture; when minimo is valid, possibly smaller than its own size but not below
-    /// minimo in either direction, unless it would not fit in memory otherwise.
+    /// minimo in either direction, unless that were more pixels than a page may cost.
     QImage Decodifica(const QSize &minimo)
     {
         QImage immagine = intestazione_.Formato == "bmp"    ? DecodificaBmp()
@@ -219,10 +262,16 @@ private:
             return QSize((pixel_.width() + fattore - 1) / fattore,
                          (pixel_.height() + fattore - 1) / fattore);
         };
+        const qint64 massimi = Sostenibili(PixelDecodificati);
+        const auto basta = [&](int fattore) {
+            return pixel_.width() / fattore >= minimo.width() &&
+                   pixel_.height() / fattore >= minimo.height();
+        };
+        const auto troppi = [&](int fattore) {
+            return qint64(pixel_.width()) * pixel_.height() / (fattore * fattore) > massimi;
+        };
         int fattore = 1;
-        while (fattore < RiduzioneMassima &&
-               (Troppi(diviso(fattore)) || (pixel_.width() / (fattore * 2) >= minimo.width() &&
-                                            pixel_.height() / (fattore * 2) >= minimo.height()))) {
+        while (fattore < RiduzioneMassima && (basta(fattore * 2) || troppi(fattore))) {
             fattore *= 2;
         }
         return diviso(fattore);
@@ -232,6 +281,7 @@ private:
     IntestazioneImmagine intestazione_;
     QSize pixel_; ///< as stored, before rotation
     bool ruotata_ = false;
+    bool copiata_ = false; ///< turned or mirrored once it is decoded
 };
 
 } // namespace
@@ -254,14 +304,18 @@ QImage Immagini::CaricaScalata(const QString &percorso, const QSize &pixel)
     return Scalata(Lettore(percorso).Decodifica(pixel), pixel);
 }
 
-QImage Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
+Immagini::Opaca Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
 {
     if (massimo.isEmpty()) {
         NonValida();
     }
     Lettore lettore(percorso);
-    const QImage immagine = lettore.Decodifica(lettore.Pixel().boundedTo(massimo));
-    return Scalata(immagine, immagine.size().boundedTo(massimo));
+    const QSize pixel =
+        Entro(lettore.Pixel().boundedTo(massimo), lettore.Sostenibili(PixelStampati));
+    QImage immagine = lettore.Decodifica(pixel);
+    SuBianco(immagine);
+    Rimpicciolisce(immagine, pixel.boundedTo(immagine.size()));
+    return {immagine, lettore.DaJpeg()};
 }
 
 QString Immagini::PercorsoInCartella(const QString &cartella, const QString &nome)

@@ -20,10 +20,17 @@ QImage Carica(const QString &percorso);
 /// read scaled where the format can. Throws ErroreSistema 53 or 481.
 QImage CaricaScalata(const QString &percorso, const QSize &pixel);
 
-/// As Carica, but at most massimo pixels wide and high (both positive): a larger picture is scaled
-/// down to it in the direction that exceeds, and one that would not fit in memory is read scaled.
-/// Throws ErroreSistema 53 or 481.
-QImage CaricaEntro(const QString &percorso, const QSize &massimo);
+/// A picture without transparency, in RGB32.
+struct Opaca
+{
+    QImage Immagine;
+    bool DaJpeg = false; ///< by the file's bytes, whatever its name
+};
+
+/// The picture as a page needs it: on white where it is transparent, at its own size but at most
+/// massimo pixels wide and high (both positive) and at most some 36 million in all; a larger one is
+/// scaled down to that. Throws ErroreSistema 53 or 481.
+Opaca CaricaEntro(const QString &percorso, const QSize &massimo);
 
 /// Full path, in the spelling found on disk, of a picture of the models folder, which ends in a
 /// separator. Throws ErroreSistema 53 when the name is empty or leads out of the folder, before

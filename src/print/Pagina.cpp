@@ -2,7 +2,6 @@
 
 #include "base/ErroreSistema.h"
 #include "base/Misure.h"
-#include "platform/Immagini.h"
 #include "platform/Testo.h"
 #include "print/Sovrapposizione.h"
 
@@ -22,9 +21,6 @@ constexpr int UnitaPerPunto = 20;
 constexpr double UnitaPerPollice = 72.0 * UnitaPerPunto;
 /// More pixels than this per inch are lost on paper.
 constexpr double PuntiImmagine = 600;
-/// A larger picture from a JPEG travels as JPEG: without loss a scan would take a hundred
-/// megabytes.
-constexpr qint64 PixelSenzaPerdita = 2'000'000;
 
 bool Raggiungibile(double millimetri)
 {
@@ -64,6 +60,14 @@ Pagina::~Pagina()
     if (!finita_) {
         destinazione_.Rinuncia();
     }
+}
+
+QSize Pagina::PixelPer(const QSizeF &millimetri)
+{
+    return (millimetri * (PuntiImmagine / Misure::MillimetriPerPollice))
+        .boundedTo(QSizeF(1e6, 1e6))
+        .expandedTo(QSizeF(1, 1))
+        .toSize();
 }
 
 double Pagina::Larghezza() const
@@ -116,38 +120,31 @@ void Pagina::Barra(double x, double y, double larghezza, double altezza, QRgb co
     foglio_.Segni.append(Tracciati::Barra{posto, colore | 0xFF000000});
 }
 
-QImage Pagina::CaricaOpaca(const QString &percorso, const QSizeF &millimetri)
+void Pagina::PrevedeFigura(const QString &percorso, const QSizeF &millimetri)
 {
-    const QSizeF pixel = (millimetri * (PuntiImmagine / Misure::MillimetriPerPollice))
-                             .boundedTo(QSizeF(1e6, 1e6))
-                             .expandedTo(QSizeF(1, 1));
-    const QSize massimo = pixel.toSize();
-    for (const Caricata &nota : std::as_const(caricate_)) {
-        if (nota.Percorso == percorso && nota.Massimo == massimo) {
-            return nota.Immagine; // the printer, too, gets its pixels only once
-        }
-    }
-    QImage immagine = Immagini::CaricaEntro(percorso, massimo);
-    if (immagine.hasAlphaChannel()) {
-        QImage bianca(immagine.size(), QImage::Format_RGB32);
-        bianca.fill(Qt::white);
-        QPainter(&bianca).drawImage(0, 0, immagine);
-        immagine = bianca;
-    }
-    caricate_.append({percorso, massimo, immagine});
-    return immagine;
+    figure_.Prevede(percorso, PixelPer(millimetri));
 }
 
 void Pagina::FiguraAnd(const QString &percorso, const QRectF &millimetri)
 {
-    const QImage immagine = CaricaOpaca(percorso, millimetri.size());
+    const QSize pixel = PixelPer(millimetri.size());
+    const FigureInMemoria::Figura figura = figure_.Carica(percorso, pixel);
     const QRectF posto(InPixel(millimetri.x()), InPixel(millimetri.y()),
                        InPixel(millimetri.width()), InPixel(millimetri.height()));
-    const bool grande = qint64(immagine.width()) * immagine.height() > PixelSenzaPerdita;
-    const bool jpeg = percorso.endsWith(QLatin1String("jpg"), Qt::CaseInsensitive) ||
-                      percorso.endsWith(QLatin1String("jpeg"), Qt::CaseInsensitive);
     if (posto.intersects(area_)) {
-        foglio_.Figure.append({posto, immagine, !(grande && jpeg)});
+        foglio_.Figure.append({posto, percorso, pixel});
+        // At once, or all pictures of the page would be in memory together.
+        DipingeFigura(posto, figura);
+    }
+}
+
+void Pagina::DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &figura)
+{
+    const double passo = posto.height() / figura.Immagine.height();
+    for (const FigureInMemoria::Striscia &striscia : figura.Strisce) {
+        const QRectF parte(posto.x(), posto.y() + striscia.Prima * passo, posto.width(),
+                           striscia.Immagine.height() * passo);
+        DipingeImmagine(parte, striscia.Immagine, !figura.DaJpeg);
     }
 }
 
@@ -159,16 +156,17 @@ void Pagina::DipingeImmagine(const QRectF &posto, const QImage &immagine, bool s
 
 void Pagina::Dipinge()
 {
-    for (const Tracciati::Figura &figura : std::as_const(foglio_.Figure)) {
-        DipingeImmagine(figura.Posto, figura.Immagine, figura.SenzaPerdita);
-    }
     for (const Tracciati::Segno &segno : std::as_const(foglio_.Segni)) {
         Sovrapposizione::Dipinge(pittore_, segno);
     }
-    const auto pezze = Sovrapposizione::Pezze(foglio_, &dispositivo_, area_, risoluzione_);
-    for (const Sovrapposizione::Pezza &pezza : pezze) {
-        DipingeImmagine(pezza.Posto, pezza.Immagine, true);
-    }
+    Sovrapposizione::Stende(
+        foglio_, &dispositivo_, area_, risoluzione_,
+        [this](const Tracciati::Figura &figura) {
+            return figure_.Carica(figura.Percorso, figura.Pixel).Immagine;
+        },
+        [this](const Sovrapposizione::Pezza &pezza) {
+            DipingeImmagine(pezza.Posto, pezza.Immagine, true);
+        });
 }
 
 void Pagina::Fine()

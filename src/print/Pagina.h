@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Destinazione.h"
+#include "print/FigureInMemoria.h"
 #include "print/Tracciati.h"
 
 #include <QPainter>
@@ -9,7 +10,7 @@
 
 /// One printed page whose unit is the millimetre, from the corner of the printable area, x to the
 /// right and y downwards. It prints at true size whatever the printer's resolution and paper.
-/// Nothing reaches the printer before Fine(), because pictures AND with what is under them.
+/// Texts, bars and lines reach the printer in Fine(): pictures, which AND with them, lie below.
 /// Coordinates beyond the page, infinite ones included, are allowed and print what falls on it.
 class Pagina
 {
@@ -42,6 +43,9 @@ public:
     void Linea(double x1, double y1, double x2, double y2);
     /// A filled rectangle, mm; negative sizes extend to the left and upwards.
     void Barra(double x, double y, double larghezza, double altezza, QRgb colore);
+    /// FiguraAnd will be asked for this: a file that is printed in several sizes is then decoded
+    /// once for all of them. Reads nothing.
+    void PrevedeFigura(const QString &percorso, const QSizeF &millimetri);
     /// The picture file stretched into the rectangle (mm, both sizes positive) and ANDed with the
     /// page; what is transparent in it leaves the page as it is. Throws ErroreSistema 53 or 481.
     void FiguraAnd(const QString &percorso, const QRectF &millimetri);
@@ -50,16 +54,10 @@ public:
     void Fine();
 
 private:
-    struct Caricata
-    {
-        QString Percorso;
-        QSize Massimo;
-        QImage Immagine;
-    };
-
     double InPixel(double millimetri) const { return millimetri * pixelPerMillimetro_; }
-    QImage CaricaOpaca(const QString &percorso, const QSizeF &millimetri);
     void Dipinge();
+    static QSize PixelPer(const QSizeF &millimetri);
+    void DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &figura);
     void DipingeImmagine(const QRectF &posto, const QImage &immagine, bool senzaPerdita);
 
     Destinazione &destinazione_;
@@ -74,6 +72,6 @@ private:
     double interlinea_ = 0; ///< of font_, mm
     QRgb colore_ = 0xFF000000;
     Tracciati::Foglio foglio_;
-    QList<Caricata> caricate_;
+    FigureInMemoria figure_;
     bool finita_ = false;
 };

@@ -14,6 +14,9 @@ namespace {
 
 constexpr double PuntiMassimi = 600;
 constexpr double PixelMassimi = 40e6;
+/// Of one patch, and of those that are computed together.
+constexpr int PixelPezza = 4'000'000;
+constexpr int PixelInsieme = 8'000'000;
 
 constexpr int RigheStriscia = 256;
 
@@ -104,7 +107,7 @@ void ScriveComeTracciato(QPainter &pittore, const Testo &testo)
 }
 
 /// ANDs the picture with the rows of the page from prima on, as many as a strip has.
-void SovrapponeStriscia(QImage &pagina, int prima, const Figura &figura,
+void SovrapponeStriscia(QImage &pagina, int prima, const QRectF &luogo, const QImage &immagine,
                         const QTransform &trasformazione)
 {
     QImage velo(pagina.width(), std::min(RigheStriscia, pagina.height() - prima),
@@ -114,11 +117,11 @@ void SovrapponeStriscia(QImage &pagina, int prima, const Figura &figura,
         QPainter pittore(&velo);
         pittore.setTransform(trasformazione * QTransform::fromTranslate(0, -prima));
         // Magnified pixels stay square, as the printer shows them beside the patch.
-        const QRectF posto = trasformazione.mapRect(figura.Posto);
+        const QRectF posto = trasformazione.mapRect(luogo);
         pittore.setRenderHint(QPainter::SmoothPixmapTransform,
-                              posto.width() < figura.Immagine.width() ||
-                                  posto.height() < figura.Immagine.height());
-        pittore.drawImage(figura.Posto, figura.Immagine);
+                              posto.width() < immagine.width() ||
+                                  posto.height() < immagine.height());
+        pittore.drawImage(luogo, immagine);
     }
     for (int y = 0; y < velo.height(); ++y) {
         auto *sotto = reinterpret_cast<QRgb *>(pagina.scanLine(prima + y));
@@ -128,43 +131,63 @@ void SovrapponeStriscia(QImage &pagina, int prima, const Figura &figura,
     }
 }
 
-QImage Compone(const Foglio &foglio, const QList<QRectF> &ingombri, const QRect &rettangolo,
-               double scala)
+/// A patch that is being computed.
+struct Bozza
 {
-    QImage pagina(rettangolo.size(), QImage::Format_RGB32);
-    if (pagina.isNull()) {
+    QRect Rettangolo;          ///< on the grid
+    QTransform Trasformazione; ///< from printer pixels to those of the patch
+    QRectF Coperto;            ///< printer pixels
+    QImage Pagina;
+};
+
+/// The rectangles of the region, each no larger than a patch may be.
+QList<QRect> Rettangoli(const QRegion &regione)
+{
+    QList<QRect> rettangoli;
+    for (const QRect &intero : regione) {
+        const int righe = std::max(1, PixelPezza / intero.width());
+        for (int y = 0; y < intero.height(); y += righe) {
+            rettangoli.append(QRect(intero.x(), intero.y() + y, intero.width(),
+                                    std::min(righe, intero.height() - y)));
+        }
+    }
+    return rettangoli;
+}
+
+/// The marks of the page within the rectangle, without its pictures.
+Bozza Abbozza(const Foglio &foglio, const QList<QRectF> &ingombri, const QRect &rettangolo,
+              double scala)
+{
+    Bozza bozza{rettangolo, {}, {}, QImage(rettangolo.size(), QImage::Format_RGB32)};
+    if (bozza.Pagina.isNull()) {
         throw std::bad_alloc();
     }
-    pagina.fill(Qt::white);
-    QTransform trasformazione;
-    trasformazione.translate(-rettangolo.x(), -rettangolo.y());
-    trasformazione.scale(scala, scala);
-    const QRectF coperto =
-        trasformazione.inverted().mapRect(QRectF(0, 0, pagina.width(), pagina.height()));
-    {
-        // No smoothing: a half-covered pixel ANDed with a colour would be neither of the two.
-        QPainter pittore(&pagina);
-        pittore.setTransform(trasformazione);
-        for (qsizetype i = 0; i < ingombri.size(); ++i) {
-            const Segno &segno = foglio.Segni.at(i);
-            if (!ingombri.at(i).intersects(coperto)) {
-                continue;
-            }
-            if (const auto *testo = std::get_if<Testo>(&segno)) {
-                ScriveComeTracciato(pittore, *testo);
-            } else {
-                Sovrapposizione::Dipinge(pittore, segno);
-            }
+    bozza.Pagina.fill(Qt::white);
+    bozza.Trasformazione.translate(-rettangolo.x(), -rettangolo.y());
+    bozza.Trasformazione.scale(scala, scala);
+    bozza.Coperto = bozza.Trasformazione.inverted().mapRect(QRectF(bozza.Pagina.rect()));
+    // No smoothing: a half-covered pixel ANDed with a colour would be neither of the two.
+    QPainter pittore(&bozza.Pagina);
+    pittore.setTransform(bozza.Trasformazione);
+    for (qsizetype i = 0; i < ingombri.size(); ++i) {
+        const Segno &segno = foglio.Segni.at(i);
+        if (!ingombri.at(i).intersects(bozza.Coperto)) {
+            continue;
+        }
+        if (const auto *testo = std::get_if<Testo>(&segno)) {
+            ScriveComeTracciato(pittore, *testo);
+        } else {
+            Sovrapposizione::Dipinge(pittore, segno);
         }
     }
-    for (const Figura &figura : foglio.Figure) {
-        if (figura.Posto.intersects(coperto)) {
-            for (int y = 0; y < pagina.height(); y += RigheStriscia) {
-                SovrapponeStriscia(pagina, y, figura, trasformazione);
-            }
-        }
+    return bozza;
+}
+
+void Sovrappone(Bozza &bozza, const QRectF &luogo, const QImage &immagine)
+{
+    for (int y = 0; y < bozza.Pagina.height(); y += RigheStriscia) {
+        SovrapponeStriscia(bozza.Pagina, y, luogo, immagine, bozza.Trasformazione);
     }
-    return pagina;
 }
 
 } // namespace
@@ -188,16 +211,18 @@ void Sovrapposizione::Dipinge(QPainter &pittore, const Segno &segno)
     }
 }
 
-QList<Sovrapposizione::Pezza> Sovrapposizione::Pezze(const Foglio &foglio, QPaintDevice *stampante,
-                                                     const QRectF &area, double puntiPerPollice)
+void Sovrapposizione::Stende(const Foglio &foglio, QPaintDevice *stampante, const QRectF &area,
+                             double puntiPerPollice,
+                             const std::function<QImage(const Figura &)> &carica,
+                             const std::function<void(const Pezza &)> &posa)
 {
     if (foglio.Figure.isEmpty()) {
-        return {};
+        return;
     }
     const QList<QRectF> ingombri = Ingombri(foglio, stampante);
     const QList<QRectF> incontri = Incontri(foglio, ingombri, area);
     if (incontri.isEmpty()) {
-        return {};
+        return;
     }
     double scala = std::min(1.0, PuntiMassimi / puntiPerPollice);
     QRegion regione = SullaGriglia(incontri, scala);
@@ -205,11 +230,33 @@ QList<Sovrapposizione::Pezza> Sovrapposizione::Pezze(const Foglio &foglio, QPain
         scala *= std::sqrt(PixelMassimi / pixel);
         regione = SullaGriglia(incontri, scala);
     }
-    QList<Pezza> pezze;
-    for (const QRect &rettangolo : regione) {
-        pezze.append({QRectF(rettangolo.x() / scala, rettangolo.y() / scala,
-                             rettangolo.width() / scala, rettangolo.height() / scala),
-                      Compone(foglio, ingombri, rettangolo, scala)});
+    // The AND does not mind the order, so that each file is asked for only once.
+    QList<Figura> figure = foglio.Figure;
+    std::stable_sort(figure.begin(), figure.end(),
+                     [](const Figura &a, const Figura &b) { return a.Percorso < b.Percorso; });
+    const QList<QRect> rettangoli = Rettangoli(regione);
+    for (auto prossimo = rettangoli.begin(); prossimo != rettangoli.end();) {
+        QList<Bozza> bozze;
+        qint64 pixel = 0;
+        do {
+            bozze.append(Abbozza(foglio, ingombri, *prossimo, scala));
+            pixel += qint64(prossimo->width()) * prossimo->height();
+            ++prossimo;
+        } while (prossimo != rettangoli.end() &&
+                 pixel + qint64(prossimo->width()) * prossimo->height() <= PixelInsieme);
+        for (const Figura &figura : std::as_const(figure)) {
+            QImage immagine;
+            for (Bozza &bozza : bozze) {
+                if (figura.Posto.intersects(bozza.Coperto)) {
+                    immagine = immagine.isNull() ? carica(figura) : immagine;
+                    Sovrappone(bozza, figura.Posto, immagine);
+                }
+            }
+        }
+        for (const Bozza &bozza : std::as_const(bozze)) {
+            const QRect &r = bozza.Rettangolo;
+            posa({QRectF(r.x() / scala, r.y() / scala, r.width() / scala, r.height() / scala),
+                  bozza.Pagina});
+        }
     }
-    return pezze;
 }

@@ -3,8 +3,9 @@
 #include "print/Tracciati.h"
 
 #include <QImage>
-#include <QList>
 #include <QRectF>
+
+#include <functional>
 
 class QPaintDevice;
 class QPainter;
@@ -22,12 +23,15 @@ struct Pezza
     QImage Immagine; ///< opaque, RGB32
 };
 
-/// The patches to be laid over a page painted as told above.
+/// Lays patches over a page painted as told above.
 /// stampante is the device that the marks were measured for; area is its printable part in printer
 /// pixels and puntiPerPollice its resolution. Patches have at most 600 dots per inch, and less when
-/// there would be too many pixels.
-QList<Pezza> Pezze(const Tracciati::Foglio &foglio, QPaintDevice *stampante, const QRectF &area,
-                   double puntiPerPollice);
+/// there would be too many pixels. carica gives a picture's pixels, opaque in RGB32; it is asked
+/// file by file and more than once where a large part of the page is computed. posa takes each
+/// patch as it is ready: no more than a few million pixels are held at a time.
+void Stende(const Tracciati::Foglio &foglio, QPaintDevice *stampante, const QRectF &area,
+            double puntiPerPollice, const std::function<QImage(const Tracciati::Figura &)> &carica,
+            const std::function<void(const Pezza &)> &posa);
 
 /// Paints one mark; the painter's unit is the printer pixel.
 void Dipinge(QPainter &pittore, const Tracciati::Segno &segno);

@@ -44,6 +44,7 @@ void StampaProva::Stampa(bool StampaNome)
             StampaCornice(i);
         }
     }
+    PrevedeImmagini();
     for (int i = 1; i <= modello_.UltimoSlot(Genere::Immagine); ++i) {
         if (modello_.Presente(Genere::Immagine, i)) {
             StampaImmagine(i);
@@ -106,18 +107,41 @@ void StampaProva::StampaImmagine(int i)
 {
     const Immagine &immagine = modello_.Immagini[i];
     try {
-        const auto intero = [](double millimetri) { return int(Numeri::Intero16(millimetri)); };
-        const int x = intero(immagine.X);
-        const int y = intero(immagine.Y);
-        const int larghezza = intero(immagine.Larghezza);
-        const int altezza = intero(immagine.Altezza);
-        StampaImmagineX(Immagini::PercorsoInCartella(cartellaModelli_, immagine.Nome), x, y,
-                        larghezza, altezza);
+        const Collocata figura = Colloca(immagine);
+        StampaImmagineX(figura.Percorso, figura.Posto.x(), figura.Posto.y(), figura.Posto.width(),
+                        figura.Posto.height());
     } catch (const ErroreSistema &errore) {
         // One picture never stops the print: the user is told, and the next element follows.
         avviso_(Diagnosi(immagine, errore));
     } catch (const std::bad_alloc &) {
         avviso_(Diagnosi(immagine, ErroreSistema(ErroreSistema::MemoriaEsaurita)));
+    }
+}
+
+StampaProva::Collocata StampaProva::Colloca(const Immagine &immagine) const
+{
+    const auto intero = [](double millimetri) { return int(Numeri::Intero16(millimetri)); };
+    const int x = intero(immagine.X);
+    const int y = intero(immagine.Y);
+    const int larghezza = intero(immagine.Larghezza);
+    const int altezza = intero(immagine.Altezza);
+    return {Immagini::PercorsoInCartella(cartellaModelli_, immagine.Nome),
+            QRect(x, y, larghezza, altezza)};
+}
+
+void StampaProva::PrevedeImmagini()
+{
+    for (int i = 1; i <= modello_.UltimoSlot(Genere::Immagine); ++i) {
+        if (!modello_.Presente(Genere::Immagine, i)) {
+            continue;
+        }
+        try {
+            const Collocata figura = Colloca(modello_.Immagini[i]);
+            pagina_.PrevedeFigura(figura.Percorso,
+                                  MisuraFigura(figura.Posto.width(), figura.Posto.height()));
+        } catch (const ErroreSistema &) {
+            continue; // told when its turn to be printed comes
+        }
     }
 }
 

@@ -46,6 +46,15 @@ public:
                          int WidthMillimetri = 0, int HeightMillimetri = 0);
 
 private:
+    /// A picture file and where it is printed, mm.
+    struct Collocata
+    {
+        QString Percorso;
+        QRect Posto;
+    };
+    /// Throws ErroreSistema (6 for what is no 16-bit number, 53).
+    Collocata Colloca(const Immagine &immagine) const;
+    void PrevedeImmagini();
     /// The size that a picture is printed at, mm: both 0 stand for the whole printable area.
     QSizeF MisuraFigura(double larghezza, double altezza) const;
     QString Diagnosi(const Immagine &immagine, const ErroreSistema &errore) const;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QFont>
-#include <QImage>
 #include <QLineF>
 #include <QList>
 #include <QRectF>
+#include <QRgb>
+#include <QSize>
 #include <QString>
 
 #include <variant>
@@ -38,8 +39,8 @@ struct Linea
 struct Figura
 {
     QRectF Posto;
-    QImage Immagine;   ///< opaque, RGB32
-    bool SenzaPerdita; ///< false: may travel compressed with loss
+    QString Percorso; ///< of the file
+    QSize Pixel;      ///< that it needs there
 };
 
 using Segno = std::variant<Testo, Barra, Linea>;

@@ -239,9 +239,9 @@ void tst_Immagini::entro()
 {
     for (const char *formato : {"jpeg", "bmp"}) {
         const QString percorso = Scrivi(InFormato(Tinta({400, 200}, qRgb(30, 160, 90)), formato));
-        QCOMPARE(Immagini::CaricaEntro(percorso, {1000, 1000}).size(), QSize(400, 200));
-        QCOMPARE(Immagini::CaricaEntro(percorso, {1000, 50}).size(), QSize(400, 50));
-        const QImage piccola = Immagini::CaricaEntro(percorso, {40, 30});
+        QCOMPARE(Immagini::CaricaEntro(percorso, {1000, 1000}).Immagine.size(), QSize(400, 200));
+        QCOMPARE(Immagini::CaricaEntro(percorso, {1000, 50}).Immagine.size(), QSize(400, 50));
+        const QImage piccola = Immagini::CaricaEntro(percorso, {40, 30}).Immagine;
         QCOMPARE(piccola.size(), QSize(40, 30));
         QVERIFY(Simili(piccola.pixel(20, 15), qRgb(30, 160, 90)));
     }

@@ -115,6 +115,19 @@ int LettorePdf::Immagini() const
     return int(elenco.count('\n')) - 2;
 }
 
+QStringList LettorePdf::Codifiche() const
+{
+    const QStringList righe =
+        QString::fromUtf8(Esegue(QStringLiteral("pdfimages"), {QStringLiteral("-list"), percorso_}))
+            .split(u'\n', Qt::SkipEmptyParts);
+    constexpr int Colonna = 8;
+    QStringList codifiche;
+    for (qsizetype i = 2; i < righe.size(); ++i) {
+        codifiche.append(righe.at(i).simplified().section(u' ', Colonna, Colonna));
+    }
+    return codifiche;
+}
+
 QImage LettorePdf::Immagine(int k) const
 {
     QTemporaryDir dir;

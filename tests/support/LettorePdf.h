@@ -35,6 +35,8 @@ public:
     QList<Carattere> Caratteri() const;
     /// Number of pictures in the file.
     int Immagini() const;
+    /// How each picture stands in the file: "jpeg", or "image" without loss.
+    QStringList Codifiche() const;
     /// The pixels of the k-th picture (from 0) as they stand in the file.
     QImage Immagine(int k) const;
 

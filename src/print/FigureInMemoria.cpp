@@ -1,0 +1,127 @@
+#include "print/FigureInMemoria.h"
+
+#include "platform/Immagini.h"
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+/// What the pictures not in hand may take: all the small ones of a page, no scan.
+constexpr qsizetype ByteInDisparte = 16 * 1024 * 1024;
+constexpr int PixelStriscia = 4'000'000;
+
+QSize Ridotta(const QSize &intera, qsizetype livello)
+{
+    const int divisore = 1 << livello;
+    return {(intera.width() + divisore - 1) / divisore,
+            (intera.height() + divisore - 1) / divisore};
+}
+
+bool Basta(const QSize &pixel, const QSize &bisogno)
+{
+    return pixel.width() >= bisogno.width() && pixel.height() >= bisogno.height();
+}
+
+qsizetype Byte(const QList<FigureInMemoria::Figura> &figure)
+{
+    qsizetype byte = 0;
+    for (const FigureInMemoria::Figura &figura : figure) {
+        byte += figura.Immagine.sizeInBytes();
+    }
+    return byte;
+}
+
+FigureInMemoria::Figura InStrisce(const QImage &immagine, bool daJpeg)
+{
+    FigureInMemoria::Figura figura{immagine, daJpeg, {}};
+    const int righe = daJpeg ? immagine.height() : std::max(1, PixelStriscia / immagine.width());
+    if (righe >= immagine.height()) {
+        figura.Strisce = {{0, immagine}};
+        return figura;
+    }
+    for (int prima = 0; prima < immagine.height(); prima += righe) {
+        const int alte = std::min(righe + 1, immagine.height() - prima);
+        figura.Strisce.append({prima, QImage(figura.Immagine.constScanLine(prima), immagine.width(),
+                                             alte, immagine.bytesPerLine(), immagine.format())});
+    }
+    return figura;
+}
+
+} // namespace
+
+void FigureInMemoria::Prevede(const QString &percorso, const QSize &pixel)
+{
+    Voce &voce = voci_[percorso];
+    voce.Bisogno = voce.Bisogno.expandedTo(pixel);
+}
+
+FigureInMemoria::Figura FigureInMemoria::Carica(const QString &percorso, const QSize &pixel)
+{
+    Prevede(percorso, pixel);
+    Voce &voce = voci_[percorso];
+    if (voce.Guasto) {
+        throw ErroreSistema(*voce.Guasto);
+    }
+    if (voce.Livelli.isEmpty() || !Basta(voce.Decodificata, pixel)) {
+        Decodifica(percorso, voce);
+    }
+    voce.Uso = ++usi_;
+    const QImage maestra = voce.Livelli.constFirst().Immagine;
+    const QSize intera = maestra.size();
+    const QSize bisogno = pixel.boundedTo(intera);
+    qsizetype livello = 0;
+    while (intera.width() >> livello > 1 && intera.height() >> livello > 1 &&
+           Basta(Ridotta(intera, livello + 1), bisogno)) {
+        ++livello;
+    }
+    if (livello >= voce.Livelli.size()) {
+        voce.Livelli.resize(livello + 1);
+    }
+    Figura &figura = voce.Livelli[livello];
+    if (figura.Immagine.isNull()) {
+        const QImage ridotta = maestra.scaled(Ridotta(intera, livello), Qt::IgnoreAspectRatio,
+                                              Qt::SmoothTransformation);
+        if (ridotta.isNull()) {
+            throw std::bad_alloc();
+        }
+        figura = InStrisce(ridotta, voce.Livelli.constFirst().DaJpeg);
+    }
+    return figura;
+}
+
+void FigureInMemoria::Decodifica(const QString &percorso, Voce &voce)
+{
+    voce.Livelli.clear();
+    FaPosto();
+    try {
+        const Immagini::Opaca letta = Immagini::CaricaEntro(percorso, voce.Bisogno);
+        voce.Livelli = {InStrisce(letta.Immagine, letta.DaJpeg)};
+        voce.Decodificata = voce.Bisogno;
+    } catch (const ErroreSistema &errore) {
+        voce.Guasto = errore;
+        throw;
+    }
+}
+
+void FigureInMemoria::FaPosto()
+{
+    QList<Voce *> tenute;
+    qsizetype byte = 0;
+    for (Voce &voce : voci_) {
+        if (!voce.Livelli.isEmpty()) {
+            tenute.append(&voce);
+            byte += Byte(voce.Livelli);
+        }
+    }
+    // The largest first: it frees the most, and leaves the many small ones that a page repeats.
+    std::sort(tenute.begin(), tenute.end(), [](const Voce *a, const Voce *b) {
+        const qsizetype byteA = Byte(a->Livelli);
+        const qsizetype byteB = Byte(b->Livelli);
+        return byteA != byteB ? byteA > byteB : a->Uso < b->Uso;
+    });
+    for (auto voce = tenute.begin(); voce != tenute.end() && byte > ByteInDisparte; ++voce) {
+        byte -= Byte((*voce)->Livelli);
+        (*voce)->Livelli.clear();
+    }
+}

@@ -1,0 +1,323 @@
+#include "FoglioDiProva.h"
+
+#include "model/FileModello.h"
+#include "support/Aperture.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTest>
+
+#include <cmath>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace ImmaginiDiProva;
+
+namespace {
+
+constexpr double PuntiPerMillimetro = 600 / 25.4;
+constexpr double MiBMassimi = 300;
+constexpr const char *SoloStampa = "--stampa";
+
+/// How alike two pictures are, dB; beyond some 38 no eye tells them apart.
+double Somiglianza(const QImage &a, const QImage &b)
+{
+    double quadrati = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb uno = a.pixel(x, y);
+            const QRgb altro = b.pixel(x, y);
+            for (const int scarto : {qRed(uno) - qRed(altro), qGreen(uno) - qGreen(altro),
+                                     qBlue(uno) - qBlue(altro)}) {
+                quadrati += scarto * scarto;
+            }
+        }
+    }
+    const double medio = quadrati / (3.0 * a.width() * a.height());
+    return 10 * std::log10(255.0 * 255.0 / std::max(medio, 1e-9));
+}
+
+/// What printing a model file needs at most of memory, in a process of its own; -1 when it fails.
+double MiBDiStampa(const QString &modello, const QString &pdf)
+{
+    const QByteArray programma = QFile::encodeName(QCoreApplication::applicationFilePath());
+    const QByteArray daStampare = QFile::encodeName(modello);
+    const QByteArray stampato = QFile::encodeName(pdf);
+    const pid_t figlio = fork();
+    if (figlio == 0) {
+        execl(programma.constData(), programma.constData(), SoloStampa, daStampare.constData(),
+              stampato.constData(), nullptr);
+        _exit(127);
+    }
+    int stato = 0;
+    rusage uso{};
+    wait4(figlio, &stato, 0, &uso);
+    return WIFEXITED(stato) && WEXITSTATUS(stato) == 0 ? double(uso.ru_maxrss) / 1024 : -1;
+}
+
+/// What that process does: the exit status tells how many messages there were.
+int Stampa(const QString &percorso, const QString &pdf)
+{
+    const QFileInfo file(percorso);
+    Modello modello;
+    modello.NomeFile = file.fileName();
+    FileModello::Carica(modello, percorso);
+    int avvisi = 0;
+    StampaModello(modello, file.path() + QDir::separator(), *Stampanti::SuPdf(pdf), false,
+                  [&avvisi](const QString &) { ++avvisi; });
+    return avvisi;
+}
+
+/// The sizes that one A4 page has place for, mm; none overlaps another.
+QList<QRectF> SeiPosti()
+{
+    return {{2, 2, 100, 141},  {104, 2, 90, 127},  {2, 150, 80, 113},
+            {84, 150, 60, 85}, {146, 150, 40, 57}, {146, 210, 20, 28}};
+}
+
+} // namespace
+
+/// How picture files go onto the page: as fine, as faithfully and as cheaply as it takes.
+class tst_FigureSuCarta : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void fotografiaComeJpeg_data();
+    void fotografiaComeJpeg();
+    void disegnoSenzaPerdita_data();
+    void disegnoSenzaPerdita();
+    void maiPiuFineDelNecessario();
+    void stessaFiguraUnaVoltaNelDocumento();
+    void seiMisureUnaSolaLettura();
+    void piccolaPrimaDellaGrande();
+    void figuraGuastaDettaPerOgniElemento();
+    void disegnoGrandeIntero();
+    void memoriaLimitata_data();
+    void memoriaLimitata();
+
+private:
+    QByteArray scansione_;
+};
+
+void tst_FigureSuCarta::initTestCase()
+{
+    scansione_ = InFormato(ModuloA4(), "jpeg", 600);
+}
+
+void tst_FigureSuCarta::fotografiaComeJpeg_data()
+{
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<QSize>("pixel");
+    QTest::newRow("small") << QStringLiteral("foto.jpg") << QSize(160, 160);
+    QTest::newRow("odd size") << QStringLiteral("foto.jpg") << QSize(161, 97);
+    QTest::newRow("large") << QStringLiteral("foto.jpg") << QSize(1200, 900);
+    QTest::newRow("by its bytes, not its name") << QStringLiteral("foto.bmp") << QSize(160, 160);
+}
+
+void tst_FigureSuCarta::fotografiaComeJpeg()
+{
+    QFETCH(QString, nome);
+    QFETCH(QSize, pixel);
+    for (unsigned seme = 1; seme <= 7; ++seme) {
+        FoglioDiProva foglio;
+        const QByteArray byte = InFormato(Fotografia(pixel, seme), "jpeg");
+        foglio.ConImmagine(nome, byte, {20, 20, 100, 80});
+        const LettorePdf pdf = foglio.Stampa();
+        QCOMPARE(foglio.Avvisi, QStringList());
+        QCOMPARE(pdf.Codifiche(), QStringList{QStringLiteral("jpeg")});
+        const QImage stampata = pdf.Immagine(0);
+        QCOMPARE(stampata.size(), pixel);
+        const double somiglianza = Somiglianza(stampata, QImage::fromData(byte, "jpeg"));
+        QVERIFY2(somiglianza > 38, qPrintable(QString::number(somiglianza)));
+    }
+}
+
+void tst_FigureSuCarta::disegnoSenzaPerdita_data()
+{
+    QTest::addColumn<QByteArray>("formato");
+    QTest::addColumn<QString>("nome");
+    QTest::newRow("BMP") << QByteArray("bmp") << QStringLiteral("disegno.bmp");
+    QTest::newRow("BMP named like a photograph") << QByteArray("bmp") << QStringLiteral("a.jpg");
+}
+
+void tst_FigureSuCarta::disegnoSenzaPerdita()
+{
+    QFETCH(QByteArray, formato);
+    QFETCH(QString, nome);
+    FoglioDiProva foglio;
+    const QImage disegno = Disegno({320, 200}, QStringLiteral("Vastrel"));
+    foglio.ConImmagine(nome, InFormato(disegno, formato.constData()), {20, 20, 100, 80});
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(pdf.Codifiche(), QStringList{QStringLiteral("image")});
+    QCOMPARE(pdf.Immagine(0), disegno);
+}
+
+void tst_FigureSuCarta::maiPiuFineDelNecessario()
+{
+    FoglioDiProva foglio;
+    const QByteArray foto = InFormato(Fotografia({1000, 800}, 3), "jpeg");
+    const QByteArray disegno = InFormato(Disegno({1000, 800}, QStringLiteral("X")), "bmp");
+    foglio.ConImmagine(QStringLiteral("f.jpg"), foto, {10, 10, 20, 16});
+    foglio.ConImmagine(QStringLiteral("d.bmp"), disegno, {50, 10, 20, 16});
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(pdf.Immagini(), 2);
+    const QSize atteso(qRound(20 * PuntiPerMillimetro), qRound(16 * PuntiPerMillimetro));
+    for (int k = 0; k < 2; ++k) {
+        QCOMPARE(pdf.Immagine(k).size(), atteso);
+    }
+}
+
+void tst_FigureSuCarta::stessaFiguraUnaVoltaNelDocumento()
+{
+    FoglioDiProva foglio;
+    const QByteArray byte = InFormato(Fotografia({300, 300}, 1), "jpeg");
+    foglio.ConImmagine(QStringLiteral("f.jpg"), byte, {10, 10, 20, 20});
+    const LettorePdf uno = foglio.Stampa();
+    const qint64 sola = QFileInfo(foglio.Pdf()).size();
+    for (int i = 1; i < 20; ++i) {
+        foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {i % 5 * 40.0, i / 5 * 40.0, 20.0 + i, 20});
+    }
+    foglio.Stampa();
+    QVERIFY(QFileInfo(foglio.Pdf()).size() < sola + byte.size() / 4);
+}
+
+void tst_FigureSuCarta::seiMisureUnaSolaLettura()
+{
+    FoglioDiProva foglio;
+    for (const QRectF &posto : SeiPosti()) {
+        foglio.ConImmagine(
+            QStringLiteral("s.jpg"),
+            foglio.Aperto.UltimoSlot(Genere::Immagine) == 0 ? scansione_ : QByteArray(), posto);
+    }
+    const Aperture aperture(foglio.Cartella() + QStringLiteral("s.jpg"));
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(aperture.Nuove(), 1);
+    QCOMPARE(foglio.Avvisi, QStringList());
+    for (const QRectF &posto : SeiPosti()) {
+        const QRectF inchiostro =
+            pdf.Inchiostro(posto.adjusted(-0.5, -0.5, 0.5, 0.5), [](QRgb) { return true; });
+        QVERIFY(!inchiostro.isEmpty());
+        // The printed boxes of the form stand where they stand on the scan: 700 pixels apart.
+        const double linea = posto.x() + posto.width() * 704 / 4960;
+        const double fra = posto.x() + posto.width() * 1050 / 4960;
+        const double y = posto.y() + posto.height() * 250 / 7016;
+        QVERIFY2(qGray(pdf.Colore(linea, y)) < 140, Testo(posto));
+        QVERIFY2(qGray(pdf.Colore(fra, y)) > 220, Testo(posto));
+    }
+}
+
+void tst_FigureSuCarta::piccolaPrimaDellaGrande()
+{
+    // The first use must not settle how fine the second one is.
+    FoglioDiProva foglio;
+    const QByteArray byte = InFormato(Fotografia({1600, 1600}, 2), "jpeg");
+    foglio.ConImmagine(QStringLiteral("f.jpg"), byte, {10, 10, 10, 10});
+    foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {30, 30, 60, 60});
+    const Aperture aperture(foglio.Cartella() + QStringLiteral("f.jpg"));
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(aperture.Nuove(), 1);
+    int maggiore = 0;
+    for (int k = 0; k < pdf.Immagini(); ++k) {
+        maggiore = std::max(maggiore, pdf.Immagine(k).width());
+    }
+    QCOMPARE(maggiore, qRound(60 * PuntiPerMillimetro));
+}
+
+void tst_FigureSuCarta::figuraGuastaDettaPerOgniElemento()
+{
+    FoglioDiProva foglio;
+    QByteArray byte = InFormato(Fotografia({100, 100}, 1), "jpeg");
+    foglio.ConImmagine(QStringLiteral("f.jpg"), byte.left(byte.size() / 2), {10, 10, 10, 10});
+    foglio.ConImmagine(QStringLiteral("manca.bmp"), {}, {10, 10, 10, 10});
+    foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {30, 30, 60, 60});
+    foglio.ConImmagine(QStringLiteral("buona.bmp"), InFormato(Tinta({4, 4}, 0), "bmp"),
+                       {100, 100, 20, 20});
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(foglio.Avvisi.size(), 3);
+    QVERIFY(foglio.Avvisi.at(0).contains(QStringLiteral("ERRORE 481 ")));
+    QVERIFY(foglio.Avvisi.at(1).contains(QStringLiteral("ERRORE 53 ")));
+    QVERIFY(foglio.Avvisi.at(2).contains(QStringLiteral("ERRORE 481 ")));
+    QVERIFY(foglio.Avvisi.at(2).contains(QStringLiteral("x,y=30,30")));
+    QCOMPARE(pdf.Colore(110, 110), qRgb(0, 0, 0));
+}
+
+void tst_FigureSuCarta::disegnoGrandeIntero()
+{
+    // Large enough to be handed to the printer in parts: no row is lost, doubled or moved.
+    FoglioDiProva foglio;
+    QImage rigato(2500, 4000, QImage::Format_RGB32);
+    for (int y = 0; y < rigato.height(); ++y) {
+        std::fill_n(reinterpret_cast<QRgb *>(rigato.scanLine(y)), rigato.width(),
+                    qRgb(y / 100 * 6, 0, 255 - y / 100 * 6));
+    }
+    const QRectF posto(10, 10, 125, 200);
+    foglio.ConImmagine(QStringLiteral("r.bmp"), InFormato(rigato, "bmp"), posto);
+    const LettorePdf pdf = foglio.Stampa();
+    const QRectF inchiostro = pdf.Inchiostro();
+    QVERIFY2(Vicini(inchiostro, posto), Testo(inchiostro));
+    for (int banda = 0; banda < 40; ++banda) {
+        for (const double y : {0.3, 2.5, 4.7}) {
+            QCOMPARE(pdf.Colore(70, posto.y() + banda * 5 + y),
+                     qRgb(banda * 6, 0, 255 - banda * 6));
+        }
+    }
+}
+
+void tst_FigureSuCarta::memoriaLimitata_data()
+{
+    QTest::addColumn<int>("scansioni");
+    QTest::addColumn<QByteArray>("formato");
+    QTest::addColumn<QList<QRectF>>("posti");
+    const QRectF foglio(0, 0, 210, 297);
+    QTest::newRow("a scan in six sizes") << 1 << QByteArray("jpeg") << SeiPosti();
+    QTest::newRow("a scan in several sizes, over each other")
+        << 1 << QByteArray("jpeg")
+        << QList<QRectF>{foglio, {5, 5, 190, 120}, {5, 150, 100, 80}, {150, 200, 20, 28}};
+    QTest::newRow("two scans over each other")
+        << 2 << QByteArray("jpeg") << QList<QRectF>{foglio, {5, 5, 200, 140}};
+    QTest::newRow("a scan without loss") << 1 << QByteArray("bmp") << QList<QRectF>{foglio};
+}
+
+void tst_FigureSuCarta::memoriaLimitata()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer's own memory would be measured");
+#endif
+    QFETCH(int, scansioni);
+    QFETCH(QByteArray, formato);
+    QFETCH(QList<QRectF>, posti);
+    FoglioDiProva foglio;
+    for (int k = 0; k < posti.size(); ++k) {
+        const QString nome =
+            QStringLiteral("s%1.%2").arg(k % scansioni).arg(QLatin1String(formato));
+        const bool nuova = k < scansioni;
+        foglio.ConImmagine(nome,
+                           !nuova              ? QByteArray()
+                           : formato == "jpeg" ? scansione_
+                                               : InFormato(ModuloA4(), formato.constData(), 600),
+                           posti.at(k));
+    }
+    const QString modello = foglio.Cartella() + QStringLiteral("Prova.Mod");
+    FileModello::Salva(foglio.Aperto, modello, QLocale::c());
+    const double mib = MiBDiStampa(modello, foglio.Pdf());
+    qInfo("%.0f MiB", mib);
+    QVERIFY2(mib > 0 && mib <= MiBMassimi, qPrintable(QString::number(mib)));
+    QCOMPARE(LettorePdf(foglio.Pdf()).Pagine(), 1);
+}
+
+int main(int argc, char *argv[])
+{
+    const QApplication programma(argc, argv);
+    const QStringList argomenti = QApplication::arguments();
+    if (argomenti.value(1) == QLatin1String(SoloStampa)) {
+        return Stampa(argomenti.value(2), argomenti.value(3));
+    }
+    tst_FigureSuCarta prove;
+    return QTest::qExec(&prove, argc, argv);
+}
+
+#include "tst_FigureSuCarta.moc"
