@@ -1,11 +1,11 @@
 #include "Misura.h"
 #include "model/FileModello.h"
 #include "support/ArchivioDiProva.h"
+#include "support/ImmaginiDiProva.h"
 
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
-#include <QImage>
 #include <QPixmap>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -25,19 +25,22 @@ class bench_Programma : public QObject
 private slots:
     void initTestCase();
     void Avvio();
+    void PdfDaRigaDiComando_data();
     void PdfDaRigaDiComando();
+    void ScansioneInSeiMisure();
     void Memoria();
 
 private:
-    QString Modello300() const { return prova_.Percorso(); }
-
-    ArchivioDiProva prova_;
+    std::unique_ptr<ArchivioDiProva> prova_;
     QTemporaryDir impostazioni_;
 };
+
+using namespace ImmaginiDiProva;
 
 namespace {
 
 constexpr int PerGenere = 100;
+constexpr QSize Pixel(160, 160);
 const QByteArray Plakera = CARTELLA_PROGRAMMI "/plakera";
 const QByteArray Aperto = CARTELLA_PROGRAMMI "/../benchmarks/editor_aperto";
 const QByteArray Vuota = CARTELLA_PROGRAMMI "/../benchmarks/finestra_vuota";
@@ -109,6 +112,29 @@ double PrimaFinestra(const QByteArray &programma, long &memoria)
     return avvio;
 }
 
+QByteArrayList Fotografie()
+{
+    QByteArrayList fotografie;
+    for (int k = 1; k <= PerGenere; ++k) {
+        fotografie.append(InFormato(Fotografia(Pixel, unsigned(k)), "jpeg"));
+    }
+    return fotografie;
+}
+
+/// An archive whose model has so many elements of each kind, with these picture files.
+std::unique_ptr<ArchivioDiProva> Riempito(const QByteArrayList &figure)
+{
+    auto prova = std::make_unique<ArchivioDiProva>();
+    prova->Riempie(PerGenere);
+    for (int k = 1; k <= PerGenere; ++k) {
+        // Named as Riempie names them; the bytes tell the format.
+        Scrive(prova->Stato().CartellaModelli + QStringLiteral("immagine%1.bmp").arg(k),
+               figure.at(k - 1));
+    }
+    prova->Scrive();
+    return prova;
+}
+
 double Meta(std::vector<double> valori)
 {
     std::nth_element(valori.begin(), valori.begin() + valori.size() / 2, valori.end());
@@ -119,14 +145,7 @@ double Meta(std::vector<double> valori)
 
 void bench_Programma::initTestCase()
 {
-    prova_.Riempie(PerGenere);
-    for (int k = 1; k <= PerGenere; ++k) {
-        QImage figura(64, 48, QImage::Format_RGB32);
-        figura.fill(QColor::fromHsv(k * 3, 200, 200));
-        QVERIFY(
-            figura.save(prova_.Stato().CartellaModelli + QStringLiteral("immagine%1.bmp").arg(k)));
-    }
-    prova_.Scrive();
+    prova_ = Riempito(Fotografie());
     QFile ini(impostazioni_.filePath(QStringLiteral("vastrel.ini")));
     QVERIFY(ini.open(QIODevice::WriteOnly));
     ini.write("[INI]\ndirtxt=" CARTELLA_CAMPIONE "\n");
@@ -147,23 +166,58 @@ void bench_Programma::Avvio()
     Riporta("start to first window / empty Qt window", Meta(nostre) / Meta(vuote), 1.5, "x");
 }
 
+void bench_Programma::PdfDaRigaDiComando_data()
+{
+    QTest::addColumn<QByteArrayList>("figure");
+    QTest::addColumn<double>("meta");
+    QByteArrayList disegni;
+    QByteArrayList tinte;
+    for (int k = 1; k <= PerGenere; ++k) {
+        disegni.append(InFormato(Disegno(Pixel, QStringLiteral("Ditta %1").arg(k)), "bmp"));
+        tinte.append(InFormato(Tinta({64, 48}, QColor::fromHsv(k * 3, 200, 200).rgb()), "bmp"));
+    }
+    QTest::newRow("photographs") << Fotografie() << 120.0;
+    QTest::newRow("drawings with text") << disegni << 120.0;
+    QTest::newRow("small flat pictures") << tinte << 60.0;
+}
+
 void bench_Programma::PdfDaRigaDiComando()
 {
+    QFETCH(QByteArrayList, figure);
+    QFETCH(double, meta);
+    const auto prova = Riempito(figure);
     const QByteArray pdf = QFile::encodeName(impostazioni_.filePath(QStringLiteral("f.pdf")));
-    const QByteArray modello = QFile::encodeName(Modello300());
+    const QByteArray modello = QFile::encodeName(prova->Percorso());
     int stato = 0;
     const double tempo = Mediana(9, [&] {
         long memoria = 0;
         stato = Processo({Plakera, "--modello", modello, "--pdf", pdf}).Attende(memoria);
     });
     QCOMPARE(stato, 0);
-    Riporta("300 elements to PDF, whole process", tempo, 120);
+    Riporta("300 elements to PDF, " + QByteArray(QTest::currentDataTag()), tempo, meta);
+}
+
+void bench_Programma::ScansioneInSeiMisure()
+{
+    ArchivioDiProva prova;
+    Scrive(prova.Stato().CartellaModelli + QStringLiteral("scansione.jpg"),
+           InFormato(ModuloA4(), "jpeg", 600));
+    for (int k = 0; k < 6; ++k) {
+        prova.AggiungeImmagine(QStringLiteral("scansione.jpg"), 5, 5, 200 - k * 30, 282 - k * 42);
+    }
+    prova.Scrive();
+    const QByteArray pdf = QFile::encodeName(impostazioni_.filePath(QStringLiteral("s.pdf")));
+    long memoria = 0;
+    QCOMPARE(Processo({Plakera, "--modello", QFile::encodeName(prova.Percorso()), "--pdf", pdf})
+                 .Attende(memoria),
+             0);
+    Riporta("peak memory, a scan in six sizes to PDF", double(memoria) / 1024, 300, "MiB");
 }
 
 void bench_Programma::Memoria()
 {
-    const QByteArray archivio = QFile::encodeName(prova_.Stato().CartellaModelli);
-    const QByteArray modello = QFile::encodeName(prova_.Aperto().NomeFile);
+    const QByteArray archivio = QFile::encodeName(prova_->Stato().CartellaModelli);
+    const QByteArray modello = QFile::encodeName(prova_->Aperto().NomeFile);
     long memoria = 0;
     QCOMPARE(Processo({Aperto, archivio, modello}).Attende(memoria), 0);
     long vuota = 0;

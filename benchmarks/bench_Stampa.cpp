@@ -3,9 +3,9 @@
 
 #include "platform/Stampanti.h"
 #include "print/Retino.h"
+#include "support/ImmaginiDiProva.h"
 
 #include <QElapsedTimer>
-#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -31,19 +31,18 @@ private:
     Modello modello_;
 };
 
+using namespace ImmaginiDiProva;
+
 namespace {
 
 constexpr int PerGenere = 100;
 
-QImage Figura(int i)
+/// Half of them photographs, half drawings.
+QByteArray Figura(int i)
 {
-    QImage figura(64, 48, QImage::Format_RGB32);
-    for (int y = 0; y < figura.height(); ++y) {
-        for (int x = 0; x < figura.width(); ++x) {
-            figura.setPixel(x, y, qRgb(255 - x * i % 200, 255 - y * 3, (x * y + i) % 256));
-        }
-    }
-    return figura;
+    constexpr QSize Pixel(160, 160);
+    return i % 2 == 0 ? InFormato(Fotografia(Pixel, unsigned(i)), "jpeg")
+                      : InFormato(Disegno(Pixel, QStringLiteral("Ditta %1").arg(i)), "bmp");
 }
 
 } // namespace
@@ -69,7 +68,7 @@ void bench_Stampa::initTestCase()
                             .arg(i % 2 == 0 ? QLatin1String("jpg") : QLatin1String("bmp"));
         immagine.Larghezza = 10;
         immagine.Altezza = 7;
-        QVERIFY(Figura(i).save(dir_.filePath(immagine.Nome)));
+        Scrive(dir_.filePath(immagine.Nome), Figura(i));
     }
 }
 
