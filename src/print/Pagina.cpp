@@ -2,6 +2,7 @@
 
 #include "base/ErroreSistema.h"
 #include "base/Misure.h"
+#include "platform/Memoria.h"
 #include "platform/Testo.h"
 #include "print/Sovrapposizione.h"
 
@@ -40,6 +41,7 @@ Pagina::Pagina(Destinazione &destinazione)
     : destinazione_(destinazione)
     , dispositivo_(destinazione.Dispositivo())
 {
+    TieneMemoriaLiberata();
     destinazione.Prepara();
     if (!pittore_.begin(&dispositivo_)) {
         throw destinazione.Rifiuto();
