@@ -3,6 +3,7 @@
 #include "model/Modello.h"
 #include "model/Numeri.h"
 
+#include <QRect>
 #include <QRgb>
 
 class Destinazione;
