@@ -121,8 +121,8 @@ void tst_ImmaginiRare::JpegDi139Megapixel()
     QVERIFY(Simili(anteprima.pixel(400, 20), ColoreSopra));
     QVERIFY(Simili(anteprima.pixel(400, 1110), ColoreSotto));
     // At the resolution of paper, and where more than that is asked for.
-    QCOMPARE(Immagini::CaricaEntro(percorso, {4960, 7016}).size(), QSize(4960, 7016));
-    const QImage massima = Immagini::CaricaEntro(percorso, {100'000, 100'000});
+    QCOMPARE(Immagini::CaricaEntro(percorso, {4960, 7016}).Immagine.size(), QSize(4960, 7016));
+    const QImage massima = Immagini::CaricaEntro(percorso, {100'000, 100'000}).Immagine;
     QVERIFY(massima.width() >= 4960 && massima.width() < 9921);
 }
 
