@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr QLatin1String Arial("Arial");
 constexpr int RisoluzionePdf = 1200;
 
 /// The writer of PDF files tells nobody when the disk is full: its last words must be there.
@@ -64,9 +63,7 @@ QStringList Stampanti::ElencoFont()
             famiglie.append(famiglia);
         }
     }
-    if (!famiglie.contains(Arial, Qt::CaseInsensitive) && FontSostituitoAllaPari(Arial)) {
-        famiglie.append(Arial);
-    }
+    famiglie += FontSostituitiAllaPari();
     famiglie.sort(Qt::CaseInsensitive);
     return famiglie;
 }

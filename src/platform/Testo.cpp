@@ -16,25 +16,36 @@ namespace {
 
 const auto Arial = QStringLiteral("Arial");
 
-/// Families of the users' own machines, and those that other systems make to the same widths.
+/// A family of the users' own machines, and those that other systems make to the same widths.
 struct Gemelli
 {
-    std::array<QLatin1String, 2> Nomi;
+    QLatin1String Nome;
     std::array<QLatin1String, 3> Pari;
 };
 constexpr std::array<Gemelli, 3> FamiglieGemelle{{
-    {{QLatin1String("Arial"), QLatin1String("Helvetica")},
+    {QLatin1String("Arial"),
      {QLatin1String("Liberation Sans"), QLatin1String("Arimo"), QLatin1String("Nimbus Sans")}},
-    {{QLatin1String("Times New Roman"), QLatin1String("Times")},
+    {QLatin1String("Times New Roman"),
      {QLatin1String("Liberation Serif"), QLatin1String("Tinos"), QLatin1String("Nimbus Roman")}},
-    {{QLatin1String("Courier New"), QLatin1String("Courier")},
+    {QLatin1String("Courier New"),
      {QLatin1String("Liberation Mono"), QLatin1String("Cousine"), QLatin1String("Nimbus Mono")}},
 }};
+
+/// True where the system lacks the family and sets it with one of the same widths.
+bool Sostituito(const Gemelli &gemelli)
+{
+    if (QFontDatabase::hasFamily(gemelli.Nome)) {
+        return false;
+    }
+    const QString trovata = QFontInfo{QFont(gemelli.Nome)}.family();
+    return std::any_of(gemelli.Pari.begin(), gemelli.Pari.end(),
+                       [&](QLatin1String pari) { return trovata.contains(pari); });
+}
 
 bool Disponibile(const QString &famiglia)
 {
     return (QFontDatabase::hasFamily(famiglia) && !FontGenerico(famiglia)) ||
-           FontSostituitoAllaPari(famiglia);
+           FontSostituitiAllaPari().contains(famiglia, Qt::CaseInsensitive);
 }
 
 /// The fonts change only when one is installed, and texts are set by the hundred.
@@ -70,20 +81,15 @@ bool FontGenerico(const QString &famiglia)
     });
 }
 
-bool FontSostituitoAllaPari(const QString &famiglia)
+QStringList FontSostituitiAllaPari()
 {
-    const auto e = [](const QString &nome) {
-        return
-            [&nome](QLatin1String altro) { return nome.compare(altro, Qt::CaseInsensitive) == 0; };
-    };
+    QStringList famiglie;
     for (const Gemelli &gemelli : FamiglieGemelle) {
-        if (std::any_of(gemelli.Nomi.begin(), gemelli.Nomi.end(), e(famiglia))) {
-            const QString trovata = QFontInfo{QFont(famiglia)}.family();
-            return std::any_of(gemelli.Pari.begin(), gemelli.Pari.end(),
-                               [&](QLatin1String pari) { return trovata.contains(pari); });
+        if (Sostituito(gemelli)) {
+            famiglie.append(gemelli.Nome);
         }
     }
-    return false;
+    return famiglie;
 }
 
 QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel)

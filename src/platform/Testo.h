@@ -3,13 +3,14 @@
 #include <QFont>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 /// True for the system's names of a kind of font ("Sans Serif"), which are no fonts.
 bool FontGenerico(const QString &famiglia);
 
-/// True for a well-known family that the system does not have but sets with one of its own, made to
-/// the same widths.
-bool FontSostituitoAllaPari(const QString &famiglia);
+/// The well-known families that the system does not have but sets with one of its own, made to the
+/// same widths: they are as good as installed.
+QStringList FontSostituitiAllaPari();
 
 /// The font of a text of the model, on the screen as on paper: unhinted, pixel high. A family
 /// without a name, or that the system neither has nor sets to the same widths, is Arial.

@@ -1,6 +1,7 @@
 #include "dialogs/FrmCampo.h"
 #include "dialogs/FrmCornice.h"
 #include "editor/Form2.h"
+#include "platform/Stampanti.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
 #include "support/Finestre.h"
@@ -67,6 +68,7 @@ private slots:
     void EliminaCornice();
     void EliminaImmagine();
     void FontSconosciutoDiventaArial();
+    void FontDiPariLarghezzeResta();
     void DimensioneFuoriElencoNonSiSceglie();
     void DimensioniConUnaCifra();
     void MascheraFuoriCatalogo();
@@ -210,6 +212,19 @@ void tst_Form2Dialoghi::FontSconosciutoDiventaArial()
     QCOMPARE(robot.Testi().constFirst(),
              QStringLiteral("font Inesistente non esistente: verrà impostato Arial"));
     QCOMPARE(e.Aperto().Campi[2].Font, QStringLiteral("Inesistente"));
+}
+
+void tst_Form2Dialoghi::FontDiPariLarghezzeResta()
+{
+    EditorDiProva e;
+    e.prova.Stato().ElencoFont = Stampanti::ElencoFont();
+    const QString tondo = QStringLiteral("Times New Roman");
+    e.Aperto().Cornici[2].Font = tondo;
+    Robot robot;
+    robot.Agisce([](QDialog *d) { Preme(*d, "Confema"); });
+    e.editor->ApreFrmCornice(2);
+    QVERIFY2(robot.Soddisfatto(), "no box says that the font is missing");
+    QCOMPARE(e.Aperto().Cornici[2].Font, tondo);
 }
 
 void tst_Form2Dialoghi::DimensioneFuoriElencoNonSiSceglie()

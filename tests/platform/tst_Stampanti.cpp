@@ -1,6 +1,7 @@
 #include "platform/Stampanti.h"
 
 #include "base/ErroreSistema.h"
+#include "platform/Testo.h"
 
 #include <QFontDatabase>
 #include <QPrinterInfo>
@@ -22,6 +23,9 @@ private slots:
     void elencoFont();
     void elencoFontSenzaDoppi();
     void iNomiGenericiNonSonoFont();
+    void inElencoComeSulFoglio_data();
+    void inElencoComeSulFoglio();
+    void iFontDiPariLarghezzeSonoInElenco();
     void senzaStampantePredefinita();
     void suPdfInMillimetri();
 };
@@ -52,6 +56,40 @@ void tst_Stampanti::iNomiGenericiNonSonoFont()
     const QStringList elenco = Stampanti::ElencoFont();
     for (const QString &nome : Generici) {
         QVERIFY2(!elenco.contains(nome, Qt::CaseInsensitive), qPrintable(nome));
+    }
+}
+
+void tst_Stampanti::inElencoComeSulFoglio_data()
+{
+    QTest::addColumn<QString>("famiglia");
+    for (const char *famiglia : {"Times New Roman", "Courier New", "Times", "Courier", "Helvetica",
+                                 "DejaVu Sans", "Serif", "Font Mai Esistito"}) {
+        QTest::newRow(famiglia) << QString::fromLatin1(famiglia);
+    }
+}
+
+void tst_Stampanti::inElencoComeSulFoglio()
+{
+    // What the dialogs cannot offer is set in Arial, and nothing else is.
+    QFETCH(QString, famiglia);
+    const bool offerta = Stampanti::ElencoFont().contains(famiglia, Qt::CaseInsensitive);
+    const QString attesa = offerta ? famiglia : QStringLiteral("Arial");
+    QCOMPARE(CarattereDiTesto(famiglia, false, 100).families(), QStringList{attesa});
+}
+
+void tst_Stampanti::iFontDiPariLarghezzeSonoInElenco()
+{
+    const QStringList elenco = Stampanti::ElencoFont();
+    const QList<std::pair<QString, QString>> coppie{
+        {QStringLiteral("Times New Roman"), QStringLiteral("Liberation Serif")},
+        {QStringLiteral("Courier New"), QStringLiteral("Liberation Mono")}};
+    for (const auto &[nome, pari] : coppie) {
+        if (!QFontDatabase::hasFamily(pari)) {
+            QSKIP("the system has no font of the same widths");
+        }
+        QCOMPARE(elenco.count(nome), 1);
+        const QString testo = QStringLiteral("Spett.le Ditta");
+        QCOMPARE(MisuraTesto(testo, nome, 11, false), MisuraTesto(testo, pari, 11, false));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "platform/Testo.h"
 
 #include <QFont>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPageSize>
 #include <QPainter>
@@ -144,6 +145,12 @@ void TestTesto::UnFontCheNonEsisteEArial_data()
     QTest::newRow("installato") << QStringLiteral("DejaVu Sans") << QStringLiteral("DejaVu Sans");
     QTest::newRow("installato, altre maiuscole")
         << QStringLiteral("dejavu sans") << QStringLiteral("dejavu sans");
+    for (const char *taciuto : {"Times", "Courier", "Helvetica"}) {
+        // Where the system has such a family it is one of the user's fonts like any other.
+        const QString famiglia = QString::fromLatin1(taciuto);
+        QTest::newRow(taciuto) << famiglia
+                               << (QFontDatabase::hasFamily(famiglia) ? famiglia : Arial);
+    }
     QTest::newRow("di pari larghezze")
         << QStringLiteral("Times New Roman") << QStringLiteral("Times New Roman");
 }
