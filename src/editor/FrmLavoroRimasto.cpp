@@ -32,8 +32,7 @@ QPixmap Ritratto(StatoProgramma &stato)
 
 } // namespace
 
-FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percorso,
-                                   const QStringList &elencoFont, QWidget *padre)
+FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percorso, QWidget *padre)
     : QDialog(padre)
     , ui_(std::make_unique<Ui::FrmLavoroRimasto>())
 {
@@ -42,7 +41,6 @@ FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percor
     StatoProgramma stato;
     stato.Aperto = modello;
     stato.CartellaModelli = QFileInfo(percorso).path() + Percorsi::Separatore();
-    stato.ElencoFont = elencoFont;
     const QPixmap ritratto = Ritratto(stato);
     ui_->Foglio->setPixmap(ritratto);
     // Room for the scroll bars and the button.

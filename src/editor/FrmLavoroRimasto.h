@@ -15,10 +15,8 @@ class FrmLavoroRimasto : public QDialog
 {
     Q_OBJECT
 public:
-    /// percorso is where the model's file was; its pictures are looked up there. elencoFont: the
-    /// printer's fonts.
-    FrmLavoroRimasto(const Modello &modello, const QString &percorso, const QStringList &elencoFont,
-                     QWidget *padre);
+    /// percorso is where the model's file was; its pictures are looked up there.
+    FrmLavoroRimasto(const Modello &modello, const QString &percorso, QWidget *padre);
     ~FrmLavoroRimasto() override;
 
 private:

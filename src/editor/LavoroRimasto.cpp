@@ -140,7 +140,7 @@ Esito Offre(QWidget *padre, const Rimasta &rimasta, const StatoProgramma &stato)
                                       QStringLiteral("&Getta via")},
                                      Tieni)) {
     case Guarda:
-        FrmLavoroRimasto(rimasta.modello, rimasta.percorso, stato.ElencoFont, padre).exec();
+        FrmLavoroRimasto(rimasta.modello, rimasta.percorso, padre).exec();
         return Esito::ChiedeAncora;
     case Salva:
         return SalvaComeNuovo(padre, rimasta, stato) ? Esito::Salvata : Esito::ChiedeAncora;
