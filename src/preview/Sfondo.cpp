@@ -31,6 +31,7 @@ void Sfondo::Dimentica()
 {
     Pulisce();
     origine_ = {};
+    fallita_.reset();
     maestra_ = {};
     scalata_ = {};
 }
@@ -38,22 +39,36 @@ void Sfondo::Dimentica()
 void Sfondo::Imposta(const QString &percorso, const QRectF &millimetri, double pixelPerMillimetro)
 {
     Pulisce();
+    const QFileInfo file(percorso);
+    const Origine origine{percorso, file.lastModified(), file.size(), file.isReadable()};
+    if (fallita_ && fallita_->origine == origine) {
+        throw ErroreSistema(fallita_->errore);
+    }
+    try {
+        Legge(origine, millimetri, pixelPerMillimetro);
+    } catch (const ErroreSistema &errore) {
+        fallita_ = {origine, errore};
+        throw;
+    }
+}
+
+void Sfondo::Legge(const Origine &origine, const QRectF &millimetri, double pixelPerMillimetro)
+{
     if (!Disegnabile(millimetri)) {
-        Immagini::DimensioniNaturali(
-            percorso); // a file that is no picture is reported all the same
+        // A file that is no picture is reported all the same.
+        Immagini::DimensioniNaturali(origine.percorso);
         return;
     }
-    const QFileInfo file(percorso);
     const QSize pixel(
         PixelPer(millimetri.width(), GeometriaAnteprima::LarghezzaCarta, pixelPerMillimetro),
         PixelPer(millimetri.height(), GeometriaAnteprima::AltezzaCarta, pixelPerMillimetro));
-    const Origine origine{percorso, file.lastModified(), file.size(), pixel};
-    if (maestra_.isNull() || !(origine == origine_)) {
+    if (maestra_.isNull() || !(origine == origine_) || pixel != pixel_) {
         Dimentica();
-        maestra_ = Immagini::CaricaScalata(percorso, pixel);
+        maestra_ = Immagini::CaricaScalata(origine.percorso, pixel);
         maestra_.convertTo(maestra_.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                                       : QImage::Format_RGB32);
         origine_ = origine;
+        pixel_ = pixel;
     }
     millimetri_ = millimetri;
 }

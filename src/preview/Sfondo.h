@@ -1,9 +1,13 @@
 #pragma once
 
+#include "base/ErroreSistema.h"
+
 #include <QDateTime>
 #include <QImage>
 #include <QRectF>
 #include <QString>
+
+#include <optional>
 
 class QPainter;
 
@@ -13,8 +17,9 @@ class Sfondo
 {
 public:
     /// pixelPerMillimetro: device pixels. An empty rectangle (mm of the sheet) shows nothing.
-    /// The file is read again only when it, or the size it needs, has changed. Throws ErroreSistema
-    /// 53 or 481 and then shows nothing either.
+    /// The file is read again only when it, or the size it needs, has changed; one that could not
+    /// be decoded only when it has changed. Throws ErroreSistema 53 or 481 and then shows nothing
+    /// either.
     void Imposta(const QString &percorso, const QRectF &millimetri, double pixelPerMillimetro);
     /// Shows nothing; what was decoded is kept, for the next Imposta mostly shows it again.
     void Pulisce() { millimetri_ = {}; }
@@ -32,14 +37,22 @@ private:
         QString percorso;
         QDateTime modificato;
         qint64 byte = 0;
-        QSize pixel;
+        bool leggibile = false;
 
         bool operator==(const Origine &) const = default;
     };
+    struct Fallita
+    {
+        Origine origine;
+        ErroreSistema errore;
+    };
 
+    void Legge(const Origine &origine, const QRectF &millimetri, double pixelPerMillimetro);
     const QImage &Scalata(QSize pixel);
 
     Origine origine_;
+    QSize pixel_; // asked of maestra_
+    std::optional<Fallita> fallita_;
     QRectF millimetri_; // null: nothing is shown
     QImage maestra_;
     QImage scalata_; // maestra_ at the size on the screen

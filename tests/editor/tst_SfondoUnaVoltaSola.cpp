@@ -22,6 +22,7 @@ private slots:
     void nascostoEMostratoSenzaRileggere();
     void cambiatoSulDiscoRilettoAlDisegnoDopo();
     void caricatoDiNuovoDalBottone();
+    void guastoNonRilettoFinoACheNonCambia();
 
 private:
     QColor Angolo() const { return QColor(prova_->Foto().pixel(80, 80)); }
@@ -138,6 +139,35 @@ void tst_SfondoUnaVoltaSola::caricatoDiNuovoDalBottone()
     Preme(*prova_->Editor, "Command8");
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(Angolo(), QColor(0, 0, 255));
+}
+
+void tst_SfondoUnaVoltaSola::guastoNonRilettoFinoACheNonCambia()
+{
+    // The first half of the scan: its header is that of a picture, its pixels are missing.
+    ImmaginiDiProva::Scrive(percorso_, a4_.first(a4_.size() / 2));
+    Robot robot;
+    robot.Ok();
+    Preme(*prova_->Editor, "SfondoSpostaDx");
+    QVERIFY(robot.Soddisfatto());
+    const Aperture aperture(percorso_);
+    for (const char *freccia : {"SfondoSpostaDx", "SfondoSpostaGiu", "SfondoSpostaSx"}) {
+        Preme(*prova_->Editor, freccia);
+    }
+    for (const char *zoom : {"2", "1"}) {
+        prova_->Zoom(QLatin1String(zoom));
+    }
+    QCOMPARE(aperture.Nuove(), 0);
+    QVERIFY2(robot.Soddisfatto(), "told once");
+    robot.Annulla().Ok();
+    Preme(*prova_->Editor, "Command8"); // asked for, so read
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(aperture.Nuove() > 0);
+
+    const QImage senza = prova_->Foto();
+    ImmaginiDiProva::Scrive(percorso_, a4_);
+    Preme(*prova_->Editor, "SfondoSpostaSu");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(prova_->Foto() != senza);
 }
 
 QTEST_MAIN(tst_SfondoUnaVoltaSola)
