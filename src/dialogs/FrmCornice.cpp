@@ -8,8 +8,6 @@
 #include "platform/Guardia.h"
 #include "platform/Testo.h"
 
-#include <cmath>
-
 namespace {
 
 const auto BordoAssente = QStringLiteral("0");
@@ -127,11 +125,6 @@ void FrmCornice::ControllaLarghezza() const
     }
 }
 
-qint16 FrmCornice::ColoreIntero(const QLineEdit *casella)
-{
-    return Numeri::Intero16(std::floor(Numeri::Val(casella->text())));
-}
-
 FrmCornice::Misure FrmCornice::AdattaAllaScritta(const Carattere &carattere)
 {
     constexpr double Margine = 1; // mm
@@ -186,16 +179,18 @@ void FrmCornice::Confema_Click()
 
 void FrmCornice::Command1_Click()
 {
-    const PuntatoreOccupato occupato;
-    const qint16 coloreTesto = ColoreIntero(ui_->ColoreTesto);
-    const qint16 coloreCornice = ColoreIntero(ui_->ColoreCorn);
-    for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
-        Cornice &cornice = Aperto().Cornici[i];
-        cornice.ColoreTesto = coloreTesto;
-        cornice.ColoreCornice = coloreCornice;
-        emit Applicato(Genere::Cornice, i);
-    }
-    accept();
+    Tenta([this] {
+        const PuntatoreOccupato occupato;
+        const qint16 coloreTesto = ValIntero16(ui_->ColoreTesto);
+        const qint16 coloreCornice = ValIntero16(ui_->ColoreCorn);
+        for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
+            Cornice &cornice = Aperto().Cornici[i];
+            cornice.ColoreTesto = coloreTesto;
+            cornice.ColoreCornice = coloreCornice;
+            emit Applicato(Genere::Cornice, i);
+        }
+        accept();
+    });
 }
 
 void FrmCornice::Command2_Click()
@@ -204,7 +199,7 @@ void FrmCornice::Command2_Click()
         ControllaColore(ui_->ColoreTesto, QStringLiteral("Colore errato"));
         const PuntatoreOccupato occupato;
         const Carattere carattere = CarattereScelto();
-        const qint16 coloreTesto = ColoreIntero(ui_->ColoreTesto);
+        const qint16 coloreTesto = Intero16(ui_->ColoreTesto, ui_->ColoreTesto->text());
         for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
             Cornice &cornice = Aperto().Cornici[i];
             Scrive(cornice, carattere);

@@ -42,9 +42,6 @@ private:
     static void ControllaColore(QLineEdit *casella, const QString &messaggio);
     /// Throws Rifiuto when the width, read leniently, is zero or less.
     void ControllaLarghezza() const;
-    /// The whole part of the box, read leniently, whatever stands in it. Throws ErroreSistema 6
-    /// when 16 bits do not hold it.
-    static qint16 ColoreIntero(const QLineEdit *casella);
     /// Size of a label, from its text: the boxes then show it.
     Misure AdattaAllaScritta(const Carattere &carattere);
 

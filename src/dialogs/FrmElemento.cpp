@@ -1,5 +1,6 @@
 #include "dialogs/FrmElemento.h"
 
+#include "base/ErroreSistema.h"
 #include "model/Numeri.h"
 #include "platform/Finestre.h"
 #include "platform/Messaggi.h"
@@ -106,10 +107,22 @@ qint16 FrmElemento::Intero16(QWidget *controllo, const QString &testo)
     try {
         return Numeri::Intero16(*valore);
     } catch (const ErroreSistema &) {
-        throw Rifiuto{QStringLiteral("%1: «%2» è un numero troppo grande")
-                          .arg(controllo->accessibleName(), testo),
-                      controllo};
+        throw TroppoGrande(controllo, testo);
     }
+}
+
+qint16 FrmElemento::ValIntero16(QLineEdit *casella)
+{
+    try {
+        return Numeri::Intero16(Numeri::Val(casella->text()));
+    } catch (const ErroreSistema &) {
+        throw TroppoGrande(casella, casella->text());
+    }
+}
+
+FrmElemento::Rifiuto FrmElemento::TroppoGrande(QWidget *controllo, const QString &testo)
+{
+    return {NumeroTroppoGrande(controllo->accessibleName(), testo), controllo};
 }
 
 FrmElemento::Posto FrmElemento::PostoScritto() const

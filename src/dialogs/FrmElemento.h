@@ -92,6 +92,10 @@ protected:
     /// that is no such number.
     static qint16 Intero16(QWidget *controllo, const QString &testo);
 
+    /// The box read leniently, whatever stands in it, and rounded half to even; throws Rifiuto
+    /// naming it for a number beyond 16 bits.
+    static qint16 ValIntero16(QLineEdit *casella);
+
     /// Place of the element as typed, in mm.
     struct Posto
     {
@@ -109,6 +113,7 @@ protected:
     void EliminaElemento(int n);
 
 private:
+    static Rifiuto TroppoGrande(QWidget *controllo, const QString &testo);
     void Rifiuta(const Rifiuto &rifiuto);
 
     Genere genere_;

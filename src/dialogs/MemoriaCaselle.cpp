@@ -8,6 +8,11 @@ void MostraDallInizio(QLineEdit *casella, const QString &testo)
     casella->setCursorPosition(0);
 }
 
+QString NumeroTroppoGrande(const QString &nome, const QString &testo)
+{
+    return QStringLiteral("%1: «%2» è un numero troppo grande").arg(nome, testo);
+}
+
 void MemoriaCaselle::Mostra(QLineEdit *casella, const QString &testo)
 {
     MostraDallInizio(casella, testo);

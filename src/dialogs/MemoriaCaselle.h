@@ -10,6 +10,9 @@
 /// Puts a text into a box; one too long for it shows its beginning.
 void MostraDallInizio(QLineEdit *casella, const QString &testo);
 
+/// What the user is told of a box, by its name, whose number is beyond what can be stored.
+QString NumeroTroppoGrande(const QString &nome, const QString &testo);
+
 /// What the text boxes of a dialog were filled with. A box that still shows its filling gives back
 /// the very value it came from: neither the digits that a number's text leaves out nor what a text
 /// box cannot show is lost by opening a dialog and confirming it.

@@ -117,6 +117,8 @@ private slots:
     void ColoriSuTutteSenzaControllo();
     void ColoriSuTutteOltre16Bit();
     void FontSuTutte();
+    void FontSuTutteEConfermaArrotondanoIlColore_data();
+    void FontSuTutteEConfermaArrotondanoIlColore();
     void FontSuTutteConColoreErrato();
     void SuTutteCon101Cornici();
     void EliminaConNo();
@@ -690,10 +692,12 @@ void TestFrmCornice::ColoriSuTutteSenzaControllo_data()
     QTest::newRow("lettere") << QStringLiteral("rosso") << 0;
     QTest::newRow("vuoto") << QString() << 0;
     QTest::newRow("numero e lettere") << QStringLiteral("12 blu") << 12;
-    QTest::newRow("parte intera") << QStringLiteral("3.7") << 3;
-    QTest::newRow("parte intera di un negativo") << QStringLiteral("-3.2") << -4;
+    QTest::newRow("arrotondato") << QStringLiteral("3.7") << 4;
+    QTest::newRow("arrotondato, negativo") << QStringLiteral("-3.2") << -3;
+    QTest::newRow("2.5 alla pari") << QStringLiteral("2.5") << 2;
+    QTest::newRow("3.5 alla pari") << QStringLiteral("3.5") << 4;
     QTest::newRow("la virgola chiude il numero") << QStringLiteral("3,7") << 3;
-    QTest::newRow("ultimo di 16 bit") << QStringLiteral("32767.9") << 32767;
+    QTest::newRow("ultimo di 16 bit") << QStringLiteral("32767.4") << 32767;
 }
 
 void TestFrmCornice::ColoriSuTutteSenzaControllo()
@@ -718,16 +722,20 @@ void TestFrmCornice::ColoriSuTutteSenzaControllo()
 
 void TestFrmCornice::ColoriSuTutteOltre16Bit()
 {
-    Prova p;
-    const Modello prima = p.stato.Aperto;
-    p.robot.Ok();
-    Digita(p.dialogo, "ColoreCorn", QStringLiteral("40000"));
-    Preme(p.dialogo, "Command1");
-    QVERIFY2(p.robot.Testi().value(0).startsWith(QStringLiteral("errore 6 ")),
-             qPrintable(p.robot.Testi().value(0)));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
-    QVERIFY(p.segnali.Voci().isEmpty());
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    for (const char *testo : {"40000", "32767.9", "1e400"}) {
+        Prova p;
+        const Modello prima = p.stato.Aperto;
+        p.robot.Ok();
+        Digita(p.dialogo, "ColoreCorn", QString::fromLatin1(testo));
+        Preme(p.dialogo, "Command1");
+        QCOMPARE(p.robot.Testi(),
+                 QStringList({QStringLiteral("Colore cornice: «%1» è un numero troppo grande")
+                                  .arg(QString::fromLatin1(testo))}));
+        QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+        QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, "ColoreCorn"));
+        QVERIFY(p.segnali.Voci().isEmpty());
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    }
 }
 
 void TestFrmCornice::FontSuTutte()
@@ -749,6 +757,33 @@ void TestFrmCornice::FontSuTutte()
     QVERIFY(p.stato.Aperto == atteso);
     QCOMPARE(p.segnali.Voci().size(), 4);
     QCOMPARE(p.segnali.Voci().last(), QStringLiteral("chiuso"));
+}
+
+void TestFrmCornice::FontSuTutteEConfermaArrotondanoIlColore_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<int>("colore");
+    QTest::newRow("punto") << QStringLiteral("C") << QStringLiteral("2.7") << 3;
+    QTest::newRow("punto, in italiano") << QStringLiteral("it_IT") << QStringLiteral("2.7") << 3;
+    QTest::newRow("virgola, in italiano") << QStringLiteral("it_IT") << QStringLiteral("2,7") << 3;
+    QTest::newRow("2,5 alla pari") << QStringLiteral("it_IT") << QStringLiteral("2,5") << 2;
+    QTest::newRow("3.5 alla pari") << QStringLiteral("C") << QStringLiteral("3.5") << 4;
+}
+
+void TestFrmCornice::FontSuTutteEConfermaArrotondanoIlColore()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, testo);
+    QFETCH(int, colore);
+    QLocale::setDefault(QLocale(locale));
+    for (const char *comando : {"Command2", "Confema"}) {
+        Prova p;
+        Digita(p.dialogo, "ColoreTesto", testo);
+        Preme(p.dialogo, comando);
+        QVERIFY(p.robot.Soddisfatto());
+        QCOMPARE(int(p.Seconda().ColoreTesto), colore);
+    }
 }
 
 void TestFrmCornice::FontSuTutteConColoreErrato()
