@@ -2,6 +2,7 @@
 
 #include "ui_FrmImmagine.h"
 
+#include "dialogs/Riduzione.h"
 #include "model/Numeri.h"
 #include "platform/FiltroAnsi.h"
 #include "platform/Finestre.h"
@@ -12,14 +13,13 @@
 
 #include <QKeyEvent>
 
-#include <cmath>
+#include <optional>
 
 namespace {
 
 constexpr double LarghezzaGrande = 19;     // mm
 constexpr double AltezzaGrande = 29;       // mm
 constexpr double PercentualeUtile = 19500; // brings a width to 195 mm
-constexpr double Intero = 100;             // percent
 
 /// The text of a single-precision number.
 QString NumeroSingolo(double valore)
@@ -181,33 +181,25 @@ bool FrmImmagine::ChiedeRiduzione(const QSizeF &misura)
 {
     const QString larghezzaPrima = ui_->Largh->text();
     MostraDallInizio(ui_->Largh, NumeroSingolo(misura.width()));
-    const QSizeF ridotta = misura * ChiedePercentuale() / Intero;
-    // A size beyond a double is as little wanted as none.
-    if (ridotta.isNull() || !std::isfinite(ridotta.width()) || !std::isfinite(ridotta.height())) {
+    const std::optional<QSizeF> ridotta = Ridotta(this, misura, ChiedePercentuale());
+    if (!ridotta || ridotta->isNull()) {
         MostraDallInizio(ui_->Largh, larghezzaPrima);
         return false;
     }
-    Caselle().Mostra(ui_->Largh, ridotta.width());
-    Caselle().Mostra(ui_->Alt, ridotta.height());
+    Caselle().Mostra(ui_->Largh, ridotta->width());
+    Caselle().Mostra(ui_->Alt, ridotta->height());
     return true;
 }
 
-double FrmImmagine::ChiedePercentuale()
+QString FrmImmagine::ChiedePercentuale()
 {
     const double larghezza = Numeri::Doppio(ui_->Largh->text());
     const double proposta = Numeri::PariPiuVicino(PercentualeUtile / larghezza);
-    const QString risposta =
-        Messaggi::ChiedeTesto(
-            this, QStringLiteral("caricamento immagine ") + Caselle().Testo(ui_->Nome),
-            QStringLiteral("Impostare la % di riduzione delle dimensioni dell'immagine"),
-            Numeri::NumeroPiano(proposta))
-            .value_or(QString());
-    try {
-        return Numeri::Val(risposta);
-    } catch (const ErroreSistema &) {
-        // A percentage beyond any number is none.
-        return 0;
-    }
+    return Messaggi::ChiedeTesto(
+               this, QStringLiteral("caricamento immagine ") + Caselle().Testo(ui_->Nome),
+               QStringLiteral("Impostare la % di riduzione delle dimensioni dell'immagine"),
+               Numeri::NumeroPiano(proposta))
+        .value_or(QString());
 }
 
 void FrmImmagine::ScriveSubito()

@@ -50,8 +50,8 @@ private:
     /// Proposes the percentage that makes a large picture fit and shows the reduced size; false
     /// when the user wants none.
     bool ChiedeRiduzione(const QSizeF &misura);
-    /// The percentage that the user gives; 0 for none.
-    double ChiedePercentuale();
+    /// The percentage as the user types it; empty for none.
+    QString ChiedePercentuale();
     void ScriveSubito();
 
     std::unique_ptr<Ui::FrmImmagine> ui_;

@@ -112,6 +112,8 @@ private slots:
     void Soglie();
     void RispostaZeroVuotaOAnnullata_data();
     void RispostaZeroVuotaOAnnullata();
+    void PercentualeTroppoGrandeDetta_data();
+    void PercentualeTroppoGrandeDetta();
     void MentreChiedeMostraLaLarghezza();
     void FormatiLetti_data();
     void FormatiLetti();
@@ -326,8 +328,6 @@ void TestFrmImmagine::RispostaZeroVuotaOAnnullata_data()
     QTest::newRow("0") << QStringLiteral("0");
     QTest::newRow("vuota") << QStringLiteral("");
     QTest::newRow("lettere") << QStringLiteral("abc");
-    QTest::newRow("enorme") << QStringLiteral("1e999");
-    QTest::newRow("misura enorme") << QStringLiteral("1e308");
     QTest::newRow("annullata") << QString();
 }
 
@@ -344,6 +344,30 @@ void TestFrmImmagine::RispostaZeroVuotaOAnnullata()
     }
     p.Clicca("grande.bmp");
     QVERIFY(p.robot.Soddisfatto());
+    QVERIFY(p.stato.Aperto == prima);
+    QCOMPARE(Testo(p.dialogo, "Largh"), QStringLiteral("50"));
+    QCOMPARE(Testo(p.dialogo, "Alt"), QStringLiteral("10"));
+    QVERIFY(p.segnali.Voci().isEmpty());
+}
+
+void TestFrmImmagine::PercentualeTroppoGrandeDetta_data()
+{
+    QTest::addColumn<QString>("risposta");
+    QTest::newRow("oltre un doppio") << QStringLiteral("1e400");
+    QTest::newRow("misura oltre un doppio") << QStringLiteral("1e308");
+}
+
+void TestFrmImmagine::PercentualeTroppoGrandeDetta()
+{
+    QFETCH(QString, risposta);
+    Prova p;
+    p.Aggiunge("grande.bmp", Figura("bmp", 250, 100));
+    const Modello prima = p.stato.Aperto;
+    p.robot.Digita(risposta).Ok();
+    p.Clicca("grande.bmp");
+    QVERIFY(p.robot.Soddisfatto());
+    QCOMPARE(p.robot.Testi().value(1),
+             QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(risposta));
     QVERIFY(p.stato.Aperto == prima);
     QCOMPARE(Testo(p.dialogo, "Largh"), QStringLiteral("50"));
     QCOMPARE(Testo(p.dialogo, "Alt"), QStringLiteral("10"));
