@@ -79,6 +79,15 @@ void FrmCornice::ImpostaBordo(const QString &testo, bool abilitato)
     ui_->Bordo->setEnabled(abilitato);
 }
 
+bool FrmCornice::SenzaBordo() const
+{
+    try {
+        return Val(ui_->Bordo) == 0;
+    } catch (const Rifiuto &) {
+        return false; // the confirm tells of it, once
+    }
+}
+
 void FrmCornice::OptEtichetta_Click()
 {
     const bool etichetta = ui_->OptEtichetta->isChecked();
@@ -90,8 +99,7 @@ void FrmCornice::OptCornice_Click()
     if (ui_->OptEtichetta->isChecked()) {
         ImpostaBordo(BordoAssente, false);
     } else {
-        const bool senzaBordo = Caselle().Val(ui_->Bordo) == 0;
-        ImpostaBordo(senzaBordo ? BordoPieno : ui_->Bordo->text(), true);
+        ImpostaBordo(SenzaBordo() ? BordoPieno : ui_->Bordo->text(), true);
     }
 }
 
@@ -119,7 +127,7 @@ void FrmCornice::ControllaColore(QLineEdit *casella, const QString &messaggio)
 
 void FrmCornice::ControllaLarghezza() const
 {
-    if (Caselle().Val(ui_->Largh) <= 0) {
+    if (Val(ui_->Largh) <= 0) {
         throw Rifiuto{QStringLiteral("non si può LARGHEZZA cornice ZERO o minore di zero"),
                       ui_->Largh};
     }
@@ -142,7 +150,7 @@ void FrmCornice::Confema_Click()
     Tenta([this] {
         const int n = Indice();
         ControllaNomeUnico(n, QStringLiteral("nome già esistente"));
-        const double bordo = Caselle().Val(ui_->Bordo);
+        const double bordo = Val(ui_->Bordo);
         if (bordo == 0 && ui_->Testo->text().isEmpty()) {
             throw Rifiuto{
                 QStringLiteral("non si può impostare cornice senza bordo e senza etichetta"),

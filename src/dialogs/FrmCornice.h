@@ -37,10 +37,12 @@ private:
     void Command2_Click();
     void Elimina_Click();
 
+    /// True when the border, read leniently, is 0; a number beyond any is none.
+    bool SenzaBordo() const;
     void ImpostaBordo(const QString &testo, bool abilitato);
     /// A wrong colour is no number or outside 0..15; throws Rifiuto with the message.
     static void ControllaColore(QLineEdit *casella, const QString &messaggio);
-    /// Throws Rifiuto when the width, read leniently, is zero or less.
+    /// Throws Rifiuto when the width, read leniently, is zero or less, or beyond a double.
     void ControllaLarghezza() const;
     /// Size of a label, from its text: the boxes then show it.
     Misure AdattaAllaScritta(const Carattere &carattere);

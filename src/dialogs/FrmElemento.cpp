@@ -98,6 +98,15 @@ double FrmElemento::Doppio(QLineEdit *casella) const
     return *valore;
 }
 
+double FrmElemento::Val(QLineEdit *casella) const
+{
+    try {
+        return caselle_.Val(casella);
+    } catch (const ErroreSistema &) {
+        throw TroppoGrande(casella, casella->text());
+    }
+}
+
 qint16 FrmElemento::Intero16(QWidget *controllo, const QString &testo)
 {
     const std::optional<double> valore = Numeri::Numerico(testo);

@@ -92,6 +92,8 @@ protected:
     /// that is no such number.
     static qint16 Intero16(QWidget *controllo, const QString &testo);
 
+    /// Lenient reading of a box; throws Rifiuto naming it for a number beyond a double.
+    double Val(QLineEdit *casella) const;
     /// The box read leniently, whatever stands in it, and rounded half to even; throws Rifiuto
     /// naming it for a number beyond 16 bits.
     static qint16 ValIntero16(QLineEdit *casella);

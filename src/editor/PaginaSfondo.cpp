@@ -3,6 +3,7 @@
 #include "base/ErroreSistema.h"
 #include "catalogue/Sfoglia.h"
 #include "dialogs/MemoriaCaselle.h"
+#include "dialogs/Riduzione.h"
 #include "editor/TestiEsplicativi.h"
 #include "model/Numeri.h"
 #include "platform/FiltroAnsi.h"
@@ -18,7 +19,9 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
-#include <cmath>
+#include <array>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -35,21 +38,6 @@ void MostraTesto(QLineEdit *casella, const QString &testo)
     // Filling a box is no edit: the model keeps the text that was read.
     const QSignalBlocker muto(casella);
     MostraDallInizio(casella, testo);
-}
-
-/// The size at that percentage; nothing when it is beyond a double.
-std::optional<QSizeF> Ridotta(const QSizeF &naturali, const QString &percentuale)
-{
-    constexpr double Intero = 100; // percent
-    try {
-        const QSizeF misura = naturali * Numeri::Val(percentuale) / Intero;
-        if (std::isfinite(misura.width()) && std::isfinite(misura.height())) {
-            return misura;
-        }
-    } catch (const ErroreSistema &) {
-        return std::nullopt; // the percentage alone is beyond it
-    }
-    return std::nullopt;
 }
 
 void SelezionaTutto(QLineEdit *casella)
@@ -159,27 +147,57 @@ void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
         if (chiedeDimensione) {
             ChiedeDimensione();
         }
-        // Any text may stand in the model: a number beyond a double must not keep it from opening.
-        const QRectF posto(Numeri::Val(sfondo.XPos), Numeri::Val(sfondo.YPos),
-                           Numeri::Val(sfondo.Ximmagine), Numeri::Val(sfondo.Yimmagine));
-        const PuntatoreOccupato occupato;
-        anteprima_.DipingeSfondo(FileSfondo(), posto);
-        guastoMostrato_.clear();
+        if (const std::optional<QRectF> posto = Posto()) {
+            const PuntatoreOccupato occupato;
+            anteprima_.DipingeSfondo(FileSfondo(), *posto);
+            guastoMostrato_.clear();
+        }
     } catch (const ErroreSistema &errore) {
-        SegnalaGuasto(errore);
+        anteprima_.PulisceSfondo();
+        SegnalaGuasto(sfondo.File,
+                      QStringLiteral("impossibile caricare l'immagine di sfondo %1\n%2")
+                          .arg(sfondo.File, errore.Messaggio()));
     }
 }
 
-void PaginaSfondo::SegnalaGuasto(const ErroreSistema &errore)
+std::optional<double> PaginaSfondo::Letto(const QLineEdit *casella, const QString &testo)
 {
-    const QString file = stato_.Aperto.Sfondo.File;
-    anteprima_.PulisceSfondo();
+    try {
+        return Numeri::Val(testo);
+    } catch (const ErroreSistema &) {
+        const QString messaggio = NumeroTroppoGrande(casella->accessibleName(), testo);
+        SegnalaGuasto(messaggio, messaggio);
+        return std::nullopt;
+    }
+}
+
+std::optional<QRectF> PaginaSfondo::Posto()
+{
+    // Read from the model, where any text may stand: what a box cannot show counts too.
+    const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
+    const std::array<std::pair<const QLineEdit *, QString>, 4> numeri{{
+        {ui_->SfondoXPosImm, sfondo.XPos},
+        {ui_->SfondoYPosImm, sfondo.YPos},
+        {ui_->SfondoXimmagine, sfondo.Ximmagine},
+        {ui_->SfondoYImmagine, sfondo.Yimmagine},
+    }};
+    std::array<double, numeri.size()> letti{};
+    for (std::size_t i = 0; i < numeri.size(); ++i) {
+        const std::optional<double> letto = Letto(numeri[i].first, numeri[i].second);
+        if (!letto) {
+            return std::nullopt;
+        }
+        letti[i] = *letto;
+    }
+    return QRectF(letti[0], letti[1], letti[2], letti[3]);
+}
+
+void PaginaSfondo::SegnalaGuasto(const QString &guasto, const QString &messaggio)
+{
     // Told once: every zoom and every nudge draws the background again.
-    if (guastoMostrato_ != file) {
-        guastoMostrato_ = file;
-        Messaggi::Mostra(window(),
-                         QStringLiteral("impossibile caricare l'immagine di sfondo %1\n%2")
-                             .arg(file, errore.Messaggio()));
+    if (guastoMostrato_ != guasto) {
+        guastoMostrato_ = guasto;
+        Messaggi::Mostra(window(), messaggio);
     }
 }
 
@@ -200,10 +218,8 @@ void PaginaSfondo::ChiedeDimensione()
     if (!risposta) {
         return; // cancelled: the sizes stay as they are
     }
-    const std::optional<QSizeF> misura = Ridotta(naturali, *risposta);
+    const std::optional<QSizeF> misura = Ridotta(window(), naturali, *risposta);
     if (!misura) {
-        Messaggi::Mostra(
-            window(), QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(*risposta));
         return;
     }
     MostraDallInizio(ui_->SfondoXimmagine, TestoNumero(misura->width()));
@@ -271,9 +287,12 @@ void PaginaSfondo::SfondoSpostaGiu_Click()
 
 void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
 {
-    const double posto = Numeri::Val(casella->text()) + passo;
+    const std::optional<double> posto = Letto(casella, casella->text());
+    if (!posto) {
+        return;
+    }
     emit Variato();
-    MostraDallInizio(casella, TestoNumero(posto));
+    MostraDallInizio(casella, TestoNumero(*posto + passo));
     ImpostaImmagineSfondo(false);
     emit ModificaConclusa();
 }

@@ -2,11 +2,12 @@
 
 #include "model/StatoProgramma.h"
 
+#include <QRectF>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
-class ErroreSistema;
 class Frm1;
 class QLineEdit;
 
@@ -56,14 +57,20 @@ private:
     /// Where the scan is, in the spelling found on disk; a name alone is taken as typed.
     QString FileSfondo() const;
     void ChiedeDimensione();
-    void SegnalaGuasto(const ErroreSistema &errore);
+    /// The place of the scan in mm; nothing when a box holds a number beyond a double, see Letto.
+    std::optional<QRectF> Posto();
+    /// Lenient reading of what stands in the box; a number beyond a double gives nothing, and a
+    /// message that names the box.
+    std::optional<double> Letto(const QLineEdit *casella, const QString &testo);
+    /// Shows the message unless guasto is what the user has been told last.
+    void SegnalaGuasto(const QString &guasto, const QString &messaggio);
     void Sposta(QLineEdit *casella, double passo);
-    /// From now on a file that cannot be loaded is told again.
+    /// From now on a file that cannot be loaded, or a wrong number, is told again.
     void RiprendeMessaggi() { guastoMostrato_.clear(); }
 
     std::unique_ptr<Ui::PaginaSfondo> ui_;
     StatoProgramma &stato_;
     Frm1 &anteprima_;
     bool scritta_ = false;   ///< a box has been edited since the last one that was finished
-    QString guastoMostrato_; ///< the file whose failure the user has been told
+    QString guastoMostrato_; ///< what keeps the scan from being shown and the user has been told
 };

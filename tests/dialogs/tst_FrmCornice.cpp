@@ -104,6 +104,8 @@ private slots:
     void OrdineDeiControlli();
     void TestoCheNonENumero_data();
     void TestoCheNonENumero();
+    void NumeroTroppoGrandeAlSuoPosto();
+    void BordoTroppoGrandeDettoSoloAllaConferma();
     void BordoConosceSoloIlPunto();
     void IndiceFuoriTabellaAllaConferma();
 
@@ -578,6 +580,44 @@ void TestFrmCornice::TestoCheNonENumero()
     QCOMPARE(p.robot.Testi(), QStringList({nome + QStringLiteral(": «1x» non è un numero")}));
     QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
     QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
+}
+
+void TestFrmCornice::NumeroTroppoGrandeAlSuoPosto()
+{
+    Prova p;
+    const Modello prima = p.stato.Aperto;
+    p.robot.Ok().Ok().Ok().Ok();
+    Digita(p.dialogo, "ColoreTesto", QStringLiteral("16"));
+    Digita(p.dialogo, "Largh", QStringLiteral("1e400"));
+    Digita(p.dialogo, "Bordo", QStringLiteral("1e400"));
+    Digita(p.dialogo, "Nome", QStringLiteral("cornice1"));
+    const QList<std::pair<const char *, QString>> correzioni{{"Nome", QStringLiteral("Box")},
+                                                             {"Bordo", QStringLiteral("1")},
+                                                             {"Largh", QStringLiteral("5")},
+                                                             {"ColoreTesto", QStringLiteral("1")}};
+    for (const auto &[casella, testo] : correzioni) {
+        Preme(p.dialogo, "Confema");
+        QVERIFY(p.stato.Aperto == prima);
+        QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
+        Digita(p.dialogo, casella, testo);
+    }
+    QCOMPARE(p.robot.Testi(),
+             QStringList({QStringLiteral("nome già esistente"),
+                          QStringLiteral("Bordo: «1e400» è un numero troppo grande"),
+                          QStringLiteral("Larghezza: «1e400» è un numero troppo grande"),
+                          QStringLiteral("Colore errato")}));
+    Preme(p.dialogo, "Confema");
+    QVERIFY(!p.dialogo.isVisible());
+}
+
+void TestFrmCornice::BordoTroppoGrandeDettoSoloAllaConferma()
+{
+    Prova p;
+    Preme(p.dialogo, "OptCornice");
+    Digita(p.dialogo, "Bordo", QStringLiteral("1e400"));
+    Preme(p.dialogo, "OptCornice");
+    QVERIFY(p.robot.Soddisfatto());
+    QCOMPARE(Testo(p.dialogo, "Bordo"), QStringLiteral("1e400"));
 }
 
 void TestFrmCornice::BordoConosceSoloIlPunto()

@@ -72,6 +72,9 @@ private slots:
     void LaSelezioneAllEntrataMostraLInizio();
     void PercentualeTroppoGrandeRifiutataComeNumero_data();
     void PercentualeTroppoGrandeRifiutataComeNumero();
+    void NumeroTroppoGrandeDellaScansioneDettoUnaVolta_data();
+    void NumeroTroppoGrandeDellaScansioneDettoUnaVolta();
+    void NumeroTroppoGrandeDettoAllaSpinta();
     void ColoriFuoriDallaTavolozzaSonoNeri();
     void IlFuocoNascondeIlMarcatoreDelGenere_data();
     void IlFuocoNascondeIlMarcatoreDelGenere();
@@ -244,6 +247,76 @@ void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero()
              QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(risposta));
     QCOMPARE(prova.Archivio.Aperto().Sfondo, sfondo);
     QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
+    QVERIFY(!prova.Editor->Variato);
+}
+
+void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta_data()
+{
+    QTest::addColumn<QByteArray>("casella");
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<QByteArray>("freccia"); // one that reads the box, where there is one
+    QTest::newRow("X") << QByteArray("SfondoXPosImm") << QStringLiteral("posizione X")
+                       << QByteArray("SfondoSpostaDx");
+    QTest::newRow("Y") << QByteArray("SfondoYPosImm") << QStringLiteral("posizione Y")
+                       << QByteArray("SfondoSpostaGiu");
+    QTest::newRow("larghezza") << QByteArray("SfondoXimmagine") << QStringLiteral("dimensioni X")
+                               << QByteArray("SfondoSpostaDx");
+    QTest::newRow("altezza") << QByteArray("SfondoYImmagine") << QStringLiteral("dimensioni Y")
+                             << QByteArray("SfondoSpostaDx");
+}
+
+void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta()
+{
+    QFETCH(QByteArray, casella);
+    QFETCH(QString, nome);
+    QFETCH(QByteArray, freccia);
+    EditoreDiProva prova;
+    prova.Archivio.Aperto().Sfondo = {Scansione(prova.Archivio, 40, 40),
+                                      QStringLiteral("40"),
+                                      QStringLiteral("40"),
+                                      QStringLiteral("20"),
+                                      QStringLiteral("150"),
+                                      1};
+    QVERIFY(prova.Apre());
+    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
+    Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(5);
+    auto *riga = Trova<QLineEdit>(*prova.Editor, casella.constData());
+    const auto scrive = [riga](const QString &testo) {
+        Scrive(*riga, testo);
+        QTest::keyClick(riga, Qt::Key_Return);
+    };
+    Robot robot;
+    robot.Ok();
+    scrive(QStringLiteral("1e400"));
+    prova.Zoom(QStringLiteral("2"));
+    Preme(*prova.Editor, freccia.constData());
+    prova.Zoom(QStringLiteral("1"));
+    QVERIFY2(robot.Soddisfatto(), "one mistake, one box");
+    QCOMPARE(robot.Testi(),
+             QStringList{nome + QStringLiteral(": «1e400» è un numero troppo grande")});
+    QCOMPARE(riga->text(), QStringLiteral("1e400"));
+    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::white));
+    scrive(QStringLiteral("30"));
+    QVERIFY(robot.Soddisfatto());
+    robot.Ok();
+    scrive(QStringLiteral("1e400")); // another mistake
+    QVERIFY(robot.Soddisfatto());
+    prova.Editor->Variato = false;
+}
+
+void tst_CaselleEditor::NumeroTroppoGrandeDettoAllaSpinta()
+{
+    // Nothing is drawn, so only the arrow reads the box.
+    EditoreDiProva prova;
+    prova.Archivio.Aperto().Sfondo.XPos = QStringLiteral("-1e400");
+    QVERIFY(prova.Apre());
+    Robot robot;
+    robot.Ok();
+    Preme(*prova.Editor, "SfondoSpostaSx");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(),
+             QStringList{QStringLiteral("posizione X: «-1e400» è un numero troppo grande")});
+    QCOMPARE(prova.Archivio.Aperto().Sfondo.XPos, QStringLiteral("-1e400"));
     QVERIFY(!prova.Editor->Variato);
 }
 
