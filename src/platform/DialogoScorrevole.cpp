@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -19,8 +21,47 @@ void PortaInVista(QScrollArea &area, const QWidget &controllo)
     area.ensureVisible(posto.left(), posto.top(), Margine, Margine);
 }
 
+/// Keeps the control that a dialog opens in, with what is selected in it: controls that are moved
+/// to another parent lose the focus, and the dialog would open in its first box.
+class TieneFuoco
+{
+public:
+    explicit TieneFuoco(const QDialog &dialogo)
+        : controllo_(dialogo.focusWidget())
+    {
+        if (const auto *casella = qobject_cast<QLineEdit *>(controllo_.data())) {
+            inizio_ = casella->selectionStart();
+            fine_ = casella->selectionEnd();
+            cursore_ = casella->cursorPosition();
+        }
+    }
+    ~TieneFuoco()
+    {
+        if (controllo_ == nullptr) {
+            return;
+        }
+        controllo_->setFocus();
+        auto *casella = qobject_cast<QLineEdit *>(controllo_.data());
+        if (casella != nullptr && inizio_ >= 0) {
+            // The cursor stands at one end of the selection; a long text shows the part around it.
+            const bool allIndietro = cursore_ == inizio_;
+            casella->setSelection(allIndietro ? fine_ : inizio_,
+                                  allIndietro ? inizio_ - fine_ : fine_ - inizio_);
+        }
+    }
+    TieneFuoco(const TieneFuoco &) = delete;
+    TieneFuoco &operator=(const TieneFuoco &) = delete;
+
+private:
+    QPointer<QWidget> controllo_;
+    int inizio_ = -1; ///< -1: nothing is selected
+    int fine_ = -1;
+    int cursore_ = 0;
+};
+
 QScrollArea *AvvolgeInUnArea(QDialog &dialogo)
 {
+    const TieneFuoco fuoco(dialogo);
     auto *area = new QScrollArea(&dialogo);
     area->setObjectName(QStringLiteral("AreaScorrevole"));
     area->setFrameShape(QFrame::NoFrame);

@@ -4,11 +4,13 @@
 #include "dialogs/FrmCornice.h"
 #include "dialogs/FrmImmagine.h"
 #include "dialogs/Mnemonici.h"
+#include "platform/DialogoScorrevole.h"
 #include "support/Controlli.h"
 #include "support/Robot.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QScrollArea>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -22,7 +24,7 @@ constexpr double PiuLungo = -1.23456789012345e-105; // than any box of a dialog
 /// A model with an element of each kind, and the dialog of one of them as the editor opens it.
 struct Prova
 {
-    explicit Prova(Genere genere, qint16 dimensione = 11)
+    explicit Prova(Genere genere, qint16 dimensione = 11, bool scorre = false)
     {
         stato.CartellaModelli = cartella.path() + u'/';
         stato.ElencoFont = {QStringLiteral("Arial"), QStringLiteral("Courier New")};
@@ -33,6 +35,11 @@ struct Prova
         stato.Aperto.Cornici[1].Dimensione = dimensione;
         stato.Aperto.Immagini[1].Nome = QStringLiteral("logo.bmp");
         Crea(genere);
+        if (scorre) {
+            constexpr int OltreLoSchermo = 3000;
+            Trova<QWidget>(*dialogo, "Nome")->setMinimumWidth(OltreLoSchermo);
+        }
+        AdattaAlloSchermo(*dialogo);
         dialogo->setModal(false); // the robot looks for modal boxes only
         dialogo->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialogo.get()));
@@ -99,6 +106,8 @@ private slots:
 
     void UnTastoAllAperturaNonRinomina_data() { Generi_data(); }
     void UnTastoAllAperturaNonRinomina();
+    void ScorrevoleSiApreNellaStessaCasella_data() { Generi_data(); }
+    void ScorrevoleSiApreNellaStessaCasella();
     void LaRotellaSugliElenchiChiusiNonCambiaNulla_data() { Generi_data(); }
     void LaRotellaSugliElenchiChiusiNonCambiaNulla();
     void DimensioneFuoriElenco_data();
@@ -119,6 +128,22 @@ void tst_FrmElemento::UnTastoAllAperturaNonRinomina()
     QCOMPARE(primo,
              Trova<QWidget>(*p.dialogo, genere == Genere::Immagine ? "Descrizione" : "Testo"));
     QTest::keyClick(primo, Qt::Key_X);
+    QCOMPARE(Testo(*p.dialogo, "Nome"), nome);
+}
+
+void tst_FrmElemento::ScorrevoleSiApreNellaStessaCasella()
+{
+    QFETCH(Genere, genere);
+    const Prova p(genere, 11, true);
+    QVERIFY(p.dialogo->findChild<QScrollArea *>() != nullptr);
+    const QString nome = Testo(*p.dialogo, "Nome");
+    auto *primo = qobject_cast<QLineEdit *>(p.dialogo->focusWidget());
+    QCOMPARE(primo,
+             Trova<QLineEdit>(*p.dialogo, genere == Genere::Immagine ? "Descrizione" : "Testo"));
+    QCOMPARE(primo->selectedText(), primo->text());
+    QCOMPARE(primo->cursorPosition(), 0);
+    QTest::keyClick(primo, Qt::Key_X);
+    QCOMPARE(primo->text(), QStringLiteral("x"));
     QCOMPARE(Testo(*p.dialogo, "Nome"), nome);
 }
 

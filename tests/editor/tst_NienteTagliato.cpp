@@ -229,14 +229,18 @@ void tst_NienteTagliato::Dialogo()
     Robot robot;
     int controllati = 0;
     int mancati = -1;
+    QString primo;
     robot.Agisce([&](QDialog *dialogo) {
         QVERIFY(QTest::qWaitForWindowActive(dialogo));
+        primo = dialogo->focusWidget()->objectName();
         controllati = Controlla(*dialogo);
         mancati = NonSiRaggiungono(*dialogo);
         dialogo->reject();
     });
     prova.ApreProprieta(genere, 1);
     QVERIFY(robot.Soddisfatto());
+    QCOMPARE(primo,
+             genere == Genere::Immagine ? QStringLiteral("Descrizione") : QStringLiteral("Testo"));
     QCOMPARE(mancati, 0);
     QVERIFY(controllati > 15);
 }
