@@ -47,6 +47,7 @@ void FrmElemento::Form_Load(const Controlli &controlli)
     ImpostaHelp(this);
     LimitaAlCodice(this);
     FermaRotella(this);
+    MostraDallInizioEntrando(this);
 }
 
 void FrmElemento::CaricaElemento(int k)
@@ -62,9 +63,7 @@ void FrmElemento::CaricaElemento(int k)
 void FrmElemento::MettePrimo(QLineEdit *casella)
 {
     casella->setFocus();
-    // Backwards, so that a long text shows its beginning.
-    const int lunghezza = static_cast<int>(casella->text().size());
-    casella->setSelection(lunghezza, -lunghezza);
+    SelezionaDallInizio(casella);
 }
 
 int FrmElemento::Indice() const
@@ -175,6 +174,6 @@ void FrmElemento::Rifiuta(const Rifiuto &rifiuto)
     Messaggi::Mostra(this, rifiuto.Messaggio);
     rifiuto.Controllo->setFocus();
     if (auto *casella = qobject_cast<QLineEdit *>(rifiuto.Controllo)) {
-        casella->selectAll();
+        SelezionaDallInizio(casella);
     }
 }

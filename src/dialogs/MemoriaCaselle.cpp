@@ -2,6 +2,32 @@
 
 #include "model/Numeri.h"
 
+#include <QFocusEvent>
+
+namespace {
+
+class FiltroFuoco : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override
+    {
+        if (evento->type() == QEvent::FocusIn) {
+            const Qt::FocusReason motivo = static_cast<QFocusEvent *>(evento)->reason();
+            auto *casella = static_cast<QLineEdit *>(oggetto);
+            // Before the box does: it selects forwards, but leaves alone what is selected already.
+            if ((motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason ||
+                 motivo == Qt::ShortcutFocusReason) &&
+                !casella->hasSelectedText()) {
+                SelezionaDallInizio(casella);
+            }
+        }
+        return QObject::eventFilter(oggetto, evento);
+    }
+};
+
+} // namespace
+
 void MostraDallInizio(QLineEdit *casella, const QString &testo)
 {
     casella->setText(testo);
@@ -11,6 +37,20 @@ void MostraDallInizio(QLineEdit *casella, const QString &testo)
 QString NumeroTroppoGrande(const QString &nome, const QString &testo)
 {
     return QStringLiteral("%1: «%2» è un numero troppo grande").arg(nome, testo);
+}
+
+void SelezionaDallInizio(QLineEdit *casella)
+{
+    // Backwards: the cursor, which a box keeps in sight, ends at the beginning.
+    const int lunghezza = static_cast<int>(casella->text().size());
+    casella->setSelection(lunghezza, -lunghezza);
+}
+
+void MostraDallInizioEntrando(QWidget *finestra)
+{
+    for (QLineEdit *casella : finestra->findChildren<QLineEdit *>()) {
+        casella->installEventFilter(new FiltroFuoco(casella));
+    }
 }
 
 void MemoriaCaselle::Mostra(QLineEdit *casella, const QString &testo)

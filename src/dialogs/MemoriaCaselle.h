@@ -13,6 +13,13 @@ void MostraDallInizio(QLineEdit *casella, const QString &testo);
 /// What the user is told of a box, by its name, whose number is beyond what can be stored.
 QString NumeroTroppoGrande(const QString &nome, const QString &testo);
 
+/// Selects the whole text of a box; one too long for it shows its beginning.
+void SelezionaDallInizio(QLineEdit *casella);
+
+/// From now on every text box below the window that the keyboard enters shows the beginning of its
+/// text, all of it selected.
+void MostraDallInizioEntrando(QWidget *finestra);
+
 /// What the text boxes of a dialog were filled with. A box that still shows its filling gives back
 /// the very value it came from: neither the digits that a number's text leaves out nor what a text
 /// box cannot show is lost by opening a dialog and confirming it.

@@ -87,6 +87,7 @@ bool Form2::Form_Load()
     anteprima_ = std::make_unique<Frm1>(stato_);
     CreaPagine();
     LimitaAlCodice(this); // before the filling, which it would show from the end
+    MostraDallInizioEntrando(this);
     ui_->Label21->setText(stato_.CartellaModelli);
     ui_->Label21->setToolTip(stato_.CartellaModelli);
     MostraDallInizio(ui_->Tipo, stato_.Aperto.Tipo);

@@ -42,15 +42,9 @@ void MostraTesto(QLineEdit *casella, const QString &testo)
 
 void SelezionaTutto(QLineEdit *casella)
 {
-    // Queued, because the press that brings the focus still places the cursor afterwards. From the
-    // end backwards, so that the beginning of a long text stays in sight.
+    // Queued, because the press that brings the focus still places the cursor afterwards.
     QMetaObject::invokeMethod(
-        casella,
-        [casella] {
-            const int lunghezza = static_cast<int>(casella->text().size());
-            casella->setSelection(lunghezza, -lunghezza);
-        },
-        Qt::QueuedConnection);
+        casella, [casella] { SelezionaDallInizio(casella); }, Qt::QueuedConnection);
 }
 
 } // namespace

@@ -96,6 +96,15 @@ void Generi_data()
     QTest::newRow("immagine") << Genere::Immagine;
 }
 
+/// Narrow enough to cut its text, a box shows the beginning of it.
+bool MostraLInizio(QLineEdit &casella)
+{
+    casella.setFixedWidth(60);
+    casella.grab(); // painting scrolls the text to the cursor
+    return casella.fontMetrics().horizontalAdvance(casella.text()) > casella.width() &&
+           casella.cursorPositionAt({2, casella.height() / 2}) == 0;
+}
+
 } // namespace
 
 class tst_FrmElemento : public QObject
@@ -115,6 +124,10 @@ private slots:
     void LaMascheraSiSceglieTraVentiRighe();
     void INumeriLunghiMostranoLInizio_data() { Generi_data(); }
     void INumeriLunghiMostranoLInizio();
+    void EntrandoDaTastieraSiVedeLInizio_data() { Generi_data(); }
+    void EntrandoDaTastieraSiVedeLInizio();
+    void UnRifiutoMostraLInizio_data() { Generi_data(); }
+    void UnRifiutoMostraLInizio();
     void IMnemoniciSonoLettere_data() { Generi_data(); }
     void IMnemoniciSonoLettere();
 };
@@ -217,12 +230,41 @@ void tst_FrmElemento::INumeriLunghiMostranoLInizio()
             continue;
         }
         ++lunghi;
-        casella->setFixedWidth(60);
-        QVERIFY(casella->fontMetrics().horizontalAdvance(casella->text()) > casella->width());
-        casella->grab(); // painting scrolls the text to the cursor
-        QCOMPARE(casella->cursorPositionAt({2, casella->height() / 2}), 0);
+        QVERIFY(MostraLInizio(*casella));
     }
     QVERIFY(lunghi >= 2);
+}
+
+void tst_FrmElemento::EntrandoDaTastieraSiVedeLInizio()
+{
+    QFETCH(Genere, genere);
+    const Prova p(genere);
+    QVERIFY(QTest::qWaitForWindowActive(p.dialogo.get()));
+    auto *prima = Trova<QLineEdit>(*p.dialogo, "Nome");
+    for (const char *nome : {"X", "Y"}) {
+        auto *casella = Trova<QLineEdit>(*p.dialogo, nome);
+        prima->setFocus();
+        for (int k = 0; !casella->hasFocus() && k < 40; ++k) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY2(casella->hasFocus(), nome);
+        QCOMPARE(casella->selectedText(), casella->text());
+        QVERIFY2(MostraLInizio(*casella), nome);
+    }
+}
+
+void tst_FrmElemento::UnRifiutoMostraLInizio()
+{
+    QFETCH(Genere, genere);
+    Prova p(genere);
+    auto *casella = Trova<QLineEdit>(*p.dialogo, "Y");
+    casella->setText(QStringLiteral("1234567890123456789 millimetri"));
+    p.robot.Ok();
+    Preme(*p.dialogo, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
+    QVERIFY(p.robot.Soddisfatto());
+    QCOMPARE(p.dialogo->focusWidget(), casella);
+    QCOMPARE(casella->selectedText(), casella->text());
+    QVERIFY(MostraLInizio(*casella));
 }
 
 void tst_FrmElemento::IMnemoniciSonoLettere()

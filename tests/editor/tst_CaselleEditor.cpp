@@ -70,6 +70,7 @@ private slots:
     void INumeriLunghiMostranoLInizio();
     void LaMisuraCalcolataMostraLInizio();
     void LaSelezioneAllEntrataMostraLInizio();
+    void EntrandoDaTastieraSiVedeLInizio();
     void PercentualeTroppoGrandeRifiutataComeNumero_data();
     void PercentualeTroppoGrandeRifiutataComeNumero();
     void NumeroTroppoGrandeDellaScansioneDettoUnaVolta_data();
@@ -217,6 +218,21 @@ void tst_CaselleEditor::LaSelezioneAllEntrataMostraLInizio()
     auto *casella = Trova<QLineEdit>(*prova.Editor, "SfondoXimmagine");
     casella->setFocus();
     QTRY_COMPARE(casella->selectedText(), lungo);
+    QVERIFY(MostraLInizio(*casella));
+}
+
+void tst_CaselleEditor::EntrandoDaTastieraSiVedeLInizio()
+{
+    EditoreDiProva prova;
+    prova.Archivio.Aperto().Tipo = QString(200, u'T');
+    QVERIFY(prova.Apre());
+    prova.Editor->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    auto *casella = Trova<QLineEdit>(*prova.Editor, "Tipo");
+    Trova<QWidget>(*prova.Editor, "StampaRetino")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(casella->hasFocus());
+    QCOMPARE(casella->selectedText(), casella->text());
     QVERIFY(MostraLInizio(*casella));
 }
 
