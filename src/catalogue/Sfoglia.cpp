@@ -83,6 +83,7 @@ Sfoglia::Sfoglia(QWidget *padre)
     ui_->File1->setModel(file_);
     resize(EntroLoSchermo(this, size()));
     FermaRotella(this);
+    LimitaElenchi(this);
     CollegaSegnali();
 }
 

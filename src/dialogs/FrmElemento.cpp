@@ -47,6 +47,7 @@ void FrmElemento::Form_Load(const Controlli &controlli)
     ImpostaHelp(this);
     LimitaAlCodice(this);
     FermaRotella(this);
+    LimitaElenchi(this);
     MostraDallInizioEntrando(this);
 }
 

@@ -1,6 +1,7 @@
 #include "editor/PaginaElementi.h"
 
 #include "editor/TestiEsplicativi.h"
+#include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "ui_PaginaElementi.h"
 
@@ -90,6 +91,7 @@ PaginaElementi::PaginaElementi(Genere genere, QWidget *padre)
     , genere_(genere)
 {
     ui_->setupUi(this);
+    LimitaElenchi(this);
     const Descrizione &d = DescrizioneDi(genere);
     ui_->combo->setObjectName(Italiano(d.combo));
     ui_->combo->setToolTip(Italiano(d.aiutoCombo));

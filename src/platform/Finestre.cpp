@@ -144,3 +144,12 @@ void FermaRotella(QWidget *finestra)
         elenco->installEventFilter(new FiltroRotella(elenco));
     }
 }
+
+void LimitaElenchi(QWidget *finestra)
+{
+    constexpr int Righe = 20;
+    for (QComboBox *elenco : finestra->findChildren<QComboBox *>()) {
+        elenco->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+        elenco->setMaxVisibleItems(Righe);
+    }
+}

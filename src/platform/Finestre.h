@@ -46,3 +46,7 @@ void LimitaAlCodice(QWidget *finestra);
 /// Lets the wheel pass over every closed list below the window, which would change what is chosen
 /// in it; what lies below the list may scroll instead.
 void FermaRotella(QWidget *finestra);
+
+/// Lets every list below the window open on 20 rows at most, with a scroll bar for the others; left
+/// to the style, one would cover the whole height of the screen.
+void LimitaElenchi(QWidget *finestra);

@@ -121,7 +121,8 @@ private slots:
     void LaRotellaSugliElenchiChiusiNonCambiaNulla();
     void DimensioneFuoriElenco_data();
     void DimensioneFuoriElenco();
-    void LaMascheraSiSceglieTraVentiRighe();
+    void GliElenchiSiApronoSuVentiRighe_data();
+    void GliElenchiSiApronoSuVentiRighe();
     void INumeriLunghiMostranoLInizio_data() { Generi_data(); }
     void INumeriLunghiMostranoLInizio();
     void EntrandoDaTastieraSiVedeLInizio_data() { Generi_data(); }
@@ -207,17 +208,35 @@ void tst_FrmElemento::DimensioneFuoriElenco()
     QVERIFY(!p.dialogo->isVisible());
 }
 
-void tst_FrmElemento::LaMascheraSiSceglieTraVentiRighe()
+void tst_FrmElemento::GliElenchiSiApronoSuVentiRighe_data()
 {
-    Prova p(Genere::Campo);
-    auto *maschere = Trova<QComboBox>(*p.dialogo, "ComboMask");
-    QCOMPARE(maschere->count(), 128);
-    maschere->showPopup();
-    QTRY_VERIFY(maschere->view()->isVisible());
+    QTest::addColumn<Genere>("genere");
+    QTest::addColumn<QByteArray>("nome");
+    QTest::addColumn<int>("voci");
+    QTest::newRow("campo, maschere") << Genere::Campo << QByteArray("ComboMask") << 128;
+    QTest::newRow("campo, font") << Genere::Campo << QByteArray("ComboFont") << 60;
+    QTest::newRow("campo, dimensioni") << Genere::Campo << QByteArray("ComboDim") << 35;
+    QTest::newRow("cornice, font") << Genere::Cornice << QByteArray("ComboFont") << 60;
+    QTest::newRow("cornice, dimensioni") << Genere::Cornice << QByteArray("ComboDim") << 35;
+}
+
+void tst_FrmElemento::GliElenchiSiApronoSuVentiRighe()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QByteArray, nome);
+    QFETCH(int, voci);
+    Prova p(genere);
+    auto *elenco = Trova<QComboBox>(*p.dialogo, nome.constData());
+    while (elenco->count() < voci) {
+        elenco->addItem(QStringLiteral("Font %1").arg(elenco->count()));
+    }
+    QCOMPARE(elenco->count(), voci);
+    elenco->showPopup();
+    QTRY_VERIFY(elenco->view()->isVisible());
     const double righe =
-        double(maschere->view()->viewport()->height()) / maschere->view()->sizeHintForRow(0);
+        double(elenco->view()->viewport()->height()) / elenco->view()->sizeHintForRow(0);
     QVERIFY2(righe > 10 && righe <= 20.5, qPrintable(QString::number(righe)));
-    maschere->hidePopup();
+    elenco->hidePopup();
 }
 
 void tst_FrmElemento::INumeriLunghiMostranoLInizio()
