@@ -1,14 +1,16 @@
 #include "platform/Messaggi.h"
 
+#include "platform/Finestre.h"
+
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
 
 #include <cstdio>
 
@@ -80,6 +82,24 @@ void SenzaRientro(const QMessageBox &riquadro)
         griglia->removeWidget(testo);
         griglia->addWidget(testo, 0, 0, 1, griglia->columnCount());
     }
+}
+
+/// The title says what is asked for: it must not be cut between the frame's icon and buttons.
+void AllargaPerIlTitolo(QInputDialog &riquadro)
+{
+    constexpr int IconaEBottoni = 160; // device-independent pixels
+    riquadro.minimumSizeHint();        // makes the box's layout
+    auto *casella = riquadro.findChild<QLineEdit *>();
+    if (casella == nullptr || riquadro.layout() == nullptr) {
+        return;
+    }
+    QFont carattere = riquadro.font();
+    carattere.setBold(true); // as many frames write their titles
+    const int titolo = QFontMetrics(carattere).horizontalAdvance(riquadro.windowTitle());
+    const QSize misura = EntroLoSchermo(&riquadro, QSize(titolo + IconaEBottoni, 0));
+    // The layout gives the box its least size anew; only what stands in it can ask for more.
+    const QMargins margini = riquadro.layout()->contentsMargins();
+    casella->setMinimumWidth(misura.width() - margini.left() - margini.right());
 }
 
 void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icona)
@@ -255,10 +275,7 @@ std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &tito
     riquadro.setTextValue(proposta);
     riquadro.setOkButtonText(QStringLiteral("OK"));
     riquadro.setCancelButtonText(QStringLiteral("Annulla"));
-    // The title says what is asked for: it must not be cut between the frame's icon and buttons.
-    constexpr int IconaEBottoni = 160; // device-independent pixels
-    riquadro.setMinimumWidth(qMin(riquadro.fontMetrics().horizontalAdvance(titolo) + IconaEBottoni,
-                                  riquadro.screen()->availableGeometry().width()));
+    AllargaPerIlTitolo(riquadro);
     if (Esegue(riquadro) != QDialog::Accepted) {
         return std::nullopt;
     }

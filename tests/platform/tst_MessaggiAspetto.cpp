@@ -5,8 +5,10 @@
 #include "support/Robot.h"
 
 #include <QDialog>
+#include <QFontMetrics>
 #include <QImage>
 #include <QLayout>
+#include <QScreen>
 #include <QTest>
 
 namespace {
@@ -32,6 +34,8 @@ class tst_MessaggiAspetto : public QObject
 private slots:
     void SenzaIconaIlTestoCominciaAlMargine();
     void ConLIconaIlTestoNeStaLontano();
+    void IlTitoloDiUnaDomandaNonSiTaglia_data();
+    void IlTitoloDiUnaDomandaNonSiTaglia();
 };
 
 void tst_MessaggiAspetto::SenzaIconaIlTestoCominciaAlMargine()
@@ -65,6 +69,36 @@ void tst_MessaggiAspetto::ConLIconaIlTestoNeStaLontano()
     Messaggi::MostraCritico(nullptr, QStringLiteral("HHHHHHHHHHHHHHHH"));
     QVERIFY(robot.Soddisfatto());
     QVERIFY(rientro > 0);
+}
+
+void tst_MessaggiAspetto::IlTitoloDiUnaDomandaNonSiTaglia_data()
+{
+    QTest::addColumn<QString>("titolo");
+    QTest::newRow("corto") << QStringLiteral("Nuovo modello di stampa");
+    QTest::newRow("con un percorso")
+        << QStringLiteral("caricamento immagine C:\\Archivi\\Archivio_2026\\ini\\Scansione.jpg");
+    QTest::newRow("oltre lo schermo") << QString(300, u'M');
+}
+
+void tst_MessaggiAspetto::IlTitoloDiUnaDomandaNonSiTaglia()
+{
+    QFETCH(QString, titolo);
+    Robot robot;
+    int larghezza = 0;
+    int serve = 0;
+    int schermo = 0;
+    robot.Agisce([&](QDialog *d) {
+        constexpr int Bottoni = 120; // what a frame takes for its buttons
+        larghezza = d->width();
+        serve = d->fontMetrics().horizontalAdvance(titolo) + Bottoni;
+        schermo = d->screen()->availableGeometry().width();
+        d->reject();
+    });
+    Messaggi::ChiedeTesto(nullptr, titolo, QStringLiteral("nome"), QString());
+    QVERIFY(robot.Soddisfatto());
+    const int atteso = qMin(serve, schermo * 9 / 10);
+    QVERIFY2(larghezza >= atteso && larghezza <= schermo,
+             qPrintable(QStringLiteral("%1 wide, needs %2").arg(larghezza).arg(serve)));
 }
 
 QTEST_MAIN(tst_MessaggiAspetto)
