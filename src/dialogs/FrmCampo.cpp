@@ -168,6 +168,7 @@ void FrmCampo::Command2_Click()
             Scrive(Aperto().Campi[i], carattere);
             emit Applicato(Genere::Campo, i);
         }
+        emit ApplicatoATutti();
         emit ModificaConclusa();
     });
 }

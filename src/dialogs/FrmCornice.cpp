@@ -197,6 +197,7 @@ void FrmCornice::Command1_Click()
             cornice.ColoreCornice = coloreCornice;
             emit Applicato(Genere::Cornice, i);
         }
+        emit ApplicatoATutti();
         accept();
     });
 }
@@ -214,6 +215,7 @@ void FrmCornice::Command2_Click()
             cornice.ColoreTesto = coloreTesto;
             emit Applicato(Genere::Cornice, i);
         }
+        emit ApplicatoATutti();
         accept();
     });
 }

@@ -21,6 +21,8 @@ public:
 signals:
     /// Record n was written: the preview applies the element's settings, then places it as moved.
     void Applicato(Genere genere, int n);
+    /// Applicato was said of every element of the kind in turn, by one command.
+    void ApplicatoATutti();
     /// Record n was written, but only the place and size of the element have to follow.
     void Ricollocato(Genere genere, int n);
     /// The editor's list entry n takes the name and becomes the selected one.

@@ -144,9 +144,13 @@ void Form2::Collegamenti()
     Collega(&Pagina(Genere::Cornice), &PaginaElementi::EliminaTutte, this, &Form2::Command7_Click);
     connect(righe_, &PaginaRighe::Variato, this, &Form2::SegnaVariato);
     connect(sfondo_, &PaginaSfondo::Variato, this, &Form2::SegnaVariato);
-    Collega(righe_, &PaginaRighe::ModificaConclusa, this, &Form2::ModificaConclusa);
+    Collega(righe_, &PaginaRighe::ModificaConclusa, this, [this] {
+        RimetteManiglie();
+        ModificaConclusa();
+    });
     Collega(spostamento_, &PaginaSpostamento::ModificaConclusa, this, [this] {
         RidisegnaRighe();
+        RimetteManiglie();
         ModificaConclusa();
     });
     Collega(sfondo_, &PaginaSfondo::ModificaConclusa, this, &Form2::ModificaConclusa);
@@ -308,4 +312,10 @@ void Form2::RidisegnaRighe()
 {
     righe_->SimuloRighe();
     anteprima_->RiancoraManiglie();
+}
+
+void Form2::RimetteManiglie()
+{
+    anteprima_->RiancoraManiglie();
+    anteprima_->RinominaManiglie();
 }

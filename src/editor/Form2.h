@@ -116,6 +116,9 @@ private:
     /// After a command that moved elements: the simulation follows, and each handle stands on its
     /// own element again.
     void RidisegnaRighe();
+    /// After a command that placed every element of a kind: each handle stands on its own element
+    /// again and names it, not the last one placed.
+    void RimetteManiglie();
     bool Form_Unload();
     /// Asks about unsaved work, then closes. The question stands before close(), because while a
     /// close of the program's own is under way the window manager's would go through unasked.

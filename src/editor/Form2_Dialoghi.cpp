@@ -84,6 +84,7 @@ void Form2::CollegaDialogo(FrmElemento &dialogo)
     Collega(
         &dialogo, &FrmElemento::VoceRinominata, this,
         [this](Genere genere, int n, const QString &nome) { Pagina(genere).Rinomina(n, nome); });
+    Collega(&dialogo, &FrmElemento::ApplicatoATutti, this, &Form2::RimetteManiglie);
     Collega(&dialogo, &FrmElemento::ModificaConclusa, this, &Form2::ModificaConclusa);
     Collega(&dialogo, &FrmElemento::Eliminato, this, [this](Genere genere, int n) {
         SegnaVariato();

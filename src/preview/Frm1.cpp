@@ -209,6 +209,11 @@ void Frm1::RiancoraManiglie()
     elementi_->RiancoraManiglie();
 }
 
+void Frm1::RinominaManiglie()
+{
+    elementi_->RinominaManiglie();
+}
+
 void Frm1::MostraPuntatore(QPointF punto)
 {
     parti_->PX->setText(NumeroSingolo(punto.x()));

@@ -67,6 +67,8 @@ public:
 
     /// Puts every visible handle back on its own element, after a walk that placed others too.
     void RiancoraManiglie();
+    /// Gives the visible handles the hints that placing their own elements last would leave.
+    void RinominaManiglie();
 
     /// One drag step of element i by the pointer offset (x, y) inside its handle.
     void Sposta(Genere genere, int i, Qt::MouseButtons bottoni, Qt::KeyboardModifiers tasti,

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
@@ -60,6 +61,8 @@ class tst_Form2Dialoghi : public QObject
 {
     Q_OBJECT
 private slots:
+    void ComandoSuTuttiLaManigliaNominaIlSuo_data();
+    void ComandoSuTuttiLaManigliaNominaIlSuo();
     void IlCampoRiempieIlDialogo();
     void CampoNonStampato();
     void ConfermaAggiornaAnteprimaEVoce();
@@ -371,6 +374,86 @@ void tst_Form2Dialoghi::CambioPaginaDallAnteprimaTieneIlMarcatore()
     emit anteprima.PaginaRichiesta(Genere::Immagine);
     QVERIFY(e.Controllo("S3")->isVisible());
     QCOMPARE(e.Controllo("S3")->pos(), e.Controllo("C3(1)")->pos());
+}
+
+void tst_Form2Dialoghi::ComandoSuTuttiLaManigliaNominaIlSuo_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::addColumn<QByteArray>("maniglia");
+    QTest::addColumn<QByteArray>("dialogo");
+    QTest::addColumn<QByteArray>("bottone");
+    QTest::addColumn<QString>("nome");
+    const QString campo = QStringLiteral("sposta campo R_Descr");
+    const QString cornice = QStringLiteral("sposta Cornice Riquadro");
+    const QByteArray nessuno;
+    QTest::newRow("font dei campi") << Genere::Campo << QByteArray("S2") << QByteArray("Campo")
+                                    << QByteArray("Command2") << campo;
+    QTest::newRow("font delle cornici")
+        << Genere::Cornice << QByteArray("S2") << QByteArray("Cornice") << QByteArray("Command2")
+        << cornice;
+    QTest::newRow("colori delle cornici")
+        << Genere::Cornice << QByteArray("S2") << QByteArray("Cornice") << QByteArray("Command1")
+        << cornice;
+    QTest::newRow("spostamento dei campi")
+        << Genere::Campo << QByteArray("S2") << nessuno << QByteArray("Command2") << campo;
+    QTest::newRow("spostamento delle cornici")
+        << Genere::Cornice << QByteArray("S2") << nessuno << QByteArray("Command5") << cornice;
+    QTest::newRow("spostamento delle immagini")
+        << Genere::Immagine << QByteArray("S3") << nessuno << QByteArray("Command6")
+        << QStringLiteral("sposta Immagine logo.bmp");
+    QTest::newRow("righe") << Genere::Campo << QByteArray("S2") << nessuno
+                           << QByteArray("ConfermaPosizioneRighe") << campo;
+}
+
+void tst_Form2Dialoghi::ComandoSuTuttiLaManigliaNominaIlSuo()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QByteArray, maniglia);
+    QFETCH(QByteArray, dialogo);
+    QFETCH(QByteArray, bottone);
+    QFETCH(QString, nome);
+    ArchivioDiProva prova;
+    prova.AggiungeCampo(QStringLiteral("R_Descr"), 20, 30);
+    prova.AggiungeCampo(QStringLiteral("R_Qta"), 60, 30);
+    prova.AggiungeCornice(QStringLiteral("Riquadro"), 30, 40, 20, 10);
+    prova.AggiungeCornice(QStringLiteral("Scritta"), 30, 60, 20, 10);
+    prova.AggiungeImmagine(QStringLiteral("logo.bmp"), 40, 50, 20, 10);
+    prova.AggiungeImmagine(QStringLiteral("firma.bmp"), 40, 90, 20, 10);
+    for (int k = 1; k <= 2; ++k) {
+        prova.Aperto().Campi[k].Font = QStringLiteral("Arial");
+        prova.Aperto().Cornici[k].Font = QStringLiteral("Arial");
+        prova.Aperto().Campi[k].Dimensione = 10;
+        prova.Aperto().Cornici[k].Dimensione = 10;
+    }
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    editor.Anteprima()->Seleziona(genere, 1);
+    Robot robot;
+    if (dialogo.isEmpty()) {
+        // The pages name some of their buttons alike.
+        QWidget *pagina = &editor;
+        if (bottone != "ConfermaPosizioneRighe") {
+            pagina = Trova<QWidget>(editor, "Command6")->parentWidget();
+        }
+        Trova<QPushButton>(*pagina, bottone.constData())->click();
+    } else {
+        robot.Agisce([&](QDialog *d) {
+            Trova<QPushButton>(*d, bottone.constData())->click();
+            d->reject();
+        });
+        emit editor.Anteprima()->RichiestaProprieta(genere, 1);
+    }
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(ElementoAnteprima(*editor.Anteprima(), QString::fromLatin1(maniglia))->toolTip(),
+             nome);
+    const auto posto = [&](const char *controllo) {
+        return ElementoAnteprima(*editor.Anteprima(), QString::fromLatin1(controllo))->pos();
+    };
+    const char *const coppie[][2] = {{"S1", "C1(1)"}, {"S2", "C2(1)"}, {"S3", "C3(1)"}};
+    const auto &coppia = coppie[static_cast<int>(genere)];
+    QCOMPARE(posto(coppia[0]), posto(coppia[1]));
+    editor.Variato = false;
 }
 
 QTEST_MAIN(tst_Form2Dialoghi)
