@@ -73,11 +73,17 @@ void PaginaRighe::OptSimuloRighe_Click()
 
 void PaginaRighe::SimuloRighe()
 {
-    anteprima_.TogliRigheSimulate();
-    if (!ui_->OptSimuloRighe->isChecked()) {
+    QList<Frm1::RigaSimulata> righe;
+    if (ui_->OptSimuloRighe->isChecked()) {
+        righe = RigheSimulate(stato_.Aperto, stato_.zoom, [this](int campo) {
+            return anteprima_.MisuraControllo(Genere::Campo, campo).width();
+        });
+    }
+    // Every step of a dragged field comes here, and there may be thousands of rows.
+    if (righe == mostrate_) {
         return;
     }
-    anteprima_.AggiungeRigheSimulate(RigheSimulate(stato_.Aperto, stato_.zoom, [this](int campo) {
-        return anteprima_.MisuraControllo(Genere::Campo, campo).width();
-    }));
+    anteprima_.TogliRigheSimulate();
+    anteprima_.AggiungeRigheSimulate(righe);
+    mostrate_ = righe;
 }

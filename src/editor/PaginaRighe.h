@@ -2,12 +2,12 @@
 
 #include "dialogs/MemoriaCaselle.h"
 #include "model/StatoProgramma.h"
+#include "preview/Frm1.h"
 
+#include <QList>
 #include <QWidget>
 
 #include <memory>
-
-class Frm1;
 
 namespace Ui {
 class PaginaRighe;
@@ -26,7 +26,8 @@ public:
 
     void ConfermaPosizioneRighe_Click();
     void OptSimuloRighe_Click();
-    /// Removes the simulated rows and, when the box is ticked, draws them again.
+    /// Removes the simulated rows and, when the box is ticked, draws them again; nothing when they
+    /// would come out the same.
     void SimuloRighe();
 
 signals:
@@ -40,4 +41,5 @@ private:
     StatoProgramma &stato_;
     Frm1 &anteprima_;
     MemoriaCaselle caselle_;
+    QList<Frm1::RigaSimulata> mostrate_;
 };

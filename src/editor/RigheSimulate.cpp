@@ -61,6 +61,7 @@ QList<Frm1::RigaSimulata> RigheSimulate(const Modello &modello, double zoom,
     }
     const double interlinea = std::max(modello.Righe.Interlinea, InterlineaMinima);
     const double unaOgni = std::max(1.0, std::ceil(PassoMinimo / interlinea));
+    const QString segni(CaratteriPerRiga, QChar(0xA4));
     const Campo &primo = modello.Campi[fascia->primo];
     const double fine = std::min(modello.Righe.yFine, GeometriaAnteprima::AltezzaCarta);
     // Rows whose whole band lies above the sheet are skipped at once.
@@ -74,7 +75,7 @@ QList<Frm1::RigaSimulata> RigheSimulate(const Modello &modello, double zoom,
         righe.append({QRectF(fascia->sinistra / zoom, y / zoom,
                              (fascia->destra - fascia->sinistra) / zoom, interlinea / zoom),
                       primo.Font, PuntiDiTesto(primo.Dimensione) / zoom, primo.Grassetto != Falso,
-                      QString(CaratteriPerRiga, QChar(0xA4))});
+                      segni});
     }
     return righe;
 }

@@ -117,6 +117,8 @@ public:
         double punti = 0; ///< size on the screen: the model's divided by the zoom
         bool grassetto = false;
         QString testo;
+
+        bool operator==(const RigaSimulata &) const = default;
     };
     void TogliRigheSimulate();
     /// Shows the rows in front of the elements; those outside the sheet are left out.

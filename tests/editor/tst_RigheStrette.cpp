@@ -61,6 +61,7 @@ private slots:
     void SiVedono();
     void SpariteSenzaLaSpunta();
     void TrascinareRestaPronto();
+    void UnPassoSenzaAltreRigheNonLeTocca();
 };
 
 void tst_RigheStrette::SiVedono_data()
@@ -112,6 +113,27 @@ void tst_RigheStrette::TrascinareRestaPronto()
         righe.prova.Foto();
     }
     QVERIFY2(tempo.Entro(Passi * Millisecondi), qPrintable(QString::number(tempo.MilliSecondi())));
+}
+
+void tst_RigheStrette::UnPassoSenzaAltreRigheNonLeTocca()
+{
+    ConRighe righe(0.1);
+    Trova<QLineEdit>(*righe.prova.Editor, "yFine")->setText(QStringLiteral("350"));
+    righe.Simula();
+    Frm1 &anteprima = *righe.prova.Editor->Anteprima();
+    righe.prova.Foto();
+    const TempoDiLavoro tempo;
+    constexpr int Passi = 100;
+    constexpr double Millisecondi = 1.5; // one step
+    for (int k = 0; k < Passi; ++k) {
+        emit anteprima.RigheDaRidisegnare(); // as a field outside the rows does when it is dragged
+    }
+    QVERIFY2(tempo.Entro(Passi * Millisecondi), qPrintable(QString::number(tempo.MilliSecondi())));
+    // What they depend on has changed: they follow.
+    const QImage prima = righe.Foglio()->grab().toImage();
+    righe.prova.Archivio.Aperto().Campi[1].X = 60;
+    emit anteprima.RigheDaRidisegnare();
+    QVERIFY(righe.Foglio()->grab().toImage() != prima);
 }
 
 QTEST_MAIN(tst_RigheStrette)
