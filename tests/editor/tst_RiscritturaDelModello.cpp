@@ -113,7 +113,8 @@ void tst_RiscritturaDelModello::RestatoIncompletoSiDice()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constLast(),
              QStringLiteral("errore 57 Errore di I/O della periferica; il file è rimasto "
-                            "incompleto, il lavoro è nella copia di recupero"));
+                            "incompleto, il lavoro è nella copia di recupero\n"
+                            "salvataggio del file Prova.Mod"));
     QVERIFY(prova.Editor().Variato);
     QCOMPARE(Copie(prova).size(), 1);
     // What is left in the file is nobody else's.

@@ -214,7 +214,8 @@ void tst_SalvataggioImpossibile::NonOltreQuantoSiRilegge()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constFirst(),
              QStringLiteral("copia di recupero non scritta: ") + perche);
-    QCOMPARE(robot.Testi().constLast(), perche);
+    QCOMPARE(robot.Testi().constLast(),
+             perche + QStringLiteral("\nsalvataggio del file Prova.Mod"));
     QVERIFY(editor.Variato);
     QVERIFY2(prova.ByteDelFile() == byte, "the file that can be opened stands");
     prova.Aperto().Immagini[1].Descrizione.chop(1'000'000);
