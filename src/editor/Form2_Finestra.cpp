@@ -73,7 +73,7 @@ bool Form2::Form_Unload()
     }
     chiuso_ = true;
     if (copia_) {
-        copia_->EliminaPropria(); // saved, or given up in answer to the question
+        copia_->Chiude(); // saved, or given up in answer to the question
     }
     if (anteprima_) {
         anteprima_->hide();

@@ -71,15 +71,19 @@ CopiaRecupero &CopiaRecupero::operator=(CopiaRecupero &&) noexcept = default;
 void CopiaRecupero::Parte(const std::optional<QByteArray> &byte)
 {
     impronta_ = Impronta(byte);
+    intera_ = impronta_;
     tentata_.clear();
     riscrittura_.clear();
     incompleto_ = false;
+    ignoto_ = false;
 }
 
 void CopiaRecupero::Tentati(const QByteArray &byte)
 {
     tentata_ = Somma(byte);
-    riscrittura_.clear();
+    if (!incompleto_) {
+        riscrittura_.clear();
+    }
     try {
         if (Disco::Legge(percorsoModello_, FileModello::DimensioneMassima) == byte) {
             Parte(byte);
@@ -147,6 +151,8 @@ QList<CopiaRecupero::Trovata> CopiaRecupero::Cerca(const Avviso &avviso) const
                             cambiato && letta->riscrittura.isEmpty(),
                             cambiato && !letta->riscrittura.isEmpty(),
                             FileCopia::InUso(file),
+                            letta->impronta,
+                            letta->riscrittura,
                             {}};
             FileModello::Analizza(letta->corpo, trovata.modello);
             trovate.append(std::move(trovata));
@@ -180,11 +186,17 @@ void CopiaRecupero::SegnaOfferta(const Trovata &trovata)
 void CopiaRecupero::Riprende(const Trovata &trovata)
 {
     ripresa_ = trovata.file;
+    if (trovata.interrotta) {
+        // Until a save makes the file whole, each copy shall tell what this one does.
+        incompleto_ = true;
+        intera_ = trovata.impronta;
+        riscrittura_ = trovata.riscrittura;
+    }
 }
 
 bool CopiaRecupero::FileCambiato() const
 {
-    if (incompleto_) {
+    if (ignoto_) {
         return false;
     }
     try {
@@ -231,7 +243,7 @@ void CopiaRecupero::Scrive(const Modello &modello)
     // away by going through it.
     const QByteArray corpo = FileModello::ComponiLeggibile(modello, QLocale::c());
     Disco::SostituisceInPrivato(
-        propria_, FileCopia::Compone({percorsoModello_, impronta_, riscrittura_, corpo}));
+        propria_, FileCopia::Compone({percorsoModello_, intera_, riscrittura_, corpo}));
     if (!ripresa_.isEmpty() && FileCopia::Elimina(ripresa_)) {
         ripresa_.clear();
     }
@@ -251,6 +263,14 @@ void CopiaRecupero::TieneIlLavoro(const Modello &modello, const QByteArray &byte
 void CopiaRecupero::Incompleto()
 {
     incompleto_ = true;
+    ignoto_ = true;
+}
+
+void CopiaRecupero::Chiude()
+{
+    if (!incompleto_) {
+        EliminaPropria();
+    }
 }
 
 void CopiaRecupero::EliminaPropria()

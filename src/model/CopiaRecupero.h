@@ -33,12 +33,14 @@ public:
     /// A copy found at opening.
     struct Trovata
     {
-        QString file;      ///< the copy itself
-        QDateTime scritta; ///< local time
-        bool fileCambiato; ///< the model file can be read and is not the one the copy came from
-        bool interrotta;   ///< nor is it another's: a save into its place was cut short
-        bool inUso;        ///< a living program is still writing it
-        Modello modello;   ///< NomeFile empty
+        QString file;        ///< the copy itself
+        QDateTime scritta;   ///< local time
+        bool fileCambiato;   ///< the model file can be read and is not the one the copy came from
+        bool interrotta;     ///< nor is it another's: a save into its place was cut short
+        bool inUso;          ///< a living program is still writing it
+        QByteArray impronta; ///< checksum of the model file as it last was whole
+        QByteArray riscrittura; ///< checksum of what the save that was cut short was writing
+        Modello modello;        ///< NomeFile empty
     };
 
     /// The bytes of the model file as they were read or written just now, nothing when there is no
@@ -70,7 +72,8 @@ public:
 
     /// The user has been asked about this copy; only from then on a save may remove it.
     void SegnaOfferta(const Trovata &trovata);
-    /// The user goes on from this copy: it goes as soon as this opening's own holds its work.
+    /// The user goes on from this copy: it goes as soon as this opening's own holds its work. That
+    /// of a save that was cut short tells that the model file is incomplete.
     void Riprende(const Trovata &trovata);
 
     /// True when the model file is no longer what it was at Parte; false when it is gone, for then
@@ -82,8 +85,10 @@ public:
     /// before stands whole then.
     void Scrive(const Modello &modello);
 
-    /// Removes this opening's copy; the copies of earlier ones stay.
-    void EliminaPropria();
+    /// The model is closed, and what has not been saved is given up: removes this opening's copy;
+    /// the copies of earlier ones stay. While the model file is incomplete its copy stays too, for
+    /// there it is all that is left, and the next opening offers it.
+    void Chiude();
     /// Removes this opening's copy and those that have been offered: the model has been saved. What
     /// cannot be removed now is tried again the next time.
     void EliminaOfferte();
@@ -93,17 +98,20 @@ private:
     bool DelModello(const QString &percorso, const QByteArray &impronta) const;
     void PulisceLucchetti() const;
     void ScegliePropria();
+    void EliminaPropria();
 
     QString cartella_;
     QString percorsoModello_;
-    QString radice_;         ///< start of the names of this model's copies
-    QByteArray impronta_;    ///< of the model file at Parte
-    QByteArray riscrittura_; ///< of what is written over it in its place; empty: nothing is
-    bool incompleto_ = false;
-    QByteArray tentata_;  ///< what the file holds should the failed save have come through
-    QStringList offerte_; ///< files of the copies the user has been asked about
-    QString ripresa_;     ///< file of the copy that the user goes on from
-    QString propria_;     ///< empty until the first copy of this opening
+    QString radice_;          ///< start of the names of this model's copies
+    QByteArray impronta_;     ///< of the model file at Parte
+    QByteArray intera_;       ///< of the model file as it last was whole
+    QByteArray riscrittura_;  ///< of what is written over it in its place; empty: nothing is
+    bool incompleto_ = false; ///< the model file holds part of what was written over it
+    bool ignoto_ = false;     ///< nor is it known what that is
+    QByteArray tentata_;      ///< what the file holds should the failed save have come through
+    QStringList offerte_;     ///< files of the copies the user has been asked about
+    QString ripresa_;         ///< file of the copy that the user goes on from
+    QString propria_;         ///< empty until the first copy of this opening
     /// Of propria_, as long as it may be written: no other program shall take it for a dead one's.
     std::unique_ptr<Lucchetto> lucchetto_;
 };

@@ -24,6 +24,7 @@ private slots:
     void ConDueNomi();
     void InUnaCartellaNonScrivibile();
     void RestatoIncompletoSiDice();
+    void IncompletoSiChiudeSenzaPerdere();
     void InterrottaSiRiprende();
 };
 
@@ -121,6 +122,52 @@ void tst_RiscritturaDelModello::RestatoIncompletoSiDice()
     ScriveFile(prova.Percorso(), prova.ByteDelFile().chopped(10));
     robot.Si();
     Preme(prova.Editor(), "Salva");
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
+    QVERIFY(Copie(prova).isEmpty());
+}
+
+void tst_RiscritturaDelModello::IncompletoSiChiudeSenzaPerdere()
+{
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.Scrive();
+    AltroNome(prova);
+    Robot robot;
+    auto editor = std::make_unique<Form2>(prova.Stato());
+    QVERIFY(editor->Form_Load());
+    prova.Aperto().Campi[1].X = 60;
+    ModelloGuasto = QFileInfo(prova.Percorso()).canonicalFilePath();
+    Disco::UsaSincronizzazione(&SincroniaFallita, nullptr);
+    robot.Si().Ok();
+    Preme(*editor, "Salva");
+    Disco::UsaSincronizzazione(nullptr, nullptr);
+    ScriveFile(prova.Percorso(), prova.ByteDelFile().chopped(10));
+
+    const auto chiude = [&] {
+        robot.No();
+        QVERIFY(editor->close());
+        editor.reset();
+        QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+        QCOMPARE(Copie(prova).size(), 1);
+    };
+    const auto riprende = [&] {
+        editor = std::make_unique<Form2>(prova.Stato());
+        robot.Ok().Si(); // the half of a model, and the work that was meant for it
+        QVERIFY(editor->Form_Load());
+        QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+        QVERIFY(robot.Testi().constLast().endsWith(QStringLiteral("rimasto incompleto.")));
+        QCOMPARE(prova.Aperto().Campi[1].X, 60.0);
+    };
+    chiude();
+    // The file is no better for having been opened.
+    for (int volta = 0; volta < 3; ++volta) {
+        riprende();
+        chiude();
+    }
+    riprende();
+    robot.Si();
+    Preme(*editor, "Salva");
     QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
     QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
     QVERIFY(Copie(prova).isEmpty());
