@@ -4,10 +4,9 @@
 
 #include "ui_SelezioneArchivifrm.h"
 
-#include "base/Ansi.h"
 #include "base/ErroreSistema.h"
-#include "catalogue/ElencoModelli.h"
 #include "catalogue/ModelliTipo.h"
+#include "catalogue/NomeModello.h"
 #include "platform/Messaggi.h"
 #include "platform/Percorsi.h"
 
@@ -36,11 +35,13 @@ void SelezioneArchivifrm::Nuovo_Click()
     if (!richiesta) {
         return;
     }
-    const QString nome = ChiedeNome(*richiesta);
-    if (nome.isEmpty()) {
+    const QString nuovoNome = ChiedeNomeModello(
+        this, stato_.CartellaModelli,
+        richiesta->testo + QStringLiteral("\n\nDigitare un nome per il nuovo modello"),
+        richiesta->nomeProposto);
+    if (nuovoNome.isEmpty()) {
         return;
     }
-    const QString nuovoNome = nome + ElencoModelli::Estensione;
     if (Riservato(nuovoNome)) {
         Messaggi::Mostra(this, QStringLiteral("inserire un mome diverso"));
         return;
@@ -77,42 +78,6 @@ std::optional<SelezioneArchivifrm::Richiesta> SelezioneArchivifrm::RichiestaScel
                               originale + QLatin1String("_nuovo")};
     }
     return richiesta;
-}
-
-QString SelezioneArchivifrm::ChiedeNome(const Richiesta &richiesta)
-{
-    // A name that cannot be used comes back to be mended, not to be typed again.
-    QString nome = richiesta.nomeProposto;
-    do {
-        nome =
-            Messaggi::ChiedeTesto(
-                this, QStringLiteral("Nuovo modello di stampa"),
-                richiesta.testo + QStringLiteral("\n\nDigitare un nome per il nuovo modello"), nome)
-                .value_or(QString());
-    } while (!nome.isEmpty() && !NomeUtilizzabile(nome));
-    return nome;
-}
-
-bool SelezioneArchivifrm::NomeUtilizzabile(const QString &nome)
-{
-    const QString nuovoNome = nome + ElencoModelli::Estensione;
-    // Vastrel, too, must be able to open a file of this name.
-    if (!Percorsi::NomeFileValido(nuovoNome) || !Ansi::Rappresentabile(nome)) {
-        Messaggi::Mostra(
-            this, QStringLiteral("\"%1\" non è un nome valido per un modello.\n\nUn nome non può "
-                                 "contenere \\ / : * ? \" < > | né caratteri che Vastrel non "
-                                 "conosce e non può essere un nome riservato di Windows (CON, PRN, "
-                                 "AUX, NUL, COM1, LPT1...).")
-                      .arg(nome));
-        return false;
-    }
-    if (QFileInfo(Percorsi::Risolve(stato_.CartellaModelli + nuovoNome)).isDir()) {
-        Messaggi::Mostra(this, QStringLiteral("%1 è il nome di una cartella: scegliere un nome "
-                                              "diverso per il modello")
-                                   .arg(nuovoNome));
-        return false;
-    }
-    return true;
 }
 
 bool SelezioneArchivifrm::SovrascritturaAccettata(const QString &nuovoNome)

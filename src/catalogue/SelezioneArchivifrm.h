@@ -74,11 +74,6 @@ private:
     bool ArchivioScelto() const;
     bool ModelloSelezionato() const;
     std::optional<Richiesta> RichiestaScelta();
-    /// The name of the new model, without extension, that the user settled on; empty when the user
-    /// gave up.
-    QString ChiedeNome(const Richiesta &richiesta);
-    /// False when no model can have that name; the user has been told why.
-    bool NomeUtilizzabile(const QString &nome);
     bool SovrascritturaAccettata(const QString &nuovoNome);
     bool Esiste(const QString &percorso);
     void Consegna();

@@ -1,6 +1,6 @@
 #include "editor/LavoroRimasto.h"
 
-#include "base/Ansi.h"
+#include "catalogue/NomeModello.h"
 #include "editor/FrmLavoroRimasto.h"
 #include "model/CopieRimaste.h"
 #include "model/FileCopia.h"
@@ -15,14 +15,10 @@
 #include <QFileInfo>
 #include <QLocale>
 
-#include <optional>
-
 namespace {
 
 using CopieRimaste::NonLetta;
 using CopieRimaste::Rimasta;
-
-constexpr QLatin1String EstensioneModello(".Mod");
 
 void EliminaCopia(const QString &file)
 {
@@ -61,33 +57,23 @@ QString CartellaPerNuovo(const Rimasta &rimasta, const StatoProgramma &stato)
     return archivio ? stato.CartellaModelli : QString();
 }
 
-/// The file of the new model, in the spelling that the user gave it; nothing when he gave up.
-std::optional<QString> ChiedeFile(QWidget *padre, const Rimasta &rimasta, const QString &cartella)
+/// The file of the new model, in the spelling that the user gave it; empty when he gave up.
+QString ChiedeFile(QWidget *padre, const Rimasta &rimasta, const QString &cartella)
 {
-    QString proposto =
-        QFileInfo(rimasta.percorso).completeBaseName() + QStringLiteral("_recuperato");
-    for (;;) {
-        const std::optional<QString> nome = Messaggi::ChiedeTesto(
-            padre, QStringLiteral("Nuovo modello di stampa"),
-            QStringLiteral(
-                "lavoro non salvato di %1\n\nDigitare un nome per il nuovo modello in\n%2")
-                .arg(rimasta.modello.NomeFile, cartella),
-            proposto);
-        if (!nome || nome->isEmpty()) {
-            return std::nullopt;
-        }
-        const QString file = cartella + *nome + EstensioneModello;
-        if (!Percorsi::NomeFileValido(*nome) || !Ansi::Rappresentabile(*nome)) {
+    const auto libero = [&](const QString &nomeFile) {
+        if (QFileInfo::exists(Percorsi::Risolve(cartella + nomeFile))) {
             Messaggi::Mostra(
-                padre, QStringLiteral("\"%1\" non è un nome valido per un modello.").arg(*nome));
-        } else if (QFileInfo::exists(Percorsi::Risolve(file))) {
-            Messaggi::Mostra(padre, QStringLiteral("%1 esiste già: scegliere un nome diverso")
-                                        .arg(*nome + EstensioneModello));
-        } else {
-            return file;
+                padre, QStringLiteral("%1 esiste già: scegliere un nome diverso").arg(nomeFile));
+            return false;
         }
-        proposto = *nome;
-    }
+        return true;
+    };
+    const QString nomeFile = ChiedeNomeModello(
+        padre, cartella,
+        QStringLiteral("lavoro non salvato di %1\n\nDigitare un nome per il nuovo modello in\n%2")
+            .arg(rimasta.modello.NomeFile, cartella),
+        QFileInfo(rimasta.percorso).completeBaseName() + QStringLiteral("_recuperato"), libero);
+    return nomeFile.isEmpty() ? QString() : cartella + nomeFile;
 }
 
 /// False when the user gave up.
@@ -98,11 +84,11 @@ bool SalvaComeNuovo(QWidget *padre, const Rimasta &rimasta, const StatoProgramma
         Messaggi::Mostra(padre, QStringLiteral("Selezionare una cartella"));
         return false;
     }
-    const std::optional<QString> file = ChiedeFile(padre, rimasta, cartella);
-    if (!file) {
+    const QString file = ChiedeFile(padre, rimasta, cartella);
+    if (file.isEmpty()) {
         return false;
     }
-    FileModello::ScriveModello(rimasta.modello, *file);
+    FileModello::ScriveModello(rimasta.modello, file);
     EliminaCopia(rimasta.file);
     return true;
 }

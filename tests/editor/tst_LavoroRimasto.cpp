@@ -23,6 +23,8 @@ private slots:
     void SiTiene();
     void SiGuarda();
     void SiSalvaComeNuovoModello();
+    void NomeGiudicatoConLEstensione_data();
+    void NomeGiudicatoConLEstensione();
     void SiSalvaNellArchivioScelto();
     void DiscoPienoNonPerdeNulla();
     void SiGettaVia();
@@ -141,8 +143,8 @@ void tst_LavoroRimasto::SiSalvaComeNuovoModello()
     QVERIFY(OffreLavoroRimasto(nullptr, prova.Stato()));
     QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
     QCOMPARE(robot.Predefiniti().value(1), QStringLiteral("Prova_recuperato"));
-    QCOMPARE(robot.Testi().value(2),
-             QStringLiteral("\"pre:so\" non è un nome valido per un modello."));
+    QVERIFY(robot.Testi().value(2).startsWith(
+        QStringLiteral("\"pre:so\" non è un nome valido per un modello.\n\nUn nome non può ")));
     QCOMPARE(robot.Testi().value(4),
              QStringLiteral("Preso.Mod esiste già: scegliere un nome diverso"));
     QCOMPARE(ByteDi(prova.Stato().CartellaModelli + QStringLiteral("PRESO.MOD")),
@@ -151,6 +153,33 @@ void tst_LavoroRimasto::SiSalvaComeNuovoModello()
     FileModello::Carica(nuovo, prova.Stato().CartellaModelli + QStringLiteral("Nuovo.Mod"));
     QCOMPARE(nuovo.Campi[1].X, 77.0);
     QCOMPARE(nuovo.NumImmagini, qint16(3));
+    QVERIFY(NomiIn(Copie(prova)).isEmpty());
+}
+
+void tst_LavoroRimasto::NomeGiudicatoConLEstensione_data()
+{
+    QTest::addColumn<QString>("nome");
+    QTest::newRow("final dot") << QStringLiteral("nome.");
+    QTest::newRow("final blank") << QStringLiteral("nome ");
+    QTest::newRow("two dots") << QStringLiteral("..");
+}
+
+void tst_LavoroRimasto::NomeGiudicatoConLEstensione()
+{
+    QFETCH(QString, nome);
+    ArchivioDiProva prova;
+    Lascia(prova, 77);
+    QVERIFY(QDir().mkdir(prova.Stato().CartellaModelli + QStringLiteral("Cartella.Mod")));
+    Robot robot;
+    Sceglie(robot, Salva).Digita(QStringLiteral("CARTELLA")).Ok();
+    robot.Digita(nome);
+    QVERIFY(OffreLavoroRimasto(nullptr, prova.Stato()));
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QCOMPARE(robot.Testi().value(2), QStringLiteral("CARTELLA.Mod è il nome di una cartella: "
+                                                    "scegliere un nome diverso per il modello"));
+    Modello nuovo;
+    FileModello::Carica(nuovo, prova.Stato().CartellaModelli + nome + QStringLiteral(".Mod"));
+    QCOMPARE(nuovo.Campi[1].X, 77.0);
     QVERIFY(NomiIn(Copie(prova)).isEmpty());
 }
 
