@@ -64,9 +64,9 @@ void FrmImmagine::Carica(int k)
     Caselle().Mostra(ui_->Bordo, immagine.Bordo);
     Caselle().Mostra(ui_->Largh, immagine.Larghezza);
     Caselle().Mostra(ui_->Alt, immagine.Altezza);
-    MostraAvviso({});
     MettePrimo(ui_->Descrizione);
     Guardia(this, [this] { RiempieFileImmagini(); });
+    Guardia(this, [this] { MisuraImmagine(); }); // only for the line that it may show
 }
 
 void FrmImmagine::RiempieFileImmagini()
@@ -160,6 +160,11 @@ QSizeF FrmImmagine::MisuraImmagine()
         // The header alone would also measure a picture whose rest is damaged.
         Immagini::CaricaScalata(percorso, {1, 1});
         return Immagini::DimensioniNaturali(percorso);
+    } catch (const Immagini::TroppoGrande &) {
+        MostraAvviso(QStringLiteral("«%1»: l'immagine è troppo grande per essere letta, non sarà "
+                                    "mostrata né stampata")
+                         .arg(nome));
+        return {0, 0};
     } catch (const ErroreSistema &errore) {
         // A picture that is missing or damaged asks nothing: the size in the boxes stands.
         MostraAvviso(errore.numero == ErroreSistema::FileNonTrovato

@@ -21,7 +21,8 @@ public:
     explicit FrmImmagine(StatoProgramma &stato, QWidget *padre = nullptr);
     ~FrmImmagine() override;
 
-    /// Shows picture k and the picture files of the models folder. Throws ErroreSistema 9 for an
+    /// Shows picture k and the picture files of the models folder, and says below the list when
+    /// the picture's own cannot be read. Throws ErroreSistema 9 for an
     /// index outside the table; a folder that cannot be read is reported in a message and leaves
     /// the list empty.
     void Carica(int k);

@@ -118,6 +118,9 @@ public:
         }
         intestazione_ = IntestazioneImmagine::Legge(file_);
         // What Qt would do with a header that does not end is not to be waited for.
+        if (intestazione_.InizioDati > 0 && intestazione_.TroppoGrande(file_.size())) {
+            throw Immagini::TroppoGrande(ErroreSistema::ImmagineNonValida);
+        }
         if (intestazione_.InizioDati <= 0 || !intestazione_.Credibile(file_.size())) {
             NonValida();
         }

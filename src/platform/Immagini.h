@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ErroreSistema.h"
+
 #include <QImage>
 #include <QSizeF>
 #include <QString>
@@ -7,6 +9,13 @@
 /// Pictures from files: BMP, GIF (first frame) and JPEG (CMYK and EXIF-rotated too). A file that
 /// would take a second to decode is refused (481), and so is one that ends before its pixels do.
 namespace Immagini {
+
+/// The 481 of a file that may be whole, but whose pixels or bytes are too many.
+class TroppoGrande : public ErroreSistema
+{
+public:
+    using ErroreSistema::ErroreSistema;
+};
 
 /// Natural size in mm, from the pixel size and the resolution that the file states (96 dpi when it
 /// states none), after EXIF rotation; decodes nothing. Throws ErroreSistema 53 or 481.

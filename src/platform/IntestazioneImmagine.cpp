@@ -270,16 +270,23 @@ bool IntestazioneImmagine::Intera(QByteArrayView file) const
     return Formato == "jpeg" && InizioDati > 0 && JpegIntero(file, *this);
 }
 
-bool IntestazioneImmagine::Credibile(qint64 byte) const
+bool IntestazioneImmagine::TroppoGrande(qint64 byte) const
 {
     const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
     const bool bmp = Formato == "bmp";
-    const bool jpeg = Formato == "jpeg";
-    const qint64 daLeggere = bmp ? byte - InizioDati : byte;
-    if (pixel > (jpeg ? PixelJpegMassimi : PixelMassimi) ||
-        (bmp && Compressa && daLeggere > ByteCompressiMassimi) || (!bmp && byte > ByteMassimi)) {
+    return pixel > (Formato == "jpeg" ? PixelJpegMassimi : PixelMassimi) ||
+           (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
+           (!bmp && byte > ByteMassimi);
+}
+
+bool IntestazioneImmagine::Credibile(qint64 byte) const
+{
+    if (TroppoGrande(byte)) {
         return false;
     }
+    const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
+    const bool bmp = Formato == "bmp";
+    const bool jpeg = Formato == "jpeg";
     // The best that each format can do: run lengths of 255 pixels in two bytes for BMP, codes of
     // 12 bits that stand for up to 4096 pixels for GIF, one bit for a block of 16x16 for JPEG.
     const qint64 pixelPerByte = bmp ? 128 : jpeg ? 2048 : 2731;

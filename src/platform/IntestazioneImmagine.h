@@ -36,6 +36,10 @@ struct IntestazioneImmagine
     /// inverted, and that is what Qt takes all of them for.
     bool InchiostriDiritti() const { return Componenti == 4 && !Adobe; }
 
+    /// True where a file of this length, or its pixels, are more than a second's work, however
+    /// honest the file is.
+    bool TroppoGrande(qint64 byte) const;
+
     /// False for a file of this length that no program can have made in earnest: a few bytes that
     /// state huge dimensions only mean to eat the memory, and more work than a second holds is more
     /// than any picture for paper needs.

@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 using namespace Controlli;
 
@@ -123,6 +124,8 @@ private slots:
     void DanneggiataOMancanteSenzaDomanda_data();
     void DanneggiataOMancanteSenzaDomanda();
     void IlleggibileDettaSottoLElenco();
+    void AprendoSiDiceSeNonSiLegge_data();
+    void AprendoSiDiceSeNonSiLegge();
     void NomeCheIlModelloNonPuoContenere_data();
     void NomeCheIlModelloNonPuoContenere();
     void ScrittaSubitoAncheSeSiChiude();
@@ -515,6 +518,10 @@ void TestFrmImmagine::DanneggiataOMancanteSenzaDomanda()
 void TestFrmImmagine::IlleggibileDettaSottoLElenco()
 {
     Prova p;
+    ImmaginiDiProva::Scrive(p.cartella.filePath(QStringLiteral("vecchia2.bmp")),
+                            Figura("bmp", 5, 5));
+    ImmaginiDiProva::Scrive(p.cartella.filePath(QStringLiteral("vecchia3.bmp")),
+                            Figura("bmp", 5, 5));
     ImmaginiDiProva::Scrive(p.cartella.filePath(QStringLiteral("sparita.bmp")), "x");
     ImmaginiDiProva::Scrive(p.cartella.filePath(QStringLiteral("buona.bmp")), Figura("bmp", 5, 5));
     p.Aggiunge("guasta.bmp", "Fattura di prova");
@@ -534,6 +541,54 @@ void TestFrmImmagine::IlleggibileDettaSottoLElenco()
     p.Clicca("guasta.bmp");
     p.Apre(3); // another element says nothing of it
     QVERIFY(!avviso->isVisible());
+    QVERIFY(p.robot.Soddisfatto() && p.robot.Testi().isEmpty());
+}
+
+void TestFrmImmagine::AprendoSiDiceSeNonSiLegge_data()
+{
+    QTest::addColumn<QByteArray>("byte");
+    QTest::addColumn<qint64>("lunghezza");
+    QTest::addColumn<QString>("avviso");
+    // A picture of 90 million pixels that is all there.
+    QByteArray enorme = Figura("bmp", 1, 1).first(54);
+    qToLittleEndian<qint32>(10'000, enorme.data() + 18);
+    qToLittleEndian<qint32>(9'000, enorme.data() + 22);
+    const qint64 pixel = enorme.at(28) == 32 ? 4 : 3;
+    QTest::newRow("buona") << Figura("bmp", 250, 5) << qint64(0) << QString();
+    QTest::newRow("mancante") << QByteArray() << qint64(0)
+                              << QStringLiteral(
+                                     "«aperta.bmp»: il file non si trova nella cartella");
+    QTest::newRow("guasta") << QByteArray("Fattura di prova") << qint64(0)
+                            << QStringLiteral(
+                                   "«aperta.bmp»: il file non si può leggere come immagine BMP, "
+                                   "GIF o JPEG, non sarà mostrato né stampato");
+    QTest::newRow("troppo grande")
+        << enorme << 54 + 90'000'000 * pixel
+        << QStringLiteral("«aperta.bmp»: l'immagine è troppo grande per essere letta, non sarà "
+                          "mostrata né stampata");
+}
+
+void TestFrmImmagine::AprendoSiDiceSeNonSiLegge()
+{
+    QFETCH(QByteArray, byte);
+    QFETCH(qint64, lunghezza);
+    QFETCH(QString, avviso);
+    Prova p;
+    const QString file = p.cartella.filePath(QStringLiteral("aperta.bmp"));
+    if (!byte.isEmpty()) {
+        ImmaginiDiProva::Scrive(file, byte);
+    }
+    if (lunghezza != 0) {
+        QVERIFY(QFile::resize(file, lunghezza));
+    }
+    p.Seconda().Nome = QStringLiteral("aperta.bmp");
+    const Modello prima = p.stato.Aperto;
+    p.Apre(2);
+    const auto *riga = Trova<QLabel>(p.dialogo, "AvvisoImmagine");
+    QCOMPARE(riga->isVisible(), !avviso.isEmpty());
+    QCOMPARE(riga->text(), avviso);
+    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.segnali.Voci().isEmpty());
     QVERIFY(p.robot.Soddisfatto() && p.robot.Testi().isEmpty());
 }
 
