@@ -20,6 +20,9 @@ constexpr double PuntiMassimi = 20000;
 /// a chain that it walks from the start for each one it adds.
 constexpr int SegmentiMassimi = 1 << 12;
 constexpr int RiempitiviMassimi = 1 << 14;
+/// Bytes before the first scan, which the decoder reads and copies each time it is asked for
+/// anything: colour profiles, thumbnails, a telephone's second picture.
+constexpr qint64 TestaMassima = 8'000'000;
 /// Progressive pictures have about ten scans; a file made of hundreds would decode for minutes.
 constexpr int ScansioniMassime = 64;
 
@@ -187,7 +190,7 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
     int segmenti = 0;
     int riempitivi = 0;
     qint64 posto = 2;
-    while (segmenti < SegmentiMassimi && riempitivi < RiempitiviMassimi) {
+    while (segmenti < SegmentiMassimi && riempitivi < RiempitiviMassimi && posto <= TestaMassima) {
         const QByteArray testa = Byte(file, posto, 4);
         if (testa.size() < 4 || quint8(testa.at(0)) != 0xFF) {
             return;

@@ -17,6 +17,7 @@ using namespace ImmaginiRare;
 namespace {
 
 constexpr double Secondo = 1000; // ms
+constexpr int Grande = 65'533;   ///< bytes that a segment holds at most
 
 bool Simili(QRgb a, QRgb b)
 {
@@ -66,6 +67,7 @@ private slots:
     void JpegTagliatoOvunqueRifiutato();
     void BmpTagliatoNeiPixelRifiutato();
     void AlfaDatoRimane();
+    void MoltoPrimaDeiPixel();
     void EntroUnSecondo_data();
     void EntroUnSecondo();
 
@@ -172,6 +174,19 @@ void tst_ImmaginiRare::AlfaDatoRimane()
     QCOMPARE(qAlpha(letta.pixel(0, 0)), 0);
 }
 
+void tst_ImmaginiRare::MoltoPrimaDeiPixel()
+{
+    // A telephone's picture carries another one in its head; nothing carries a hundred.
+    for (const char marcatore : {'\xE1', '\xE2', '\xED', '\xFE'}) {
+        QVERIFY(
+            !Immagini::Carica(Scrivi(JpegDiSegmenti(7'000'000, marcatore, true, Grande))).isNull());
+        const QString smisurato = Scrivi(JpegDiSegmenti(9'000'000, marcatore, true, Grande));
+        QCOMPARE(ErroreDi([&] { Immagini::DimensioniNaturali(smisurato); }),
+                 ErroreSistema::ImmagineNonValida);
+        QCOMPARE(ErroreDi([&] { Immagini::Carica(smisurato); }), ErroreSistema::ImmagineNonValida);
+    }
+}
+
 void tst_ImmaginiRare::EntroUnSecondo_data()
 {
     QTest::addColumn<QByteArray>("byte");
@@ -180,6 +195,14 @@ void tst_ImmaginiRare::EntroUnSecondo_data()
         QTest::addRow("%d byte di segmenti in coda", byte) << JpegDiSegmenti(byte, '\xE1', false);
         QTest::addRow("%d byte di commenti vuoti", byte) << JpegDiSegmenti(byte, '\xFE', true);
         QTest::addRow("%d byte di GIF che si srotola", byte) << GifCheSiSrotola(byte);
+    }
+    for (const char marcatore : {'\xE1', '\xE2', '\xED', '\xFE'}) {
+        for (const int byte : {6'000'000, 63'800'000}) {
+            QTest::addRow("%d byte di grandi segmenti %x", byte, quint8(marcatore))
+                << JpegDiSegmenti(byte, marcatore, true, Grande);
+        }
+        QTest::addRow("grandi segmenti %x in coda", quint8(marcatore))
+            << JpegDiSegmenti(63'800'000, marcatore, false, Grande);
     }
     QTest::newRow("4000 segmenti") << JpegDiSegmenti(16'000, '\xE1', true);
     QTest::newRow("64 scansioni di 18 megapixel") << JpegDiScansioni({4240, 4240}, 63);

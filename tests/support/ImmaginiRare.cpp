@@ -290,11 +290,11 @@ QByteArray ImmaginiRare::GifCheSiSrotola(int byte)
     return gif.append(QByteArray("\0;", 2));
 }
 
-QByteArray ImmaginiRare::JpegDiSegmenti(int byte, char marcatore, bool inTesta)
+QByteArray ImmaginiRare::JpegDiSegmenti(int byte, char marcatore, bool inTesta, int dati)
 {
     QByteArray jpeg = ScriveJpeg(false);
     const QByteArray segmenti =
-        QByteArray("\xFF").append(marcatore).append(QByteArray("\0\2", 2)).repeated(byte / 4);
+        Segmento(quint8(marcatore), QByteArray(dati, 'a')).repeated(byte / (dati + 4));
     return jpeg.insert(inTesta ? 2 : jpeg.size() - 2, segmenti);
 }
 

@@ -34,8 +34,9 @@ QByteArray JpegA1200PuntiPerPollice();
 
 /// A GIF of so many bytes whose codes unfold into thousands of pixels each, on 64 x 64.
 QByteArray GifCheSiSrotola(int byte);
-/// A JPEG with so many bytes of empty segments: before the first scan, or behind the last.
-QByteArray JpegDiSegmenti(int byte, char marcatore, bool inTesta);
+/// A JPEG with some so many bytes of segments, empty or of so many bytes of data each: before the
+/// first scan, or behind the last.
+QByteArray JpegDiSegmenti(int byte, char marcatore, bool inTesta, int dati = 0);
 /// A progressive JPEG of so many pixels with so many scans of next to nothing.
 QByteArray JpegDiScansioni(const QSize &pixel, int scansioni);
 
