@@ -4,6 +4,7 @@
 #include "base/Misure.h"
 #include "platform/IntestazioneImmagine.h"
 #include "platform/Percorsi.h"
+#include "platform/PerditaDiColore.h"
 #include "platform/Rimpicciolimento.h"
 #include "platform/SeparazioniJpeg.h"
 
@@ -27,6 +28,9 @@ constexpr int RiduzioneMassima = 8;
 /// that is not enough, the picture is taken coarser rather than more memory.
 constexpr qint64 PixelDecodificati = 45'000'000;
 constexpr qint64 PixelStampati = 36'000'000;
+/// Beyond this keeping a picture without loss costs a printed page too much time and place, unless
+/// its file does so itself.
+constexpr qint64 PixelGrandi = 4'000'000;
 
 [[noreturn]] void NonValida()
 {
@@ -140,7 +144,17 @@ public:
     /// Size after rotation.
     QSize Pixel() const { return Ruota(pixel_); }
 
-    bool DaJpeg() const { return intestazione_.Formato == "jpeg"; }
+    /// Whether the picture, which is what this file was decoded to, may be made a JPEG again.
+    bool ComeJpeg(const QImage &immagine) const
+    {
+        if (intestazione_.Formato != "jpeg") {
+            return false;
+        }
+        if (!intestazione_.ColoriRidotti && intestazione_.Componenti > 1) {
+            return immagine.allGray();
+        }
+        return qint64(immagine.width()) * immagine.height() > PixelGrandi || !PerdeColore(immagine);
+    }
 
     /// That many pixels, or half as many when a second copy is made of them: of a picture that is
     /// turned, or put together from its inks.
@@ -318,7 +332,7 @@ Immagini::Opaca Immagini::CaricaEntro(const QString &percorso, const QSize &mass
     QImage immagine = lettore.Decodifica(pixel);
     SuBianco(immagine);
     Rimpicciolisce(immagine, pixel.boundedTo(immagine.size()));
-    return {immagine, lettore.DaJpeg()};
+    return {immagine, lettore.ComeJpeg(immagine)};
 }
 
 QString Immagini::PercorsoInCartella(const QString &cartella, const QString &nome)

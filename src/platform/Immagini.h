@@ -33,7 +33,9 @@ QImage CaricaScalata(const QString &percorso, const QSize &pixel);
 struct Opaca
 {
     QImage Immagine;
-    bool DaJpeg = false; ///< by the file's bytes, whatever its name
+    /// It comes from a JPEG, by the file's bytes, and made one again it looks the same: neither
+    /// from a file that gives each pixel its own colour, nor a small one with sharp colours.
+    bool ComeJpeg = false;
 };
 
 /// The picture as a page needs it: on white where it is transparent, at its own size but at most

@@ -180,6 +180,11 @@ void LeggeFormato(qint64 posto, const QByteArray &segmento, IntestazioneImmagine
         esito.PostoFormato = posto;
         esito.Pixel = QSize(Grande<quint16>(segmento, 3), Grande<quint16>(segmento, 1));
         esito.Componenti = componenti;
+        constexpr int ByteComponente = 3;
+        for (int i = 1; i < componenti; ++i) {
+            const bool pari = segmento.at(7 + i * ByteComponente) == segmento.at(7);
+            esito.ColoriRidotti = esito.ColoriRidotti || !pari;
+        }
     }
 }
 

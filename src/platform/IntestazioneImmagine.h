@@ -27,7 +27,8 @@ struct IntestazioneImmagine
     // Of a JPEG
     qint64 PostoFormato = 0; ///< offset of the marker that states the components
     int Componenti = 0;
-    bool Adobe = false; ///< the marker that tells how colours are stored is there
+    bool Adobe = false;         ///< the marker that tells how colours are stored is there
+    bool ColoriRidotti = false; ///< some components have fewer pixels than others
 
     /// Reads the beginning of the file. Never fails: what cannot be read keeps its default.
     static IntestazioneImmagine Legge(QIODevice &file);

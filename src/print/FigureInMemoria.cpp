@@ -32,10 +32,10 @@ qsizetype Byte(const QList<FigureInMemoria::Figura> &figure)
     return byte;
 }
 
-FigureInMemoria::Figura InStrisce(const QImage &immagine, bool daJpeg)
+FigureInMemoria::Figura InStrisce(const QImage &immagine, bool comeJpeg)
 {
-    FigureInMemoria::Figura figura{immagine, daJpeg, {}};
-    const int righe = daJpeg ? immagine.height() : std::max(1, PixelStriscia / immagine.width());
+    FigureInMemoria::Figura figura{immagine, comeJpeg, {}};
+    const int righe = comeJpeg ? immagine.height() : std::max(1, PixelStriscia / immagine.width());
     if (righe >= immagine.height()) {
         figura.Strisce = {{0, immagine}};
         return figura;
@@ -85,7 +85,7 @@ FigureInMemoria::Figura FigureInMemoria::Carica(const QString &percorso, const Q
         if (ridotta.isNull()) {
             throw std::bad_alloc();
         }
-        figura = InStrisce(ridotta, voce.Livelli.constFirst().DaJpeg);
+        figura = InStrisce(ridotta, voce.Livelli.constFirst().ComeJpeg);
     }
     return figura;
 }
@@ -96,7 +96,7 @@ void FigureInMemoria::Decodifica(const QString &percorso, Voce &voce)
     FaPosto();
     try {
         const Immagini::Opaca letta = Immagini::CaricaEntro(percorso, voce.Bisogno);
-        voce.Livelli = {InStrisce(letta.Immagine, letta.DaJpeg)};
+        voce.Livelli = {InStrisce(letta.Immagine, letta.ComeJpeg)};
         voce.Decodificata = voce.Bisogno;
     } catch (const ErroreSistema &errore) {
         voce.Guasto = errore;

@@ -28,7 +28,7 @@ public:
     struct Figura
     {
         QImage Immagine; ///< opaque, RGB32
-        bool DaJpeg = false;
+        bool ComeJpeg = false;
         /// The picture as it is handed to the printer, whose engine makes copies of what it gets:
         /// a large one in parts, unless it travels as JPEG. Each part covers a row of the next one,
         /// lest a viewer that smooths the edges shows the seam.

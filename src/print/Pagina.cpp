@@ -146,7 +146,7 @@ void Pagina::DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &f
     for (const FigureInMemoria::Striscia &striscia : figura.Strisce) {
         const QRectF parte(posto.x(), posto.y() + striscia.Prima * passo, posto.width(),
                            striscia.Immagine.height() * passo);
-        DipingeImmagine(parte, striscia.Immagine, !figura.DaJpeg);
+        DipingeImmagine(parte, striscia.Immagine, !figura.ComeJpeg);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/FileModello.h"
 #include "support/Aperture.h"
+#include "support/ImmaginiRare.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -14,6 +15,7 @@
 #include <unistd.h>
 
 using namespace ImmaginiDiProva;
+using ImmaginiRare::JpegABlocchi;
 
 namespace {
 
@@ -88,6 +90,9 @@ private slots:
     void initTestCase();
     void fotografiaComeJpeg_data();
     void fotografiaComeJpeg();
+    void logoConISuoiColori_data();
+    void logoConISuoiColori();
+    void grigioComeJpeg();
     void disegnoSenzaPerdita_data();
     void disegnoSenzaPerdita();
     void maiPiuFineDelNecessario();
@@ -134,6 +139,54 @@ void tst_FigureSuCarta::fotografiaComeJpeg()
         const double somiglianza = Somiglianza(stampata, QImage::fromData(byte, "jpeg"));
         QVERIFY2(somiglianza > 38, qPrintable(QString::number(somiglianza)));
     }
+}
+
+void tst_FigureSuCarta::logoConISuoiColori_data()
+{
+    QTest::addColumn<QByteArray>("byte");
+    const auto colorato = [](int componente, int colonna, int riga) {
+        return componente == 0 ? 120 : 40 + (colonna * (3 + componente) + riga * 5) * 37 % 176;
+    };
+    QTest::newRow("a colour to each pixel") << JpegABlocchi({320, 200}, 3, colorato);
+    QTest::newRow("a colour to each pixel, large") << JpegABlocchi({2400, 1800}, 3, colorato);
+    for (const QSize &pixel : {QSize(60, 40), QSize(160, 160), QSize(1000, 700)}) {
+        for (const char *testo : {"A", "Vastrel", "Rosso e blu"}) {
+            QTest::addRow("%d pixels, %s", pixel.width(), testo)
+                << InFormato(Disegno(pixel, QString::fromLatin1(testo)), "jpeg");
+        }
+    }
+}
+
+void tst_FigureSuCarta::logoConISuoiColori()
+{
+    QFETCH(QByteArray, byte);
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("logo.jpg"), byte, {5, 5, 200, 280});
+    const LettorePdf pdf = foglio.Stampa();
+    const QImage logo = QImage::fromData(byte, "jpeg");
+    int prima = 0;
+    for (int k = 0; k < pdf.Immagini(); ++k) {
+        // A large one is handed over in parts, each with a row of the next.
+        const QImage parte = pdf.Immagine(k);
+        const QImage attesa = logo.copy(0, prima, logo.width(), parte.height());
+        const double somiglianza = Somiglianza(parte, attesa);
+        QVERIFY2(somiglianza > 38, qPrintable(QString::number(somiglianza)));
+        QCOMPARE(pdf.Codifiche().at(k), QStringLiteral("image"));
+        QCOMPARE(parte, attesa.convertToFormat(parte.format()));
+        prima += parte.height() - 1;
+    }
+    QCOMPARE(prima, logo.height() - 1);
+}
+
+void tst_FigureSuCarta::grigioComeJpeg()
+{
+    // A scan without colours has none to lose, whatever place its file has for them.
+    FoglioDiProva foglio;
+    const QByteArray byte = JpegABlocchi({800, 600}, 3, [](int componente, int colonna, int riga) {
+        return componente == 0 ? 30 + (colonna * 7 + riga * 5) * 37 % 200 : 128;
+    });
+    foglio.ConImmagine(QStringLiteral("modulo.jpg"), byte, {5, 5, 100, 75});
+    QCOMPARE(foglio.Stampa().Codifiche(), QStringList{QStringLiteral("jpeg")});
 }
 
 void tst_FigureSuCarta::disegnoSenzaPerdita_data()
