@@ -230,10 +230,14 @@ void Sovrapposizione::Stende(const Foglio &foglio, QPaintDevice *stampante, cons
         scala *= std::sqrt(PixelMassimi / pixel);
         regione = SullaGriglia(incontri, scala);
     }
-    // The AND does not mind the order, so that each file is asked for only once.
+    // The AND does not mind the order, so that a batch asks for each file only once, and first for
+    // the one that was used last: it may still be in memory, where two scans have no place.
     QList<Figura> figure = foglio.Figure;
     std::stable_sort(figure.begin(), figure.end(),
                      [](const Figura &a, const Figura &b) { return a.Percorso < b.Percorso; });
+    if (figure.constLast().Percorso == foglio.Figure.constLast().Percorso) {
+        std::reverse(figure.begin(), figure.end());
+    }
     const QList<QRect> rettangoli = Rettangoli(regione);
     for (auto prossimo = rettangoli.begin(); prossimo != rettangoli.end();) {
         QList<Bozza> bozze;
@@ -253,6 +257,7 @@ void Sovrapposizione::Stende(const Foglio &foglio, QPaintDevice *stampante, cons
                 }
             }
         }
+        std::reverse(figure.begin(), figure.end());
         for (const Bozza &bozza : std::as_const(bozze)) {
             const QRect &r = bozza.Rettangolo;
             posa({QRectF(r.x() / scala, r.y() / scala, r.width() / scala, r.height() / scala),

@@ -98,6 +98,7 @@ private slots:
     void maiPiuFineDelNecessario();
     void stessaFiguraUnaVoltaNelDocumento();
     void seiMisureUnaSolaLettura();
+    void scansioniSovrapposteLettePocheVolte();
     void piccolaPrimaDellaGrande();
     void figuraGuastaDettaPerOgniElemento();
     void disegnoGrandeIntero();
@@ -261,6 +262,21 @@ void tst_FigureSuCarta::seiMisureUnaSolaLettura()
         QVERIFY2(qGray(pdf.Colore(linea, y)) < 140, Testo(posto));
         QVERIFY2(qGray(pdf.Colore(fra, y)) > 220, Testo(posto));
     }
+}
+
+void tst_FigureSuCarta::scansioniSovrapposteLettePocheVolte()
+{
+    // The page is computed in five parts, and only one scan has a place in memory beside them.
+    constexpr int Parti = 5;
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("a.jpg"), scansione_, {0, 0, 210, 297});
+    foglio.ConImmagine(QStringLiteral("b.jpg"), scansione_, {0, 0, 210, 297});
+    const Aperture prima(foglio.Cartella() + QStringLiteral("a.jpg"));
+    const Aperture seconda(foglio.Cartella() + QStringLiteral("b.jpg"));
+    foglio.Stampa();
+    QCOMPARE(foglio.Avvisi, QStringList());
+    const int letture = prima.Nuove() + seconda.Nuove();
+    QVERIFY2(letture <= 2 + Parti, qPrintable(QString::number(letture)));
 }
 
 void tst_FigureSuCarta::piccolaPrimaDellaGrande()
