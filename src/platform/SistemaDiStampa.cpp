@@ -7,7 +7,6 @@
 #include "base/ErroreSistema.h"
 
 #include <QElapsedTimer>
-#include <QUrl>
 
 #include <cups/cups.h>
 
@@ -81,12 +80,19 @@ Connessione ConnetteAdOgniCosto()
     return connessione;
 }
 
+constexpr QChar PrimaDellIstanza = u'/'; ///< no queue has it in its name
+
+QByteArray NomeDellaCoda(const QString &coda)
+{
+    return coda.section(PrimaDellIstanza, 0, 0).toUtf8();
+}
+
 /// A request about a queue; the caller frees it, or hands it to the library, which does.
 ipp_t *Domanda(ipp_op_t operazione, const QString &coda)
 {
     std::array<char, HTTP_MAX_URI> indirizzo{};
     httpAssembleURIf(HTTP_URI_CODING_ALL, indirizzo.data(), int(indirizzo.size()), "ipp", nullptr,
-                     "localhost", 0, "/printers/%s", coda.toUtf8().constData());
+                     "localhost", 0, "/printers/%s", NomeDellaCoda(coda).constData());
     ipp_t *domanda = ippNewRequest(operazione);
     ippAddString(domanda, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, indirizzo.data());
     ippAddString(domanda, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
@@ -144,7 +150,10 @@ SistemaDiStampa::Impostazioni ImpostazioniDi(http_t *http, const QString &coda)
     cups_dest_t *code = nullptr;
     const int numero = cupsGetDests2(http, &code);
     SistemaDiStampa::Impostazioni impostazioni;
-    const cups_dest_t *trovata = cupsGetDest(coda.toUtf8().constData(), nullptr, numero, code);
+    const QByteArray istanza = coda.section(PrimaDellIstanza, 1).toUtf8();
+    const cups_dest_t *trovata =
+        cupsGetDest(NomeDellaCoda(coda).constData(),
+                    istanza.isEmpty() ? nullptr : istanza.constData(), numero, code);
     for (int i = 0; trovata != nullptr && i < trovata->num_options; ++i) {
         const cups_option_t &opzione = trovata->options[i];
         if (std::none_of(Riducono.begin(), Riducono.end(),
@@ -189,7 +198,7 @@ private:
 Risposta Spedisce(http_t *http, ipp_t *domanda, const QString &coda, const QByteArray &pdf)
 {
     constexpr qsizetype Pezzo = 65536;
-    const QByteArray risorsa = "/printers/" + QUrl::toPercentEncoding(coda);
+    const QByteArray risorsa = "/printers/" + NomeDellaCoda(coda).toPercentEncoding();
     http_status_t stato =
         cupsSendRequest(http, domanda, risorsa.constData(),
                         ippLength(domanda) + static_cast<std::size_t>(pdf.size()));

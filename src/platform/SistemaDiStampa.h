@@ -9,7 +9,9 @@
 #include <utility>
 
 /// Conversations with the print system of the systems that have CUPS. Each uses a connection of its
-/// own that is given up when nothing comes for some seconds, where Qt's would wait for minutes.
+/// own that is given up when nothing comes for some seconds, where Qt's would wait for minutes. A
+/// queue is named as the system's default is: "queue", or "queue/instance" for the queue with the
+/// settings that the user has given to an instance of it.
 namespace SistemaDiStampa {
 
 /// False when something takes calls at the print system's address and never answers. A system that

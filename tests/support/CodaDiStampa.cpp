@@ -199,6 +199,11 @@ void CodaDiStampa::Toglie(const QString &nome)
     Comando(QStringLiteral("/usr/sbin/lpadmin"), {QStringLiteral("-x"), nome});
 }
 
+void CodaDiStampa::Imposta(const QStringList &argomenti)
+{
+    Comando(QStringLiteral("lpoptions"), argomenti);
+}
+
 void CodaDiStampa::Rifiuta(const QString &nome)
 {
     Comando(QStringLiteral("/usr/sbin/cupsreject"), {nome});

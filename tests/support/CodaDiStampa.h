@@ -39,6 +39,9 @@ public:
     void Aggiunge(const QString &nome, const Bordi &bordi, const QStringList &opzioni = {});
     void Predefinita(const QString &nome);
     void Toglie(const QString &nome);
+    /// What a user sets for a queue or an instance of it ("queue/instance"), in the home folder
+    /// that the environment names: arguments of lpoptions.
+    void Imposta(const QStringList &argomenti);
     /// The queue takes no jobs any more.
     void Rifiuta(const QString &nome);
     /// Stops the server where it stands: it takes calls and answers none. Riprende ends that.

@@ -1,0 +1,94 @@
+#include "print/FoglioDiProva.h"
+#include "support/CodaDiStampa.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <optional>
+
+using namespace ImmaginiDiProva;
+
+namespace {
+
+constexpr double MillimetriPerPunto = 25.4 / 72;
+constexpr CodaDiStampa::Bordi Bordi{10.3, 7.6, 20.9, 30.2};
+
+const QString Prova = QStringLiteral("Prova");
+const QString Istanza = QStringLiteral("Prova/istanza");
+
+} // namespace
+
+/// The test print on a real print queue for which the user has settings of their own, measured on
+/// the sheet that comes out of it.
+class tst_ImpostazioniDiStampa : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void istanzaPredefinita();
+
+private:
+    /// Prints and gives the only sheet back.
+    LettorePdf Stampa(FoglioDiProva &foglio);
+
+    QTemporaryDir casa_;
+    std::optional<CodaDiStampa> coda_;
+};
+
+void tst_ImpostazioniDiStampa::initTestCase()
+{
+    if (!CodaDiStampa::Installata()) {
+        QSKIP("CUPS and its PDF printer (packages cups, printer-driver-cups-pdf) are missing");
+    }
+    try {
+        coda_.emplace();
+    } catch (const std::exception &errore) {
+        QFAIL(errore.what());
+    }
+    qputenv("CUPS_SERVER", coda_->Server().toUtf8());
+    qputenv("HOME", QFile::encodeName(casa_.path()));
+    qunsetenv("LPDEST");
+    qunsetenv("PRINTER");
+}
+
+void tst_ImpostazioniDiStampa::init()
+{
+    QFile::remove(casa_.filePath(QStringLiteral(".cups/lpoptions")));
+    coda_->Aggiunge(Prova, Bordi);
+    coda_->Predefinita(Prova);
+}
+
+LettorePdf tst_ImpostazioniDiStampa::Stampa(FoglioDiProva &foglio)
+{
+    const auto stampante = Stampanti::Predefinita();
+    StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
+                  [&](const QString &testo) { foglio.Avvisi.append(testo); });
+    const QStringList fogli = coda_->Fogli();
+    if (fogli.size() != 1) {
+        qFatal("%d sheets instead of one", int(fogli.size()));
+    }
+    return LettorePdf(fogli.first());
+}
+
+void tst_ImpostazioniDiStampa::istanzaPredefinita()
+{
+    coda_->Imposta({QStringLiteral("-p"), Istanza, QStringLiteral("-o"), QStringLiteral("media=A5"),
+                    QStringLiteral("-o"), QStringLiteral("orientation-requested=4")});
+    coda_->Imposta({QStringLiteral("-d"), Istanza});
+    const auto stampante = Stampanti::Predefinita();
+    const QSizeF area =
+        stampante->Dispositivo().pageLayout().paintRect(QPageLayout::Millimeter).size();
+    QVERIFY(area.width() > area.height());
+    FoglioDiProva foglio;
+    foglio.ConCornice({130, 20, 40, 10}, 1.5); // beyond the width of an upright sheet
+    const LettorePdf pdf = Stampa(foglio);
+    QVERIFY(Vicini(pdf.Foglio().width(), 148, 0.6)); // its own whole points
+    QVERIFY(Vicini(pdf.Foglio().height(), 210, 0.6));
+    const QRectF quadro = pdf.Inchiostro();
+    QVERIFY2(Vicini(quadro.width(), 10.5) && Vicini(quadro.height(), 40.5), Testo(quadro));
+}
+
+QTEST_MAIN(tst_ImpostazioniDiStampa)
+#include "tst_ImpostazioniDiStampa.moc"
