@@ -41,6 +41,14 @@ ErroreSistema NonRisponde()
                                  "\nControllare la stampante e ripetere."));
 }
 
+constexpr const char *CodaChiusa = "la coda rifiuta nuovi lavori.";
+constexpr const char *CodaVietata = "a questo utente la coda non è permessa.";
+constexpr const char *SpoolPieno =
+    "lo spazio per i lavori di stampa (spool) è esaurito, o il foglio vi occuperebbe più del "
+    "permesso.";
+constexpr const char *ConnessioneCifrata =
+    "la connessione cifrata con il sistema di stampa non riesce.";
+
 ErroreSistema NonPresa(const QString &coda, const QString &motivo)
 {
     return Errore(QStringLiteral("La stampante \"%1\" non ha accettato la stampa: %2\nIl foglio "
@@ -48,16 +56,52 @@ ErroreSistema NonPresa(const QString &coda, const QString &motivo)
                       .arg(coda, motivo));
 }
 
+struct Rifiuto
+{
+    ipp_status_t Stato;
+    const char *Motivo;
+};
+
+/// The print system's own words are mostly English, and some name another reason than the true one.
+constexpr std::array Rifiuti{
+    Rifiuto{IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, CodaChiusa},
+    Rifiuto{IPP_STATUS_ERROR_NOT_FOUND, "la coda non esiste più."},
+    Rifiuto{IPP_STATUS_ERROR_GONE, "la coda non esiste più."},
+    Rifiuto{IPP_STATUS_ERROR_PRINTER_IS_DEACTIVATED, "la coda è disattivata."},
+    Rifiuto{IPP_STATUS_ERROR_NOT_POSSIBLE,
+            "la quota di stampa è esaurita, o i lavori in attesa sono troppi."},
+    Rifiuto{IPP_STATUS_ERROR_ACCOUNT_LIMIT_REACHED, "la quota di stampa è esaurita."},
+    Rifiuto{IPP_STATUS_ERROR_CUPS_ACCOUNT_LIMIT_REACHED, "la quota di stampa è esaurita."},
+    Rifiuto{IPP_STATUS_ERROR_TOO_MANY_JOBS, "i lavori in attesa sono troppi."},
+    Rifiuto{IPP_STATUS_ERROR_FORBIDDEN, CodaVietata},
+    Rifiuto{IPP_STATUS_ERROR_NOT_AUTHENTICATED, CodaVietata},
+    Rifiuto{IPP_STATUS_ERROR_NOT_AUTHORIZED, CodaVietata},
+    Rifiuto{IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED, CodaVietata},
+    Rifiuto{IPP_STATUS_ERROR_REQUEST_ENTITY, SpoolPieno},
+    Rifiuto{IPP_STATUS_ERROR_REQUEST_VALUE, SpoolPieno}, // what HTTP's 413 is turned into
+    Rifiuto{IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED, "la coda non stampa documenti PDF."},
+    Rifiuto{IPP_STATUS_ERROR_ATTRIBUTES_OR_VALUES,
+            "una delle impostazioni della coda non è valida."},
+    Rifiuto{IPP_STATUS_ERROR_CONFLICTING, "le impostazioni della coda si contraddicono."},
+    Rifiuto{IPP_STATUS_ERROR_BUSY, "il sistema di stampa è occupato."},
+    Rifiuto{IPP_STATUS_ERROR_TEMPORARY, "il sistema di stampa ha un guasto passeggero."},
+    Rifiuto{IPP_STATUS_ERROR_SERVICE_UNAVAILABLE, "il sistema di stampa non è disponibile."},
+    Rifiuto{IPP_STATUS_ERROR_INTERNAL, "il sistema di stampa ha un guasto."},
+    Rifiuto{IPP_STATUS_ERROR_DEVICE, "la stampante ha un guasto."},
+    Rifiuto{IPP_STATUS_ERROR_CUPS_PKI, ConnessioneCifrata},
+    Rifiuto{IPP_STATUS_ERROR_CUPS_UPGRADE_REQUIRED, ConnessioneCifrata},
+};
+
 QString Motivo()
 {
-    switch (cupsLastError()) {
-    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
-        return QStringLiteral("la coda rifiuta nuovi lavori.");
-    case IPP_STATUS_ERROR_NOT_FOUND:
-        return QStringLiteral("la coda non esiste più.");
-    default:
-        return QString::fromUtf8(cupsLastErrorString());
-    }
+    constexpr int Cifre = 4;
+    constexpr int Esadecimale = 16;
+    const ipp_status_t stato = cupsLastError();
+    const auto *const noto = std::find_if(Rifiuti.begin(), Rifiuti.end(),
+                                          [&](const Rifiuto &r) { return r.Stato == stato; });
+    return noto != Rifiuti.end() ? QString::fromUtf8(noto->Motivo)
+                                 : QStringLiteral("il sistema di stampa dà il codice %1.")
+                                       .arg(int(stato), Cifre, Esadecimale, QChar(u'0'));
 }
 
 /// Null when nobody is there.
@@ -256,7 +300,7 @@ void SistemaDiStampa::Prepara(const QString &coda)
     const Risposta risposta = Chiede(connessione.get(), coda, Attributi);
     ipp_attribute_t *accetta = ippFindAttribute(risposta.get(), Attributi.front(), IPP_TAG_BOOLEAN);
     if (accetta != nullptr && ippGetBoolean(accetta, 0) == 0) {
-        throw NonPresa(coda, QStringLiteral("la coda rifiuta nuovi lavori."));
+        throw NonPresa(coda, QString::fromUtf8(CodaChiusa));
     }
 }
 

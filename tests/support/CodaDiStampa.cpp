@@ -209,6 +209,12 @@ void CodaDiStampa::Rifiuta(const QString &nome)
     Comando(QStringLiteral("/usr/sbin/cupsreject"), {nome});
 }
 
+void CodaDiStampa::Vieta(const QString &nome, const QString &utente)
+{
+    Comando(QStringLiteral("/usr/sbin/lpadmin"),
+            {QStringLiteral("-p"), nome, QStringLiteral("-u"), QStringLiteral("deny:") + utente});
+}
+
 void CodaDiStampa::SiBlocca()
 {
     if (kill(pid_t(server_.processId()), SIGSTOP) != 0) {

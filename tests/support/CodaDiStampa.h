@@ -44,6 +44,8 @@ public:
     void Imposta(const QStringList &argomenti);
     /// The queue takes no jobs any more.
     void Rifiuta(const QString &nome);
+    /// Lets one user not print on the queue; "none" is nobody.
+    void Vieta(const QString &nome, const QString &utente);
     /// Stops the server where it stands: it takes calls and answers none. Riprende ends that.
     void SiBlocca();
     void Riprende();
