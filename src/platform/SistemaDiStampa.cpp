@@ -17,9 +17,13 @@
 
 namespace {
 
-/// A print costs two conversations that may find a silent system, and the user waits for both.
-constexpr int AttesaSecondi = 3;
-constexpr int AttesaMillisecondi = 1000 * AttesaSecondi;
+// Seconds. A system that hangs is given up at the first silence, so that the user never waits
+// longer than for a connection and the longest answer. That is the one to the print itself: the
+// system answers when it has stored all of it, and an answer that is missed leaves the sheet's fate
+// open.
+constexpr int AttesaDomanda = 3;
+constexpr int AttesaLavoro = 7;
+constexpr int Secondo = 1000;              // ms
 constexpr double UnitaPerMillimetro = 100; ///< sheets are measured in hundredths of a millimetre
 
 struct Rilascia
@@ -35,7 +39,7 @@ ErroreSistema Errore(const QString &testo)
     return {ErroreSistema::Stampante, testo};
 }
 
-ErroreSistema NonRisponde()
+ErroreSistema NonSiSa()
 {
     return Errore(QStringLiteral("Il sistema di stampa non risponde: non si sa se il foglio uscirà."
                                  "\nControllare la stampante e ripetere."));
@@ -104,22 +108,22 @@ QString Motivo()
                                        .arg(int(stato), Cifre, Esadecimale, QChar(u'0'));
 }
 
-/// Null when nobody is there.
-Connessione Connette()
+/// Null when nobody is there. silenzio: seconds without a word after which it is given up.
+Connessione Connette(int silenzio = AttesaDomanda)
 {
     Connessione connessione(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                         cupsEncryption(), 1, AttesaMillisecondi, nullptr));
+                                         cupsEncryption(), 1, AttesaDomanda * Secondo, nullptr));
     if (connessione) {
-        httpSetTimeout(connessione.get(), AttesaSecondi, nullptr, nullptr);
+        httpSetTimeout(connessione.get(), silenzio, nullptr, nullptr);
     }
     return connessione;
 }
 
-Connessione ConnetteAdOgniCosto()
+Connessione ConnetteAdOgniCosto(int silenzio = AttesaDomanda)
 {
-    Connessione connessione = Connette();
+    Connessione connessione = Connette(silenzio);
     if (!connessione) {
-        throw NonRisponde();
+        throw SistemaDiStampa::NonRisponde();
     }
     return connessione;
 }
@@ -153,7 +157,7 @@ Risposta Chiede(http_t *http, const QString &coda, const std::array<const char *
                   nullptr, attributi.data());
     Risposta risposta(cupsDoRequest(http, domanda, "/")); // which frees the question
     if (!risposta) {
-        throw NonRisponde();
+        throw SistemaDiStampa::NonRisponde();
     }
     if (cupsLastError() >= IPP_STATUS_ERROR_BAD_REQUEST) {
         throw NonPresa(coda, Motivo());
@@ -256,13 +260,19 @@ Risposta Spedisce(http_t *http, ipp_t *domanda, const QString &coda, const QByte
 
 } // namespace
 
+ErroreSistema SistemaDiStampa::NonRisponde()
+{
+    return Errore(QStringLiteral("Il sistema di stampa non risponde.\nControllare la stampante e "
+                                 "ripetere; nulla è stato stampato."));
+}
+
 bool SistemaDiStampa::Risponde()
 {
     QElapsedTimer tempo;
     tempo.start();
     const Connessione connessione = Connette();
     if (!connessione) {
-        return !tempo.hasExpired(AttesaMillisecondi / 2);
+        return !tempo.hasExpired(AttesaDomanda * Secondo / 2);
     }
     const Risposta risposta(
         cupsDoRequest(connessione.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
@@ -307,7 +317,7 @@ void SistemaDiStampa::Prepara(const QString &coda)
 void SistemaDiStampa::Consegna(const QString &coda, const QString &titolo,
                                const Impostazioni &impostazioni, const QByteArray &pdf)
 {
-    const Connessione connessione = ConnetteAdOgniCosto();
+    const Connessione connessione = ConnetteAdOgniCosto(AttesaLavoro);
     const OpzioniDelLavoro opzioni(impostazioni);
     const Risposta domanda(Domanda(IPP_OP_PRINT_JOB, coda));
     ippAddString(domanda.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
@@ -319,8 +329,8 @@ void SistemaDiStampa::Consegna(const QString &coda, const QString &titolo,
     QElapsedTimer tempo;
     tempo.start();
     const Risposta risposta = Spedisce(connessione.get(), domanda.get(), coda, pdf);
-    if (!risposta && tempo.hasExpired(AttesaMillisecondi)) {
-        throw NonRisponde(); // the library does not tell silence from a refusal
+    if (!risposta && tempo.hasExpired(AttesaLavoro * Secondo)) {
+        throw NonSiSa(); // the library does not tell silence from a refusal
     }
     if (!risposta || ippGetStatusCode(risposta.get()) > IPP_STATUS_OK_CONFLICTING) {
         throw NonPresa(coda, Motivo());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/ErroreSistema.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QSizeF>
@@ -17,6 +19,9 @@ namespace SistemaDiStampa {
 /// False when something takes calls at the print system's address and never answers. A system that
 /// is not there at all gives true: it has no printers, and says so at once.
 bool Risponde();
+
+/// What to say of a system that is silent before anything has been given to it.
+ErroreSistema NonRisponde();
 
 /// Names and values of what a queue does unasked, or is asked for one job.
 using Impostazioni = QList<std::pair<QByteArray, QByteArray>>;

@@ -120,9 +120,7 @@ std::unique_ptr<Destinazione> Stampanti::Predefinita()
 {
     // Before Qt asks, which cannot be given up once it has begun.
     if (!SistemaDiStampa::Risponde()) {
-        throw ErroreSistema(ErroreSistema::Stampante,
-                            QStringLiteral("Il sistema di stampa non risponde.\nControllare la "
-                                           "stampante e ripetere; nulla è stato stampato."));
+        throw SistemaDiStampa::NonRisponde();
     }
     const std::unique_ptr<QPrinter> stampante = NativaPredefinita();
     const QString coda = stampante->printerName();

@@ -17,8 +17,8 @@ inline constexpr int FontAlMassimo = 2000;
 QStringList ElencoFont();
 
 /// The default printer's own page at its highest resolution, origin at the printable corner, no
-/// fitting. Throws ErroreSistema 482 when there is none or when the print system does not answer
-/// within ten seconds.
+/// fitting. Throws ErroreSistema 482 when there is none or when the print system is silent, which a
+/// few seconds tell; the sheet's delivery, last of all, waits for its answer up to ten seconds.
 std::unique_ptr<Destinazione> Predefinita();
 
 /// Writes an A4 sheet without margins to a PDF file, pictures lossless. Asks no print system.

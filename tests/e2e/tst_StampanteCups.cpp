@@ -4,6 +4,8 @@
 
 #include <QElapsedTimer>
 #include <QTest>
+#include <QThread>
+#include <QTimer>
 
 #include <cmath>
 #include <functional>
@@ -62,6 +64,7 @@ private slots:
     void cartellaTemporaneaMancante();
     void serverBloccato_data();
     void serverBloccato();
+    void serverLento();
     void serverMorto();
 
 private:
@@ -502,6 +505,25 @@ void tst_StampanteCups::serverBloccato()
     QVERIFY2(attesa < AlMassimo, qPrintable(QString::number(attesa)));
     coda_->Fogli();
     QCOMPARE(ErroreStampando(), QString()); // and it serves again
+    QCOMPARE(coda_->Fogli().size(), 1);
+}
+
+void tst_StampanteCups::serverLento()
+{
+    constexpr int Lentezza = 5000; // ms
+    QThread altrove;               // this one waits for the printer
+    QObject sveglia;
+    sveglia.moveToThread(&altrove);
+    altrove.start();
+    const QString errore = ErroreStampando([&] {
+        coda_->SiBlocca();
+        QMetaObject::invokeMethod(
+            &sveglia, [&] { QTimer::singleShot(Lentezza, &sveglia, [&] { coda_->Riprende(); }); });
+    });
+    altrove.quit();
+    altrove.wait();
+    coda_->Riprende();
+    QCOMPARE(errore, QString());
     QCOMPARE(coda_->Fogli().size(), 1);
 }
 
