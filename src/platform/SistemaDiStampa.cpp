@@ -26,6 +26,8 @@ constexpr int AttesaLavoro = 7;
 constexpr int Secondo = 1000;              // ms
 constexpr double UnitaPerMillimetro = 100; ///< sheets are measured in hundredths of a millimetre
 
+constexpr const char *Orientamento = "orientation-requested";
+
 struct Rilascia
 {
     void operator()(http_t *http) const { httpClose(http); }
@@ -188,6 +190,29 @@ std::optional<QSizeF> MisuraDi(ipp_t *risposta)
     return lunghi.isEmpty() ? std::nullopt : std::optional(lunghi / UnitaPerMillimetro);
 }
 
+/// The old name for a sheet that lies, "landscape", becomes the one by which all else goes: it wins
+/// over the queue's own, and would turn a page that lies already once more.
+void TraduceOrizzontale(SistemaDiStampa::Impostazioni &impostazioni)
+{
+    static constexpr std::array Negazioni{"false", "off", "no"};
+    const auto si = [](const QByteArray &valore) {
+        return std::none_of(Negazioni.begin(), Negazioni.end(), [&](const char *negazione) {
+            return valore.compare(negazione, Qt::CaseInsensitive) == 0;
+        });
+    };
+    const auto vecchio = std::find_if(impostazioni.cbegin(), impostazioni.cend(),
+                                      [](const auto &i) { return i.first == "landscape"; });
+    if (vecchio == impostazioni.cend()) {
+        return;
+    }
+    const bool orizzontale = si(vecchio->second);
+    impostazioni.erase(vecchio);
+    if (orizzontale) {
+        impostazioni.removeIf([](const auto &i) { return i.first == Orientamento; });
+        impostazioni.emplace_back(Orientamento, QByteArray::number(IPP_ORIENT_LANDSCAPE));
+    }
+}
+
 /// The settings that the user has given the queue, but those that would scale or crowd the sheet.
 /// All queues are asked for, because a library that misses one goes to look for it on the network,
 /// for as long as that takes.
@@ -210,6 +235,7 @@ SistemaDiStampa::Impostazioni ImpostazioniDi(http_t *http, const QString &coda)
         }
     }
     cupsFreeDests(numero, code);
+    TraduceOrizzontale(impostazioni);
     return impostazioni;
 }
 
@@ -290,7 +316,7 @@ SistemaDiStampa::FoglioDellaCoda SistemaDiStampa::ChiedeFoglio(const QString &co
     foglio.DellUtente = ImpostazioniDi(connessione.get(), coda);
     QByteArray verso;
     for (const auto &[nome, valore] : std::as_const(foglio.DellUtente)) {
-        if (nome == "orientation-requested") {
+        if (nome == Orientamento) {
             verso = valore;
         }
     }

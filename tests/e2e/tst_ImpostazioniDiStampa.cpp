@@ -28,6 +28,8 @@ private slots:
     void initTestCase();
     void init();
     void istanzaPredefinita();
+    void orizzontale_data();
+    void orizzontale();
 
 private:
     /// Prints and gives the only sheet back.
@@ -88,6 +90,34 @@ void tst_ImpostazioniDiStampa::istanzaPredefinita()
     QVERIFY(Vicini(pdf.Foglio().height(), 210, 0.6));
     const QRectF quadro = pdf.Inchiostro();
     QVERIFY2(Vicini(quadro.width(), 10.5) && Vicini(quadro.height(), 40.5), Testo(quadro));
+}
+
+void tst_ImpostazioniDiStampa::orizzontale_data()
+{
+    QTest::addColumn<QString>("impostazione");
+    QTest::addColumn<bool>("giace");
+    QTest::newRow("new name") << QStringLiteral("orientation-requested=4") << true;
+    QTest::newRow("old name") << QStringLiteral("landscape") << true;
+    QTest::newRow("old name, denied") << QStringLiteral("landscape=no") << false;
+}
+
+void tst_ImpostazioniDiStampa::orizzontale()
+{
+    QFETCH(QString, impostazione);
+    QFETCH(bool, giace);
+    coda_->Imposta({QStringLiteral("-p"), Prova, QStringLiteral("-o"), impostazione});
+    FoglioDiProva foglio;
+    foglio.ConCornice({140, 20, 40, 10}, 1.5);
+    const LettorePdf pdf = Stampa(foglio);
+    QVERIFY(Vicini(pdf.Foglio().width(), 210, 0.3));
+    // A page that lies is turned to the left on the upright sheet.
+    const QRectF atteso = giace
+                              ? QRectF(Bordi.Sinistra * MillimetriPerPunto + 20,
+                                       (842 - Bordi.Sotto) * MillimetriPerPunto - 180.5, 10.5, 40.5)
+                              : QRectF(Bordi.Sinistra * MillimetriPerPunto + 140,
+                                       Bordi.Sopra * MillimetriPerPunto + 20, 40.5, 10.5);
+    const QRectF quadro = pdf.Inchiostro();
+    QVERIFY2(Vicini(quadro, atteso), Testo(quadro));
 }
 
 QTEST_MAIN(tst_ImpostazioniDiStampa)
