@@ -26,6 +26,8 @@ constexpr int AttesaLavoro = 7;
 constexpr int Secondo = 1000;              // ms
 constexpr double UnitaPerMillimetro = 100; ///< sheets are measured in hundredths of a millimetre
 
+constexpr const char *PropriaCarta = "media-col-default";
+constexpr const char *Carte = "media-size-supported";
 constexpr const char *Orientamento = "orientation-requested";
 
 struct Rilascia
@@ -173,21 +175,30 @@ int Intero(ipp_t *raccolta, const char *nome)
     return valore == nullptr ? 0 : ippGetInteger(valore, 0);
 }
 
-std::optional<QSizeF> MisuraDi(ipp_t *risposta)
+/// One that is a range, or that is missing, gives an empty size.
+QSizeF MisuraDi(ipp_t *lati)
 {
-    ipp_attribute_t *carta =
-        ippFindAttribute(risposta, "media-col-default", IPP_TAG_BEGIN_COLLECTION);
-    if (carta == nullptr) {
-        return std::nullopt;
+    return QSizeF(Intero(lati, "x-dimension"), Intero(lati, "y-dimension")) / UnitaPerMillimetro;
+}
+
+QList<QSizeF> MisureDi(ipp_t *risposta)
+{
+    QList<QSizeF> misure;
+    ipp_attribute_t *carta = ippFindAttribute(risposta, PropriaCarta, IPP_TAG_BEGIN_COLLECTION);
+    ipp_attribute_t *propria =
+        carta == nullptr
+            ? nullptr
+            : ippFindAttribute(ippGetCollection(carta, 0), "media-size", IPP_TAG_BEGIN_COLLECTION);
+    ipp_attribute_t *tutte = ippFindAttribute(risposta, Carte, IPP_TAG_BEGIN_COLLECTION);
+    for (ipp_attribute_t *elenco : {propria, tutte}) {
+        for (int i = 0; elenco != nullptr && i < ippGetCount(elenco); ++i) {
+            const QSizeF misura = MisuraDi(ippGetCollection(elenco, i));
+            if (!misura.isEmpty()) {
+                misure.append(misura);
+            }
+        }
     }
-    ipp_attribute_t *misura =
-        ippFindAttribute(ippGetCollection(carta, 0), "media-size", IPP_TAG_BEGIN_COLLECTION);
-    if (misura == nullptr) {
-        return std::nullopt;
-    }
-    ipp_t *lati = ippGetCollection(misura, 0);
-    const QSizeF lunghi(Intero(lati, "x-dimension"), Intero(lati, "y-dimension"));
-    return lunghi.isEmpty() ? std::nullopt : std::optional(lunghi / UnitaPerMillimetro);
+    return misure;
 }
 
 /// The old name for a sheet that lies, "landscape", becomes the one by which all else goes: it wins
@@ -307,12 +318,12 @@ bool SistemaDiStampa::Risponde()
 
 SistemaDiStampa::FoglioDellaCoda SistemaDiStampa::ChiedeFoglio(const QString &coda)
 {
-    constexpr std::array<const char *, 2> Attributi{"media-col-default",
+    constexpr std::array<const char *, 3> Attributi{PropriaCarta, Carte,
                                                     "landscape-orientation-requested-preferred"};
     const Connessione connessione = ConnetteAdOgniCosto();
     const Risposta risposta = Chiede(connessione.get(), coda, Attributi);
     FoglioDellaCoda foglio;
-    foglio.Misura = MisuraDi(risposta.get());
+    foglio.Misure = MisureDi(risposta.get());
     foglio.DellUtente = ImpostazioniDi(connessione.get(), coda);
     QByteArray verso;
     for (const auto &[nome, valore] : std::as_const(foglio.DellUtente)) {

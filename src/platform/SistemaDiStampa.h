@@ -7,7 +7,6 @@
 #include <QSizeF>
 #include <QString>
 
-#include <optional>
 #include <utility>
 
 /// Conversations with the print system of the systems that have CUPS. Each uses a connection of its
@@ -29,10 +28,10 @@ using Impostazioni = QList<std::pair<QByteArray, QByteArray>>;
 /// What the queue prints on when nothing is asked of it.
 struct FoglioDellaCoda
 {
-    std::optional<QSizeF> Misura; ///< mm, upright; nothing when the queue does not tell
-    bool Orizzontale = false;     ///< the sheet is used with its long side across
-    bool InSensoOrario = false;   ///< ... and turned to the right for it
-    Impostazioni DellUtente;      ///< what else the user has set for the queue
+    QList<QSizeF> Misure;       ///< mm, upright: all that it takes, its own first, as it tells
+    bool Orizzontale = false;   ///< the sheet is used with its long side across
+    bool InSensoOrario = false; ///< ... and turned to the right for it
+    Impostazioni DellUtente;    ///< what else the user has set for the queue
 };
 
 /// Throws ErroreSistema 482 when the queue does not answer or is unknown.

@@ -50,6 +50,7 @@ std::unique_ptr<Destinazione> Stampanti::Predefinita()
 #include <QBuffer>
 #include <QPdfWriter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -91,18 +92,24 @@ private:
     QPdfWriter scrittore_;
 };
 
-/// The page of the printer object, but of the very size that the queue knows: a PDF that differs by
-/// a point is centred on the sheet, half a point off.
+/// The page of the printer object, but of the very size that the queue knows for it: a PDF that
+/// differs by a point is centred on the sheet, half a point off.
 QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDellaCoda &coda)
 {
     constexpr double StessoFoglio = 1; // mm
     QPageLayout foglio = stampante.pageLayout();
     const QMarginsF margini = foglio.margins(QPageLayout::Point);
     const QSizeF misura = foglio.pageSize().size(QPageSize::Millimeter);
-    if (coda.Misura && std::abs(coda.Misura->width() - misura.width()) < StessoFoglio &&
-        std::abs(coda.Misura->height() - misura.height()) < StessoFoglio) {
+    const auto scarto = [&](const QSizeF &nota) {
+        return std::max(std::abs(nota.width() - misura.width()),
+                        std::abs(nota.height() - misura.height()));
+    };
+    const auto nota =
+        std::min_element(coda.Misure.begin(), coda.Misure.end(),
+                         [&](const QSizeF &a, const QSizeF &b) { return scarto(a) < scarto(b); });
+    if (nota != coda.Misure.end() && scarto(*nota) < StessoFoglio) {
         foglio.setPageSize(
-            QPageSize(*coda.Misura, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+            QPageSize(*nota, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
     }
     if (!coda.Orizzontale) {
         return {foglio.pageSize(), QPageLayout::Portrait, margini, QPageLayout::Point};

@@ -28,6 +28,8 @@ private slots:
     void initTestCase();
     void init();
     void istanzaPredefinita();
+    void carta_data();
+    void carta();
     void orizzontale_data();
     void orizzontale();
 
@@ -90,6 +92,33 @@ void tst_ImpostazioniDiStampa::istanzaPredefinita()
     QVERIFY(Vicini(pdf.Foglio().height(), 210, 0.6));
     const QRectF quadro = pdf.Inchiostro();
     QVERIFY2(Vicini(quadro.width(), 10.5) && Vicini(quadro.height(), 40.5), Testo(quadro));
+}
+
+void tst_ImpostazioniDiStampa::carta_data()
+{
+    QTest::addColumn<QString>("media");
+    QTest::addColumn<QSizeF>("punti"); // of the description, on which the queue lays the page
+    QTest::newRow("A5") << QStringLiteral("media=A5") << QSizeF(421, 595);
+    QTest::newRow("Letter") << QStringLiteral("media=Letter") << QSizeF(612, 792);
+    QTest::newRow("A3") << QStringLiteral("media=A3") << QSizeF(842, 1191);
+}
+
+void tst_ImpostazioniDiStampa::carta()
+{
+    QFETCH(QString, media);
+    QFETCH(QSizeF, punti);
+    coda_->Imposta({QStringLiteral("-p"), Prova, QStringLiteral("-o"), media});
+    const auto stampante = Stampanti::Predefinita();
+    const QSizeF foglio =
+        stampante->Dispositivo().pageLayout().pageSize().size(QPageSize::Millimeter);
+    const QSizeF atteso = punti * MillimetriPerPunto;
+    // A size that a standard one gives in whole points is that standard one.
+    QVERIFY2(Vicini(QRectF({}, foglio), QRectF({}, atteso), 0.2), Testo(QRectF({}, foglio)));
+    FoglioDiProva modello;
+    modello.ConCornice({20, 30, 60, 50}, 1.5);
+    const QPointF angolo = QPointF(Bordi.Sinistra, Bordi.Sopra) * MillimetriPerPunto;
+    const QRectF quadro = Stampa(modello).Inchiostro().translated(-angolo);
+    QVERIFY2(Vicini(quadro, QRectF(20, 30, 60.5, 50.5)), Testo(quadro));
 }
 
 void tst_ImpostazioniDiStampa::orizzontale_data()
