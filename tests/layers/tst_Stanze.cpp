@@ -1,39 +1,52 @@
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QHash>
+#include <QFileInfo>
+#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
-/// The rooms that a room may include, itself left out. Arrows only go down.
-const QHash<QString, QStringList> &Frecce()
+/// What a room may include, itself left out.
+struct Stanza
 {
-    static const QStringList finestra{QStringLiteral("base"), QStringLiteral("model"),
-                                      QStringLiteral("platform")};
-    static const QHash<QString, QStringList> frecce{
-        {QStringLiteral("base"), {}},
-        {QStringLiteral("model"), {QStringLiteral("base")}},
-        {QStringLiteral("platform"), {QStringLiteral("base")}},
-        {QStringLiteral("print"), finestra},
-        {QStringLiteral("preview"), finestra},
-        {QStringLiteral("dialogs"), finestra},
-        {QStringLiteral("catalogue"), finestra},
-        {QStringLiteral("editor"),
-         finestra + QStringList{QStringLiteral("preview"), QStringLiteral("dialogs"),
-                                QStringLiteral("print"), QStringLiteral("catalogue")}},
-    };
-    return frecce;
-}
-
-/// Rooms that know Qt Core and nothing else of Qt.
-const QSet<QString> SoloNucleo{QStringLiteral("base"), QStringLiteral("model")};
+    QStringList altre;  ///< rooms
+    QStringList moduli; ///< of Qt, without "Qt"
+};
 
 QString Leggi(const QString &percorso)
 {
     QFile file(percorso);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The table that the build reads too.
+const QMap<QString, Stanza> &Tabella()
+{
+    static const QMap<QString, Stanza> tabella = [] {
+        static const QRegularExpression riga(QStringLiteral("^([a-z]+):([^|]*)\\|(.*)$"),
+                                             QRegularExpression::MultilineOption);
+        QMap<QString, Stanza> lette;
+        auto giro = riga.globalMatch(Leggi(QStringLiteral(CARTELLA_SORGENTI "/stanze.txt")));
+        while (giro.hasNext()) {
+            const auto trovata = giro.next();
+            const auto nomi = [&](int posto) {
+                return trovata.captured(posto).split(u' ', Qt::SkipEmptyParts);
+            };
+            lette.insert(trovata.captured(1), {nomi(2), nomi(3)});
+        }
+        return lette;
+    }();
+    return tabella;
+}
+
+bool DelModulo(const QString &modulo, const QString &inclusa)
+{
+    return QFile::exists(QStringLiteral(CARTELLA_QT "/Qt%1/%2").arg(modulo, inclusa));
 }
 
 QStringList Sorgenti(const QString &cartella)
@@ -62,15 +75,19 @@ QStringList Inclusioni(const QString &percorso)
 /// Why the room may not include the header; empty when it may.
 QString Violazione(const QString &stanza, const QString &inclusa)
 {
-    const QString altra = inclusa.section(u'/', 0, 0);
-    if (inclusa.contains(u'/') && Frecce().contains(altra)) {
-        return altra == stanza || Frecce().value(stanza).contains(altra)
-                   ? QString()
-                   : QStringLiteral("no arrow from %1 to %2").arg(stanza, altra);
+    const Stanza &questa = *Tabella().constFind(stanza);
+    if (inclusa.contains(u'/')) {
+        const QString altra = inclusa.section(u'/', 0, 0);
+        if (!QFileInfo(QStringLiteral(CARTELLA_SORGENTI "/") + altra).isDir() || altra == stanza ||
+            questa.altre.contains(altra)) {
+            return {};
+        }
+        return QStringLiteral("no arrow from %1 to %2").arg(stanza, altra);
     }
-    if (SoloNucleo.contains(stanza) && inclusa.startsWith(u'Q') &&
-        !QFile::exists(QStringLiteral(CARTELLA_QTCORE "/") + inclusa)) {
-        return QStringLiteral("%1 may use Qt Core only").arg(stanza);
+    if (inclusa.startsWith(u'Q') &&
+        std::none_of(questa.moduli.begin(), questa.moduli.end(),
+                     [&](const QString &modulo) { return DelModulo(modulo, inclusa); })) {
+        return QStringLiteral("%1 may use Qt %2 only").arg(stanza, questa.moduli.join(u' '));
     }
     if (inclusa == QLatin1String("Plakera.h") || inclusa == QLatin1String("LineaDiComando.h")) {
         return QStringLiteral("a room may not know the program");
@@ -85,6 +102,7 @@ class tst_Stanze : public QObject
 {
     Q_OBJECT
 private slots:
+    void LeFrecceVannoInGiu();
     void OgniInclusioneSegueUnaFreccia_data();
     void OgniInclusioneSegueUnaFreccia();
     void IlSistemaSiNominaSoloInPlatform();
@@ -92,10 +110,28 @@ private slots:
     void UnaFrecciaVietataSiVede();
 };
 
+void tst_Stanze::LeFrecceVannoInGiu()
+{
+    QVERIFY(!Tabella().isEmpty());
+    QSet<QString> piuInBasso;
+    const QString testo = Leggi(QStringLiteral(CARTELLA_SORGENTI "/stanze.txt"));
+    for (const QString &riga : testo.split(u'\n')) {
+        const QString nome = riga.section(u':', 0, 0);
+        if (!Tabella().contains(nome)) {
+            continue;
+        }
+        for (const QString &altra : Tabella().constFind(nome)->altre) {
+            QVERIFY2(piuInBasso.contains(altra), qPrintable(nome + QStringLiteral(" -> ") + altra));
+        }
+        piuInBasso.insert(nome);
+    }
+}
+
 void tst_Stanze::OgniInclusioneSegueUnaFreccia_data()
 {
     QTest::addColumn<QString>("stanza");
-    const QStringList stanze = Frecce().keys();
+    const QStringList stanze =
+        QDir(QStringLiteral(CARTELLA_SORGENTI)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &stanza : stanze) {
         QTest::newRow(qPrintable(stanza)) << stanza;
     }
@@ -104,6 +140,7 @@ void tst_Stanze::OgniInclusioneSegueUnaFreccia_data()
 void tst_Stanze::OgniInclusioneSegueUnaFreccia()
 {
     QFETCH(const QString, stanza);
+    QVERIFY2(Tabella().contains(stanza), "a folder that the table of rooms does not know");
     const QStringList file = Sorgenti(QStringLiteral(CARTELLA_SORGENTI "/") + stanza);
     QVERIFY2(!file.isEmpty(), "the room is empty");
     QStringList violazioni;
