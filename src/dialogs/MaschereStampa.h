@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Modello.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -12,7 +14,7 @@ using SorgenteCasuale = std::function<double()>;
 /// separator, a run of "$" an alphanumeric mask, and "No" marks a field that is not printed.
 namespace MaschereStampa {
 
-inline constexpr QLatin1String NonStampata("No");
+inline constexpr QLatin1String NonStampata = Campo::MascheraNonStampata;
 
 /// The 128 entries of the catalogue in its order: mask, one blank, description.
 QStringList Catalogo();

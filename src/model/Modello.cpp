@@ -3,12 +3,19 @@
 #include "model/Numeri.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 constexpr QLatin1String FontNuovo("Arial");
 constexpr qint16 DimensioneNuova = 11;
 constexpr int CaratteriMascheraNuova = 30;
+
+/// True when the value was another.
+bool Cambia(double &valore, double nuovo)
+{
+    return std::exchange(valore, nuovo) != nuovo;
+}
 
 bool CorniceConNome(const Modello &modello, const QString &nome)
 {
@@ -61,29 +68,39 @@ int Modello::UltimoSlot(Genere genere) const
     return std::min<int>(Numero(genere), Tabella<Campo>::UltimoSlot);
 }
 
+Elemento &Modello::Di(Chiave chiave)
+{
+    return Con(chiave.genere, [&](auto &t) -> Elemento & { return t[chiave.indice]; });
+}
+
+const Elemento &Modello::Di(Chiave chiave) const
+{
+    return Con(chiave.genere, [&](const auto &t) -> const Elemento & { return t[chiave.indice]; });
+}
+
 QString &Modello::Nome(Genere genere, int indice)
 {
-    return Con(genere, [indice](auto &t) -> QString & { return t[indice].Nome; });
+    return Di({genere, indice}).Nome;
 }
 
 const QString &Modello::Nome(Genere genere, int indice) const
 {
-    return Con(genere, [indice](const auto &t) -> const QString & { return t[indice].Nome; });
+    return Di({genere, indice}).Nome;
 }
 
 double &Modello::X(Genere genere, int indice)
 {
-    return Con(genere, [indice](auto &t) -> double & { return t[indice].X; });
+    return Di({genere, indice}).X;
 }
 
 double &Modello::Y(Genere genere, int indice)
 {
-    return Con(genere, [indice](auto &t) -> double & { return t[indice].Y; });
+    return Di({genere, indice}).Y;
 }
 
 QString &Modello::Descrizione(Genere genere, int indice)
 {
-    return Con(genere, [indice](auto &t) -> QString & { return t[indice].Descrizione; });
+    return Di({genere, indice}).Descrizione;
 }
 
 bool Modello::Presente(Genere genere, int indice) const
@@ -143,18 +160,26 @@ int Modello::AggiungeImmagine(double x, double y)
     return n;
 }
 
-void Modello::Arrotonda(Genere genere, int indice)
+bool Modello::Arrotonda(Genere genere, int indice)
 {
-    if (genere == Genere::Campo) {
+    switch (genere) {
+    case Genere::Campo: {
         Campo &campo = Campi[indice];
-        campo.Y = CampoDiRiga(campo) ? Righe.yInizio : Numeri::Ar(campo.Y);
-        campo.X = Numeri::Ar(campo.X);
-    } else if (genere == Genere::Cornice) {
-        Cornice &cornice = Cornici[indice];
-        for (double *valore : {&cornice.Larghezza, &cornice.Altezza, &cornice.X, &cornice.Y}) {
-            *valore = Numeri::Ar(*valore);
-        }
+        const bool y = Cambia(campo.Y, CampoDiRiga(campo) ? Righe.yInizio : Numeri::Ar(campo.Y));
+        return Cambia(campo.X, Numeri::Ar(campo.X)) || y;
     }
+    case Genere::Cornice: {
+        Cornice &cornice = Cornici[indice];
+        bool cambiata = false;
+        for (double *valore : {&cornice.Larghezza, &cornice.Altezza, &cornice.X, &cornice.Y}) {
+            cambiata = Cambia(*valore, Numeri::Ar(*valore)) || cambiata;
+        }
+        return cambiata;
+    }
+    case Genere::Immagine:
+        break;
+    }
+    return false;
 }
 
 void Modello::ArrotondaTutti()
@@ -164,6 +189,37 @@ void Modello::ArrotondaTutti()
             Arrotonda(genere, i);
         }
     }
+}
+
+bool Campo::NonStampato() const
+{
+    return Maschera.compare(MascheraNonStampata, Qt::CaseInsensitive) == 0;
+}
+
+Cornice::Bordatura Cornice::TipoBordo() const
+{
+    const double tipo = std::trunc(Bordo);
+    if (tipo == 1) {
+        return Bordatura::Rettangolo;
+    }
+    return tipo == 2 ? Bordatura::LineaSuperiore : Bordatura::Nessuna;
+}
+
+double Cornice::SpessoreBordo() const
+{
+    constexpr double Predefinito = 0.3;
+    const double frazione = Bordo - std::trunc(Bordo);
+    return frazione == 0 ? Predefinito : frazione;
+}
+
+bool Cornice::BordoInAnteprima() const
+{
+    return Bordo >= 1;
+}
+
+bool Cornice::Ridimensionabile() const
+{
+    return Bordo != 0 && std::floor(Bordo) != 2;
 }
 
 bool CampoDiRiga(const Campo &campo)

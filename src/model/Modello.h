@@ -11,55 +11,75 @@
 inline constexpr qint16 Vero = -1;
 inline constexpr qint16 Falso = 0;
 
-/// A variable datum that Vastrel prints; members in file order. An empty Nome marks an absent
-/// element, which keeps its slot.
-struct Campo
+/// What the three kinds of element share. An empty Nome marks an absent element, which keeps its
+/// slot.
+struct Elemento
 {
     QString Nome;
+    double X = 0; ///< left edge, mm
+    double Y = 0; ///< top edge, mm
+    QString Descrizione;
+
+    bool operator==(const Elemento &) const = default;
+};
+
+/// A variable datum that Vastrel prints.
+struct Campo : Elemento
+{
     QString Testo;            ///< test text, shown on the preview and printed by the test print
-    QString Maschera;         ///< print mask; exactly "No" = not printed
-    double X = 0;             ///< left edge, mm
-    double Y = 0;             ///< top edge, mm
+    QString Maschera;         ///< print mask
     QString Font;             ///< family name
     qint16 Dimensione = 0;    ///< whole points
     qint16 Grassetto = Falso; ///< Vero or Falso
     QString MascheraDefault;
-    QString Descrizione;
+
+    /// The mask that keeps a field off the paper, as the program writes it.
+    static constexpr QLatin1String MascheraNonStampata{"No"};
+
+    /// Left out by the test print: paper takes the mask "No" in any mix of cases, as Vastrel does.
+    bool NonStampato() const;
+    /// Struck through on the preview, and switched back by the dialog's button: both know only the
+    /// mask that the program itself writes, so a "NO" typed by hand is printed by neither and shown
+    /// as any other mask.
+    bool Barrato() const { return Maschera == MascheraNonStampata; }
 
     bool operator==(const Campo &) const = default;
 };
 
-/// A rectangle, a fixed caption, or both; members in file order.
-struct Cornice
+/// A rectangle, a fixed caption, or both.
+struct Cornice : Elemento
 {
     /// Where the caption starts, mm from the frame's top-left corner, on paper and on the preview.
     static constexpr double RientroScritta = 1.0;
     static constexpr double DiscesaScritta = 0.4;
 
-    QString Nome;
     QString Testo;
-    double X = 0; ///< left edge, mm
-    double Y = 0; ///< top edge, mm
     QString Font;
     qint16 Dimensione = 0;    ///< whole points
     qint16 Grassetto = Falso; ///< Vero or Falso
-    QString Descrizione;
-    double Altezza = 0;   ///< mm
-    double Larghezza = 0; ///< mm
-    double Bordo = 0;     ///< whole part: 1 box, 2 top line, else none; fraction: thickness in mm
+    double Altezza = 0;       ///< mm
+    double Larghezza = 0;     ///< mm
+    double Bordo = 0;         ///< kind and thickness in one number, see TipoBordo
     qint16 ColoreCornice = 0; ///< palette index 0..15
     qint16 ColoreTesto = 0;   ///< palette index 0..15
+
+    enum class Bordatura { Nessuna, Rettangolo, LineaSuperiore };
+    /// What is drawn on paper: the whole part of Bordo, 1 box, 2 top line, any other none.
+    Bordatura TipoBordo() const;
+    /// Thickness on paper, mm: the fraction of Bordo, 0.3 when it has none.
+    double SpessoreBordo() const;
+    /// True when the preview shows its one thin line around the frame: for every value of 1 or
+    /// more, also those that paper draws as a top line or not at all.
+    bool BordoInAnteprima() const;
+    /// False for a label and for a top line, whose edges the mouse does not grip.
+    bool Ridimensionabile() const;
 
     bool operator==(const Cornice &) const = default;
 };
 
-/// A picture file of the models folder; members in file order.
-struct Immagine
+/// A picture file of the models folder; Nome is the file's, without folder.
+struct Immagine : Elemento
 {
-    QString Nome; ///< file name without folder
-    double X = 0; ///< left edge, mm
-    double Y = 0; ///< top edge, mm
-    QString Descrizione;
     double Altezza = 0;   ///< mm
     double Larghezza = 0; ///< mm
     double Bordo = 0;     ///< stored and edited, not used when printing
@@ -96,6 +116,21 @@ struct ImmagineSfondo
 enum class Genere { Campo, Cornice, Immagine };
 inline constexpr std::array<Genere, 3> Generi{Genere::Campo, Genere::Cornice, Genere::Immagine};
 
+/// The place of a kind in a table of the three.
+constexpr std::size_t Posto(Genere genere)
+{
+    return static_cast<std::size_t>(genere);
+}
+
+/// Which element: its kind and its slot, 1 to 100.
+struct Chiave
+{
+    Genere genere = Genere::Campo;
+    int indice = 0;
+
+    auto operator<=>(const Chiave &) const = default;
+};
+
 /// One print model: a plain value. Elements of a kind occupy slots 1 to their count; slots above
 /// the count keep what they held. The slot number is an element's identity while the model is open.
 struct Modello
@@ -128,6 +163,9 @@ struct Modello
     /// The last slot that a walk over the elements visits: the count, but never beyond the table
     /// (a refused 101st addition leaves the count at 101).
     int UltimoSlot(Genere genere) const;
+    /// What the element has in common with those of the other kinds.
+    Elemento &Di(Chiave chiave);
+    const Elemento &Di(Chiave chiave) const;
     QString &Nome(Genere genere, int indice);
     const QString &Nome(Genere genere, int indice) const;
     double &X(Genere genere, int indice); ///< mm
@@ -146,8 +184,9 @@ struct Modello
     int AggiungeImmagine(double x, double y);
 
     /// Gives the element the place at which it is shown and printed: fields and frames stand at
-    /// whole millimetres (frames' sizes too), a row field at yInizio, images where they are.
-    void Arrotonda(Genere genere, int indice);
+    /// whole millimetres (frames' sizes too), a row field at yInizio, images where they are. True
+    /// when that moved or resized it.
+    bool Arrotonda(Genere genere, int indice);
     /// Arrotonda for every element.
     void ArrotondaTutti();
 

@@ -12,16 +12,9 @@
 
 namespace {
 
-constexpr QLatin1String MascheraNonStampato("No");
 constexpr QChar RitornoCarrello(13);
 
 constexpr QPointF AngoloScritta(Cornice::RientroScritta, Cornice::DiscesaScritta);
-
-/// The whole part is the border kind; a thicker border than a single line is never shown.
-bool BordoSingolo(double bordo)
-{
-    return bordo >= 2 || std::floor(bordo) == 1;
-}
 
 } // namespace
 
@@ -44,8 +37,8 @@ void ElementiFoglio::ImpostaCampo(int i)
 {
     const Campo &campo = stato_.Aperto.Campi[i];
     Etichetta &C1 = EtichettaDi(Genere::Campo, i);
-    C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Maschera == MascheraNonStampato},
-                    campo.Testo, PuntiDiTesto(campo.Dimensione) / stato_.zoom, {0, 0});
+    C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Barrato()}, campo.Testo,
+                    PuntiDiTesto(campo.Dimensione) / stato_.zoom, {0, 0});
     C1.Colloca(QRectF(C1.Posto().topLeft(), C1.MisuraTesto()));
     C1.ImpostaSuggerimento(QStringLiteral("campo ") + campo.Nome + QStringLiteral("  - ") +
                            campo.Descrizione + QStringLiteral(" -'") + RitornoCarrello +
@@ -59,8 +52,7 @@ void ElementiFoglio::ImpostaCornice(int i)
     C2.ImpostaColore(QColor(Tavolozza::RgbONero(cornice.ColoreTesto)));
     C2.ImpostaTesto({cornice.Font, cornice.Grassetto != Falso, false}, cornice.Testo,
                     PuntiDiTesto(cornice.Dimensione) / stato_.zoom, AngoloScritta / stato_.zoom);
-    C2.ImpostaBordo(BordoSingolo(cornice.Bordo),
-                    QColor(Tavolozza::RgbONero(cornice.ColoreCornice)));
+    C2.ImpostaBordo(cornice.BordoInAnteprima(), QColor(Tavolozza::RgbONero(cornice.ColoreCornice)));
     QString suggerimento = QStringLiteral("Cornice ") + cornice.Nome;
     if (cornice.Bordo == 0) {
         suggerimento += QStringLiteral(" (senza bordo)");

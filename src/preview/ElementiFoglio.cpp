@@ -23,11 +23,6 @@ constexpr double LatoManiglia = 11;
 constexpr double LatoMinimoManiglia = 5;
 constexpr double LatoMinimoPuntabile = 4;
 
-constexpr std::size_t Posto(Genere genere)
-{
-    return static_cast<std::size_t>(genere);
-}
-
 } // namespace
 
 ElementiFoglio::ElementiFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,

@@ -76,8 +76,7 @@ bool ManiSulFoglio::Ridimensionabile(Genere genere, int i) const
     if (genere == Genere::Immagine) {
         return true;
     }
-    const double bordo = stato_.Aperto.Cornici[i].Bordo;
-    return bordo != 0 && std::floor(bordo) != 2;
+    return stato_.Aperto.Cornici[i].Ridimensionabile();
 }
 
 bool ManiSulFoglio::SulBordoSelezionato(Genere genere, QPointF punto) const

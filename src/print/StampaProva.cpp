@@ -10,11 +10,6 @@
 
 namespace {
 
-constexpr QLatin1String MascheraNonStampata("NO");
-constexpr double SpessorePredefinito = 0.3; ///< mm, of a border value without a fraction
-constexpr double TipoRettangolo = 1;
-constexpr double TipoLineaSuperiore = 2;
-
 /// Millimetres as the diagnostic shows them.
 QString Testo(double millimetri)
 {
@@ -55,7 +50,7 @@ void StampaProva::Stampa(bool StampaNome)
 void StampaProva::StampaCampo(int i, bool StampaNome)
 {
     const Campo &campo = modello_.Campi[i];
-    if (campo.Maschera.toUpper() == MascheraNonStampata) {
+    if (campo.NonStampato()) {
         return;
     }
     if (pagina_.Larghezza() < campo.X) {
@@ -72,17 +67,15 @@ void StampaProva::StampaCampo(int i, bool StampaNome)
 void StampaProva::StampaCornice(int i)
 {
     const Cornice &cornice = modello_.Cornici[i];
-    const double tipo = std::trunc(cornice.Bordo);
-    const double frazione = cornice.Bordo - tipo;
     const Etichetta etichetta{cornice.Testo, cornice.Font, cornice.Dimensione,
                               cornice.Grassetto != Falso, Tavolozza::RgbONero(cornice.ColoreTesto)};
     Linea(cornice.X, cornice.Y, cornice.X + cornice.Larghezza, cornice.Y + cornice.Altezza,
-          etichetta, Tavolozza::RgbONero(cornice.ColoreCornice), tipo,
-          frazione == 0 ? SpessorePredefinito : frazione);
+          etichetta, Tavolozza::RgbONero(cornice.ColoreCornice), cornice.TipoBordo(),
+          cornice.SpessoreBordo());
 }
 
 void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etichetta &etichetta,
-                        QRgb P, double tipo, double spessore)
+                        QRgb P, Cornice::Bordatura tipo, double spessore)
 {
     if (!etichetta.Testo.isEmpty()) {
         const QRgb prima = pagina_.Colore();
@@ -92,13 +85,13 @@ void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etiche
         pagina_.Stampa(etichetta.Testo);
         pagina_.Colore(prima);
     }
-    if (tipo == TipoRettangolo) {
+    if (tipo == Cornice::Bordatura::Rettangolo) {
         pagina_.Barra(x1, y1, x2 - x1, spessore, P);
         pagina_.Barra(x1, y1, spessore, y2 - y1, P);
         pagina_.Barra(x2, y1, spessore, y2 - y1, P);
         // Longer by its own thickness: the right bar stands beyond x2, and the corner is closed.
         pagina_.Barra(x1, y2, x2 - x1 + spessore, spessore, P);
-    } else if (tipo == TipoLineaSuperiore) {
+    } else if (tipo == Cornice::Bordatura::LineaSuperiore) {
         pagina_.Barra(x1, y1, x2 - x1, spessore, P);
     }
 }

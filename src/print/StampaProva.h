@@ -39,7 +39,7 @@ public:
     /// One frame between two corners, mm: its caption, then its border of the kind tipo (1 box, 2
     /// top line, else none), bars filled with the swatch P, spessore mm thick.
     void Linea(double x1, double y1, double x2, double y2, const Etichetta &etichetta, QRgb P,
-               double tipo, double spessore);
+               Cornice::Bordatura tipo, double spessore);
 
     /// Paints the picture file NomeFile (full path) at whole millimetres; without both sizes over
     /// the whole printable area. Throws ErroreSistema (5 for a bad size, 53, 481).

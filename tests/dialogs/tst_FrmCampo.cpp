@@ -250,16 +250,13 @@ void TestFrmCampo::RiempireDueVolteNonRaddoppiaLeListe()
 void TestFrmCampo::CaricaIlCampo()
 {
     Prova p;
-    p.Secondo() = Campo{QStringLiteral("Data"),
+    p.Secondo() = Campo{{QStringLiteral("Data"), 12.5, 40.25, QStringLiteral("data del documento")},
                         QStringLiteral("01/02/2003"),
                         QStringLiteral("$$$"),
-                        12.5,
-                        40.25,
                         QStringLiteral("Courier New"),
                         9,
                         Vero,
-                        QStringLiteral("$$$$$"),
-                        QStringLiteral("data del documento")};
+                        QStringLiteral("$$$$$")};
     p.Apre(2);
     QCOMPARE(Testo(p.dialogo, "Num"), QStringLiteral("2"));
     QCOMPARE(Testo(p.dialogo, "Nome"), QStringLiteral("Data"));
@@ -308,16 +305,13 @@ void TestFrmCampo::ConfermaScriveTuttiIValori()
     p.dialogo.Dimensioni()->setCurrentText(QStringLiteral(" 8"));
     Preme(p.dialogo, "Bold");
     Preme(p.dialogo, "PConfemaCampo");
-    const Campo atteso{QStringLiteral("R_Qta"),
+    const Campo atteso{{QStringLiteral("R_Qta"), 1.25, -3, QStringLiteral("quantità")},
                        QStringLiteral("12"),
                        QStringLiteral("###"),
-                       1.25,
-                       -3,
                        QStringLiteral("Courier New"),
                        8,
                        Vero,
-                       QStringLiteral("####"),
-                       QStringLiteral("quantità")};
+                       QStringLiteral("####")};
     QVERIFY(p.Secondo() == atteso);
     QCOMPARE(p.dialogo.result(), int(QDialog::Accepted));
     QVERIFY(!p.dialogo.isVisible());
@@ -375,16 +369,14 @@ void TestFrmCampo::AprireEConfermareNonCambiaNulla()
     for (const QLocale &locale : {QLocale::c(), QLocale(QStringLiteral("it_IT"))}) {
         QLocale::setDefault(locale);
         Prova p;
-        p.Secondo() = Campo{QStringLiteral("nome\tcon \x01 e\nriga"),
+        p.Secondo() = Campo{{QStringLiteral("nome\tcon \x01 e\nriga"), 1.0 / 3, 1e300 / 7,
+                             QStringLiteral(" a\u00A0 ")},
                             QString(40000, u'è'),
                             QString(40001, u'$'),
-                            1.0 / 3,
-                            1e300 / 7,
                             QStringLiteral("Arial"),
                             11,
                             Falso,
-                            QStringLiteral("\x7F\u0081 x"),
-                            QStringLiteral(" a\u00A0 ")};
+                            QStringLiteral("\x7F\u0081 x")};
         const Modello prima = p.stato.Aperto;
         p.Apre(2);
         Preme(p.dialogo, "PConfemaCampo");

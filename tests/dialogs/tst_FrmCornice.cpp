@@ -202,14 +202,11 @@ void TestFrmCornice::ListeDeiFontEDelleDimensioni()
 void TestFrmCornice::CaricaLaCornice()
 {
     Prova p;
-    p.Seconda() = Cornice{QStringLiteral("Box"),
+    p.Seconda() = Cornice{{QStringLiteral("Box"), 1.5, 2.5, QStringLiteral("riquadro")},
                           QStringLiteral("Spett.le"),
-                          1.5,
-                          2.5,
                           QStringLiteral("Courier New"),
                           8,
                           Vero,
-                          QStringLiteral("riquadro"),
                           30.25,
                           60.5,
                           2.2,
@@ -336,14 +333,11 @@ void TestFrmCornice::ConfermaScriveTuttiIValori()
     p.dialogo.Dimensioni()->setCurrentText(QStringLiteral(" 8"));
     Preme(p.dialogo, "Bold");
     Preme(p.dialogo, "Confema");
-    const Cornice attesa{QStringLiteral("Totali"),
+    const Cornice attesa{{QStringLiteral("Totali"), 1.25, -3, QStringLiteral("riquadro totali")},
                          QStringLiteral("Totale"),
-                         1.25,
-                         -3,
                          QStringLiteral("Courier New"),
                          8,
                          Vero,
-                         QStringLiteral("riquadro totali"),
                          8,
                          70.5,
                          2.2,

@@ -225,7 +225,7 @@ void TestFrmImmagine::CaricaLImmagine()
 {
     Prova p;
     p.Seconda() =
-        Immagine{QStringLiteral("LOGO.bmp"), 1.5, 2.5, QStringLiteral("il logo"), 30.25, 60.5, 1};
+        Immagine{{QStringLiteral("LOGO.bmp"), 1.5, 2.5, QStringLiteral("il logo")}, 30.25, 60.5, 1};
     p.Aggiunge("logo.bmp", Figura("bmp", 5, 5));
     const QList<std::pair<const char *, const char *>> attesi{
         {"Num", "2"},     {"Nome", "LOGO.bmp"}, {"X", "1.5"},   {"Y", "2.5"},
@@ -761,13 +761,11 @@ void TestFrmImmagine::AprireEConfermareNonCambiaNulla()
     for (const QLocale &locale : {QLocale::c(), QLocale(QStringLiteral("it_IT"))}) {
         QLocale::setDefault(locale);
         Prova p;
-        p.Seconda() = Immagine{QStringLiteral("nome\tcon \x01 e\nriga.jpg"),
-                               1.0 / 3,
-                               -2.0 / 3,
-                               QString(40000, u'è'),
-                               1e300 / 7,
-                               20.0 / 3,
-                               1.0 / 7};
+        p.Seconda() = Immagine{
+            {QStringLiteral("nome\tcon \x01 e\nriga.jpg"), 1.0 / 3, -2.0 / 3, QString(40000, u'è')},
+            1e300 / 7,
+            20.0 / 3,
+            1.0 / 7};
         const Modello prima = p.stato.Aperto;
         p.Apre(2);
         Preme(p.dialogo, "Confema");

@@ -67,25 +67,19 @@ void tst_FileModelloComposizione::OgniRigaDelFile()
                       QStringLiteral(" 1 "),   QStringLiteral("x"),   2};
     modello.Righe = {12.5, -230, 4, 3.25, QStringLiteral("segue")};
     modello.NumCampi = 1;
-    modello.Campi[1] = {QStringLiteral("Data"),
+    modello.Campi[1] = {{QStringLiteral("Data"), 12.5, 40, QStringLiteral("la data")},
                         QStringLiteral("città"),
                         QStringLiteral("No"),
-                        12.5,
-                        40,
                         QStringLiteral("Arial"),
                         11,
                         Vero,
-                        QStringLiteral("$$"),
-                        QStringLiteral("la data")};
+                        QStringLiteral("$$")};
     modello.NumCornici = 1;
-    modello.Cornici[1] = {QStringLiteral("Riquadro"),
+    modello.Cornici[1] = {{QStringLiteral("Riquadro"), -12.5, 0.5, QStringLiteral("il totale")},
                           QStringLiteral("Totale"),
-                          -12.5,
-                          0.5,
                           QStringLiteral("Arial"),
                           8,
                           Falso,
-                          QStringLiteral("il totale"),
                           10.5,
                           20,
                           1.5,
@@ -93,7 +87,7 @@ void tst_FileModelloComposizione::OgniRigaDelFile()
                           15};
     modello.NumImmagini = 1;
     modello.Immagini[1] = {
-        QStringLiteral("logo.jpg"), 1, 2.5, QStringLiteral("il logo"), 10.5, 50, 0.5};
+        {QStringLiteral("logo.jpg"), 1, 2.5, QStringLiteral("il logo")}, 10.5, 50, 0.5};
 
     Righe atteso{"Fattura \x80", "",      "s.bmp", "210", "297,5", " 1 ",   "x",
                  " 12.5 ",       "-230 ", " 4 ",   " 2 ", "segue", " 3.25 "};

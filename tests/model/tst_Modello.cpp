@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <cmath>
+
 #include <type_traits>
 #include <variant>
 
@@ -13,6 +15,10 @@ class tst_Modello : public QObject
     Q_OBJECT
 
 private slots:
+    void IlBordoDiceTipoESpessore_data();
+    void IlBordoDiceTipoESpessore();
+    void LaMascheraNoSiLeggeInDueModi_data();
+    void LaMascheraNoSiLeggeInDueModi();
     void ProgrammaFresco();
     void Indici_data();
     void Indici();
@@ -114,23 +120,20 @@ void tst_Modello::CampoNuovo()
     Modello modello;
     modello.NumCampi = 6;
     // What the slot held before is not the new field's.
-    modello.Campi[7] = {QStringLiteral("x"),
+    modello.Campi[7] = {{QStringLiteral("x"), 1, 2, QStringLiteral("x")},
                         QStringLiteral("x"),
                         QStringLiteral("No"),
-                        1,
-                        2,
                         QStringLiteral("x"),
                         3,
                         Vero,
-                        QStringLiteral("x"),
                         QStringLiteral("x")};
     QCOMPARE(modello.AggiungeCampo(12.5, 30), 7);
     QCOMPARE(modello.NumCampi, qint16(7));
     const QString nome = QStringLiteral("nuovocampo7");
     const QString dollari = QStringLiteral("$$$$$$$$$$$$$$$$$$$$$$$$$$$$$$");
     QCOMPARE(dollari.size(), 30);
-    const Campo atteso{nome, nome,  dollari, 12.5, 30, QStringLiteral("Arial"),
-                       11,   Falso, dollari, nome};
+    const Campo atteso{
+        {nome, 12.5, 30, nome}, nome, dollari, QStringLiteral("Arial"), 11, Falso, dollari};
     QVERIFY(modello.Campi[7] == atteso);
 }
 
@@ -139,14 +142,11 @@ void tst_Modello::CorniceNuova()
     Modello modello;
     QCOMPARE(modello.AggiungeCornice(12.5, 30, 5, 7), 1);
     QCOMPARE(modello.NumCornici, qint16(1));
-    const Cornice atteso{QStringLiteral("Nuova57"),
+    const Cornice atteso{{QStringLiteral("Nuova57"), 12.5, 30, QStringLiteral("nuovaCornice1")},
                          QStringLiteral("Nuova57"),
-                         12.5,
-                         30,
                          QStringLiteral("Arial"),
                          11,
                          Falso,
-                         QStringLiteral("nuovaCornice1"),
                          10,
                          20,
                          1,
@@ -321,10 +321,10 @@ void tst_Modello::PerGenere()
     });
     QVERIFY(modello == atteso);
 
-    using Elemento = std::variant<Campo, Cornice, Immagine>;
+    using Record = std::variant<Campo, Cornice, Immagine>;
     const Modello &costante = modello;
-    const Elemento trovato =
-        costante.Con(genere, [](const auto &tabella) { return Elemento(tabella[1]); });
+    const Record trovato =
+        costante.Con(genere, [](const auto &tabella) { return Record(tabella[1]); });
     QCOMPARE(trovato.index(), static_cast<std::size_t>(genere));
 }
 
@@ -393,6 +393,61 @@ void tst_Modello::ArrotondaLeRigheAllInizio()
     modello.ArrotondaTutti();
     QCOMPARE(modello.Campi[1].X, 11.0);
     QCOMPARE(modello.Campi[1].Y, 95.3);
+}
+
+void tst_Modello::IlBordoDiceTipoESpessore_data()
+{
+    QTest::addColumn<double>("bordo");
+    QTest::addColumn<int>("tipo");
+    QTest::addColumn<double>("spessore");
+    QTest::addColumn<bool>("inAnteprima");
+    QTest::addColumn<bool>("ridimensionabile");
+    const auto riga = [](double bordo, Cornice::Bordatura tipo, double spessore, bool inAnteprima,
+                         bool ridimensionabile) {
+        QTest::newRow(qPrintable(QString::number(bordo)))
+            << bordo << static_cast<int>(tipo) << spessore << inAnteprima << ridimensionabile;
+    };
+    riga(0, Cornice::Bordatura::Nessuna, 0.3, false, false);
+    riga(0.5, Cornice::Bordatura::Nessuna, 0.5, false, true);
+    riga(1, Cornice::Bordatura::Rettangolo, 0.3, true, true);
+    riga(1.5, Cornice::Bordatura::Rettangolo, 0.5, true, true);
+    riga(2, Cornice::Bordatura::LineaSuperiore, 0.3, true, false);
+    riga(2.2, Cornice::Bordatura::LineaSuperiore, 0.2, true, false);
+    riga(3, Cornice::Bordatura::Nessuna, 0.3, true, true);
+}
+
+void tst_Modello::IlBordoDiceTipoESpessore()
+{
+    QFETCH(const double, bordo);
+    QFETCH(const double, spessore);
+    Cornice cornice;
+    cornice.Bordo = bordo;
+    QTEST(static_cast<int>(cornice.TipoBordo()), "tipo");
+    QVERIFY(std::abs(cornice.SpessoreBordo() - spessore) < 1e-12);
+    QTEST(cornice.BordoInAnteprima(), "inAnteprima");
+    QTEST(cornice.Ridimensionabile(), "ridimensionabile");
+}
+
+void tst_Modello::LaMascheraNoSiLeggeInDueModi_data()
+{
+    QTest::addColumn<QString>("maschera");
+    QTest::addColumn<bool>("nonStampato");
+    QTest::addColumn<bool>("barrato");
+    QTest::newRow("No") << "No" << true << true;
+    QTest::newRow("no") << "no" << true << false;
+    QTest::newRow("NO") << "NO" << true << false;
+    QTest::newRow("No with a blank") << "No " << false << false;
+    QTest::newRow("none") << "" << false << false;
+    QTest::newRow("alphanumeric") << "$$" << false << false;
+}
+
+void tst_Modello::LaMascheraNoSiLeggeInDueModi()
+{
+    QFETCH(const QString, maschera);
+    Campo campo;
+    campo.Maschera = maschera;
+    QTEST(campo.NonStampato(), "nonStampato");
+    QTEST(campo.Barrato(), "barrato");
 }
 
 QTEST_GUILESS_MAIN(tst_Modello)
