@@ -1,0 +1,217 @@
+#include "documento/Documento.h"
+
+#include "documento/Passo.h"
+
+#include <QElapsedTimer>
+#include <QUndoStack>
+
+#include <utility>
+
+namespace {
+
+constexpr QLatin1String InizioEliminato(" ELIMINATO:");
+constexpr int UnioneVietata = -1; // the history's own word for a step that joins none
+constexpr int UnionePossibile = 1;
+
+} // namespace
+
+/// A step of the history. It holds the other side of its change and swaps it with the document's.
+class Documento::Fatto : public QUndoCommand
+{
+public:
+    Fatto(Documento &documento, Differenza differenza, const QString &testo, QString unione,
+          int entroMillisecondi)
+        : QUndoCommand(testo)
+        , documento_(documento)
+        , differenza_(std::move(differenza))
+        , unione_(std::move(unione))
+        , entroMillisecondi_(entroMillisecondi)
+        , unioni_(documento.unioni_)
+    {
+        eta_.start();
+    }
+
+    void undo() override { documento_.Percorre(differenza_); }
+
+    void redo() override
+    {
+        if (std::exchange(nuovo_, false)) {
+            return; // the change has been made already
+        }
+        documento_.Percorre(differenza_);
+    }
+
+    int id() const override { return unione_.isEmpty() ? UnioneVietata : UnionePossibile; }
+
+    bool mergeWith(const QUndoCommand *altro) override
+    {
+        // A step is handed over when the history takes it, and thrown away once it has joined.
+        auto *dopo = const_cast<Fatto *>(static_cast<const Fatto *>(altro));
+        if (dopo->unione_ != unione_ || dopo->unioni_ != unioni_ ||
+            (entroMillisecondi_ > 0 && eta_.elapsed() > entroMillisecondi_)) {
+            return false;
+        }
+        differenza_.Unisce(std::move(dopo->differenza_));
+        eta_.start();
+        // Typed and taken back by hand: there is nothing left to undo.
+        setObsolete(differenza_.Uguale(documento_.stato_));
+        return true;
+    }
+
+private:
+    Documento &documento_;
+    Differenza differenza_;
+    QString unione_;
+    int entroMillisecondi_;
+    int unioni_;
+    QElapsedTimer eta_;
+    bool nuovo_ = true;
+};
+
+Documento::Documento(QObject *padre)
+    : QObject(padre)
+    , storia_(std::make_unique<QUndoStack>())
+{
+    storia_->setUndoLimit(PassiTenuti);
+    connect(storia_.get(), &QUndoStack::indexChanged, this, &Documento::StoriaCambiata);
+}
+
+Documento::~Documento() = default;
+
+bool Documento::Eliminato(Chiave chiave) const
+{
+    return Voce(chiave).startsWith(InizioEliminato);
+}
+
+void Documento::Prende(Modello modello, bool variato)
+{
+    DimenticaStoria();
+    stato_ = {};
+    stato_.modello = std::move(modello);
+    stato_.modello.ArrotondaTutti();
+    tocchi_ = {};
+    tocchi_.Tipo = tocchi_.Righe = tocchi_.Sfondo = true;
+    for (const Genere genere : Generi) {
+        for (int i = 1; i <= Aperto().UltimoSlot(genere); ++i) {
+            stato_.Voce({genere, i}) = Aperto().Nome(genere, i);
+            tocchi_.Aggiunge({genere, i});
+        }
+    }
+    ImpostaVariato(variato);
+    Avvisa(Cambiamento::Origine::Apertura);
+}
+
+void Documento::ImpostaVariato(bool variato)
+{
+    if (std::exchange(variato_, variato) != variato) {
+        emit VariatoCambiato(variato);
+    }
+}
+
+void Documento::SegnaVariato()
+{
+    ImpostaVariato(true);
+}
+
+void Documento::Salvato()
+{
+    ImpostaVariato(false);
+    // Steps after a save join none before it: undoing must be able to stop at what was saved.
+    ChiudeUnione();
+    storia_->setClean();
+}
+
+void Documento::DimenticaStoria()
+{
+    storia_->clear();
+}
+
+bool Documento::PuoAnnullare() const
+{
+    return aperto_ == nullptr && storia_->canUndo();
+}
+
+bool Documento::PuoRipristinare() const
+{
+    return aperto_ == nullptr && storia_->canRedo();
+}
+
+QString Documento::TestoAnnulla() const
+{
+    return storia_->undoText();
+}
+
+QString Documento::TestoRipristina() const
+{
+    return storia_->redoText();
+}
+
+void Documento::Annulla()
+{
+    if (PuoAnnullare()) {
+        storia_->undo();
+        Conclude();
+    }
+}
+
+void Documento::Ripristina()
+{
+    if (PuoRipristinare()) {
+        storia_->redo();
+        Conclude();
+    }
+}
+
+void Documento::ChiudeUnione()
+{
+    ++unioni_;
+}
+
+void Documento::Colloca(Chiave chiave)
+{
+    if (aperto_ != nullptr) {
+        return; // in the middle of a gesture the coordinates are the mouse's
+    }
+    if (stato_.modello.Arrotonda(chiave.genere, chiave.indice)) {
+        tocchi_.Aggiunge(chiave);
+        Avvisa(Cambiamento::Origine::Comando);
+    }
+}
+
+void Documento::Avvisa(Cambiamento::Origine origine)
+{
+    if (tocchi_.Vuoto()) {
+        return;
+    }
+    // Who follows may select, and so place, an element: that is told by itself.
+    Cambiamento cambiamento = std::exchange(tocchi_, {});
+    cambiamento.origine = origine;
+    emit Cambiato(cambiamento);
+}
+
+void Documento::Conclude()
+{
+    if (std::exchange(daConcludere_, false)) {
+        emit ModificaConclusa();
+    }
+}
+
+void Documento::Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
+                         int entroMillisecondi)
+{
+    Differenza differenza(prima, stato_);
+    if (differenza.Vuota()) {
+        return;
+    }
+    storia_->push(new Fatto(*this, std::move(differenza), testo, unione, entroMillisecondi));
+    emit StoriaCambiata(); // a step that joins another does not move the history's index
+}
+
+void Documento::Percorre(Differenza &differenza)
+{
+    differenza.Scambia(stato_);
+    differenza.Segnala(tocchi_);
+    ImpostaVariato(true);
+    daConcludere_ = true;
+    Avvisa(Cambiamento::Origine::Storia);
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "documento/Cambiamento.h"
+#include "documento/StatoDocumento.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class Passo;
+class QUndoStack;
+
+/// The one open model: its only writer and its only herald. Every change happens inside a Passo,
+/// every view reads Aperto() and follows Cambiato. It knows no window.
+class Documento : public QObject
+{
+    Q_OBJECT
+public:
+    /// Undo steps that are kept; the oldest go first.
+    static constexpr int PassiTenuti = 250;
+
+    explicit Documento(QObject *padre = nullptr);
+    ~Documento() override;
+
+    const Modello &Aperto() const { return stato_.modello; }
+    /// What the editor's list of the kind shows for the element.
+    const QString &Voce(Chiave chiave) const { return stato_.Voce(chiave); }
+    /// True when the element has been deleted since the model was opened; its Voce says so.
+    bool Eliminato(Chiave chiave) const;
+
+    /// Another model is open from now on: elements stand where placing puts them, the lists show
+    /// their names, there is nothing to undo. variato: it holds work that no file holds.
+    void Prende(Modello modello, bool variato);
+
+    /// The modified flag. Undoing does not clear it: the file on disk is then another than the one
+    /// the user last confirmed, whatever the model looks like.
+    bool Variato() const { return variato_; }
+    /// As the editor's Salva does before it asks.
+    void SegnaVariato();
+    /// The model is what the file holds; the history stays.
+    void Salvato();
+    /// Nothing can be undone from here on.
+    void DimenticaStoria();
+
+    bool PuoAnnullare() const;
+    bool PuoRipristinare() const;
+    /// What the next undo or redo is about ("sposta Doc_Numero"); empty when there is none.
+    QString TestoAnnulla() const;
+    QString TestoRipristina() const;
+    /// Takes the last step back, or does it again. Nothing while a step is open: a dialog or a
+    /// gesture has to end first.
+    void Annulla();
+    void Ripristina();
+    /// A later step joins no earlier one: the text box has been left.
+    void ChiudeUnione();
+
+    /// Puts an element where its rules want it, when selecting or zooming shows it: no step of its
+    /// own and no modification. What there is to round was left by the step that last moved the
+    /// element, and goes and comes with that step.
+    void Colloca(Chiave chiave);
+
+signals:
+    void Cambiato(const Cambiamento &cambiamento);
+    /// A finished edit, undo or redo has changed the model.
+    void ModificaConclusa();
+    void VariatoCambiato(bool variato);
+    /// PuoAnnullare, PuoRipristinare or their texts are others.
+    void StoriaCambiata();
+
+private:
+    friend class Passo;
+    class Fatto;
+
+    void ImpostaVariato(bool variato);
+    void Avvisa(Cambiamento::Origine origine);
+    void Conclude();
+    void Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
+                  int entroMillisecondi);
+    void Percorre(Differenza &differenza);
+
+    StatoDocumento stato_;
+    bool variato_ = false;
+    std::unique_ptr<QUndoStack> storia_;
+    int unioni_ = 0; ///< grows when earlier steps are closed to later ones
+
+    Cambiamento tocchi_; ///< not yet told to the views
+    bool daConcludere_ = false;
+    Passo *aperto_ = nullptr; ///< the outermost open step
+};

@@ -1,0 +1,184 @@
+#include "documento/Passo.h"
+
+#include <utility>
+
+namespace {
+
+constexpr QLatin1String Eliminato(" ELIMINATO: ");
+
+} // namespace
+
+Passo::Passo(Documento &documento, const QString &testo, const Unione &unione)
+    : documento_(documento)
+    , testo_(testo)
+    , unione_(unione)
+{
+    if (documento_.aperto_ == nullptr) {
+        documento_.aperto_ = this;
+        prima_ = std::make_unique<StatoDocumento>(documento_.stato_);
+        variatoPrima_ = documento_.variato_;
+    }
+}
+
+Passo::~Passo()
+{
+    documento_.Avvisa(Cambiamento::Origine::Comando);
+    if (documento_.aperto_ == this) {
+        documento_.aperto_ = nullptr;
+        documento_.Registra(*prima_, testo_, unione_.chiave, unione_.entroMillisecondi);
+    }
+    documento_.Conclude();
+}
+
+void Passo::Nomina(const QString &testo)
+{
+    documento_.aperto_->testo_ = testo;
+}
+
+void Passo::Rinuncia()
+{
+    const Passo &primo = *documento_.aperto_;
+    Differenza differenza(*primo.prima_, documento_.stato_);
+    differenza.Scambia(documento_.stato_);
+    differenza.Segnala(documento_.tocchi_);
+    documento_.daConcludere_ = false;
+    documento_.ImpostaVariato(primo.variatoPrima_);
+    documento_.Avvisa(Cambiamento::Origine::Storia);
+}
+
+void Passo::Mostra()
+{
+    documento_.Avvisa(Cambiamento::Origine::Gesto);
+}
+
+void Passo::SegnaVariato()
+{
+    documento_.daConcludere_ = true;
+    documento_.ImpostaVariato(true);
+}
+
+void Passo::Tocca(Chiave chiave)
+{
+    documento_.tocchi_.Aggiunge(chiave);
+    SegnaVariato();
+}
+
+void Passo::ImpostaTipo(const QString &tipo)
+{
+    Aperto().Tipo = tipo;
+    documento_.tocchi_.Tipo = true;
+    SegnaVariato();
+}
+
+void Passo::ImpostaSfondo(const ImmagineSfondo &sfondo)
+{
+    Aperto().Sfondo = sfondo;
+    documento_.tocchi_.Sfondo = true;
+    SegnaVariato();
+}
+
+void Passo::ImpostaRighe(const ParametriRighe &righe)
+{
+    Aperto().Righe = righe;
+    documento_.tocchi_.Righe = true;
+    SegnaVariato();
+    for (int k = 1; k <= Aperto().UltimoSlot(Genere::Campo); ++k) {
+        if (CampoDiRiga(Aperto().Campi[k])) {
+            Colloca({Genere::Campo, k});
+        }
+    }
+}
+
+int Passo::AggiungeCampo(double x, double y)
+{
+    return Accoglie(Genere::Campo, Aperto().AggiungeCampo(x, y));
+}
+
+int Passo::AggiungeCornice(double x, double y, QTime ora)
+{
+    return Accoglie(Genere::Cornice, Aperto().AggiungeCornice(x, y, ora.minute(), ora.second()));
+}
+
+int Passo::AggiungeImmagine(double x, double y)
+{
+    return Accoglie(Genere::Immagine, Aperto().AggiungeImmagine(x, y));
+}
+
+int Passo::Accoglie(Genere genere, int n)
+{
+    const Chiave chiave{genere, n};
+    RinominaVoce(chiave);
+    Colloca(chiave);
+    return n;
+}
+
+template <typename Record>
+void Passo::ScriveRecord(Chiave chiave, Record &vecchio, const Record &nuovo)
+{
+    vecchio = nuovo;
+    Colloca(chiave);
+}
+
+void Passo::Scrive(int n, const Campo &campo)
+{
+    ScriveRecord({Genere::Campo, n}, Aperto().Campi[n], campo);
+}
+
+void Passo::Scrive(int n, const Cornice &cornice)
+{
+    ScriveRecord({Genere::Cornice, n}, Aperto().Cornici[n], cornice);
+}
+
+void Passo::Scrive(int n, const Immagine &immagine)
+{
+    ScriveRecord({Genere::Immagine, n}, Aperto().Immagini[n], immagine);
+}
+
+void Passo::RinominaVoce(Chiave chiave)
+{
+    Stato().Voce(chiave) = Aperto().Di(chiave).Nome;
+    Tocca(chiave);
+}
+
+void Passo::Elimina(Chiave chiave)
+{
+    Aperto().Di(chiave).Nome.clear();
+    QString &voce = Stato().Voce(chiave);
+    voce.prepend(Eliminato);
+    Tocca(chiave);
+}
+
+void Passo::SpostaTutti(Genere genere, double dx, double dy)
+{
+    for (int k = 1; k <= Aperto().UltimoSlot(genere); ++k) {
+        Elemento &elemento = Aperto().Di({genere, k});
+        elemento.X += dx;
+        elemento.Y += dy;
+        Colloca({genere, k});
+    }
+}
+
+void Passo::Trascina(Chiave chiave, QPointF posto)
+{
+    Elemento &elemento = Aperto().Di(chiave);
+    elemento.X = posto.x();
+    elemento.Y = posto.y();
+    Tocca(chiave);
+}
+
+void Passo::Ridimensiona(Chiave chiave, QSizeF misura)
+{
+    Aperto().Con(chiave.genere, [&](auto &tabella) {
+        if constexpr (requires { tabella[0].Larghezza; }) {
+            tabella[chiave.indice].Larghezza = misura.width();
+            tabella[chiave.indice].Altezza = misura.height();
+            Tocca(chiave);
+        }
+    });
+}
+
+void Passo::Colloca(Chiave chiave)
+{
+    Aperto().Arrotonda(chiave.genere, chiave.indice);
+    Tocca(chiave);
+}

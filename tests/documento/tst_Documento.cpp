@@ -1,0 +1,340 @@
+#include "documento/Passo.h"
+#include "support/ModelloDiProva.h"
+#include "support/Tempi.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
+namespace {
+
+constexpr Chiave Campo1{Genere::Campo, 1};
+constexpr Chiave Cornice1{Genere::Cornice, 1};
+
+/// A document with so many elements of each kind.
+struct Banco
+{
+    explicit Banco(int perGenere = 3) { documento.Prende(ModelloDiProva(perGenere), false); }
+
+    const Modello &Aperto() const { return documento.Aperto(); }
+
+    Documento documento;
+};
+
+} // namespace
+
+class tst_Documento : public QObject
+{
+    Q_OBJECT
+private slots:
+    void UnPassoCheNonCambiaNienteNonSiAnnulla();
+    void AnnullaRestituisceModelloEdElenchi();
+    void RipristinaRifa();
+    void UnElementoAggiuntoSeNeVa();
+    void UnPassoDentroUnAltroNeFaParte();
+    void RinunciaLasciaTuttoComEra();
+    void IPassiDellaStessaUnioneSonoUno();
+    void ChiusaLUnioneIPassiSonoDue();
+    void IlTestoRimessoComEraNonSiAnnulla();
+    void AnnullareNonTogliVariato();
+    void DopoUnSalvataggioAnnullareSegnaVariato();
+    void MentreUnPassoEApertoNonSiAnnulla();
+    void IlCentunesimoElementoFallisceConIlContatoreAlzato();
+    void LArrotondamentoDiChiGuardaNonEUnPasso();
+    void OgniVistaSentePerNomeCheCosaECambiato();
+    void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte();
+    void UnPassoSuTrecentoElementiCostaPoco();
+};
+
+void tst_Documento::UnPassoCheNonCambiaNienteNonSiAnnulla()
+{
+    Banco banco;
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        const QPointF posto(banco.Aperto().Campi[1].X, banco.Aperto().Campi[1].Y);
+        passo.Trascina(Campo1, posto + QPointF(30, 40));
+        passo.Mostra();
+        passo.Trascina(Campo1, posto);
+    }
+    QVERIFY(!banco.documento.PuoAnnullare());
+    // Somebody has had it in hand all the same.
+    QVERIFY(banco.documento.Variato());
+}
+
+void tst_Documento::AnnullaRestituisceModelloEdElenchi()
+{
+    Banco banco;
+    const Modello prima = banco.Aperto();
+    const QString voce = banco.documento.Voce(Campo1);
+    {
+        Passo passo(banco.documento, QStringLiteral("elimina ") + voce);
+        passo.Elimina(Campo1);
+    }
+    QVERIFY(banco.documento.Eliminato(Campo1));
+    QCOMPARE(banco.documento.Voce(Campo1), QStringLiteral(" ELIMINATO: ") + voce);
+    QVERIFY(!banco.Aperto().Presente(Genere::Campo, 1));
+    QCOMPARE(banco.documento.TestoAnnulla(), QStringLiteral("elimina ") + voce);
+
+    banco.documento.Annulla();
+
+    QVERIFY(banco.Aperto() == prima);
+    QCOMPARE(banco.documento.Voce(Campo1), voce);
+    QVERIFY(!banco.documento.PuoAnnullare());
+}
+
+void tst_Documento::RipristinaRifa()
+{
+    Banco banco;
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.SpostaTutti(Genere::Cornice, 7, -3);
+    }
+    const Modello dopo = banco.Aperto();
+    banco.documento.Annulla();
+    QVERIFY(!(banco.Aperto() == dopo));
+    banco.documento.Ripristina();
+    QVERIFY(banco.Aperto() == dopo);
+    QVERIFY(!banco.documento.PuoRipristinare());
+}
+
+void tst_Documento::UnElementoAggiuntoSeNeVa()
+{
+    Banco banco;
+    const Modello prima = banco.Aperto();
+    int n = 0;
+    {
+        Passo passo(banco.documento, QStringLiteral("aggiunge"));
+        n = passo.AggiungeCampo(12.4, 20);
+    }
+    QCOMPARE(n, 4);
+    QCOMPARE(banco.Aperto().Campi[n].X, 12.0);
+    QCOMPARE(banco.documento.Voce({Genere::Campo, n}), QStringLiteral("nuovocampo4"));
+    banco.documento.Annulla();
+    QVERIFY(banco.Aperto() == prima);
+}
+
+void tst_Documento::UnPassoDentroUnAltroNeFaParte()
+{
+    Banco banco;
+    const Modello prima = banco.Aperto();
+    QSignalSpy conclusioni(&banco.documento, &Documento::ModificaConclusa);
+    {
+        Passo visita(banco.documento, QStringLiteral("modifica"));
+        for (int i = 1; i <= 2; ++i) {
+            Passo comando(banco.documento, QStringLiteral("comando"));
+            Campo campo = banco.Aperto().Campi[i];
+            campo.Font = QStringLiteral("Courier");
+            comando.Scrive(i, campo);
+        }
+        // What is written at once is worth keeping at once.
+        QCOMPARE(conclusioni.size(), 2);
+    }
+    QCOMPARE(banco.documento.TestoAnnulla(), QStringLiteral("modifica"));
+    banco.documento.Annulla();
+    QVERIFY(banco.Aperto() == prima);
+}
+
+void tst_Documento::RinunciaLasciaTuttoComEra()
+{
+    Banco banco;
+    const Modello prima = banco.Aperto();
+    QSignalSpy conclusioni(&banco.documento, &Documento::ModificaConclusa);
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.Trascina(Cornice1, {33.3, 44.4});
+        passo.Mostra();
+        QVERIFY(banco.documento.Variato());
+        passo.Rinuncia();
+    }
+    QVERIFY(banco.Aperto() == prima);
+    QVERIFY(!banco.documento.Variato());
+    QVERIFY(!banco.documento.PuoAnnullare());
+    QCOMPARE(conclusioni.size(), 0);
+}
+
+void tst_Documento::IPassiDellaStessaUnioneSonoUno()
+{
+    Banco banco;
+    const QString prima = banco.Aperto().Tipo;
+    for (const QString &testo :
+         {QStringLiteral("F"), QStringLiteral("Fa"), QStringLiteral("Fat")}) {
+        Passo passo(banco.documento, QStringLiteral("tipo"), {QStringLiteral("Tipo")});
+        passo.ImpostaTipo(testo);
+    }
+    banco.documento.Annulla();
+    QCOMPARE(banco.Aperto().Tipo, prima);
+    QVERIFY(!banco.documento.PuoAnnullare());
+    banco.documento.Ripristina();
+    QCOMPARE(banco.Aperto().Tipo, QStringLiteral("Fat"));
+}
+
+void tst_Documento::ChiusaLUnioneIPassiSonoDue()
+{
+    Banco banco;
+    for (const QString &testo : {QStringLiteral("F"), QStringLiteral("Fa")}) {
+        Passo passo(banco.documento, QStringLiteral("tipo"), {QStringLiteral("Tipo")});
+        passo.ImpostaTipo(testo);
+        banco.documento.ChiudeUnione();
+    }
+    banco.documento.Annulla();
+    QCOMPARE(banco.Aperto().Tipo, QStringLiteral("F"));
+}
+
+void tst_Documento::IlTestoRimessoComEraNonSiAnnulla()
+{
+    Banco banco;
+    const QString prima = banco.Aperto().Tipo;
+    for (const QString &testo : {prima + u'x', prima}) {
+        Passo passo(banco.documento, QStringLiteral("tipo"), {QStringLiteral("Tipo")});
+        passo.ImpostaTipo(testo);
+    }
+    QVERIFY(!banco.documento.PuoAnnullare());
+}
+
+void tst_Documento::AnnullareNonTogliVariato()
+{
+    Banco banco;
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.SpostaTutti(Genere::Campo, 1, 0);
+    }
+    banco.documento.Annulla();
+    QVERIFY(banco.documento.Variato());
+}
+
+void tst_Documento::DopoUnSalvataggioAnnullareSegnaVariato()
+{
+    Banco banco;
+    const Unione freccia{QStringLiteral("destra")};
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"), freccia);
+        passo.SpostaTutti(Genere::Campo, 1, 0);
+    }
+    banco.documento.Salvato();
+    QVERIFY(!banco.documento.Variato());
+    const Modello salvato = banco.Aperto();
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"), freccia);
+        passo.SpostaTutti(Genere::Campo, 1, 0);
+    }
+    banco.documento.Annulla();
+    // Undo can stop at what was saved.
+    QVERIFY(banco.Aperto() == salvato);
+    QVERIFY(banco.documento.PuoAnnullare());
+    banco.documento.Salvato();
+    banco.documento.Annulla();
+    QVERIFY(banco.documento.Variato());
+}
+
+void tst_Documento::MentreUnPassoEApertoNonSiAnnulla()
+{
+    Banco banco;
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.SpostaTutti(Genere::Campo, 1, 0);
+    }
+    const Modello prima = banco.Aperto();
+    const Passo dialogo(banco.documento, QStringLiteral("modifica"));
+    QVERIFY(!banco.documento.PuoAnnullare());
+    banco.documento.Annulla();
+    QVERIFY(banco.Aperto() == prima);
+}
+
+void tst_Documento::IlCentunesimoElementoFallisceConIlContatoreAlzato()
+{
+    Banco banco(100);
+    try {
+        Passo passo(banco.documento, QStringLiteral("aggiunge"));
+        passo.AggiungeCampo(10, 10);
+        QFAIL("the table has no slot 101");
+    } catch (const ErroreSistema &errore) {
+        QCOMPARE(errore.numero, ErroreSistema::Indice);
+    }
+    QCOMPARE(banco.Aperto().NumCampi, qint16(101));
+    banco.documento.Annulla();
+    QCOMPARE(banco.Aperto().NumCampi, qint16(100));
+}
+
+void tst_Documento::LArrotondamentoDiChiGuardaNonEUnPasso()
+{
+    Banco banco;
+    const Modello prima = banco.Aperto();
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.Trascina(Cornice1, {30.4, 40.6}); // a frame keeps the fraction until it is placed
+    }
+    QCOMPARE(banco.Aperto().Cornici[1].X, 30.4);
+    banco.documento.Colloca(Cornice1);
+    QCOMPARE(banco.Aperto().Cornici[1].X, 30.0);
+    QCOMPARE(banco.Aperto().Cornici[1].Y, 41.0);
+    const Modello dopo = banco.Aperto();
+    banco.documento.Annulla();
+    QVERIFY(banco.Aperto() == prima);
+    banco.documento.Ripristina();
+    QVERIFY(banco.Aperto() == dopo);
+}
+
+void tst_Documento::OgniVistaSentePerNomeCheCosaECambiato()
+{
+    Banco banco;
+    QList<Cambiamento> sentiti;
+    connect(&banco.documento, &Documento::Cambiato, this,
+            [&](const Cambiamento &cambiamento) { sentiti.append(cambiamento); });
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.Trascina(Cornice1, {30, 40});
+        passo.Mostra();
+        passo.ImpostaTipo(QStringLiteral("altro"));
+    }
+    QCOMPARE(sentiti.size(), 2);
+    QCOMPARE(sentiti[0].origine, Cambiamento::Origine::Gesto);
+    QCOMPARE(sentiti[0].Elementi(), QList<Chiave>{Cornice1});
+    QVERIFY(!sentiti[0].Tipo);
+    QVERIFY(sentiti[1].Elementi().isEmpty());
+    QVERIFY(sentiti[1].Tipo);
+    banco.documento.Annulla();
+    QCOMPARE(sentiti.size(), 3);
+    QCOMPARE(sentiti[2].origine, Cambiamento::Origine::Storia);
+    QCOMPARE(sentiti[2].Elementi(), QList<Chiave>{Cornice1});
+    QVERIFY(sentiti[2].Tipo);
+    QVERIFY(!sentiti[2].Righe);
+}
+
+void tst_Documento::DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte()
+{
+#if defined(__GLIBC__)
+    Banco banco(100);
+    const std::size_t prima = mallinfo2().uordblks;
+    for (int k = 0; k < 200; ++k) {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        for (const Genere genere : Generi) {
+            passo.SpostaTutti(genere, 1, 1);
+        }
+    }
+    const std::size_t occupati = mallinfo2().uordblks - prima;
+    QVERIFY2(occupati > 0 && occupati < 10 * 1024 * 1024, qPrintable(QString::number(occupati)));
+    for (int k = 0; k < 200; ++k) {
+        QVERIFY(banco.documento.PuoAnnullare());
+        banco.documento.Annulla();
+    }
+#else
+    QSKIP("only one C library tells what is allocated");
+#endif
+}
+
+void tst_Documento::UnPassoSuTrecentoElementiCostaPoco()
+{
+    Banco banco(100);
+    constexpr int Giri = 200;
+    const TempoDiLavoro tempo;
+    for (int k = 0; k < Giri; ++k) {
+        const Passo passo(banco.documento, QStringLiteral("niente"));
+    }
+    QVERIFY2(tempo.Entro(0.1 * Giri), qPrintable(QString::number(tempo.MilliSecondi() / Giri)));
+}
+
+QTEST_GUILESS_MAIN(tst_Documento)
+#include "tst_Documento.moc"
