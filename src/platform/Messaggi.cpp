@@ -174,6 +174,18 @@ private:
     bool siRinuncia_ = false;
 };
 
+Messaggi::Scelta SceltaDi(int bottone)
+{
+    switch (bottone) {
+    case QMessageBox::Yes:
+        return Messaggi::Scelta::Si;
+    case QMessageBox::No:
+        return Messaggi::Scelta::No;
+    default:
+        return Messaggi::Scelta::Annulla;
+    }
+}
+
 } // namespace
 
 void Messaggi::Mostra(QWidget *padre, const QString &testo)
@@ -210,14 +222,7 @@ Messaggi::Scelta Messaggi::DomandaRinunciabile(QWidget *padre, const QString &te
     RiquadroDomanda riquadro(padre, testo, QMessageBox::Yes | QMessageBox::No);
     riquadro.setDefaultButton(predefinita == Risposta::Si ? QMessageBox::Yes : QMessageBox::No);
     riquadro.SiRinuncia();
-    switch (Esegue(riquadro)) {
-    case QMessageBox::Yes:
-        return Scelta::Si;
-    case QMessageBox::No:
-        return Scelta::No;
-    default:
-        return Scelta::Annulla;
-    }
+    return SceltaDi(Esegue(riquadro));
 }
 
 Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &testo,
@@ -232,14 +237,7 @@ Messaggi::Scelta Messaggi::DomandaAnnullabile(QWidget *padre, const QString &tes
                               : predefinita == Scelta::No ? QMessageBox::No
                                                           : QMessageBox::Cancel);
     riquadro.setEscapeButton(QMessageBox::Cancel);
-    switch (Esegue(riquadro)) {
-    case QMessageBox::Yes:
-        return Scelta::Si;
-    case QMessageBox::No:
-        return Scelta::No;
-    default:
-        return Scelta::Annulla;
-    }
+    return SceltaDi(Esegue(riquadro));
 }
 
 int Messaggi::DomandaAScelta(QWidget *padre, const QString &testo, const QStringList &bottoni,
