@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// The whole control; the area itself would be content with the text cursor in it.
@@ -17,8 +19,12 @@ void PortaInVista(QScrollArea &area, const QWidget &controllo)
 {
     constexpr int Margine = 8; // pixels
     const QRect posto(controllo.mapTo(area.widget(), QPoint()), controllo.size());
-    area.ensureVisible(posto.right(), posto.bottom(), Margine, Margine);
-    area.ensureVisible(posto.left(), posto.top(), Margine, Margine);
+    // One that just fits has no margin: what shows its beginning would hide its end.
+    const QSize avanza = (area.viewport()->size() - posto.size()) / 2;
+    const int x = std::clamp(avanza.width(), 0, Margine);
+    const int y = std::clamp(avanza.height(), 0, Margine);
+    area.ensureVisible(posto.right(), posto.bottom(), x, y);
+    area.ensureVisible(posto.left(), posto.top(), x, y);
 }
 
 /// Keeps the control that a dialog opens in, with what is selected in it: controls that are moved
