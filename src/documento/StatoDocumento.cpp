@@ -47,10 +47,10 @@ bool UgualeSe(const std::optional<Valore> &tenuto, const Valore &altro)
 }
 
 template <typename Valore>
-void UnisceSe(std::optional<Valore> &primo, std::optional<Valore> &&secondo)
+void UnisceSe(std::optional<Valore> &primo, const std::optional<Valore> &secondo)
 {
     if (!primo) {
-        primo = std::move(secondo);
+        primo = secondo;
     }
 }
 
@@ -179,10 +179,10 @@ void Differenza::Unisce(Differenza &&successiva)
     for (Pezzo &pezzo : successiva.pezzi_) {
         UniscePezzo(std::move(pezzo));
     }
-    UnisceSe(numeri_, std::move(successiva.numeri_));
-    UnisceSe(tipo_, std::move(successiva.tipo_));
-    UnisceSe(righe_, std::move(successiva.righe_));
-    UnisceSe(sfondo_, std::move(successiva.sfondo_));
+    UnisceSe(numeri_, successiva.numeri_);
+    UnisceSe(tipo_, successiva.tipo_);
+    UnisceSe(righe_, successiva.righe_);
+    UnisceSe(sfondo_, successiva.sfondo_);
 }
 
 void Differenza::Segnala(Cambiamento &cambiamento) const
