@@ -285,7 +285,7 @@ private:
                    pixel_.height() / fattore >= minimo.height();
         };
         const auto troppi = [&](int fattore) {
-            return qint64(pixel_.width()) * pixel_.height() / (fattore * fattore) > massimi;
+            return qint64(pixel_.width()) * pixel_.height() / (qint64(fattore) * fattore) > massimi;
         };
         int fattore = 1;
         while (fattore < RiduzioneMassima && (basta(fattore * 2) || troppi(fattore))) {

@@ -156,7 +156,7 @@ protected:
         if (vuoleRisposta_) {
             evento->ignore();
         } else if (siRinuncia_) {
-            QDialog::closeEvent(evento); // a message box would press No
+            done(QDialog::Rejected); // a message box would press No
         } else {
             QMessageBox::closeEvent(evento);
         }

@@ -24,7 +24,7 @@ void SommaRiga(const QRgb *riga, int vecchi, std::vector<std::uint64_t> &somme)
         for (std::uint32_t resta = nuovi; resta > 0;) {
             const std::uint32_t parte = std::min(resta, manca);
             for (std::size_t c = 0; c < Canali; ++c) {
-                somme[nuovo + c] += parte * ((riga[x] >> Scarti[c]) & 0xFF);
+                somme[nuovo + c] += std::uint64_t(parte) * ((riga[x] >> Scarti[c]) & 0xFF);
             }
             resta -= parte;
             manca -= parte;

@@ -16,7 +16,7 @@ constexpr int Coefficienti = 64;
 /// Offset of the number of the quantisation table of an ink.
 qint64 PostoTavola(const IntestazioneImmagine &intestazione, int inchiostro)
 {
-    return intestazione.PostoFormato + 12 + 3 * inchiostro;
+    return intestazione.PostoFormato + 12 + qint64(3) * inchiostro;
 }
 
 QByteArray TavolaNulla(int numero)

@@ -366,7 +366,7 @@ void SistemaDiStampa::Consegna(const QString &coda, const QString &titolo,
     QElapsedTimer tempo;
     tempo.start();
     const Risposta risposta = Spedisce(connessione.get(), domanda.get(), coda, pdf);
-    if (!risposta && tempo.hasExpired(AttesaLavoro * Secondo)) {
+    if (!risposta && tempo.hasExpired(qint64(AttesaLavoro) * Secondo)) {
         throw NonSiSa(); // the library does not tell silence from a refusal
     }
     if (!risposta || ippGetStatusCode(risposta.get()) > IPP_STATUS_OK_CONFLICTING) {
