@@ -178,7 +178,7 @@ void bench_Programma::PdfDaRigaDiComando_data()
     }
     QTest::newRow("photographs") << Fotografie() << 120.0;
     // Lossless: two thirds of it are the deflate of Qt's PDF engine, which knows no faster level.
-    QTest::newRow("drawings with text") << disegni << 200.0;
+    QTest::newRow("drawings with text") << disegni << 120.0;
     QTest::newRow("small flat pictures") << tinte << 60.0;
 }
 
