@@ -93,7 +93,11 @@ void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
     } else {
         const qint64 riga = (larghezza * bit + 31) / 32 * 4;
         const qint64 riempitivo = riga - (larghezza * bit + 7) / 8;
-        esito.FineRighe = esito.InizioDati + riga * altezza;
+        qint64 righe = 0;
+        if (qMulOverflow(riga, altezza, &righe) ||
+            qAddOverflow(righe, esito.InizioDati, &esito.FineRighe)) {
+            esito.FineRighe = std::numeric_limits<qint64>::max(); // no file is so long
+        }
         esito.FineDati = esito.FineRighe - riempitivo;
     }
     if (!corta) {

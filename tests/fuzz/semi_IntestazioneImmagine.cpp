@@ -14,6 +14,7 @@ int main(int argc, char **argv)
                            ImmaginiDiProva::GifAnimata(),
                            ImmaginiDiProva::JpegCmyk(),
                            ImmaginiRare::GifCheSiSrotola(100),
+                           ImmaginiRare::BmpSmisurato(),
                            ImmaginiRare::JpegDiSegmenti(40, '\xE1', true),
                            ImmaginiRare::JpegDiScansioni({64, 64}, 3)};
     for (const ImmaginiRare::Rara &rara : ImmaginiRare::Tutte()) {

@@ -215,6 +215,7 @@ void tst_ImmaginiRare::EntroUnSecondo_data()
     QByteArray rle = ImmaginiDiProva::InFormato(
         ImmaginiDiProva::Tinta({8, 8}, 0).convertToFormat(QImage::Format_Indexed8), "bmp");
     rle[30] = 1;
+    QTest::newRow("BMP di pixel che nessuno conta") << ImmaginiRare::BmpSmisurato();
     QTest::newRow("BMP di salti vuoti") << rle + QByteArray("\0\2\0\0", 4).repeated(15'000'000);
 }
 

@@ -298,6 +298,15 @@ QByteArray ImmaginiRare::JpegDiSegmenti(int byte, char marcatore, bool inTesta, 
     return jpeg.insert(inTesta ? 2 : jpeg.size() - 2, segmenti);
 }
 
+QByteArray ImmaginiRare::BmpSmisurato()
+{
+    QByteArray byte = ImmaginiDiProva::InFormato(ImmaginiDiProva::Tinta({8, 8}, 0), "bmp");
+    for (const qsizetype lato : {18, 22}) {
+        byte.replace(lato, 4, QByteArrayLiteral("\xFF\xFF\xFF\x7F"));
+    }
+    return byte;
+}
+
 QByteArray ImmaginiRare::JpegDiScansioni(const QSize &pixel, int scansioni)
 {
     // The even part of every block: no change; the rest: a run of empty blocks after the other.

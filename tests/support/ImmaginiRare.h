@@ -37,6 +37,9 @@ QByteArray GifCheSiSrotola(int byte);
 /// A JPEG with some so many bytes of segments, empty or of so many bytes of data each: before the
 /// first scan, or behind the last.
 QByteArray JpegDiSegmenti(int byte, char marcatore, bool inTesta, int dati = 0);
+/// A BMP's header that states 2147483647 x 2147483647 pixels of 32 bits: more bytes than 64 bits
+/// count.
+QByteArray BmpSmisurato();
 /// A progressive JPEG of so many pixels with so many scans of next to nothing.
 QByteArray JpegDiScansioni(const QSize &pixel, int scansioni);
 
