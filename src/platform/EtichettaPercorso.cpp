@@ -1,7 +1,9 @@
 #include "platform/EtichettaPercorso.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
 QSize EtichettaPercorso::sizeHint() const
 {
@@ -13,11 +15,23 @@ QSize EtichettaPercorso::minimumSizeHint() const
     return {0, QLabel::minimumSizeHint().height()};
 }
 
+QString EtichettaPercorso::Visibile() const
+{
+    return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+}
+
+bool EtichettaPercorso::event(QEvent *evento)
+{
+    if (evento->type() == QEvent::ToolTip && Visibile() != text()) {
+        QToolTip::showText(static_cast<QHelpEvent *>(evento)->globalPos(), text(), this);
+        return true;
+    }
+    return QLabel::event(evento);
+}
+
 void EtichettaPercorso::paintEvent(QPaintEvent * /*evento*/)
 {
     QPainter pittore(this);
-    const QString visibile =
-        fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
     style()->drawItemText(&pittore, contentsRect(), static_cast<int>(alignment()), palette(),
-                          isEnabled(), visibile, foregroundRole());
+                          isEnabled(), Visibile(), foregroundRole());
 }

@@ -3,7 +3,7 @@
 #include <QLabel>
 
 /// A label for a path: where there is no room for all of it, the middle is left out, so that the
-/// window need not grow with the path. text() stays the whole path.
+/// window need not grow with the path; the tip then shows it whole. text() is the whole path.
 class EtichettaPercorso : public QLabel
 {
     Q_OBJECT
@@ -14,5 +14,9 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent *evento) override;
     void paintEvent(QPaintEvent *evento) override;
+
+private:
+    QString Visibile() const;
 };

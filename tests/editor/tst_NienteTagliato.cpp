@@ -6,6 +6,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -253,9 +254,17 @@ void tst_NienteTagliato::Sfogliando()
         controllati = Controlla(*dialogo);
         dialogo->reject();
     });
+    // A folder as deep as users keep theirs.
+    QDir profonda(esecuzione_.path());
+    const QString cartella = QStringLiteral("Documenti della ditta/Contabilità dell'anno %1/ini");
+    for (int anno = 2024; anno < 2027; ++anno) {
+        QVERIFY(profonda.mkpath(cartella.arg(anno)) && profonda.cd(cartella.arg(anno)));
+    }
+    const QString file = profonda.filePath(QStringLiteral("LogoPerlanera.jpg"));
+    QVERIFY(QFile::copy(QStringLiteral(CARTELLA_CAMPIONE "/Archivio_2026/ini/LogoPerlanera.jpg"),
+                        file));
     Sfoglia sfoglia;
-    sfoglia.FileEntrata()->setText(
-        QStringLiteral(CARTELLA_CAMPIONE "/Archivio_2026/ini/LogoPerlanera.jpg"));
+    sfoglia.FileEntrata()->setText(file);
     sfoglia.exec();
     QVERIFY(robot.Soddisfatto());
     QVERIFY(controllati > 8);
