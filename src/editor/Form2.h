@@ -109,6 +109,8 @@ private:
     void ScriveSulDisco();
     void ModificaConclusa();
     void SistemaFinestre();
+    /// On a screen too narrow for the window: its pages and its column of commands scroll.
+    void FaScorrere();
     int AltezzaStriscia() const; ///< of the editor with its frame, device-independent pixels
     void AdattaAllaCornice();
     void GuardaCornice();

@@ -2,8 +2,11 @@
 
 #include "editor/Form2.h"
 #include "model/CopiaRecupero.h"
+#include "platform/DialogoScorrevole.h"
+#include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "preview/Frm1.h"
+#include "ui_Form2.h"
 
 #include <QCloseEvent>
 #include <QScopedValueRollback>
@@ -12,10 +15,27 @@
 
 void Form2::SistemaFinestre()
 {
+    if (NonStaSulloSchermo(*this)) {
+        FaScorrere();
+    }
     const QRect schermo = screen()->availableGeometry();
     move(schermo.topLeft());
     AdattaAllaCornice();
     anteprima_->move(schermo.left(), schermo.top() + AltezzaStriscia());
+}
+
+void Form2::FaScorrere()
+{
+    for (int i = 0; i < ui_->SSTab1->count(); ++i) {
+        AvvolgeInUnArea(*ui_->SSTab1->widget(i));
+    }
+    ui_->SSTab1->updateGeometry(); // it hears of its pages' new sizes only once it is shown
+    // The wheel scrolls the page: a list that comes below the pointer meanwhile must not take it.
+    FermaRotella(ui_->SSTab1);
+    // No more than half of the strip is the commands'; the pages get the rest.
+    const int comandi = ui_->comandi->sizeHint().width();
+    AvvolgeInUnArea(*ui_->comandi);
+    ui_->comandi->setFixedWidth(qMin(comandi, screen()->availableGeometry().width() / 2));
 }
 
 int Form2::AltezzaStriscia() const

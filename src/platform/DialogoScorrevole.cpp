@@ -27,13 +27,13 @@ void PortaInVista(QScrollArea &area, const QWidget &controllo)
     area.ensureVisible(posto.left(), posto.top(), x, y);
 }
 
-/// Keeps the control that a dialog opens in, with what is selected in it: controls that are moved
-/// to another parent lose the focus, and the dialog would open in its first box.
+/// Keeps the control that the keyboard is in, with what is selected in it: controls that are moved
+/// to another parent lose the focus, and a dialog would open in its first box.
 class TieneFuoco
 {
 public:
-    explicit TieneFuoco(const QDialog &dialogo)
-        : controllo_(dialogo.focusWidget())
+    explicit TieneFuoco(const QWidget &pannello)
+        : controllo_(pannello.focusWidget())
     {
         if (const auto *casella = qobject_cast<QLineEdit *>(controllo_.data())) {
             inizio_ = casella->selectionStart();
@@ -65,20 +65,25 @@ private:
     int cursore_ = 0;
 };
 
-QScrollArea *AvvolgeInUnArea(QDialog &dialogo)
+} // namespace
+
+QScrollArea *AvvolgeInUnArea(QWidget &pannello)
 {
-    const TieneFuoco fuoco(dialogo);
-    auto *area = new QScrollArea(&dialogo);
+    const TieneFuoco fuoco(pannello);
+    auto *area = new QScrollArea(&pannello);
     area->setObjectName(QStringLiteral("AreaScorrevole"));
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus); // it scrolls with the focus, and is no stop of its own
     area->setWidgetResizable(true);
-    // A child of the dialog before it takes the controls: these must not leave the window, or the
+    // A child of the panel before it takes the controls: these must not leave the window, or the
     // order in which the keyboard visits them is lost.
-    auto *contenuto = new QWidget(&dialogo);
-    contenuto->setLayout(dialogo.layout());
+    auto *contenuto = new QWidget(&pannello);
+    contenuto->setLayout(pannello.layout());
     area->setWidget(contenuto);
-    auto *disposizione = new QVBoxLayout(&dialogo);
+    // What the panel stands on shows through, as it does without an area.
+    contenuto->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+    auto *disposizione = new QVBoxLayout(&pannello);
     disposizione->setContentsMargins(0, 0, 0, 0);
     disposizione->addWidget(area);
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget *, QWidget *ora) {
@@ -89,13 +94,16 @@ QScrollArea *AvvolgeInUnArea(QDialog &dialogo)
     return area;
 }
 
-} // namespace
+bool NonStaSulloSchermo(const QWidget &finestra)
+{
+    const QSize minima = finestra.minimumSizeHint();
+    return EntroLoSchermo(&finestra, minima) != minima;
+}
 
 void AdattaAlloSchermo(QDialog &dialogo)
 {
-    const QSize minima = dialogo.minimumSizeHint();
     QSize misura = dialogo.sizeHint();
-    if (EntroLoSchermo(&dialogo, minima) != minima) {
+    if (NonStaSulloSchermo(dialogo)) {
         const QScrollArea *area = AvvolgeInUnArea(dialogo);
         misura += QSize(area->verticalScrollBar()->sizeHint().width(),
                         area->horizontalScrollBar()->sizeHint().height());

@@ -15,6 +15,9 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
+
+#include <algorithm>
 
 /// Every window with everything in it, on the screen that the program is run on: no control is cut
 /// off, covered by another one, or out of reach. Run once for each screen and scale.
@@ -25,6 +28,8 @@ private slots:
     void initTestCase();
     void FinestraIniziale();
     void Editor();
+    void LinguetteColTopo();
+    void RuotaSuUnElenco();
     void Anteprima();
     void Dialogo_data();
     void Dialogo();
@@ -105,10 +110,6 @@ QString Mancanza(const QWidget *controllo, const QWidget *finestra)
     if (!Scorre(controllo, finestra) && !finestra->rect().contains(posto)) {
         return QStringLiteral("ends outside the window");
     }
-    if (const auto *linguette = qobject_cast<const QTabBar *>(controllo)) {
-        const QRect ultima = linguette->tabRect(linguette->count() - 1);
-        return linguette->rect().contains(ultima) ? QString() : QStringLiteral("hides its tabs");
-    }
     for (const QObject *figlio : controllo->parentWidget()->children()) {
         const auto *fratello = qobject_cast<const QWidget *>(figlio);
         if (fratello != nullptr && fratello != controllo && fratello->isVisible() &&
@@ -132,7 +133,8 @@ int Controlla(const QWidget &finestra)
     for (const auto *controllo : finestra.findChildren<QWidget *>()) {
         // Qt's own parts of a control look after themselves.
         if (!controllo->isVisible() || controllo->window() != &finestra ||
-            controllo->objectName().isEmpty() || controllo->objectName().startsWith(u"qt_")) {
+            controllo->objectName().isEmpty() || controllo->objectName().startsWith(u"qt_") ||
+            qobject_cast<const QTabBar *>(controllo->parentWidget()) != nullptr) {
             continue;
         }
         const QString mancanza = Mancanza(controllo, &finestra);
@@ -144,31 +146,59 @@ int Controlla(const QWidget &finestra)
     return controllati;
 }
 
+/// The part of the window in which the control can be seen: all of it, or the area that scrolls it.
+QRect Vetrina(const QWidget *controllo, const QWidget &finestra)
+{
+    for (const QWidget *sopra = controllo->parentWidget(); sopra != &finestra;
+         sopra = sopra->parentWidget()) {
+        if (const auto *area = qobject_cast<const QScrollArea *>(sopra)) {
+            const QWidget *vista = area->viewport();
+            return {vista->mapTo(&finestra, QPoint()), vista->size()};
+        }
+    }
+    return finestra.rect();
+}
+
 /// Brings the keyboard to each control in turn; gives how many of them are not seen whole then.
-int NonSiRaggiungono(const QDialog &dialogo)
+int NonSiRaggiungono(const QWidget &finestra)
 {
     int mancati = 0;
-    for (auto *controllo : dialogo.findChildren<QWidget *>()) {
+    for (auto *controllo : finestra.findChildren<QWidget *>()) {
         if (!controllo->isVisible() || !(controllo->focusPolicy() & Qt::TabFocus) ||
-            controllo->focusProxy() != nullptr || !controllo->isEnabled()) {
+            controllo->focusProxy() != nullptr || !controllo->isEnabled() ||
+            controllo->window() != &finestra) {
             continue;
         }
         controllo->setFocus();
-        const QRect posto(controllo->mapTo(&dialogo, QPoint()), controllo->size());
-        QRect visibile = dialogo.rect();
-        if (const auto *area = dialogo.findChild<QScrollArea *>()) {
-            visibile =
-                area->viewport()->rect().translated(area->viewport()->mapTo(&dialogo, QPoint()));
-            // A control wider than the window is seen as far as it can be.
-            visibile.setWidth(qMax(visibile.width(), posto.right() + 1 - visibile.left()));
-        }
-        if (!visibile.contains(posto)) {
+        const QRect posto(controllo->mapTo(&finestra, QPoint()), controllo->size());
+        // A control larger than the window is seen as far as it can be.
+        const QRect vetrina = Vetrina(controllo, finestra);
+        const QSize misura = posto.size().boundedTo(vetrina.size());
+        if (vetrina.intersected(posto).size() != misura) {
             QTest::qFail(qPrintable(NomeDi(controllo) + QStringLiteral(" stays out of sight")),
                          __FILE__, __LINE__);
             ++mancati;
         }
     }
     return mancati;
+}
+
+/// Whether the page's tab is seen whole beside the buttons that scroll the tabs, where there are
+/// any.
+bool SiVede(const QTabBar &linguette, int pagina)
+{
+    const QRect posto = linguette.tabRect(pagina);
+    const auto frecce = linguette.findChildren<QToolButton *>();
+    return linguette.rect().contains(posto) &&
+           std::none_of(frecce.cbegin(), frecce.cend(), [&](const QToolButton *freccia) {
+               return freccia->isVisible() && freccia->geometry().intersects(posto);
+           });
+}
+
+/// Where the whole screen is too narrow for the tabs and what stands beside them.
+bool ScorronoLePagine(const QTabWidget &pagine)
+{
+    return pagine.widget(0)->findChild<QScrollArea *>(QStringLiteral("AreaScorrevole")) != nullptr;
 }
 
 bool Apre(EditoreDiProva &prova)
@@ -200,18 +230,60 @@ void tst_NienteTagliato::Editor()
 {
     EditoreDiProva prova;
     QVERIFY(Apre(prova));
+    prova.Editor->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
     auto *pagine = Trova<QTabWidget>(*prova.Editor, "SSTab1");
+    const QTabBar &linguette = *pagine->tabBar();
     for (int p = 0; p < pagine->count(); ++p) {
         pagine->setCurrentIndex(p);
         QVERIFY2(Controlla(*prova.Editor) > 15, qPrintable(pagine->tabText(p)));
+        QVERIFY2(SiVede(linguette, p), qPrintable(pagine->tabText(p)));
+        QVERIFY2(SiVede(linguette, 0) || ScorronoLePagine(*pagine), qPrintable(pagine->tabText(p)));
+        QCOMPARE(NonSiRaggiungono(*prova.Editor), 0);
     }
+}
+
+void tst_NienteTagliato::LinguetteColTopo()
+{
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    auto *pagine = Trova<QTabWidget>(*prova.Editor, "SSTab1");
+    QTabBar *linguette = pagine->tabBar();
+    QCoreApplication::processEvents();
+    auto *avanti = Trova<QToolButton>(*linguette, "ScrollRightButton");
+    QCOMPARE(avanti->isVisible(), ScorronoLePagine(*pagine));
+    for (int p = 1; p < pagine->count(); ++p) {
+        for (int giro = 0; giro < pagine->count() && !SiVede(*linguette, p); ++giro) {
+            QTest::mouseClick(avanti, Qt::LeftButton);
+        }
+        QVERIFY2(SiVede(*linguette, p), qPrintable(pagine->tabText(p)));
+        QTest::mouseClick(linguette, Qt::LeftButton, {}, linguette->tabRect(p).center());
+        QCOMPARE(pagine->currentIndex(), p);
+    }
+}
+
+void tst_NienteTagliato::RuotaSuUnElenco()
+{
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    auto *pagine = Trova<QTabWidget>(*prova.Editor, "SSTab1");
+    auto *elenco = Trova<QComboBox>(*prova.Editor, "ComboCampi");
+    QCOMPARE(elenco->currentIndex(), 0);
+    Controlli::GiraRotella(elenco, -1);
+    // Where the page scrolls, the wheel is the page's.
+    QCOMPARE(elenco->currentIndex(), ScorronoLePagine(*pagine) ? 0 : 1);
 }
 
 void tst_NienteTagliato::Anteprima()
 {
     EditoreDiProva prova;
     QVERIFY(Apre(prova));
-    QVERIFY(Controlla(*prova.Editor->Anteprima()) > 5);
+    const Frm1 &anteprima = *prova.Editor->Anteprima();
+    QVERIFY(Controlla(anteprima) > 5);
+    QVERIFY(!anteprima.frameGeometry().intersects(prova.Editor->frameGeometry()));
+    // A part of the sheet worth the name, beside its rulers.
+    const auto *foglio = Trova<QWidget>(anteprima, "AreaFoglio");
+    QVERIFY(foglio->width() > 400 && foglio->height() > 100);
 }
 
 void tst_NienteTagliato::Dialogo_data()
