@@ -1,8 +1,10 @@
 #include "editor/PaginaRighe.h"
 
+#include "base/ErroreSistema.h"
 #include "editor/RigheSimulate.h"
 #include "editor/TestiEsplicativi.h"
 #include "platform/Guardia.h"
+#include "platform/Messaggi.h"
 #include "ui_PaginaRighe.h"
 
 PaginaRighe::PaginaRighe(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
@@ -43,17 +45,32 @@ void PaginaRighe::Mostra()
     ui_->OptSimuloRighe->setChecked(false);
 }
 
+std::optional<double> PaginaRighe::Letto(const QLineEdit *casella, const QLabel *etichetta)
+{
+    try {
+        return caselle_.Val(casella);
+    } catch (const ErroreSistema &) {
+        Messaggi::Mostra(window(), NumeroTroppoGrande(etichetta->text(), casella->text()));
+        return std::nullopt;
+    }
+}
+
 void PaginaRighe::ConfermaPosizioneRighe_Click()
 {
-    const double yInizio = caselle_.Val(ui_->yInizio);
-    const double yFine = caselle_.Val(ui_->yFine);
-    const double interlinea = caselle_.Val(ui_->Interlinea);
-    const double interlineaDescr = caselle_.Val(ui_->InterlineaDescr);
+    const std::optional<double> yInizio = Letto(ui_->yInizio, ui_->EtichettaInizio);
+    const std::optional<double> yFine = yInizio ? Letto(ui_->yFine, ui_->EtichettaFine) : yInizio;
+    const std::optional<double> interlinea =
+        yFine ? Letto(ui_->Interlinea, ui_->EtichettaInterlinea) : yFine;
+    const std::optional<double> interlineaDescr =
+        interlinea ? Letto(ui_->InterlineaDescr, ui_->EtichettaInterlineaDescr) : interlinea;
+    if (!interlineaDescr) {
+        return;
+    }
     ParametriRighe &righe = stato_.Aperto.Righe;
-    righe.yInizio = yInizio;
-    righe.yFine = yFine;
-    righe.Interlinea = interlinea;
-    righe.InterlineaDescr = interlineaDescr;
+    righe.yInizio = *yInizio;
+    righe.yFine = *yFine;
+    righe.Interlinea = *interlinea;
+    righe.InterlineaDescr = *interlineaDescr;
     righe.SeguePag = caselle_.Testo(ui_->SeguePag);
     emit Variato();
     for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Campo); ++k) {

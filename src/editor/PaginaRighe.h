@@ -8,6 +8,9 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
+
+class QLabel;
 
 namespace Ui {
 class PaginaRighe;
@@ -36,6 +39,9 @@ signals:
 
 private:
     void Collegamenti();
+    /// Lenient reading of a box; a number beyond a double gives nothing, and a message that names
+    /// the box by its label.
+    std::optional<double> Letto(const QLineEdit *casella, const QLabel *etichetta);
 
     std::unique_ptr<Ui::PaginaRighe> ui_;
     StatoProgramma &stato_;

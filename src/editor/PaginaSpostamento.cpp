@@ -1,9 +1,12 @@
 #include "editor/PaginaSpostamento.h"
 
+#include "base/ErroreSistema.h"
+#include "dialogs/MemoriaCaselle.h"
 #include "editor/TestiEsplicativi.h"
 #include "model/Numeri.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
+#include "platform/Messaggi.h"
 #include "preview/Frm1.h"
 #include "ui_PaginaSpostamento.h"
 
@@ -49,8 +52,15 @@ void PaginaSpostamento::Command6_Click()
 
 void PaginaSpostamento::Sposta(Genere genere)
 {
+    double passo = 0;
+    try {
+        passo = Numeri::Val(ui_->Spostamento->text());
+    } catch (const ErroreSistema &) {
+        Messaggi::Mostra(window(), NumeroTroppoGrande(ui_->EtichettaSpostamento->text(),
+                                                      ui_->Spostamento->text()));
+        return;
+    }
     const PuntatoreOccupato occupato;
-    const double passo = Numeri::Val(ui_->Spostamento->text());
     double dx = 0;
     double dy = 0;
     if (ui_->OptDx->isChecked()) {
