@@ -31,12 +31,9 @@ constexpr std::array<Gemelli, 3> FamiglieGemelle{{
      {QLatin1String("Liberation Mono"), QLatin1String("Cousine"), QLatin1String("Nimbus Mono")}},
 }};
 
-/// True where the system lacks the family and sets it with one of the same widths.
-bool Sostituito(const Gemelli &gemelli)
+/// Of a family that the system lacks: true where it sets it with one of the same widths.
+bool SostituitoAllaPari(const Gemelli &gemelli)
 {
-    if (QFontDatabase::hasFamily(gemelli.Nome)) {
-        return false;
-    }
     const QString trovata = QFontInfo{QFont(gemelli.Nome)}.family();
     return std::any_of(gemelli.Pari.begin(), gemelli.Pari.end(),
                        [&](QLatin1String pari) { return trovata.contains(pari); });
@@ -44,8 +41,14 @@ bool Sostituito(const Gemelli &gemelli)
 
 bool Disponibile(const QString &famiglia)
 {
-    return (QFontDatabase::hasFamily(famiglia) && !FontGenerico(famiglia)) ||
-           FontSostituitiAllaPari().contains(famiglia, Qt::CaseInsensitive);
+    if (QFontDatabase::hasFamily(famiglia)) {
+        return !FontGenerico(famiglia);
+    }
+    // Only the one in question: each asks the system for what takes it long to find.
+    return std::any_of(FamiglieGemelle.begin(), FamiglieGemelle.end(), [&](const Gemelli &gemelli) {
+        return famiglia.compare(gemelli.Nome, Qt::CaseInsensitive) == 0 &&
+               SostituitoAllaPari(gemelli);
+    });
 }
 
 /// The fonts change only when one is installed, and texts are set by the hundred.
@@ -85,7 +88,7 @@ QStringList FontSostituitiAllaPari()
 {
     QStringList famiglie;
     for (const Gemelli &gemelli : FamiglieGemelle) {
-        if (Sostituito(gemelli)) {
+        if (!QFontDatabase::hasFamily(gemelli.Nome) && SostituitoAllaPari(gemelli)) {
             famiglie.append(gemelli.Nome);
         }
     }

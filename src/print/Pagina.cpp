@@ -54,7 +54,6 @@ Pagina::Pagina(Destinazione &destinazione)
     const QPointF angolo = foglio.paintRect(QPageLayout::Millimeter).topLeft();
     const QPointF origine = foglio.paintRectPixels(risoluzione_).topLeft();
     pittore_.translate(QPointF(InPixel(angolo.x()), InPixel(angolo.y())) - origine);
-    Font({}, 0);
 }
 
 Pagina::~Pagina()
@@ -84,15 +83,27 @@ double Pagina::Altezza() const
 
 void Pagina::Font(const QString &famiglia, int punti, bool grassetto)
 {
-    font_ = CarattereDiTesto(famiglia, grassetto, UnitaPerPunto * int(PuntiDiTesto(punti)));
+    famiglia_ = famiglia;
+    punti_ = punti;
+    grassetto_ = grassetto;
+    misurato_ = false;
+}
+
+void Pagina::MisuraFont()
+{
+    font_ = CarattereDiTesto(famiglia_, grassetto_, UnitaPerPunto * int(PuntiDiTesto(punti_)));
     const QFontMetricsF misure(font_, &dispositivo_);
     const double millimetri = Misure::MillimetriPerPollice / UnitaPerPollice;
     ascendente_ = misure.ascent() * millimetri;
     interlinea_ = misure.lineSpacing() * millimetri;
+    misurato_ = true;
 }
 
 void Pagina::Stampa(const QString &testo)
 {
+    if (!misurato_) {
+        MisuraFont();
+    }
     if (!testo.isEmpty() && Raggiungibile(posizione_.x()) && Raggiungibile(posizione_.y())) {
         const QPointF base(InPixel(posizione_.x()), InPixel(posizione_.y() + ascendente_));
         const double scala = risoluzione_ / UnitaPerPollice;

@@ -55,6 +55,7 @@ public:
 
 private:
     double InPixel(double millimetri) const { return millimetri * pixelPerMillimetro_; }
+    void MisuraFont();
     void Dipinge();
     static QSize PixelPer(const QSizeF &millimetri);
     void DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &figura);
@@ -67,6 +68,10 @@ private:
     QRectF area_; ///< printable area, printer pixels
     double pixelPerMillimetro_;
     QPointF posizione_;
+    QString famiglia_;
+    int punti_ = 0;
+    bool grassetto_ = false;
+    bool misurato_ = false; ///< the lines below say what the font above comes to
     QFont font_;
     double ascendente_ = 0; ///< of font_, mm
     double interlinea_ = 0; ///< of font_, mm
