@@ -3,19 +3,24 @@
 #include "base/ErroreSistema.h"
 #include "base/Misure.h"
 #include "platform/IntestazioneImmagine.h"
+#include "platform/Opacita.h"
 #include "platform/Percorsi.h"
 #include "platform/PerditaDiColore.h"
 #include "platform/Rimpicciolimento.h"
 #include "platform/SeparazioniJpeg.h"
+#include "platform/StrisceBmp.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
+#include <new>
+#include <vector>
 
 namespace {
 
@@ -61,48 +66,34 @@ QImage Scalata(const QImage &immagine, const QSize &pixel)
     return scalata;
 }
 
-/// A fourth byte that is zero throughout is one that its writer left empty, not a picture of
-/// nothing.
-void ToglieAlfaVuoto(QImage &immagine)
-{
-    const QRect tutta = immagine.rect();
-    for (int y = 0; y < tutta.height(); ++y) {
-        const auto *riga = reinterpret_cast<const QRgb *>(immagine.constScanLine(y));
-        if (std::any_of(riga, riga + tutta.width(), [](QRgb c) { return qAlpha(c) != 0; })) {
-            return;
-        }
-    }
-    for (int y = 0; y < tutta.height(); ++y) {
-        auto *riga = reinterpret_cast<QRgb *>(immagine.scanLine(y));
-        std::for_each(riga, riga + tutta.width(), [](QRgb &c) { c |= 0xFF000000; });
-    }
-    immagine.reinterpretAsFormat(QImage::Format_RGB32);
-}
-
-/// The picture on white paper, in its own memory.
-void SuBianco(QImage &immagine)
-{
-    if (!immagine.hasAlphaChannel()) {
-        return;
-    }
-    const auto misto = [](int colore, int alfa) {
-        return (colore * alfa + 255 * (255 - alfa) + 127) / 255;
-    };
-    for (int y = 0; y < immagine.height(); ++y) {
-        auto *riga = reinterpret_cast<QRgb *>(immagine.scanLine(y));
-        std::transform(riga, riga + immagine.width(), riga, [&](QRgb c) {
-            const int alfa = qAlpha(c);
-            return qRgb(misto(qRed(c), alfa), misto(qGreen(c), alfa), misto(qBlue(c), alfa));
-        });
-    }
-    immagine.reinterpretAsFormat(QImage::Format_RGB32);
-}
-
 /// The size with its proportions, made smaller where it has too many pixels.
 QSize Entro(const QSize &pixel, qint64 massimi)
 {
     const double parte = double(massimi) / (double(pixel.width()) * pixel.height());
     return parte >= 1 ? pixel : (QSizeF(pixel) * std::sqrt(parte)).toSize().expandedTo({1, 1});
+}
+
+/// A picture of less than 32 bits to a pixel, opaque and scaled down: never whole in 32.
+QImage Rimpicciolita(const QImage &immagine, const QSize &pixel)
+{
+    constexpr int RigheInsieme = 16;
+    QImage esito(pixel, QImage::Format_RGB32);
+    if (esito.isNull()) {
+        throw std::bad_alloc();
+    }
+    Rimpicciolimento riduce(immagine.size(), pixel, [&](int nuova) {
+        return reinterpret_cast<QRgb *>(esito.scanLine(nuova));
+    });
+    for (int prima = 0; prima < immagine.height(); prima += RigheInsieme) {
+        const int alte = std::min(RigheInsieme, immagine.height() - prima);
+        QImage righe = immagine.copy(0, prima, immagine.width(), alte);
+        A32Bit(righe);
+        Opacita::SuBianco(righe);
+        for (int y = 0; y < alte; ++y) {
+            riduce.Aggiunge(reinterpret_cast<const QRgb *>(righe.constScanLine(y)));
+        }
+    }
+    return esito;
 }
 
 /// An open picture file whose header has been checked.
@@ -175,12 +166,28 @@ public:
     /// minimo in either direction, unless that were more pixels than a page may cost.
     QImage Decodifica(const QSize &minimo)
     {
-        QImage immagine = intestazione_.Formato == "bmp"    ? DecodificaBmp()
-                          : intestazione_.Formato == "jpeg" ? DecodificaJpeg(minimo)
-                                                            : DecodificaGif();
-        if (immagine.isNull()) {
-            NonValida();
+        QImage immagine = DecodificaIntera(minimo);
+        A32Bit(immagine);
+        return immagine;
+    }
+
+    /// Decodes the picture as opaque as paper is, scaled down to pixel (no larger than its own size
+    /// either way), or to what it was decoded to where that is less.
+    QImage DecodificaOpaca(const QSize &pixel)
+    {
+        if (intestazione_.Formato == "bmp") {
+            if (const StrisceBmp strisce(file_, intestazione_); strisce.Leggibili()) {
+                return DecodificaStrisce(strisce, pixel);
+            }
         }
+        QImage immagine = DecodificaIntera(pixel);
+        const QSize esito = pixel.boundedTo(immagine.size());
+        if (immagine.depth() < 32) {
+            return Rimpicciolita(immagine, esito);
+        }
+        A32Bit(immagine);
+        Opacita::SuBianco(immagine);
+        Rimpicciolisce(immagine, esito);
         return immagine;
     }
 
@@ -199,6 +206,18 @@ private:
         lettore.setDevice(&dispositivo);
     }
 
+    /// As Qt gives it: with fewer bits to a pixel than 32 where it can.
+    QImage DecodificaIntera(const QSize &minimo)
+    {
+        QImage immagine = intestazione_.Formato == "bmp"    ? DecodificaBmp()
+                          : intestazione_.Formato == "jpeg" ? DecodificaJpeg(minimo)
+                                                            : DecodificaGif();
+        if (immagine.isNull()) {
+            NonValida();
+        }
+        return immagine;
+    }
+
     /// Null for what Qt cannot read.
     QImage Legge(QIODevice &dispositivo, const QSize &ridotta = {}) const
     {
@@ -208,11 +227,7 @@ private:
         if (ridotta.isValid()) {
             lettore.setScaledSize(ridotta);
         }
-        QImage immagine = lettore.read();
-        if (!immagine.isNull()) {
-            A32Bit(immagine);
-        }
-        return immagine;
+        return lettore.read();
     }
 
     QImage Legge(QByteArray byte, const QSize &ridotta = {}) const
@@ -230,16 +245,62 @@ private:
         return file_.readAll();
     }
 
-    QImage DecodificaBmp()
+    void VerificaBmp() const
     {
-        const qint64 mancanti = intestazione_.FineRighe - file_.size();
         if (intestazione_.FineDati > file_.size() || Troppi(pixel_)) {
             NonValida();
         }
+    }
+
+    bool AlfaVuoto(const StrisceBmp &strisce) const
+    {
+        bool vuoto = true;
+        const bool letta = strisce.Scorre([&](const QRgb *riga) {
+            vuoto = vuoto && Opacita::AlfaVuoto(riga, pixel_.width());
+            return vuoto;
+        });
+        return letta && vuoto;
+    }
+
+    QImage DecodificaStrisce(const StrisceBmp &strisce, const QSize &pixel) const
+    {
+        VerificaBmp();
+        const int larghezza = pixel_.width();
+        QImage immagine(pixel, QImage::Format_RGB32);
+        if (immagine.isNull()) {
+            throw std::bad_alloc();
+        }
+        Rimpicciolimento riduce(pixel_, pixel, [&](int nuova) {
+            const int y = strisce.DalBasso() ? pixel.height() - 1 - nuova : nuova;
+            return reinterpret_cast<QRgb *>(immagine.scanLine(y));
+        });
+        const QRgb opaco = strisce.PuoTrasparire() && AlfaVuoto(strisce) ? 0xFF000000 : 0;
+        std::vector<QRgb> suBianco(static_cast<std::size_t>(larghezza));
+        const bool intera = strisce.Scorre([&](const QRgb *riga) {
+            if (strisce.PuoTrasparire()) {
+                std::transform(riga, riga + larghezza, suBianco.begin(),
+                               [opaco](QRgb c) { return c | opaco; });
+                Opacita::SuBianco(suBianco.data(), larghezza, suBianco.data());
+                riga = suBianco.data();
+            }
+            riduce.Aggiunge(riga);
+            return true;
+        });
+        if (!intera) {
+            NonValida();
+        }
+        return immagine;
+    }
+
+    QImage DecodificaBmp()
+    {
+        VerificaBmp();
+        const qint64 mancanti = intestazione_.FineRighe - file_.size();
         // Qt wants what fills up the last row too.
         QImage immagine = mancanti > 0 ? Legge(Tutto() + QByteArray(mancanti, '\0')) : Legge(file_);
-        if (immagine.hasAlphaChannel()) {
-            ToglieAlfaVuoto(immagine);
+        if (immagine.depth() == 32 && immagine.hasAlphaChannel()) {
+            A32Bit(immagine);
+            Opacita::ToglieAlfaVuoto(immagine);
         }
         return immagine;
     }
@@ -255,31 +316,48 @@ private:
 
     QImage DecodificaJpeg(const QSize &minimo)
     {
-        const QSize ridotta = minimo.isValid() ? Ridotta(Ruota(minimo)) : pixel_;
-        const QByteArray byte = Tutto();
+        const int fattore = minimo.isValid() ? Fattore(Ruota(minimo)) : 1;
+        const QSize ridotta((pixel_.width() + fattore - 1) / fattore,
+                            (pixel_.height() + fattore - 1) / fattore);
+        QByteArray byte = Tutto();
         if (Troppi(ridotta) || !intestazione_.Intera(byte)) {
             NonValida();
         }
+        Arrotonda(byte, ridotta * fattore);
         if (!intestazione_.InchiostriDiritti()) {
             return Legge(byte, ridotta);
         }
         QImage immagine = Legge(SeparazioniJpeg::SenzaNero(byte, intestazione_), ridotta);
-        const QImage nero = Legge(SeparazioniJpeg::SoloNero(byte, intestazione_), ridotta);
+        QImage nero = Legge(SeparazioniJpeg::SoloNero(byte, intestazione_), ridotta);
         if (immagine.isNull() || nero.size() != immagine.size()) {
             NonValida();
         }
+        A32Bit(immagine);
+        A32Bit(nero);
         SeparazioniJpeg::Unisce(immagine, nero);
         return immagine;
     }
 
-    /// The stored size divided by the largest factor that the decoder handles itself.
-    QSize Ridotta(const QSize &minimo) const
+    /// Makes the file state a multiple of the size that it is reduced to: whole blocks are stored
+    /// in any case. Qt would decode a size that is a pixel off to one larger by half and then scale
+    /// it, with both in memory.
+    void Arrotonda(QByteArray &byte, const QSize &intera) const
     {
-        const auto diviso = [this](int fattore) {
-            return QSize((pixel_.width() + fattore - 1) / fattore,
-                         (pixel_.height() + fattore - 1) / fattore);
-        };
-        const qint64 massimi = Sostenibili(PixelDecodificati);
+        constexpr int LatoMassimo = 65'500; // that the decoder takes
+        constexpr qsizetype Altezza = 5;
+        constexpr qsizetype Larghezza = 7;
+        if (std::max(intera.width(), intera.height()) <= LatoMassimo) {
+            char *formato = byte.data() + intestazione_.PostoFormato;
+            qToBigEndian(quint16(intera.height()), formato + Altezza);
+            qToBigEndian(quint16(intera.width()), formato + Larghezza);
+        }
+    }
+
+    /// The largest factor to divide the stored size by that the decoder handles itself.
+    int Fattore(const QSize &minimo) const
+    {
+        const qint64 massimi = std::min(Sostenibili(PixelDecodificati),
+                                        intestazione_.Progressiva ? Accanto() : PixelDecodificati);
         const auto basta = [&](int fattore) {
             return pixel_.width() / fattore >= minimo.width() &&
                    pixel_.height() / fattore >= minimo.height();
@@ -291,7 +369,14 @@ private:
         while (fattore < RiduzioneMassima && (basta(fattore * 2) || troppi(fattore))) {
             fattore *= 2;
         }
-        return diviso(fattore);
+        return fattore;
+    }
+
+    /// Pixels that there is place for beside what the decoder keeps of a progressive picture.
+    qint64 Accanto() const
+    {
+        constexpr qint64 ByteInsieme = 260'000'000;
+        return (ByteInsieme - file_.size() - intestazione_.ByteCoefficienti()) / BytePerPixel;
     }
 
     QFile file_;
@@ -329,9 +414,7 @@ Immagini::Opaca Immagini::CaricaEntro(const QString &percorso, const QSize &mass
     Lettore lettore(percorso);
     const QSize pixel =
         Entro(lettore.Pixel().boundedTo(massimo), lettore.Sostenibili(PixelStampati));
-    QImage immagine = lettore.Decodifica(pixel);
-    SuBianco(immagine);
-    Rimpicciolisce(immagine, pixel.boundedTo(immagine.size()));
+    const QImage immagine = lettore.DecodificaOpaca(pixel);
     return {immagine, lettore.ComeJpeg(immagine)};
 }
 

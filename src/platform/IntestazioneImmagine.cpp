@@ -8,6 +8,7 @@
 #include <QIODevice>
 #include <QtEndian>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -34,8 +35,9 @@ constexpr qint64 ByteMassimi = 64'000'000;
 constexpr qint64 ByteCompressiMassimi = 40'000'000;
 /// Of all scans together, where there are several.
 constexpr qint64 PixelScansioniMassimi = 1'500'000'000;
-/// The decoder keeps two bytes for each pixel of each component where there are several scans.
-constexpr qint64 CoefficientiMassimi = 256LL * 1024 * 1024;
+/// Where there are several scans the decoder keeps them all, and a printed page has no place for
+/// more: A3 at 600 dots per inch whose colours are stored half as fine each way is below it.
+constexpr qint64 CoefficientiMassimi = 128LL * 1024 * 1024;
 
 QByteArray Byte(QIODevice &file, qint64 posto, qint64 quanti)
 {
@@ -185,10 +187,16 @@ void LeggeFormato(qint64 posto, const QByteArray &segmento, IntestazioneImmagine
         esito.Pixel = QSize(Grande<quint16>(segmento, 3), Grande<quint16>(segmento, 1));
         esito.Componenti = componenti;
         constexpr int ByteComponente = 3;
-        for (int i = 1; i < componenti; ++i) {
-            const bool pari = segmento.at(7 + i * ByteComponente) == segmento.at(7);
-            esito.ColoriRidotti = esito.ColoriRidotti || !pari;
+        int maggiore = 1;
+        int somma = 0;
+        for (int i = 0; i < componenti; ++i) {
+            const int finezza = quint8(segmento.at(7 + i * ByteComponente));
+            const int blocchi = (finezza >> 4) * (finezza & 0xF);
+            maggiore = std::max(maggiore, blocchi);
+            somma += blocchi;
+            esito.ColoriRidotti = esito.ColoriRidotti || finezza != quint8(segmento.at(7));
         }
+        esito.Coefficienti = qint64(esito.Pixel.width()) * esito.Pixel.height() * somma / maggiore;
     }
 }
 
@@ -226,6 +234,7 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
             esito.Adobe = esito.Adobe || file.read(lunghezza - 2).startsWith("Adobe");
         } else if (MarcatoriJpeg::DiFormato(marcatore)) {
             LeggeFormato(posto, file.read(lunghezza - 2), esito);
+            esito.Progressiva = esito.Progressiva || marcatore == MarcatoriJpeg::SofProgressivo;
         }
         ++segmenti;
         posto += 2 + lunghezza;
@@ -247,7 +256,7 @@ bool JpegIntero(QByteArrayView file, const IntestazioneImmagine &intestazione)
         }
     }
     if (scansioni > 1 && (scansioni * pixel > PixelScansioniMassimi ||
-                          intestazione.Componenti * pixel > CoefficientiMassimi)) {
+                          intestazione.Coefficienti > CoefficientiMassimi)) {
         return false;
     }
     return segmento.Marcatore == MarcatoriJpeg::Eoi || DatiJpeg::Completi(file);

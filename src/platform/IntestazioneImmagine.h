@@ -29,6 +29,8 @@ struct IntestazioneImmagine
     int Componenti = 0;
     bool Adobe = false;         ///< the marker that tells how colours are stored is there
     bool ColoriRidotti = false; ///< some components have fewer pixels than others
+    bool Progressiva = false;   ///< its pixels come bit by bit, in several scans
+    qint64 Coefficienti = 0;    ///< numbers that stand for the pixels of all components
 
     /// Reads the beginning of the file. Never fails: what cannot be read keeps its default.
     static IntestazioneImmagine Legge(QIODevice &file);
@@ -36,6 +38,9 @@ struct IntestazioneImmagine
     /// True for a picture whose four inks are stored as they are; the marker's maker stores them
     /// inverted, and that is what Qt takes all of them for.
     bool InchiostriDiritti() const { return Componenti == 4 && !Adobe; }
+
+    /// What the decoder keeps in memory of a picture of several scans.
+    qint64 ByteCoefficienti() const { return 2 * Coefficienti; }
 
     /// True where a file of this length, or its pixels, are more than a second's work, however
     /// honest the file is.

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <new>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -65,40 +65,58 @@ QImage Angolo(QImage &intera, const QSize &pixel)
 
 } // namespace
 
+Rimpicciolimento::Rimpicciolimento(const QSize &da, const QSize &a, RigaNuova rigaNuova)
+    : da_(da)
+    , a_(a)
+    , rigaNuova_(std::move(rigaNuova))
+    , manca_(std::uint32_t(da.height()))
+{
+    if (da != a) {
+        somme_.resize(std::size_t(a.width()) * Canali);
+        colonna_.resize(somme_.size());
+    }
+}
+
+void Rimpicciolimento::Aggiunge(const QRgb *riga)
+{
+    if (da_ == a_) {
+        std::copy_n(riga, a_.width(), rigaNuova_(nuova_++));
+        return;
+    }
+    const std::uint64_t intero = std::uint64_t(da_.width()) * std::uint64_t(da_.height());
+    SommaRiga(riga, da_.width(), somme_);
+    for (auto resta = std::uint32_t(a_.height()); resta > 0;) {
+        const std::uint32_t parte = std::min(resta, manca_);
+        std::transform(
+            somme_.begin(), somme_.end(), colonna_.begin(), colonna_.begin(),
+            [parte](std::uint64_t una, std::uint64_t somma) { return somma + parte * una; });
+        resta -= parte;
+        manca_ -= parte;
+        if (manca_ == 0) {
+            ScriveMedia(colonna_, intero, rigaNuova_(nuova_++));
+            manca_ = std::uint32_t(da_.height());
+        }
+    }
+}
+
 void Rimpicciolisce(QImage &immagine, const QSize &pixel)
 {
     Q_ASSERT(immagine.format() == QImage::Format_RGB32);
     if (immagine.size() == pixel) {
         return;
     }
-    const int larghezza = immagine.width();
-    const int altezza = immagine.height();
-    const std::uint64_t intero = std::uint64_t(larghezza) * std::uint64_t(altezza);
-    const auto valori = std::size_t(pixel.width()) * Canali;
-    std::vector<std::uint64_t> somme(valori);
-    std::vector<std::uint64_t> colonna(valori);
-    const auto nuove = std::uint32_t(pixel.height());
-    auto manca = std::uint32_t(altezza); // of the new row
-    int nuova = 0;
-    for (int y = 0; y < altezza; ++y) {
-        SommaRiga(reinterpret_cast<const QRgb *>(immagine.constScanLine(y)), larghezza, somme);
-        for (std::uint32_t resta = nuove; resta > 0;) {
-            const std::uint32_t parte = std::min(resta, manca);
-            std::transform(
-                somme.begin(), somme.end(), colonna.begin(), colonna.begin(),
-                [parte](std::uint64_t una, std::uint64_t somma) { return somma + parte * una; });
-            resta -= parte;
-            manca -= parte;
-            if (manca == 0) {
-                // There are no more new rows than old ones: what is overwritten has been read.
-                ScriveMedia(colonna, intero, reinterpret_cast<QRgb *>(immagine.scanLine(nuova)));
-                ++nuova;
-                manca = std::uint32_t(altezza);
-            }
-        }
+    // There are no more new rows than old ones: what is overwritten has been read.
+    Rimpicciolimento riduce(immagine.size(), pixel, [&](int nuova) {
+        return reinterpret_cast<QRgb *>(immagine.scanLine(nuova));
+    });
+    for (int y = 0; y < immagine.height(); ++y) {
+        riduce.Aggiunge(reinterpret_cast<const QRgb *>(immagine.constScanLine(y)));
     }
-    // A much smaller picture is worth its own memory.
-    const bool piccola = 2 * qint64(pixel.width()) * pixel.height() <= qint64(intero);
+    // A much smaller picture is worth its own memory, where there is place for both.
+    constexpr qint64 PixelInsieme = 60'000'000;
+    const qint64 prima = qint64(immagine.width()) * immagine.height();
+    const qint64 dopo = qint64(pixel.width()) * pixel.height();
+    const bool piccola = 2 * dopo <= prima && prima + dopo <= PixelInsieme;
     immagine = piccola ? immagine.copy(QRect(QPoint(0, 0), pixel)) : Angolo(immagine, pixel);
     if (immagine.isNull()) {
         throw std::bad_alloc();

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <QtEndian>
 #include <cmath>
 
 #include <sys/resource.h>
@@ -60,6 +61,24 @@ double MiBDiStampa(const QString &modello, const QString &pdf)
 }
 
 /// What that process does: the exit status tells how many messages there were.
+/// As many pixels as a bitmap may have.
+constexpr QSize PiuGrande(7440, 10752);
+
+qint64 ByteBmp(const QSize &pixel, int bit)
+{
+    return (qint64(pixel.width()) * bit + 31) / 32 * 4 * pixel.height();
+}
+
+/// The header of a bitmap and the beginning of its first row, which is coloured.
+QByteArray TestaBmp(const QSize &pixel, int bit)
+{
+    QByteArray testa = InFormato(Tinta({1, 1}, 0), "bmp").left(54);
+    qToLittleEndian(qint32(pixel.width()), testa.data() + 18);
+    qToLittleEndian(qint32(pixel.height()), testa.data() + 22);
+    qToLittleEndian(quint16(bit), testa.data() + 28);
+    return testa + QByteArray(300, '\x55').replace(0, 1, "\xAA");
+}
+
 int Stampa(const QString &percorso, const QString &pdf)
 {
     const QFileInfo file(percorso);
@@ -108,6 +127,8 @@ private slots:
 private:
     QByteArray scansione_;
 };
+    void memoriaDellaPiuGrande_data();
+    void memoriaDellaPiuGrande();
 
 void tst_FigureSuCarta::initTestCase()
 {
@@ -390,3 +411,37 @@ int main(int argc, char *argv[])
 }
 
 #include "tst_FigureSuCarta.moc"
+void tst_FigureSuCarta::memoriaDellaPiuGrande_data()
+{
+    QTest::addColumn<QByteArray>("testa");
+    QTest::addColumn<qint64>("byte");
+    QTest::newRow("BMP of 24 bits") << TestaBmp(PiuGrande, 24) << ByteBmp(PiuGrande, 24);
+    QTest::newRow("JPEG at 1200 dots per inch")
+        << ImmaginiRare::JpegA1200PuntiPerPollice() << qint64(0);
+    QTest::newRow("progressive JPEG")
+        << ImmaginiRare::JpegDiScansioni({11500, 11500}, 9) << qint64(0);
+    QTest::newRow("grey JPEG at 1200 dots per inch")
+        << JpegABlocchi({9921, 14031}, 1, [](int, int x, int y) { return 30 + (x + y) % 190; })
+        << qint64(0);
+}
+
+void tst_FigureSuCarta::memoriaDellaPiuGrande()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer's own memory would be measured");
+#endif
+    QFETCH(QByteArray, testa);
+    QFETCH(qint64, byte);
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("grande.bmp"), testa,
+                       {0, 0, byte > 0 ? 105.0 : 210.0, byte > 0 ? 148.0 : 297.0});
+    // The rows are a hole in the file: black, but for the first row, which keeps the colours.
+    QVERIFY(QFile::resize(foglio.Cartella() + QStringLiteral("grande.bmp"), testa.size() + byte));
+    const QString modello = foglio.Cartella() + QStringLiteral("Prova.Mod");
+    FileModello::Salva(foglio.Aperto, modello, QLocale::c());
+    const double mib = MiBDiStampa(modello, foglio.Pdf());
+    qInfo("%.0f MiB", mib);
+    QVERIFY2(mib > 0 && mib <= MiBMassimi, qPrintable(QString::number(mib)));
+    QCOMPARE(LettorePdf(foglio.Pdf()).Pagine(), 1);
+}
+
