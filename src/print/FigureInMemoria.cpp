@@ -9,7 +9,9 @@ namespace {
 
 /// What the pictures not in hand may take: all the small ones of a page, no scan.
 constexpr qsizetype ByteInDisparte = 16 * 1024 * 1024;
-constexpr int PixelStriscia = 4'000'000;
+/// Of these, what those may take that no further use is foreseen of: they are only asked for again
+/// where the page is computed, and filling fresh memory takes longer than the few that are.
+constexpr qsizetype ByteGiaUsati = 2 * 1024 * 1024;
 
 QSize Ridotta(const QSize &intera, qsizetype livello)
 {
@@ -54,12 +56,14 @@ void FigureInMemoria::Prevede(const QString &percorso, const QSize &pixel)
 {
     Voce &voce = voci_[percorso];
     voce.Bisogno = voce.Bisogno.expandedTo(pixel);
+    ++voce.UsiPrevisti;
 }
 
 FigureInMemoria::Figura FigureInMemoria::Carica(const QString &percorso, const QSize &pixel)
 {
-    Prevede(percorso, pixel);
     Voce &voce = voci_[percorso];
+    voce.Bisogno = voce.Bisogno.expandedTo(pixel);
+    voce.UsiPrevisti = std::max(0, voce.UsiPrevisti - 1);
     if (voce.Guasto) {
         throw ErroreSistema(*voce.Guasto);
     }
@@ -107,20 +111,35 @@ void FigureInMemoria::Decodifica(const QString &percorso, Voce &voce)
 void FigureInMemoria::FaPosto()
 {
     QList<Voce *> tenute;
-    qsizetype byte = 0;
+    QList<Voce *> giaUsate;
     for (Voce &voce : voci_) {
         if (!voce.Livelli.isEmpty()) {
             tenute.append(&voce);
-            byte += Byte(voce.Livelli);
+            if (voce.UsiPrevisti == 0) {
+                giaUsate.append(&voce);
+            }
         }
     }
+    Lascia(giaUsate, ByteGiaUsati);
+    Lascia(tenute, ByteInDisparte);
+}
+
+void FigureInMemoria::Lascia(QList<Voce *> &voci, qsizetype massimi)
+{
+    qsizetype byte = 0;
+    for (const Voce *voce : std::as_const(voci)) {
+        byte += Byte(voce->Livelli);
+    }
+    if (byte <= massimi) {
+        return;
+    }
     // The largest first: it frees the most, and leaves the many small ones that a page repeats.
-    std::sort(tenute.begin(), tenute.end(), [](const Voce *a, const Voce *b) {
+    std::sort(voci.begin(), voci.end(), [](const Voce *a, const Voce *b) {
         const qsizetype byteA = Byte(a->Livelli);
         const qsizetype byteB = Byte(b->Livelli);
         return byteA != byteB ? byteA > byteB : a->Uso < b->Uso;
     });
-    for (auto voce = tenute.begin(); voce != tenute.end() && byte > ByteInDisparte; ++voce) {
+    for (auto voce = voci.begin(); voce != voci.end() && byte > massimi; ++voce) {
         byte -= Byte((*voce)->Livelli);
         (*voce)->Livelli.clear();
     }

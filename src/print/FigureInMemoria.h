@@ -49,10 +49,12 @@ private:
         QList<Figura> Livelli; ///< the picture, its half, its quarter ...; null: not made yet
         std::optional<ErroreSistema> Guasto;
         quint64 Uso = 0;
+        int UsiPrevisti = 0; ///< still to come
     };
 
     void Decodifica(const QString &percorso, Voce &voce);
     void FaPosto();
+    static void Lascia(QList<Voce *> &voci, qsizetype massimi);
 
     QHash<QString, Voce> voci_;
     quint64 usi_ = 0;

@@ -120,6 +120,7 @@ private slots:
     void scansioniSovrapposteLettePocheVolte();
     void piccolaPrimaDellaGrande();
     void figuraGuastaDettaPerOgniElemento();
+    void ripetutaFraMolteLettaUnaVolta();
     void disegnoGrandeIntero();
     void memoriaLimitata_data();
     void memoriaLimitata();
@@ -321,6 +322,25 @@ void tst_FigureSuCarta::figuraGuastaDettaPerOgniElemento()
 {
     FoglioDiProva foglio;
     QByteArray byte = InFormato(Fotografia({100, 100}, 1), "jpeg");
+void tst_FigureSuCarta::ripetutaFraMolteLettaUnaVolta()
+{
+    // It is the largest of them and the one least lately used, but its second use is foreseen.
+    FoglioDiProva foglio;
+    const QString ripetuta = QStringLiteral("a.bmp");
+    foglio.ConImmagine(ripetuta, InFormato(Disegno({300, 300}, QStringLiteral("A")), "bmp"),
+                       {5, 5, 20, 20});
+    for (int k = 0; k < 60; ++k) {
+        foglio.ConImmagine(QStringLiteral("%1.bmp").arg(k),
+                           InFormato(Fotografia({200, 200}, unsigned(k)), "bmp"),
+                           {5.0 + k % 8 * 25, 30.0 + k / 8 * 25, 20, 20});
+    }
+    foglio.ConImmagine(ripetuta, {}, {100, 250, 20, 20});
+    const Aperture aperture(foglio.Cartella() + ripetuta);
+    foglio.Stampa();
+    QCOMPARE(foglio.Avvisi, QStringList());
+    QCOMPARE(aperture.Nuove(), 1);
+}
+
     foglio.ConImmagine(QStringLiteral("f.jpg"), byte.left(byte.size() / 2), {10, 10, 10, 10});
     foglio.ConImmagine(QStringLiteral("manca.bmp"), {}, {10, 10, 10, 10});
     foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {30, 30, 60, 60});
