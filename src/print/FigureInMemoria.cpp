@@ -34,20 +34,12 @@ qsizetype Byte(const QList<FigureInMemoria::Figura> &figure)
     return byte;
 }
 
-FigureInMemoria::Figura InStrisce(const QImage &immagine, bool comeJpeg)
+FigureInMemoria::Figura InParti(const QImage &immagine, bool comeJpeg)
 {
-    FigureInMemoria::Figura figura{immagine, comeJpeg, {}};
-    const int righe = comeJpeg ? immagine.height() : std::max(1, PixelStriscia / immagine.width());
-    if (righe >= immagine.height()) {
-        figura.Strisce = {{0, immagine}};
-        return figura;
+    if (comeJpeg) {
+        return {immagine, true, {{immagine.rect(), immagine}}};
     }
-    for (int prima = 0; prima < immagine.height(); prima += righe) {
-        const int alte = std::min(righe + 1, immagine.height() - prima);
-        figura.Strisce.append({prima, QImage(figura.Immagine.constScanLine(prima), immagine.width(),
-                                             alte, immagine.bytesPerLine(), immagine.format())});
-    }
-    return figura;
+    return {immagine, false, PartiDiFigura::Divide(immagine)};
 }
 
 } // namespace
@@ -89,7 +81,7 @@ FigureInMemoria::Figura FigureInMemoria::Carica(const QString &percorso, const Q
         if (ridotta.isNull()) {
             throw std::bad_alloc();
         }
-        figura = InStrisce(ridotta, voce.Livelli.constFirst().ComeJpeg);
+        figura = InParti(ridotta, voce.Livelli.constFirst().ComeJpeg);
     }
     return figura;
 }
@@ -100,7 +92,7 @@ void FigureInMemoria::Decodifica(const QString &percorso, Voce &voce)
     FaPosto();
     try {
         const Immagini::Opaca letta = Immagini::CaricaEntro(percorso, voce.Bisogno);
-        voce.Livelli = {InStrisce(letta.Immagine, letta.ComeJpeg)};
+        voce.Livelli = {InParti(letta.Immagine, letta.ComeJpeg)};
         voce.Decodificata = voce.Bisogno;
     } catch (const ErroreSistema &errore) {
         voce.Guasto = errore;

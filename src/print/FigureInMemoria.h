@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ErroreSistema.h"
+#include "print/PartiDiFigura.h"
 
 #include <QHash>
 #include <QImage>
@@ -19,20 +20,12 @@
 class FigureInMemoria
 {
 public:
-    /// Some rows of a picture.
-    struct Striscia
-    {
-        int Prima;       ///< the first of them
-        QImage Immagine; ///< shares the picture's memory
-    };
     struct Figura
     {
         QImage Immagine; ///< opaque, RGB32
         bool ComeJpeg = false;
-        /// The picture as it is handed to the printer, whose engine makes copies of what it gets:
-        /// a large one in parts, unless it travels as JPEG. Each part covers a row of the next one,
-        /// lest a viewer that smooths the edges shows the seam.
-        QList<Striscia> Strisce;
+        /// What is handed to the printer; a picture that travels as JPEG is one part.
+        QList<PartiDiFigura::Parte> Parti;
     };
 
     /// Carica will be asked for this use of the file. Reads nothing.

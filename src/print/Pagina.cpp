@@ -153,11 +153,11 @@ void Pagina::FiguraAnd(const QString &percorso, const QRectF &millimetri)
 
 void Pagina::DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &figura)
 {
-    const double passo = posto.height() / figura.Immagine.height();
-    for (const FigureInMemoria::Striscia &striscia : figura.Strisce) {
-        const QRectF parte(posto.x(), posto.y() + striscia.Prima * passo, posto.width(),
-                           striscia.Immagine.height() * passo);
-        DipingeImmagine(parte, striscia.Immagine, !figura.ComeJpeg);
+    const QTransform daiPixel = QTransform::fromScale(posto.width() / figura.Immagine.width(),
+                                                      posto.height() / figura.Immagine.height()) *
+                                QTransform::fromTranslate(posto.x(), posto.y());
+    for (const PartiDiFigura::Parte &parte : figura.Parti) {
+        DipingeImmagine(daiPixel.mapRect(QRectF(parte.Posto)), parte.Immagine, !figura.ComeJpeg);
     }
 }
 

@@ -6,9 +6,10 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QPainter>
 #include <QTest>
-
 #include <QtEndian>
+
 #include <cmath>
 
 #include <sys/resource.h>
@@ -60,7 +61,6 @@ double MiBDiStampa(const QString &modello, const QString &pdf)
     return WIFEXITED(stato) && WEXITSTATUS(stato) == 0 ? double(uso.ru_maxrss) / 1024 : -1;
 }
 
-/// What that process does: the exit status tells how many messages there were.
 /// As many pixels as a bitmap may have.
 constexpr QSize PiuGrande(7440, 10752);
 
@@ -79,6 +79,7 @@ QByteArray TestaBmp(const QSize &pixel, int bit)
     return testa + QByteArray(300, '\x55').replace(0, 1, "\xAA");
 }
 
+/// What that process does: the exit status tells how many messages there were.
 int Stampa(const QString &percorso, const QString &pdf)
 {
     const QFileInfo file(percorso);
@@ -119,17 +120,20 @@ private slots:
     void seiMisureUnaSolaLettura();
     void scansioniSovrapposteLettePocheVolte();
     void piccolaPrimaDellaGrande();
-    void figuraGuastaDettaPerOgniElemento();
     void ripetutaFraMolteLettaUnaVolta();
+    void figuraGuastaDettaPerOgniElemento();
     void disegnoGrandeIntero();
+    void ogniPixelDelDisegno_data();
+    void ogniPixelDelDisegno();
+    void biancoFuoriDalDocumento();
     void memoriaLimitata_data();
     void memoriaLimitata();
+    void memoriaDellaPiuGrande_data();
+    void memoriaDellaPiuGrande();
 
 private:
     QByteArray scansione_;
 };
-    void memoriaDellaPiuGrande_data();
-    void memoriaDellaPiuGrande();
 
 void tst_FigureSuCarta::initTestCase()
 {
@@ -318,10 +322,6 @@ void tst_FigureSuCarta::piccolaPrimaDellaGrande()
     QCOMPARE(maggiore, qRound(60 * PuntiPerMillimetro));
 }
 
-void tst_FigureSuCarta::figuraGuastaDettaPerOgniElemento()
-{
-    FoglioDiProva foglio;
-    QByteArray byte = InFormato(Fotografia({100, 100}, 1), "jpeg");
 void tst_FigureSuCarta::ripetutaFraMolteLettaUnaVolta()
 {
     // It is the largest of them and the one least lately used, but its second use is foreseen.
@@ -341,6 +341,10 @@ void tst_FigureSuCarta::ripetutaFraMolteLettaUnaVolta()
     QCOMPARE(aperture.Nuove(), 1);
 }
 
+void tst_FigureSuCarta::figuraGuastaDettaPerOgniElemento()
+{
+    FoglioDiProva foglio;
+    QByteArray byte = InFormato(Fotografia({100, 100}, 1), "jpeg");
     foglio.ConImmagine(QStringLiteral("f.jpg"), byte.left(byte.size() / 2), {10, 10, 10, 10});
     foglio.ConImmagine(QStringLiteral("manca.bmp"), {}, {10, 10, 10, 10});
     foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {30, 30, 60, 60});
@@ -377,6 +381,86 @@ void tst_FigureSuCarta::disegnoGrandeIntero()
     }
 }
 
+void tst_FigureSuCarta::ogniPixelDelDisegno_data()
+{
+    QTest::addColumn<QImage>("disegno");
+    constexpr QSize Pixel(100, 75);
+    const QImage bianco = Tinta(Pixel, qRgb(255, 255, 255));
+    QTest::newRow("all white") << bianco;
+    for (const QPoint &punto : {QPoint(0, 0), QPoint(99, 74), QPoint(37, 41)}) {
+        for (const QRgb colore : {qRgb(0, 0, 0), qRgb(200, 30, 90), qRgb(255, 255, 254)}) {
+            QImage immagine = bianco;
+            immagine.setPixel(punto, colore);
+            QTest::addRow("one pixel at %d,%d of %06X", punto.x(), punto.y(), colore & 0xFFFFFF)
+                << immagine;
+        }
+    }
+    QImage mono = bianco;
+    QImage strisce = bianco;
+    for (int k = 0; k < 60; ++k) {
+        mono.setPixel(20 + k % 30, 10 + k * 7 % 50, qRgb(0, 0, 0));
+        strisce.setPixel(k, 2, qRgb(k, 0, 99));
+        strisce.setPixel(99 - k, 72, qRgb(0, 0, 0));
+    }
+    QTest::newRow("black and white") << mono;
+    QTest::newRow("stripes far apart") << strisce;
+    QTest::newRow("drawing") << Disegno(Pixel, QStringLiteral("Vastrel"));
+}
+
+void tst_FigureSuCarta::ogniPixelDelDisegno()
+{
+    QFETCH(QImage, disegno);
+    // A pixel is a fifth of a millimetre: its middle is its own in any viewer.
+    constexpr double Passo = 0.2;
+    FoglioDiProva foglio;
+    const QPointF angolo(30, 40);
+    foglio.ConImmagine(QStringLiteral("d.bmp"), InFormato(disegno, "bmp"),
+                       {angolo, QSizeF(disegno.size()) * Passo});
+    // The one on its own, and another where a coloured bar lies across it.
+    const QPointF incontro(30, 100);
+    foglio.ConImmagine(QStringLiteral("d.bmp"), {}, {incontro, QSizeF(disegno.size()) * Passo});
+    const QRectF barra(25, 104, 30, 0.9);
+    const QRgb ciano = qRgb(0, 255, 255);
+    foglio.ConCornice(barra, 2.9, 11);
+    const LettorePdf pdf = foglio.Stampa();
+    QCOMPARE(foglio.Avvisi, QStringList());
+    QCOMPARE(pdf.Colore(26, 104.4), ciano);
+    for (int y = 0; y < disegno.height(); ++y) {
+        for (int x = 0; x < disegno.width(); ++x) {
+            const QPointF mezzo((x + 0.5) * Passo, (y + 0.5) * Passo);
+            const QRgb pixel = disegno.pixel(x, y) | 0xFF000000;
+            QCOMPARE(pdf.Colore(angolo.x() + mezzo.x(), angolo.y() + mezzo.y()), pixel);
+            const double riga = incontro.y() + mezzo.y();
+            const bool sulBordo =
+                qAbs(riga - barra.top()) < Passo || qAbs(riga - barra.bottom()) < Passo;
+            const bool sotto = riga > barra.top() && riga < barra.bottom();
+            if (!sulBordo) {
+                QCOMPARE(pdf.Colore(incontro.x() + mezzo.x(), riga), sotto ? pixel & ciano : pixel);
+            }
+        }
+    }
+}
+
+void tst_FigureSuCarta::biancoFuoriDalDocumento()
+{
+    const auto inDocumento = [](const QImage &disegno) {
+        FoglioDiProva foglio;
+        foglio.ConImmagine(QStringLiteral("d.bmp"), InFormato(disegno, "bmp"), {20, 20, 100, 80});
+        return foglio.Stampa().Forme();
+    };
+    const QImage bianco = Tinta({500, 400}, qRgb(255, 255, 255));
+    QCOMPARE(inDocumento(bianco), QStringList());
+    QImage logo = bianco;
+    QPainter(&logo).fillRect(100, 50, 30, 20, QColor(200, 0, 0));
+    QCOMPARE(inDocumento(logo), QStringList{QStringLiteral("32 22 rgb 8")});
+    QPainter(&logo).fillRect(100, 50, 30, 20, Qt::black);
+    QCOMPARE(inDocumento(logo), QStringList{QStringLiteral("32 22 gray 1")});
+    // A line of it stands far below the rest.
+    QPainter(&logo).fillRect(10, 399, 480, 1, Qt::blue);
+    QCOMPARE(inDocumento(logo),
+             (QStringList{QStringLiteral("32 22 gray 1"), QStringLiteral("482 2 rgb 8")}));
+}
+
 void tst_FigureSuCarta::memoriaLimitata_data()
 {
     QTest::addColumn<int>("scansioni");
@@ -390,6 +474,40 @@ void tst_FigureSuCarta::memoriaLimitata_data()
     QTest::newRow("two scans over each other")
         << 2 << QByteArray("jpeg") << QList<QRectF>{foglio, {5, 5, 200, 140}};
     QTest::newRow("a scan without loss") << 1 << QByteArray("bmp") << QList<QRectF>{foglio};
+}
+
+void tst_FigureSuCarta::memoriaDellaPiuGrande_data()
+{
+    QTest::addColumn<QByteArray>("testa");
+    QTest::addColumn<qint64>("byte");
+    QTest::newRow("BMP of 24 bits") << TestaBmp(PiuGrande, 24) << ByteBmp(PiuGrande, 24);
+    QTest::newRow("JPEG at 1200 dots per inch")
+        << ImmaginiRare::JpegA1200PuntiPerPollice() << qint64(0);
+    QTest::newRow("progressive JPEG")
+        << ImmaginiRare::JpegDiScansioni({11500, 11500}, 9) << qint64(0);
+    QTest::newRow("grey JPEG at 1200 dots per inch")
+        << JpegABlocchi({9921, 14031}, 1, [](int, int x, int y) { return 30 + (x + y) % 190; })
+        << qint64(0);
+}
+
+void tst_FigureSuCarta::memoriaDellaPiuGrande()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer's own memory would be measured");
+#endif
+    QFETCH(QByteArray, testa);
+    QFETCH(qint64, byte);
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("grande.bmp"), testa,
+                       {0, 0, byte > 0 ? 105.0 : 210.0, byte > 0 ? 148.0 : 297.0});
+    // The rows are a hole in the file: black, but for the first row, which keeps the colours.
+    QVERIFY(QFile::resize(foglio.Cartella() + QStringLiteral("grande.bmp"), testa.size() + byte));
+    const QString modello = foglio.Cartella() + QStringLiteral("Prova.Mod");
+    FileModello::Salva(foglio.Aperto, modello, QLocale::c());
+    const double mib = MiBDiStampa(modello, foglio.Pdf());
+    qInfo("%.0f MiB", mib);
+    QVERIFY2(mib > 0 && mib <= MiBMassimi, qPrintable(QString::number(mib)));
+    QCOMPARE(LettorePdf(foglio.Pdf()).Pagine(), 1);
 }
 
 void tst_FigureSuCarta::memoriaLimitata()
@@ -431,37 +549,3 @@ int main(int argc, char *argv[])
 }
 
 #include "tst_FigureSuCarta.moc"
-void tst_FigureSuCarta::memoriaDellaPiuGrande_data()
-{
-    QTest::addColumn<QByteArray>("testa");
-    QTest::addColumn<qint64>("byte");
-    QTest::newRow("BMP of 24 bits") << TestaBmp(PiuGrande, 24) << ByteBmp(PiuGrande, 24);
-    QTest::newRow("JPEG at 1200 dots per inch")
-        << ImmaginiRare::JpegA1200PuntiPerPollice() << qint64(0);
-    QTest::newRow("progressive JPEG")
-        << ImmaginiRare::JpegDiScansioni({11500, 11500}, 9) << qint64(0);
-    QTest::newRow("grey JPEG at 1200 dots per inch")
-        << JpegABlocchi({9921, 14031}, 1, [](int, int x, int y) { return 30 + (x + y) % 190; })
-        << qint64(0);
-}
-
-void tst_FigureSuCarta::memoriaDellaPiuGrande()
-{
-#if defined(__SANITIZE_ADDRESS__)
-    QSKIP("the sanitizer's own memory would be measured");
-#endif
-    QFETCH(QByteArray, testa);
-    QFETCH(qint64, byte);
-    FoglioDiProva foglio;
-    foglio.ConImmagine(QStringLiteral("grande.bmp"), testa,
-                       {0, 0, byte > 0 ? 105.0 : 210.0, byte > 0 ? 148.0 : 297.0});
-    // The rows are a hole in the file: black, but for the first row, which keeps the colours.
-    QVERIFY(QFile::resize(foglio.Cartella() + QStringLiteral("grande.bmp"), testa.size() + byte));
-    const QString modello = foglio.Cartella() + QStringLiteral("Prova.Mod");
-    FileModello::Salva(foglio.Aperto, modello, QLocale::c());
-    const double mib = MiBDiStampa(modello, foglio.Pdf());
-    qInfo("%.0f MiB", mib);
-    QVERIFY2(mib > 0 && mib <= MiBMassimi, qPrintable(QString::number(mib)));
-    QCOMPARE(LettorePdf(foglio.Pdf()).Pagine(), 1);
-}
-

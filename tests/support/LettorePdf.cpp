@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -115,17 +116,34 @@ int LettorePdf::Immagini() const
     return int(elenco.count('\n')) - 2;
 }
 
+QStringList LettorePdf::RigheImmagini() const
+{
+    QStringList righe =
+        QString::fromUtf8(Esegue(QStringLiteral("pdfimages"), {QStringLiteral("-list"), percorso_}))
+            .split(u'\n', Qt::SkipEmptyParts)
+            .mid(2);
+    std::transform(righe.begin(), righe.end(), righe.begin(),
+                   [](const QString &riga) { return riga.simplified(); });
+    return righe;
+}
+
 QStringList LettorePdf::Codifiche() const
 {
-    const QStringList righe =
-        QString::fromUtf8(Esegue(QStringLiteral("pdfimages"), {QStringLiteral("-list"), percorso_}))
-            .split(u'\n', Qt::SkipEmptyParts);
     constexpr int Colonna = 8;
     QStringList codifiche;
-    for (qsizetype i = 2; i < righe.size(); ++i) {
-        codifiche.append(righe.at(i).simplified().section(u' ', Colonna, Colonna));
+    for (const QString &riga : RigheImmagini()) {
+        codifiche.append(riga.section(u' ', Colonna, Colonna));
     }
     return codifiche;
+}
+
+QStringList LettorePdf::Forme() const
+{
+    QStringList forme;
+    for (const QString &riga : RigheImmagini()) {
+        forme.append(riga.section(u' ', 3, 5) + u' ' + riga.section(u' ', 7, 7));
+    }
+    return forme;
 }
 
 QImage LettorePdf::Immagine(int k) const

@@ -37,6 +37,8 @@ public:
     int Immagini() const;
     /// How each picture stands in the file: "jpeg", or "image" without loss.
     QStringList Codifiche() const;
+    /// Width, height, colour space ("rgb", "gray") and bits per colour of each picture.
+    QStringList Forme() const;
     /// The pixels of the k-th picture (from 0) as they stand in the file.
     QImage Immagine(int k) const;
 
@@ -54,6 +56,8 @@ public:
     QRectF Inchiostro() const;
 
 private:
+    QStringList RigheImmagini() const;
+
     QString percorso_;
     int pagine_ = 0;
     QSizeF foglio_;
