@@ -8,7 +8,6 @@ namespace {
 
 /// Blocks that are walked over before the picture at most: no picture has more.
 constexpr int BlocchiMassimi = 1 << 14;
-constexpr qint64 PixelMassimi = 80'000'000;
 /// Data beyond the picture's last pixel that a careless writer may leave.
 constexpr qint64 PixelDiTroppo = 1'000'000;
 
@@ -159,7 +158,7 @@ bool DatiGif::Interi(QByteArrayView file)
             }
         } else if (blocco == 0x2C && posto + ByteDescrizione <= file.size()) {
             const qint64 pixel = qint64(CortoA(file, posto + 5)) * CortoA(file, posto + 7);
-            return pixel <= PixelMassimi &&
+            return pixel <= DatiGif::PixelMassimi &&
                    FiguraIntera(file, DopoTavola(posto + ByteDescrizione, ByteA(file, posto + 9)),
                                 pixel);
         } else {

@@ -295,8 +295,10 @@ bool IntestazioneImmagine::TroppoGrande(qint64 byte) const
 {
     const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
     const bool bmp = Formato == "bmp";
-    return pixel > (Formato == "jpeg" ? PixelJpegMassimi : PixelMassimi) ||
-           (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
+    const qint64 massimi = Formato == "jpeg" ? PixelJpegMassimi
+                           : bmp             ? PixelMassimi
+                                             : DatiGif::PixelMassimi;
+    return pixel > massimi || (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
            (!bmp && byte > ByteMassimi);
 }
 

@@ -11,6 +11,7 @@
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 
 using namespace ImmaginiRare;
 
@@ -67,6 +68,7 @@ private slots:
     void JpegTagliatoOvunqueRifiutato();
     void BmpTagliatoNeiPixelRifiutato();
     void AlfaDatoRimane();
+    void GifOltreIPixelMassimi();
     void MoltoPrimaDeiPixel();
     void EntroUnSecondo_data();
     void EntroUnSecondo();
@@ -172,6 +174,24 @@ void tst_ImmaginiRare::AlfaDatoRimane()
     QVERIFY(letta.hasAlphaChannel());
     QCOMPARE(qAlpha(letta.pixel(41, 0)), 0x80);
     QCOMPARE(qAlpha(letta.pixel(0, 0)), 0);
+}
+
+void tst_ImmaginiRare::GifOltreIPixelMassimi()
+{
+    QByteArray byte = ImmaginiDiProva::GifTrasparente();
+    const auto troppoGrande = [&](quint16 lato) {
+        qToLittleEndian(lato, byte.data() + 6);
+        qToLittleEndian(lato, byte.data() + 8);
+        try {
+            Immagini::CaricaScalata(Scrivi(byte + QByteArray(100'000, '\0')), {600, 800});
+        } catch (const Immagini::TroppoGrande &) {
+            return true;
+        } catch (const ErroreSistema &) { // any other has been judged by its data
+        }
+        return false;
+    };
+    QVERIFY(!troppoGrande(7745));
+    QVERIFY(troppoGrande(7746)); // 60,000,516 pixels
 }
 
 void tst_ImmaginiRare::MoltoPrimaDeiPixel()
