@@ -120,8 +120,8 @@ void bench_Editor::initTestCase()
 
 void bench_Editor::Stende()
 {
-    piena_.Aperto().Sfondo = {scansione_,          QStringLiteral("210"), QStringLiteral("297"),
-                              QStringLiteral("0"), QStringLiteral("0"),   1};
+    piena_.DaAprire().Sfondo = {scansione_,          QStringLiteral("210"), QStringLiteral("297"),
+                                QStringLiteral("0"), QStringLiteral("0"),   1};
     piena_.Scrive();
 }
 
@@ -185,7 +185,7 @@ void bench_Editor::TrascinamentoA60Hz()
         QTest::qSleep(qMax(0, Periodo - static_cast<int>(passo.elapsed())));
     }
     QTest::mouseRelease(foglio, Qt::LeftButton, {}, presa + QPoint(50, 50));
-    editor->Variato = false;
+    piena_.Stato().documento.Salvato();
     std::sort(ritardi.begin(), ritardi.end());
     const QByteArray caso = QByteArray(", ") + QTest::currentDataTag();
     Riporta("100 drag steps, processor" + caso, cpu, 100);
@@ -224,7 +224,7 @@ void bench_Editor::Scansione()
                         QCoreApplication::processEvents();
                     }),
             16);
-    editor->Variato = false;
+    piena_.Stato().documento.Salvato();
 }
 
 void bench_Editor::Riposo()
@@ -238,7 +238,7 @@ void bench_Editor::Riposo()
     giro.exec();
     // None but for the one timer of this loop, which takes a fraction of a millisecond.
     Riporta("processor in 10 s of rest", MilliSecondiCpu() - inizio, 1);
-    editor->Variato = false;
+    piena_.Stato().documento.Salvato();
 }
 
 QTEST_MAIN(bench_Editor)

@@ -218,7 +218,7 @@ void bench_Programma::ScansioneInSeiMisure()
 void bench_Programma::Memoria()
 {
     const QByteArray archivio = QFile::encodeName(prova_->Stato().CartellaModelli);
-    const QByteArray modello = QFile::encodeName(prova_->Aperto().NomeFile);
+    const QByteArray modello = QFile::encodeName(prova_->Stato().NomeFile);
     long memoria = 0;
     QCOMPARE(Processo({Aperto, archivio, modello}).Attende(memoria), 0);
     long vuota = 0;

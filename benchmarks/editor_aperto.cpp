@@ -1,5 +1,5 @@
+#include "documento/StatoProgramma.h"
 #include "editor/Form2.h"
-#include "model/StatoProgramma.h"
 #include "preview/Frm1.h"
 
 #include <QApplication>
@@ -17,7 +17,7 @@ int main(int argc, char *argv[])
     }
     StatoProgramma stato;
     stato.CartellaModelli = argomenti[1];
-    stato.Aperto.NomeFile = argomenti[2];
+    stato.NomeFile = argomenti[2];
     Form2 editor(stato);
     if (!editor.Form_Load()) {
         return 1;

@@ -144,16 +144,18 @@ int StampaSenzaFinestre(const Richieste &richieste)
         const QString percorso = Percorsi::Risolve(richieste.modello);
         StatoProgramma stato;
         stato.CartellaModelli = CartellaDi(percorso);
-        stato.Aperto.NomeFile = QFileInfo(percorso).fileName();
-        if (!FileModello::LeggeModello(stato.Aperto, percorso, [](const QString &testo) {
+        stato.NomeFile = QFileInfo(percorso).fileName();
+        Modello modello;
+        modello.NomeFile = stato.NomeFile;
+        if (!FileModello::LeggeModello(modello, percorso, [](const QString &testo) {
                 Messaggi::Mostra(nullptr, testo);
             })) {
             return;
         }
-        FileDiUscita::Verifica(Uscite(richieste), percorso, stato.Aperto);
+        FileDiUscita::Verifica(Uscite(richieste), percorso, modello);
         if (!richieste.pdf.isEmpty()) {
-            stato.Aperto.ArrotondaTutti();
-            StampaPdf(stato.Aperto, stato.CartellaModelli, richieste);
+            modello.ArrotondaTutti();
+            StampaPdf(modello, stato.CartellaModelli, richieste);
         }
         if (!richieste.anteprima.isEmpty()) {
             SalvaAnteprima(stato, richieste);

@@ -52,7 +52,7 @@ void SelezioneArchivifrm::Nuovo_Click()
     // A failure reaches the guard, whose message names the number and the file.
     Percorsi::Copia(stato_.CartellaModelli + richiesta->fileTipo,
                     stato_.CartellaModelli + nuovoNome);
-    stato_.Aperto.NomeFile = nuovoNome;
+    stato_.NomeFile = nuovoNome;
     Consegna();
 }
 
@@ -71,7 +71,7 @@ std::optional<SelezioneArchivifrm::Richiesta> SelezioneArchivifrm::RichiestaScel
             Messaggi::Mostra(this, QStringLiteral("Selezionare un modello esistente"));
             return std::nullopt;
         }
-        const QString &originale = stato_.Aperto.NomeFile;
+        const QString &originale = stato_.NomeFile;
         // The proposed name keeps the extension of the original: users know it so.
         richiesta = Richiesta{originale,
                               QStringLiteral("Creazione nuovo modello duplicando:\n") + originale,

@@ -148,7 +148,7 @@ void SelezioneArchivifrm::showEvent(QShowEvent *evento)
     Guardia(this, [this] {
         if (riapertura_) {
             riapertura_ = false;
-            RiprendeElenchi(stato_.Aperto.NomeFile);
+            RiprendeElenchi(stato_.NomeFile);
         }
         if (ArchivioScelto()) {
             ui_->List2->setFocus();
@@ -168,7 +168,7 @@ bool SelezioneArchivifrm::eventFilter(QObject *oggetto, QEvent *evento)
 
 void SelezioneArchivifrm::AggiornaElenchi()
 {
-    RiprendeElenchi(ModelloSelezionato() ? stato_.Aperto.NomeFile : QString());
+    RiprendeElenchi(ModelloSelezionato() ? stato_.NomeFile : QString());
 }
 
 void SelezioneArchivifrm::RiprendeElenchi(const QString &nomeFile)
@@ -250,7 +250,7 @@ void SelezioneArchivifrm::RipeteElenco()
 void SelezioneArchivifrm::List2_Click()
 {
     if (ModelloSelezionato()) {
-        stato_.Aperto.NomeFile =
+        stato_.NomeFile =
             ui_->List2->selectedItems().constFirst()->text() + ElencoModelli::Estensione;
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 #include "platform/IstanzaUnica.h"
 
 #include <QWidget>

@@ -149,13 +149,13 @@ void FrmCampo::PConfemaCampo_Click()
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
 
-        Campo &campo = Aperto().Campi[n];
-        ScriveElemento(n, posto);
+        Campo campo = Aperto().Campi[n];
+        ScriveElemento(campo, posto);
         Scrive(campo, carattere);
         campo.Testo = Caselle().Testo(ui_->Testo);
         campo.MascheraDefault = Caselle().Testo(ui_->MascheraDefault);
         campo.Maschera = MascheraCorrente();
-        Conclude(n);
+        Conferma(n, campo);
     });
 }
 
@@ -164,12 +164,12 @@ void FrmCampo::Command2_Click()
     Tenta([this] {
         const PuntatoreOccupato occupato;
         const Carattere carattere = CarattereScelto();
+        Passo passo(DocumentoAperto(), QStringLiteral("font su tutti i campi"));
         for (int i = 1; i <= Aperto().UltimoSlot(Genere::Campo); ++i) {
-            Scrive(Aperto().Campi[i], carattere);
-            emit Applicato(Genere::Campo, i);
+            Campo campo = Aperto().Campi[i];
+            Scrive(campo, carattere);
+            passo.Scrive(i, campo);
         }
-        emit ApplicatoATutti();
-        emit ModificaConclusa();
     });
 }
 

@@ -36,15 +36,15 @@ protected:
 
     void Form_Load(const Controlli &controlli, const ControlliCarattere &carattere);
     /// Shows test text and bold of element k; its font and size are the editor's to select.
-    template <typename Elemento>
-    void CaricaCarattere(const Elemento &elemento);
+    template <typename Record>
+    void CaricaCarattere(const Record &elemento);
     /// A double click in the box Nome is Nome_DblClick.
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
     /// Throws Rifiuto when no font or no size is chosen.
     Carattere CarattereScelto() const;
-    template <typename Elemento>
-    static void Scrive(Elemento &elemento, const Carattere &carattere);
+    template <typename Record>
+    static void Scrive(Record &elemento, const Carattere &carattere);
 
 private:
     void Nome_DblClick();
@@ -55,14 +55,14 @@ private:
     qint16 dimensione_ = 0; ///< the element's own, points; ComboDim may lack it
 };
 
-template <typename Elemento>
-void FrmCarattere::CaricaCarattere(const Elemento &elemento)
+template <typename Record>
+void FrmCarattere::CaricaCarattere(const Record &elemento)
 {
     MostraCarattere(elemento.Testo, elemento.Grassetto != Falso, elemento.Dimensione);
 }
 
-template <typename Elemento>
-void FrmCarattere::Scrive(Elemento &elemento, const Carattere &carattere)
+template <typename Record>
+void FrmCarattere::Scrive(Record &elemento, const Carattere &carattere)
 {
     elemento.Font = carattere.Font;
     elemento.Grassetto = carattere.Grassetto;

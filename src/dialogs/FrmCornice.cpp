@@ -169,8 +169,8 @@ void FrmCornice::Confema_Click()
             misure.Altezza = Doppio(ui_->Alt);
         }
 
-        Cornice &cornice = Aperto().Cornici[n];
-        ScriveElemento(n, posto);
+        Cornice cornice = Aperto().Cornici[n];
+        ScriveElemento(cornice, posto);
         cornice.Testo = Caselle().Testo(ui_->Testo);
         cornice.Bordo = bordo;
         cornice.ColoreCornice = Intero16(ui_->ColoreCorn, ui_->ColoreCorn->text());
@@ -181,8 +181,18 @@ void FrmCornice::Confema_Click()
         cornice.Larghezza = misure.Larghezza;
         cornice.Altezza = misure.Altezza;
         Scrive(cornice, carattere);
-        Conclude(n);
+        Conferma(n, cornice);
     });
+}
+
+void FrmCornice::SuTutte(const QString &testo, const std::function<void(Cornice &)> &cambia)
+{
+    Passo passo(DocumentoAperto(), testo);
+    for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
+        Cornice cornice = Aperto().Cornici[i];
+        cambia(cornice);
+        passo.Scrive(i, cornice);
+    }
 }
 
 void FrmCornice::Command1_Click()
@@ -191,13 +201,10 @@ void FrmCornice::Command1_Click()
         const PuntatoreOccupato occupato;
         const qint16 coloreTesto = ValIntero16(ui_->ColoreTesto);
         const qint16 coloreCornice = ValIntero16(ui_->ColoreCorn);
-        for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
-            Cornice &cornice = Aperto().Cornici[i];
+        SuTutte(QStringLiteral("colori su tutte le cornici"), [&](Cornice &cornice) {
             cornice.ColoreTesto = coloreTesto;
             cornice.ColoreCornice = coloreCornice;
-            emit Applicato(Genere::Cornice, i);
-        }
-        emit ApplicatoATutti();
+        });
         accept();
     });
 }
@@ -209,13 +216,10 @@ void FrmCornice::Command2_Click()
         const PuntatoreOccupato occupato;
         const Carattere carattere = CarattereScelto();
         const qint16 coloreTesto = Intero16(ui_->ColoreTesto, ui_->ColoreTesto->text());
-        for (int i = 1; i <= Aperto().UltimoSlot(Genere::Cornice); ++i) {
-            Cornice &cornice = Aperto().Cornici[i];
+        SuTutte(QStringLiteral("font su tutte le cornici"), [&](Cornice &cornice) {
             Scrive(cornice, carattere);
             cornice.ColoreTesto = coloreTesto;
-            emit Applicato(Genere::Cornice, i);
-        }
-        emit ApplicatoATutti();
+        });
         accept();
     });
 }

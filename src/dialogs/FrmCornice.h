@@ -2,6 +2,7 @@
 
 #include "dialogs/FrmCarattere.h"
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -44,6 +45,8 @@ private:
     static void ControllaColore(QLineEdit *casella, const QString &messaggio);
     /// Throws Rifiuto when the width, read leniently, is zero or less, or beyond a double.
     void ControllaLarghezza() const;
+    /// Changes the record of every frame, as one step of that text.
+    void SuTutte(const QString &testo, const std::function<void(Cornice &)> &cambia);
     /// Size of a label, from its text: the boxes then show it.
     Misure AdattaAllaScritta(const Carattere &carattere);
 

@@ -53,11 +53,11 @@ void FrmElemento::Form_Load(const Controlli &controlli)
 
 void FrmElemento::CaricaElemento(int k)
 {
-    Modello &aperto = stato_.Aperto;
-    caselle_.Mostra(controlli_.Nome, aperto.Nome(genere_, k));
-    caselle_.Mostra(controlli_.Descrizione, aperto.Descrizione(genere_, k));
-    caselle_.Mostra(controlli_.X, aperto.X(genere_, k));
-    caselle_.Mostra(controlli_.Y, aperto.Y(genere_, k));
+    const Elemento &elemento = Aperto().Di({genere_, k});
+    caselle_.Mostra(controlli_.Nome, elemento.Nome);
+    caselle_.Mostra(controlli_.Descrizione, elemento.Descrizione);
+    caselle_.Mostra(controlli_.X, elemento.X);
+    caselle_.Mostra(controlli_.Y, elemento.Y);
     controlli_.Num->setText(QString::number(k));
 }
 
@@ -140,18 +140,22 @@ FrmElemento::Posto FrmElemento::PostoScritto() const
     return {x, Doppio(controlli_.Y)};
 }
 
-void FrmElemento::ScriveElemento(int n, const Posto &posto)
+void FrmElemento::ScriveElemento(Elemento &elemento, const Posto &posto) const
 {
-    Aperto().Nome(genere_, n) = caselle_.Testo(controlli_.Nome);
-    Aperto().X(genere_, n) = posto.X;
-    Aperto().Y(genere_, n) = posto.Y;
-    Aperto().Descrizione(genere_, n) = caselle_.Testo(controlli_.Descrizione);
+    elemento.Nome = caselle_.Testo(controlli_.Nome);
+    elemento.X = posto.X;
+    elemento.Y = posto.Y;
+    elemento.Descrizione = caselle_.Testo(controlli_.Descrizione);
+}
+
+QString FrmElemento::TestoModifica(const QString &nome)
+{
+    return QStringLiteral("modifica ") + nome;
 }
 
 void FrmElemento::Conclude(int n)
 {
-    emit Applicato(genere_, n);
-    emit VoceRinominata(genere_, n, Aperto().Nome(genere_, n));
+    emit VoceScelta(genere_, n);
     accept();
 }
 
@@ -165,9 +169,12 @@ void FrmElemento::ChiedeEliminazione(const QString &domanda)
 
 void FrmElemento::EliminaElemento(int n)
 {
-    Aperto().Nome(genere_, n).clear();
-    emit Eliminato(genere_, n);
-    accept();
+    {
+        Passo passo(stato_.documento, {});
+        passo.Nomina(QStringLiteral("elimina ") + Aperto().Nome(genere_, n));
+        passo.Elimina({genere_, n});
+    }
+    Conclude(n);
 }
 
 void FrmElemento::Rifiuta(const Rifiuto &rifiuto)

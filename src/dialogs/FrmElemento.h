@@ -1,7 +1,8 @@
 #pragma once
 
 #include "dialogs/MemoriaCaselle.h"
-#include "model/StatoProgramma.h"
+#include "documento/Passo.h"
+#include "documento/StatoProgramma.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -19,19 +20,8 @@ public:
     static bool Numero(QLineEdit *casella);
 
 signals:
-    /// Record n was written: the preview applies the element's settings, then places it as moved.
-    void Applicato(Genere genere, int n);
-    /// Applicato was said of every element of the kind in turn, by one command.
-    void ApplicatoATutti();
-    /// Record n was written, but only the place and size of the element have to follow.
-    void Ricollocato(Genere genere, int n);
-    /// The editor's list entry n takes the name and becomes the selected one.
-    void VoceRinominata(Genere genere, int n, const QString &nome);
-    /// A command that leaves the dialog open has changed the model, and is done.
-    void ModificaConclusa();
-    /// Element n is absent now: its control and the marker of its kind are hidden, and the editor's
-    /// list entry n is relabelled and selected.
-    void Eliminato(Genere genere, int n);
+    /// Element n has been confirmed or deleted: the editor's list goes to it.
+    void VoceScelta(Genere genere, int n);
 
 protected:
     /// The boxes that every dialog has; they belong to the dialog.
@@ -64,8 +54,8 @@ protected:
     /// element.
     static void MettePrimo(QLineEdit *casella);
 
-    Modello &Aperto() { return stato_.Aperto; }
-    const Modello &Aperto() const { return stato_.Aperto; }
+    const Modello &Aperto() const { return stato_.Aperto(); }
+    Documento &DocumentoAperto() { return stato_.documento; }
     const StatoProgramma &Stato() const { return stato_; }
     MemoriaCaselle &Caselle() { return caselle_; }
     const MemoriaCaselle &Caselle() const { return caselle_; }
@@ -107,10 +97,20 @@ protected:
         double Y;
     };
     Posto PostoScritto() const;
-    /// Writes name, place and description, which the confirm of every kind stores.
-    void ScriveElemento(int n, const Posto &posto);
-    /// The end of every confirm: preview, then list, then the dialog closes.
-    void Conclude(int n);
+    /// Puts name, place and description, which the confirm of every kind stores, into its record.
+    void ScriveElemento(Elemento &elemento, const Posto &posto) const;
+    /// The end of every confirm: the record becomes that of element n, the list takes its name, the
+    /// dialog closes.
+    template <typename Record>
+    void Conferma(int n, const Record &record)
+    {
+        {
+            Passo passo(stato_.documento, TestoModifica(record.Nome));
+            passo.Scrive(n, record);
+            passo.RinominaVoce({genere_, n});
+        }
+        Conclude(n);
+    }
     /// Asks domanda, completed by the element's name; on Yes makes it absent and closes the dialog.
     void ChiedeEliminazione(const QString &domanda);
     /// Makes element n absent and closes the dialog, without asking.
@@ -118,6 +118,8 @@ protected:
 
 private:
     static Rifiuto TroppoGrande(QWidget *controllo, const QString &testo);
+    static QString TestoModifica(const QString &nome);
+    void Conclude(int n);
     void Rifiuta(const Rifiuto &rifiuto);
 
     Genere genere_;

@@ -139,7 +139,6 @@ void FrmImmagine::ImpostaImmagine()
     }
     try {
         ScriveSubito();
-        emit Ricollocato(Genere::Immagine, Indice());
     } catch (const ErroreSistema &) {
         // Choosing a picture never fails: a record that cannot be written is left to the confirm,
         // which says so.
@@ -212,11 +211,16 @@ void FrmImmagine::ScriveSubito()
     if (ui_->Nome->text().isEmpty()) {
         return; // measuring nothing must not make the picture absent unasked
     }
-    Immagine &immagine = Aperto().Immagini[Indice()];
+    const int n = Indice();
+    Immagine immagine = Aperto().Immagini[n];
     immagine.Nome = Caselle().Testo(ui_->Nome);
     // A size that is no number is passed over here and reported by the confirm.
     immagine.Larghezza = Caselle().Numerico(ui_->Largh).value_or(immagine.Larghezza);
     immagine.Altezza = Caselle().Numerico(ui_->Alt).value_or(immagine.Altezza);
+    Passo passo(DocumentoAperto(), QStringLiteral("sceglie ") + immagine.Nome);
+    passo.Scrive(n, immagine);
+    // List and hint keep the former name until the confirm.
+    passo.Mostra(Cambiamento::Origine::Posto);
 }
 
 void FrmImmagine::Confema_Click()
@@ -234,12 +238,12 @@ void FrmImmagine::Confema_Click()
         const double larghezza = Doppio(ui_->Largh);
         const double altezza = Doppio(ui_->Alt);
 
-        Immagine &immagine = Aperto().Immagini[n];
-        ScriveElemento(n, posto);
+        Immagine immagine = Aperto().Immagini[n];
+        ScriveElemento(immagine, posto);
         immagine.Bordo = bordo;
         immagine.Larghezza = larghezza;
         immagine.Altezza = altezza;
-        Conclude(n);
+        Conferma(n, immagine);
     });
 }
 

@@ -14,6 +14,7 @@ public:
     enum class Origine {
         Comando, ///< a command or a dialog
         Gesto,   ///< the mouse, in the middle of a gesture: only places and sizes
+        Posto,   ///< a dialog that is still open: places, sizes and the files of pictures
         Storia,  ///< undo or redo: boxes are filled again too
         Apertura ///< another model: everything
     };

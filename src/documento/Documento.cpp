@@ -68,9 +68,8 @@ private:
     bool nuovo_ = true;
 };
 
-Documento::Documento(QObject *padre)
-    : QObject(padre)
-    , storia_(std::make_unique<QUndoStack>())
+Documento::Documento()
+    : storia_(std::make_unique<QUndoStack>())
 {
     storia_->setUndoLimit(PassiTenuti);
     connect(storia_.get(), &QUndoStack::indexChanged, this, &Documento::StoriaCambiata);
@@ -83,6 +82,14 @@ bool Documento::Eliminato(Chiave chiave) const
     return Voce(chiave).startsWith(InizioEliminato);
 }
 
+bool Documento::InVista(Chiave chiave) const
+{
+    // An image gets its name with its picture; in a file a blank name means an absent element.
+    const bool nuovo = chiave.indice > ultimiAllApertura_.at(Posto(chiave.genere));
+    return chiave.indice <= Aperto().UltimoSlot(chiave.genere) && !Eliminato(chiave) &&
+           (nuovo || Aperto().Presente(chiave.genere, chiave.indice));
+}
+
 void Documento::Prende(Modello modello, bool variato)
 {
     DimenticaStoria();
@@ -92,30 +99,24 @@ void Documento::Prende(Modello modello, bool variato)
     tocchi_ = {};
     tocchi_.Tipo = tocchi_.Righe = tocchi_.Sfondo = true;
     for (const Genere genere : Generi) {
+        ultimiAllApertura_.at(Posto(genere)) = Aperto().UltimoSlot(genere);
         for (int i = 1; i <= Aperto().UltimoSlot(genere); ++i) {
             stato_.Voce({genere, i}) = Aperto().Nome(genere, i);
             tocchi_.Aggiunge({genere, i});
         }
     }
-    ImpostaVariato(variato);
+    variato_ = variato;
     Avvisa(Cambiamento::Origine::Apertura);
-}
-
-void Documento::ImpostaVariato(bool variato)
-{
-    if (std::exchange(variato_, variato) != variato) {
-        emit VariatoCambiato(variato);
-    }
 }
 
 void Documento::SegnaVariato()
 {
-    ImpostaVariato(true);
+    variato_ = true;
 }
 
 void Documento::Salvato()
 {
-    ImpostaVariato(false);
+    variato_ = false;
     // Steps after a save join none before it: undoing must be able to stop at what was saved.
     ChiudeUnione();
     storia_->setClean();
@@ -149,6 +150,7 @@ QString Documento::TestoRipristina() const
 void Documento::Annulla()
 {
     if (PuoAnnullare()) {
+        ChiudeUnione();
         storia_->undo();
         Conclude();
     }
@@ -157,6 +159,7 @@ void Documento::Annulla()
 void Documento::Ripristina()
 {
     if (PuoRipristinare()) {
+        ChiudeUnione();
         storia_->redo();
         Conclude();
     }
@@ -165,6 +168,7 @@ void Documento::Ripristina()
 void Documento::ChiudeUnione()
 {
     ++unioni_;
+    Conclude();
 }
 
 void Documento::Colloca(Chiave chiave)
@@ -196,22 +200,23 @@ void Documento::Conclude()
     }
 }
 
-void Documento::Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
+bool Documento::Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
                          int entroMillisecondi)
 {
     Differenza differenza(prima, stato_);
     if (differenza.Vuota()) {
-        return;
+        return false;
     }
     storia_->push(new Fatto(*this, std::move(differenza), testo, unione, entroMillisecondi));
     emit StoriaCambiata(); // a step that joins another does not move the history's index
+    return true;
 }
 
 void Documento::Percorre(Differenza &differenza)
 {
     differenza.Scambia(stato_);
     differenza.Segnala(tocchi_);
-    ImpostaVariato(true);
+    variato_ = true;
     daConcludere_ = true;
     Avvisa(Cambiamento::Origine::Storia);
 }

@@ -20,7 +20,7 @@ public:
     /// Undo steps that are kept; the oldest go first.
     static constexpr int PassiTenuti = 250;
 
-    explicit Documento(QObject *padre = nullptr);
+    Documento();
     ~Documento() override;
 
     const Modello &Aperto() const { return stato_.modello; }
@@ -28,6 +28,9 @@ public:
     const QString &Voce(Chiave chiave) const { return stato_.Voce(chiave); }
     /// True when the element has been deleted since the model was opened; its Voce says so.
     bool Eliminato(Chiave chiave) const;
+
+    /// True when the sheet shows the element: it is there, or it is new and has no name yet.
+    bool InVista(Chiave chiave) const;
 
     /// Another model is open from now on: elements stand where placing puts them, the lists show
     /// their names, there is nothing to undo. variato: it holds work that no file holds.
@@ -52,7 +55,8 @@ public:
     /// gesture has to end first.
     void Annulla();
     void Ripristina();
-    /// A later step joins no earlier one: the text box has been left.
+    /// A later step joins no earlier one, and what was typed is a finished edit: the text box has
+    /// been left.
     void ChiudeUnione();
 
     /// Puts an element where its rules want it, when selecting or zooming shows it: no step of its
@@ -64,7 +68,6 @@ signals:
     void Cambiato(const Cambiamento &cambiamento);
     /// A finished edit, undo or redo has changed the model.
     void ModificaConclusa();
-    void VariatoCambiato(bool variato);
     /// PuoAnnullare, PuoRipristinare or their texts are others.
     void StoriaCambiata();
 
@@ -72,15 +75,16 @@ private:
     friend class Passo;
     class Fatto;
 
-    void ImpostaVariato(bool variato);
     void Avvisa(Cambiamento::Origine origine);
     void Conclude();
-    void Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
+    /// False when the model is as it was before.
+    bool Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
                   int entroMillisecondi);
     void Percorre(Differenza &differenza);
 
     StatoDocumento stato_;
     bool variato_ = false;
+    std::array<int, Generi.size()> ultimiAllApertura_{}; ///< slots
     std::unique_ptr<QUndoStack> storia_;
     int unioni_ = 0; ///< grows when earlier steps are closed to later ones
 

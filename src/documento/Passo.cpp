@@ -17,6 +17,7 @@ Passo::Passo(Documento &documento, const QString &testo, const Unione &unione)
         documento_.aperto_ = this;
         prima_ = std::make_unique<StatoDocumento>(documento_.stato_);
         variatoPrima_ = documento_.variato_;
+        daConcluderePrima_ = documento_.daConcludere_;
     }
 }
 
@@ -25,9 +26,14 @@ Passo::~Passo()
     documento_.Avvisa(Cambiamento::Origine::Comando);
     if (documento_.aperto_ == this) {
         documento_.aperto_ = nullptr;
-        documento_.Registra(*prima_, testo_, unione_.chiave, unione_.entroMillisecondi);
+        if (!documento_.Registra(*prima_, testo_, unione_.chiave, unione_.entroMillisecondi) &&
+            soloSeCambia_) {
+            documento_.daConcludere_ = daConcluderePrima_;
+        }
     }
-    documento_.Conclude();
+    if (unione_.chiave.isEmpty() || unione_.entroMillisecondi > 0) {
+        documento_.Conclude();
+    }
 }
 
 void Passo::Nomina(const QString &testo)
@@ -42,19 +48,19 @@ void Passo::Rinuncia()
     differenza.Scambia(documento_.stato_);
     differenza.Segnala(documento_.tocchi_);
     documento_.daConcludere_ = false;
-    documento_.ImpostaVariato(primo.variatoPrima_);
+    documento_.variato_ = primo.variatoPrima_;
     documento_.Avvisa(Cambiamento::Origine::Storia);
 }
 
-void Passo::Mostra()
+void Passo::Mostra(Cambiamento::Origine origine)
 {
-    documento_.Avvisa(Cambiamento::Origine::Gesto);
+    documento_.Avvisa(origine);
 }
 
 void Passo::SegnaVariato()
 {
     documento_.daConcludere_ = true;
-    documento_.ImpostaVariato(true);
+    documento_.variato_ = true;
 }
 
 void Passo::Tocca(Chiave chiave)
@@ -142,10 +148,12 @@ void Passo::RinominaVoce(Chiave chiave)
 
 void Passo::Elimina(Chiave chiave)
 {
+    if (!Aperto().Di(chiave).Nome.isEmpty()) {
+        SegnaVariato();
+    }
     Aperto().Di(chiave).Nome.clear();
-    QString &voce = Stato().Voce(chiave);
-    voce.prepend(Eliminato);
-    Tocca(chiave);
+    Stato().Voce(chiave).prepend(Eliminato);
+    documento_.tocchi_.Aggiunge(chiave);
 }
 
 void Passo::SpostaTutti(Genere genere, double dx, double dy)

@@ -6,8 +6,12 @@
 #include <QSizeF>
 #include <QTime>
 
+/// Presses of one button that follow each other within this time are one step.
+inline constexpr int MillisecondiDiSeguito = 1000;
+
 /// Which steps are one: consecutive ones with the same non-empty key, with entroMillisecondi only
-/// those that follow each other so soon.
+/// those that follow each other so soon. Those of a key without a limit, the letters typed into a
+/// box, are finished only by Documento::ChiudeUnione.
 struct Unione
 {
     QString chiave;
@@ -29,12 +33,14 @@ public:
     Passo(const Passo &) = delete;
     Passo &operator=(const Passo &) = delete;
 
+    /// A gesture: one that leaves everything as it was is no finished edit.
+    void SoloSeCambia() { soloSeCambia_ = true; }
     /// Another name for the outermost step.
     void Nomina(const QString &testo);
     /// Gives the outermost step up: model, lists and Variato are as at its beginning.
     void Rinuncia();
-    /// The views follow now, in the middle of a gesture.
-    void Mostra();
+    /// The views follow now, before the end.
+    void Mostra(Cambiamento::Origine origine = Cambiamento::Origine::Gesto);
 
     void SegnaVariato();
     void ImpostaTipo(const QString &tipo);
@@ -79,4 +85,6 @@ private:
     Unione unione_;
     std::unique_ptr<StatoDocumento> prima_; ///< of the outermost step
     bool variatoPrima_ = false;
+    bool daConcluderePrima_ = false;
+    bool soloSeCambia_ = false;
 };

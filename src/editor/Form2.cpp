@@ -1,6 +1,7 @@
 #include "editor/Form2.h"
 
 #include "dialogs/MemoriaCaselle.h"
+#include "documento/Passo.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
 #include "editor/PaginaSfondo.h"
@@ -42,7 +43,7 @@ Form2::Form2(StatoProgramma &stato, QWidget *padre)
 {
     ui_->setupUi(this);
     ui_->Image1->setIcon(IconaGuida(24));
-    setWindowTitle(QStringLiteral("Plakera: Modello ") + stato_.Aperto.NomeFile);
+    setWindowTitle(QStringLiteral("Plakera: Modello ") + stato_.NomeFile);
 }
 
 Form2::~Form2()
@@ -78,9 +79,8 @@ PaginaElementi &Form2::Pagina(Genere genere) const
 bool Form2::Form_Load()
 {
     stato_.zoom = 1;
-    Variato = false;
     copiaMancata_ = false;
-    percorso_ = Percorsi::Risolve(stato_.CartellaModelli + stato_.Aperto.NomeFile);
+    percorso_ = Percorsi::Risolve(stato_.CartellaModelli + stato_.NomeFile);
     if (!LeggeModello()) {
         return false;
     }
@@ -90,7 +90,7 @@ bool Form2::Form_Load()
     MostraDallInizioEntrando(this);
     ui_->Label21->setText(stato_.CartellaModelli);
     ui_->Label21->setToolTip(stato_.CartellaModelli);
-    MostraDallInizio(ui_->Tipo, stato_.Aperto.Tipo);
+    MostraDallInizio(ui_->Tipo, stato_.Aperto().Tipo);
     righe_->Mostra();
     spostamento_->Mostra();
     sfondo_->Mostra();
@@ -99,25 +99,61 @@ bool Form2::Form_Load()
     CollegaAnteprima();
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
+    anteprima_->MostraModello();
     for (const Genere genere : Generi) {
-        MostraElementi(genere);
+        MostraVoci(genere);
     }
     PPPP();
     return true;
 }
 
-void Form2::MostraElementi(Genere genere)
+void Form2::MostraVoci(Genere genere)
 {
-    PaginaElementi &pagina = Pagina(genere);
-    pagina.Svuota();
-    for (int k = 1; k <= stato_.Aperto.UltimoSlot(genere); ++k) {
-        anteprima_->CreaElemento(genere, k);
-        pagina.AggiungeVoce(stato_.Aperto.Nome(genere, k));
-        anteprima_->Impostazioni(genere, k);
-        anteprima_->Posiziona(genere, k, false);
-        if (!stato_.Aperto.Presente(genere, k)) {
-            anteprima_->NascondiElemento(genere, k);
+    Pagina(genere).Svuota();
+    for (int k = 1; k <= stato_.Aperto().UltimoSlot(genere); ++k) {
+        Pagina(genere).MostraVoce(k, stato_.documento.Voce({genere, k}));
+    }
+}
+
+void Form2::SegueDocumento(const Cambiamento &cambiamento)
+{
+    if (cambiamento.origine == Cambiamento::Origine::Gesto) {
+        return; // no list shows where an element stands
+    }
+    for (const Chiave &chiave : cambiamento.Elementi()) {
+        if (chiave.indice <= stato_.Aperto().UltimoSlot(chiave.genere)) {
+            Pagina(chiave.genere).MostraVoce(chiave.indice, stato_.documento.Voce(chiave));
         }
+    }
+    if (cambiamento.origine == Cambiamento::Origine::Storia) {
+        MostraRitrovati(cambiamento);
+    }
+}
+
+void Form2::MostraRitrovati(const Cambiamento &cambiamento)
+{
+    if (cambiamento.Tipo) {
+        MostraDallInizio(ui_->Tipo, stato_.Aperto().Tipo);
+    }
+    for (const Genere genere : Generi) {
+        Pagina(genere).Limita(stato_.Aperto().UltimoSlot(genere));
+        if (cambiamento.Contiene(genere)) {
+            anteprima_->PrimoPiano(genere);
+        }
+    }
+    for (const Chiave &chiave : cambiamento.Elementi()) {
+        MostraPaginaDi(chiave.genere);
+        if (stato_.documento.InVista(chiave)) {
+            Pagina(chiave.genere).Seleziona(chiave.indice);
+            anteprima_->Seleziona(chiave.genere, chiave.indice);
+            anteprima_->PortaInVista(chiave);
+            return;
+        }
+    }
+    if (cambiamento.Righe) {
+        ui_->SSTab1->setCurrentWidget(righe_);
+    } else if (cambiamento.Sfondo) {
+        ui_->SSTab1->setCurrentWidget(sfondo_);
     }
 }
 
@@ -130,10 +166,11 @@ void Form2::Collegamenti()
     Collega(ui_->Image1, &QToolButton::clicked, this, &Form2::Image1_Click);
     Collega(ui_->SSTab1, &QTabWidget::currentChanged, this, &Form2::SSTab1_Click);
     Collega(ui_->Tipo, &QLineEdit::textEdited, this, [this] {
-        stato_.Aperto.Tipo = ui_->Tipo->text();
-        SegnaVariato();
+        Passo passo(stato_.documento, QStringLiteral("tipo del modello"), {QStringLiteral("Tipo")});
+        passo.ImpostaTipo(ui_->Tipo->text());
     });
-    Collega(ui_->Tipo, &QLineEdit::editingFinished, this, &Form2::ModificaConclusa);
+    Collega(ui_->Tipo, &QLineEdit::editingFinished, this,
+            [this] { stato_.documento.ChiudeUnione(); });
     CollegaPagina(Genere::Campo, &Form2::Aggiungicampo_Click, &Form2::VariazioneCampo_Click,
                   &Form2::Command1_Click, &Form2::ComboCampi_GotFocus);
     CollegaPagina(Genere::Cornice, &Form2::AggiungiCornice_Click, &Form2::VariazioneCornice_Click,
@@ -142,18 +179,8 @@ void Form2::Collegamenti()
                   &Form2::VariazioneImmagine_Click, &Form2::Command4_Click,
                   &Form2::ComboImmagini_GotFocus);
     Collega(&Pagina(Genere::Cornice), &PaginaElementi::EliminaTutte, this, &Form2::Command7_Click);
-    connect(righe_, &PaginaRighe::Variato, this, &Form2::SegnaVariato);
-    connect(sfondo_, &PaginaSfondo::Variato, this, &Form2::SegnaVariato);
-    Collega(righe_, &PaginaRighe::ModificaConclusa, this, [this] {
-        RimetteManiglie();
-        ModificaConclusa();
-    });
-    Collega(spostamento_, &PaginaSpostamento::ModificaConclusa, this, [this] {
-        RidisegnaRighe();
-        RimetteManiglie();
-        ModificaConclusa();
-    });
-    Collega(sfondo_, &PaginaSfondo::ModificaConclusa, this, &Form2::ModificaConclusa);
+    Collega(&stato_.documento, &Documento::Cambiato, this, &Form2::SegueDocumento);
+    Collega(&stato_.documento, &Documento::ModificaConclusa, this, &Form2::ModificaConclusa);
 }
 
 void Form2::CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica,
@@ -169,8 +196,6 @@ void Form2::CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica,
 void Form2::CollegaAnteprima()
 {
     Frm1 *anteprima = anteprima_.get();
-    connect(anteprima, &Frm1::Variato, this, &Form2::SegnaVariato);
-    Collega(anteprima, &Frm1::ModificaConclusa, this, &Form2::ModificaConclusa);
     Collega(anteprima, &Frm1::ElementoPuntato, this,
             [this](Genere genere, int i) { Pagina(genere).Seleziona(i); });
     Collega(anteprima, &Frm1::PaginaRichiesta, this, &Form2::MostraPaginaDi);
@@ -183,11 +208,6 @@ void Form2::CollegaAnteprima()
     connect(
         anteprima, &Frm1::ChiusuraRichiesta, this, [this] { Guardia(this, [this] { Chiude(); }); },
         Qt::QueuedConnection);
-}
-
-void Form2::SegnaVariato()
-{
-    Variato = true;
 }
 
 void Form2::SSTab1_Click()
@@ -205,43 +225,50 @@ void Form2::PPPP()
 
 void Form2::Aggiungicampo_Click()
 {
-    const int n = stato_.Aperto.AggiungeCampo(anteprima_->ScorrimentoX() + 10,
-                                              anteprima_->ScorrimentoY() + 10);
-    AccogliNuovo(Genere::Campo, n, stato_.Aperto.Campi[n].Nome);
+    // Adding and the dialog that it opens are one step.
+    const Passo visita(stato_.documento, QStringLiteral("aggiunge campo"));
+    int n = 0;
+    {
+        Passo passo(stato_.documento, {});
+        n = passo.AggiungeCampo(anteprima_->ScorrimentoX() + 10, anteprima_->ScorrimentoY() + 10);
+    }
+    SceglieNuovo({Genere::Campo, n});
+    // A new field stays in front of all others, where it was created, however large its text.
     VariazioneCampo_Click();
 }
 
 void Form2::AggiungiCornice_Click()
 {
-    const QTime ora = QTime::currentTime();
-    const int n =
-        stato_.Aperto.AggiungeCornice(anteprima_->ScorrimentoX() + 10,
-                                      anteprima_->ScorrimentoY() + 10, ora.minute(), ora.second());
-    AccogliNuovo(Genere::Cornice, n, stato_.Aperto.Cornici[n].Nome);
+    const Passo visita(stato_.documento, QStringLiteral("aggiunge cornice"));
+    int n = 0;
+    {
+        Passo passo(stato_.documento, {});
+        n = passo.AggiungeCornice(anteprima_->ScorrimentoX() + 10, anteprima_->ScorrimentoY() + 10,
+                                  QTime::currentTime());
+    }
+    SceglieNuovo({Genere::Cornice, n});
+    anteprima_->PrimoPianoCornici();
     VariazioneCornice_Click();
 }
 
 void Form2::AggiungiImmagine_Click()
 {
-    const int n = stato_.Aperto.AggiungeImmagine(anteprima_->ScorrimentoX() + 10,
-                                                 anteprima_->ScorrimentoY() + 10);
-    AccogliNuovo(Genere::Immagine, n, QString());
+    const Passo visita(stato_.documento, QStringLiteral("aggiunge immagine"));
+    int n = 0;
+    {
+        Passo passo(stato_.documento, {});
+        n = passo.AggiungeImmagine(anteprima_->ScorrimentoX() + 10,
+                                   anteprima_->ScorrimentoY() + 10);
+    }
+    SceglieNuovo({Genere::Immagine, n});
+    anteprima_->PrimoPianoImmagini();
     VariazioneImmagine_Click();
 }
 
-void Form2::AccogliNuovo(Genere genere, int n, const QString &voce)
+void Form2::SceglieNuovo(Chiave chiave)
 {
-    anteprima_->CreaElemento(genere, n);
-    anteprima_->Impostazioni(genere, n);
-    anteprima_->Posiziona(genere, n, true);
-    anteprima_->Seleziona(genere, n);
-    Pagina(genere).AggiungeVoce(voce);
-    Pagina(genere).Seleziona(n);
-    if (genere != Genere::Campo) {
-        anteprima_->PrimoPiano(genere);
-    }
-    // A new field stays in front of all others, where it was created, however large its text.
-    ModificaConclusa();
+    anteprima_->Seleziona(chiave.genere, chiave.indice);
+    Pagina(chiave.genere).Seleziona(chiave.indice);
 }
 
 void Form2::VariazioneCampo_Click()
@@ -291,8 +318,9 @@ void Form2::ComboImmagini_GotFocus()
 
 void Form2::Modifica(Genere genere)
 {
-    if (!Pagina(genere).VoceEliminata()) {
-        ApreProprieta(genere, Pagina(genere).Indice());
+    const int indice = Pagina(genere).Indice();
+    if (!stato_.documento.Eliminato({genere, indice})) {
+        ApreProprieta(genere, indice);
     }
 }
 
@@ -312,10 +340,4 @@ void Form2::RidisegnaRighe()
 {
     righe_->SimuloRighe();
     anteprima_->RiancoraManiglie();
-}
-
-void Form2::RimetteManiglie()
-{
-    anteprima_->RiancoraManiglie();
-    anteprima_->RinominaManiglie();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 
 #include <QMargins>
 #include <QWidget>
@@ -38,7 +38,7 @@ public:
     Frm1 *Anteprima() const { return anteprima_.get(); }
 
     /// The modified flag.
-    bool Variato = false;
+    bool Variato() const { return stato_.documento.Variato(); }
 
     void Aggiungicampo_Click();
     void AggiungiCornice_Click();
@@ -94,17 +94,18 @@ private:
     void CollegaDialogo(FrmElemento &dialogo);
     PaginaElementi &Pagina(Genere genere) const;
     void CreaPagine();
-    void MostraElementi(Genere genere);
-    void AccogliNuovo(Genere genere, int n, const QString &voce);
+    void MostraVoci(Genere genere);
+    void SegueDocumento(const Cambiamento &cambiamento);
+    /// Undo and redo show what they have changed.
+    void MostraRitrovati(const Cambiamento &cambiamento);
+    void SceglieNuovo(Chiave chiave);
     void ApreProprieta(Genere genere, int indice);
     void Modifica(Genere genere);
-    void MostraDialogo(FrmElemento &dialogo);
-    void EliminaElemento(Genere genere, int n);
-    void SegnaVariato();
+    void MostraDialogo(FrmElemento &dialogo, Chiave chiave);
     bool LeggeModello();
     enum class Recupero { Nessuno, Ripreso, Annullato };
-    /// letto: the model itself has been read to the end.
-    Recupero OffreRecupero(bool letto);
+    /// modello becomes the work that is taken up. letto: it has been read to the end.
+    Recupero OffreRecupero(Modello &modello, bool letto);
     bool PuoSovrascrivere();
     void ScriveSulDisco();
     void ModificaConclusa();
@@ -118,9 +119,6 @@ private:
     /// After a command that moved elements: the simulation follows, and each handle stands on its
     /// own element again.
     void RidisegnaRighe();
-    /// After a command that placed every element of a kind: each handle stands on its own element
-    /// again and names it, not the last one placed.
-    void RimetteManiglie();
     bool Form_Unload();
     /// Asks about unsaved work, then closes. The question stands before close(), because while a
     /// close of the program's own is under way the window manager's would go through unasked.

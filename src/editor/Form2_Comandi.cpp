@@ -2,6 +2,7 @@
 
 #include "base/ErroreSistema.h"
 #include "catalogue/ApriManuale.h"
+#include "documento/Passo.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
 #include "model/CopiaRecupero.h"
@@ -30,13 +31,13 @@ void MostraAttesa()
 
 void Form2::Salva_Click()
 {
-    Variato = true;
+    stato_.documento.SegnaVariato();
     SalvareVariazioni();
 }
 
 bool Form2::SalvareVariazioni()
 {
-    if (!Variato ||
+    if (!Variato() ||
         !Messaggi::Domanda(this, QStringLiteral("salvare le variazioni"), Messaggi::Risposta::Si)) {
         return true;
     }
@@ -46,13 +47,12 @@ bool Form2::SalvareVariazioni()
             if (PuoSovrascrivere()) {
                 const PuntatoreOccupato occupato;
                 ScriveSulDisco();
-                Variato = false;
+                stato_.documento.Salvato();
                 salvato = true;
             }
         } catch (const ErroreSistema &errore) {
-            throw ErroreSistema(errore.numero,
-                                QStringLiteral("%1\nsalvataggio del file %2")
-                                    .arg(errore.descrizione, stato_.Aperto.NomeFile));
+            throw ErroreSistema(errore.numero, QStringLiteral("%1\nsalvataggio del file %2")
+                                                   .arg(errore.descrizione, stato_.NomeFile));
         }
     });
     return salvato;
@@ -62,8 +62,8 @@ void Form2::ScriveSulDisco()
 {
     QByteArray byte;
     try {
-        FileModello::ScriveModello(stato_.Aperto, percorso_, &byte,
-                                   [&] { copia_->TieneIlLavoro(stato_.Aperto, byte); });
+        FileModello::ScriveModello(stato_.Aperto(), percorso_, &byte,
+                                   [&] { copia_->TieneIlLavoro(stato_.Aperto(), byte); });
     } catch (const Disco::FileIncompleto &errore) {
         copia_->Incompleto();
         throw ErroreSistema(errore.numero,
@@ -80,7 +80,7 @@ void Form2::ScriveSulDisco()
 
 void Form2::Elimina_Click()
 {
-    const QString nome = stato_.Aperto.NomeFile;
+    const QString nome = stato_.NomeFile;
     if (!Messaggi::Domanda(this, QStringLiteral("Comferma eliminazione %1 ?").arg(nome),
                            Messaggi::Risposta::No)) {
         return;
@@ -89,7 +89,7 @@ void Form2::Elimina_Click()
     copia_->EliminaOfferte();
     Messaggi::Mostra(this, nome + QStringLiteral(" eliminato"));
     // Nothing is left to save: asking would bring the deleted file back.
-    Variato = false;
+    stato_.documento.Salvato();
     close();
 }
 
@@ -99,22 +99,15 @@ void Form2::Command7_Click()
                            Messaggi::Risposta::No)) {
         return;
     }
-    for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Cornice); ++k) {
-        EliminaElemento(Genere::Cornice, k);
+    {
+        Passo passo(stato_.documento, QStringLiteral("elimina tutte le cornici"));
+        for (int k = 1; k <= stato_.Aperto().UltimoSlot(Genere::Cornice); ++k) {
+            passo.Elimina({Genere::Cornice, k});
+        }
     }
+    stato_.documento.DimenticaStoria();
     anteprima_->NascondiMarcatori();
-    ModificaConclusa();
     Chiude();
-}
-
-void Form2::EliminaElemento(Genere genere, int n)
-{
-    if (stato_.Aperto.Presente(genere, n)) {
-        SegnaVariato();
-    }
-    stato_.Aperto.Nome(genere, n).clear();
-    anteprima_->NascondiElemento(genere, n);
-    Pagina(genere).SegnaEliminata(n);
 }
 
 void Form2::Stampa_Click()
@@ -128,7 +121,8 @@ void Form2::Stampa_Click()
     const PuntatoreOccupato occupato;
     MostraAttesa();
     const auto stampante = Stampanti::Predefinita();
-    StampaModello(stato_.Aperto, stato_.CartellaModelli, *stampante, scelta == Messaggi::Scelta::Si,
+    StampaModello(stato_.Aperto(), stato_.CartellaModelli, *stampante,
+                  scelta == Messaggi::Scelta::Si,
                   [this](const QString &testo) { Messaggi::Mostra(this, testo); });
 }
 

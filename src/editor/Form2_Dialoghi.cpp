@@ -3,6 +3,7 @@
 #include "dialogs/FrmCampo.h"
 #include "dialogs/FrmCornice.h"
 #include "dialogs/FrmImmagine.h"
+#include "documento/Passo.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
 #include "model/Numeri.h"
@@ -40,10 +41,10 @@ void Form2::ApreFrmCampo(int indice)
             [this, &dialogo] { SettaComboMask(dialogo); });
     dialogo.RiempieComboImpostazioni();
     dialogo.Carica(indice);
-    const Campo &campo = stato_.Aperto.Campi[indice];
+    const Campo &campo = stato_.Aperto().Campi[indice];
     SettaFont(dialogo, campo.Font, QString::number(campo.Dimensione));
     SettaComboMask(dialogo);
-    MostraDialogo(dialogo);
+    MostraDialogo(dialogo, {Genere::Campo, indice});
 }
 
 void Form2::ApreFrmCornice(int indice)
@@ -55,9 +56,9 @@ void Form2::ApreFrmCornice(int indice)
     CollegaDialogo(dialogo);
     dialogo.RiempieComboImpostazioni();
     dialogo.Carica(indice);
-    const Cornice &cornice = stato_.Aperto.Cornici[indice];
+    const Cornice &cornice = stato_.Aperto().Cornici[indice];
     SettaFont(dialogo, cornice.Font, QString::number(cornice.Dimensione));
-    MostraDialogo(dialogo);
+    MostraDialogo(dialogo, {Genere::Cornice, indice});
 }
 
 void Form2::ApreFrmImmagine(int indice)
@@ -67,34 +68,17 @@ void Form2::ApreFrmImmagine(int indice)
     }
     FrmImmagine dialogo(stato_, this);
     CollegaDialogo(dialogo);
-    Collega(&dialogo, &FrmImmagine::Ricollocato, this, [this](Genere genere, int n) {
-        anteprima_->Posiziona(genere, n, true);
-        ModificaConclusa();
-    });
     dialogo.Carica(indice);
-    MostraDialogo(dialogo);
+    MostraDialogo(dialogo, {Genere::Immagine, indice});
 }
 
 void Form2::CollegaDialogo(FrmElemento &dialogo)
 {
-    Collega(&dialogo, &FrmElemento::Applicato, this, [this](Genere genere, int n) {
-        anteprima_->Impostazioni(genere, n);
-        anteprima_->Posiziona(genere, n, true);
-    });
-    Collega(
-        &dialogo, &FrmElemento::VoceRinominata, this,
-        [this](Genere genere, int n, const QString &nome) { Pagina(genere).Rinomina(n, nome); });
-    Collega(&dialogo, &FrmElemento::ApplicatoATutti, this, &Form2::RimetteManiglie);
-    Collega(&dialogo, &FrmElemento::ModificaConclusa, this, &Form2::ModificaConclusa);
-    Collega(&dialogo, &FrmElemento::Eliminato, this, [this](Genere genere, int n) {
-        SegnaVariato();
-        anteprima_->NascondiElemento(genere, n);
-        Pagina(genere).SegnaEliminata(n);
-        Pagina(genere).Seleziona(n);
-    });
+    Collega(&dialogo, &FrmElemento::VoceScelta, this,
+            [this](Genere genere, int n) { Pagina(genere).Seleziona(n); });
 }
 
-void Form2::MostraDialogo(FrmElemento &dialogo)
+void Form2::MostraDialogo(FrmElemento &dialogo, Chiave chiave)
 {
     // Beside the controls of the editor, towards the right edge, so that the sheet's left part,
     // where most elements stand, stays in sight.
@@ -108,9 +92,11 @@ void Form2::MostraDialogo(FrmElemento &dialogo)
     const int sopra = qMax(schermo.top(), qMin(anteprima_->frameGeometry().top(),
                                                schermo.bottom() - misura.height() - Distanza));
     dialogo.move(sinistra + cornice_.left(), sopra + cornice_.top());
+    // A visit is one step, with all that it wrote at once.
+    const Passo visita(stato_.documento,
+                       QStringLiteral("modifica ") + stato_.documento.Voce(chiave));
     dialogo.exec();
     RidisegnaRighe();
-    ModificaConclusa();
 }
 
 void Form2::SettaFont(FrmCarattere &dialogo, const QString &font, const QString &dimensione)

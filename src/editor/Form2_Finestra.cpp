@@ -92,6 +92,7 @@ bool Form2::Form_Unload()
         return false; // closing now would lose the work
     }
     chiuso_ = true;
+    stato_.documento.DimenticaStoria();
     if (copia_) {
         copia_->Chiude(); // saved, or given up in answer to the question
     }

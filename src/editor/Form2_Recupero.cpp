@@ -12,24 +12,28 @@
 
 bool Form2::LeggeModello()
 {
+    // Slots that the file does not fill keep what they held.
+    Modello modello = stato_.Aperto();
+    modello.NomeFile = stato_.NomeFile;
     std::optional<QByteArray> byte;
     const bool letto = FileModello::LeggeModello(
-        stato_.Aperto, percorso_, [](const QString &testo) { Messaggi::Mostra(nullptr, testo); },
-        &byte);
+        modello, percorso_, [](const QString &testo) { Messaggi::Mostra(nullptr, testo); }, &byte);
     copia_ = std::make_unique<CopiaRecupero>(CartellaStato(), percorso_);
     copia_->Parte(byte);
-    const Recupero recupero = OffreRecupero(letto);
-    if (recupero == Recupero::Annullato || (!letto && recupero != Recupero::Ripreso)) {
+    const Recupero recupero = OffreRecupero(modello, letto);
+    const bool ripreso = recupero == Recupero::Ripreso;
+    // What was read before a failure stays in the model.
+    stato_.documento.Prende(std::move(modello), ripreso);
+    if (recupero == Recupero::Annullato || (!letto && !ripreso)) {
         return false;
     }
-    if (recupero == Recupero::Ripreso) {
-        Variato = true;
+    if (ripreso) {
         ModificaConclusa();
     }
     return true;
 }
 
-Form2::Recupero Form2::OffreRecupero(bool letto)
+Form2::Recupero Form2::OffreRecupero(Modello &modello, bool letto)
 {
     const QList<CopiaRecupero::Trovata> trovate = copia_->Cerca([](const QString &file,
                                                                    const ErroreSistema &errore) {
@@ -37,13 +41,13 @@ Form2::Recupero Form2::OffreRecupero(bool letto)
                                       errore.Messaggio() + u'\n' + QDir::toNativeSeparators(file));
     });
     for (const CopiaRecupero::Trovata &trovata : trovate) {
-        if (trovata.inUso || (letto && copia_->EliminaSuperata(trovata, stato_.Aperto))) {
+        if (trovata.inUso || (letto && copia_->EliminaSuperata(trovata, modello))) {
             continue;
         }
         QString domanda =
             QStringLiteral("Il modello %1 ha modifiche non salvate del %2, rimaste da una chiusura "
                            "imprevista.\nVuoi riprenderle?")
-                .arg(stato_.Aperto.NomeFile,
+                .arg(stato_.NomeFile,
                      QLocale(QLocale::Italian).toString(trovata.scritta, QLocale::ShortFormat));
         if (trovata.fileCambiato) {
             domanda += QStringLiteral("\n\nAttenzione: da allora il file è cambiato; riprendendo "
@@ -59,9 +63,8 @@ Form2::Recupero Form2::OffreRecupero(bool letto)
         switch (Messaggi::DomandaAnnullabile(nullptr, domanda, predefinita)) {
         case Messaggi::Scelta::Si: {
             copia_->Riprende(trovata);
-            const QString nome = stato_.Aperto.NomeFile;
-            stato_.Aperto = trovata.modello;
-            stato_.Aperto.NomeFile = nome;
+            modello = trovata.modello;
+            modello.NomeFile = stato_.NomeFile;
             return Recupero::Ripreso;
         }
         case Messaggi::Scelta::No:
@@ -75,11 +78,11 @@ Form2::Recupero Form2::OffreRecupero(bool letto)
 
 void Form2::ModificaConclusa()
 {
-    if (!Variato || !copia_) {
+    if (!Variato() || !copia_) {
         return;
     }
     try {
-        copia_->Scrive(stato_.Aperto);
+        copia_->Scrive(stato_.Aperto());
         copiaMancata_ = false;
     } catch (const ErroreSistema &errore) {
         // Told once until it works again: the work itself goes on, and a box at every edit would
@@ -99,6 +102,6 @@ bool Form2::PuoSovrascrivere()
                this,
                QStringLiteral("Il file %1 è stato cambiato da un altro programma dopo "
                               "l'apertura.\nLO VUOI SOSTITUIRE?")
-                   .arg(stato_.Aperto.NomeFile),
+                   .arg(stato_.NomeFile),
                Messaggi::Risposta::No);
 }

@@ -1,6 +1,6 @@
 #include "editor/FrmLavoroRimasto.h"
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 #include "platform/Finestre.h"
 #include "platform/Percorsi.h"
 #include "preview/Frm1.h"
@@ -16,17 +16,7 @@ namespace {
 QPixmap Ritratto(StatoProgramma &stato)
 {
     Frm1 anteprima(stato);
-    for (const Genere genere : Generi) {
-        for (int k = 1; k <= stato.Aperto.UltimoSlot(genere); ++k) {
-            anteprima.CreaElemento(genere, k);
-            anteprima.Impostazioni(genere, k);
-            anteprima.Posiziona(genere, k, false);
-        }
-    }
-    anteprima.NascondiMarcatori();
-    anteprima.PrimoPianoImmagini();
-    anteprima.PrimoPianoCornici();
-    anteprima.PrimoPianoCampi();
+    anteprima.MostraModello();
     return anteprima.findChild<QWidget *>(QStringLiteral("P1"))->grab();
 }
 
@@ -39,7 +29,7 @@ FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percor
     ui_->setupUi(this);
     setWindowTitle(QStringLiteral("Plakera: lavoro non salvato di ") + modello.NomeFile);
     StatoProgramma stato;
-    stato.Aperto = modello;
+    stato.documento.Prende(modello, false);
     stato.CartellaModelli = QFileInfo(percorso).path() + Percorsi::Separatore();
     const QPixmap ritratto = Ritratto(stato);
     ui_->Foglio->setPixmap(ritratto);

@@ -1,11 +1,11 @@
 #include "editor/LavoroRimasto.h"
 
 #include "catalogue/NomeModello.h"
+#include "documento/StatoProgramma.h"
 #include "editor/FrmLavoroRimasto.h"
 #include "model/CopieRimaste.h"
 #include "model/FileCopia.h"
 #include "model/FileModello.h"
-#include "model/StatoProgramma.h"
 #include "platform/CartellaStato.h"
 #include "platform/Guardia.h"
 #include "platform/Messaggi.h"

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr QLatin1String Separatore("------------------");
-constexpr QLatin1String Eliminato(" ELIMINATO:");
 
 /// What tells the pages of the three kinds apart; an empty name means that the control is absent.
 struct Descrizione
@@ -130,30 +129,28 @@ void PaginaElementi::Svuota()
     ui_->combo->addItem(Separatore);
 }
 
-void PaginaElementi::AggiungeVoce(const QString &testo)
+void PaginaElementi::MostraVoce(int indice, const QString &testo)
 {
-    ui_->combo->addItem(testo);
+    if (indice < ui_->combo->count()) {
+        ui_->combo->setItemText(indice, testo);
+    } else {
+        ui_->combo->addItem(testo);
+    }
+}
+
+void PaginaElementi::Limita(int ultimo)
+{
+    if (Indice() > ultimo) {
+        Seleziona(0);
+    }
+    while (ui_->combo->count() > ultimo + 1) {
+        ui_->combo->removeItem(ui_->combo->count() - 1);
+    }
 }
 
 void PaginaElementi::Seleziona(int indice)
 {
     ui_->combo->setCurrentIndex(indice);
-}
-
-void PaginaElementi::Rinomina(int indice, const QString &testo)
-{
-    ui_->combo->setItemText(indice, testo);
-    Seleziona(indice);
-}
-
-void PaginaElementi::SegnaEliminata(int indice)
-{
-    ui_->combo->setItemText(indice, Eliminato + u' ' + ui_->combo->itemText(indice));
-}
-
-bool PaginaElementi::VoceEliminata() const
-{
-    return ui_->combo->currentText().startsWith(Eliminato);
 }
 
 int PaginaElementi::Indice() const

@@ -23,13 +23,11 @@ public:
 
     /// Empties the combo down to the separator.
     void Svuota();
-    void AggiungeVoce(const QString &testo);
+    /// Gives item indice its text; one more than there are adds it.
+    void MostraVoce(int indice, const QString &testo);
+    /// Takes the items after ultimo away; a choice among them goes to the separator.
+    void Limita(int ultimo);
     void Seleziona(int indice);
-    /// Gives item indice a new text and selects it.
-    void Rinomina(int indice, const QString &testo);
-    /// Prefixes the item with " ELIMINATO: ", which keeps it from being opened.
-    void SegnaEliminata(int indice);
-    bool VoceEliminata() const;
     /// The chosen element, 0 for the separator. The commands ask for it when they need it: choosing
     /// an item (ComboCampi_Click, ComboCornici_Click, ComboImmagini_Change) does nothing by itself.
     int Indice() const;

@@ -1,6 +1,7 @@
 #include "editor/PaginaRighe.h"
 
 #include "base/ErroreSistema.h"
+#include "documento/Passo.h"
 #include "editor/RigheSimulate.h"
 #include "editor/TestiEsplicativi.h"
 #include "platform/Guardia.h"
@@ -29,20 +30,36 @@ void PaginaRighe::Collegamenti()
         Collega(casella, &QLineEdit::returnPressed, this,
                 &PaginaRighe::ConfermaPosizioneRighe_Click);
     }
+    Collega(&stato_.documento, &Documento::Cambiato, this, &PaginaRighe::SegueDocumento);
     Collega(ui_->OptSimuloRighe, &QCheckBox::clicked, this, &PaginaRighe::OptSimuloRighe_Click);
 }
 
 void PaginaRighe::Mostra()
 {
+    RiempieCaselle();
+    ui_->OptSimuloRighe->setChecked(false);
+}
+
+void PaginaRighe::SegueDocumento(const Cambiamento &cambiamento)
+{
+    if (cambiamento.Righe && cambiamento.origine == Cambiamento::Origine::Storia) {
+        RiempieCaselle();
+    }
+    if (cambiamento.Righe || cambiamento.Contiene(Genere::Campo)) {
+        SimuloRighe();
+    }
+}
+
+void PaginaRighe::RiempieCaselle()
+{
     // The boxes are read with "." as the decimal separator, so they are filled with it.
     const QLocale colPunto = QLocale::c();
-    const ParametriRighe &righe = stato_.Aperto.Righe;
+    const ParametriRighe &righe = stato_.Aperto().Righe;
     caselle_.Mostra(ui_->yInizio, righe.yInizio, colPunto);
     caselle_.Mostra(ui_->yFine, righe.yFine, colPunto);
     caselle_.Mostra(ui_->Interlinea, righe.Interlinea, colPunto);
     caselle_.Mostra(ui_->InterlineaDescr, righe.InterlineaDescr, colPunto);
     caselle_.Mostra(ui_->SeguePag, righe.SeguePag);
-    ui_->OptSimuloRighe->setChecked(false);
 }
 
 std::optional<double> PaginaRighe::Letto(const QLineEdit *casella, const QLabel *etichetta)
@@ -66,21 +83,10 @@ void PaginaRighe::ConfermaPosizioneRighe_Click()
     if (!interlineaDescr) {
         return;
     }
-    ParametriRighe &righe = stato_.Aperto.Righe;
-    righe.yInizio = *yInizio;
-    righe.yFine = *yFine;
-    righe.Interlinea = *interlinea;
-    righe.InterlineaDescr = *interlineaDescr;
-    righe.SeguePag = caselle_.Testo(ui_->SeguePag);
-    emit Variato();
-    for (int k = 1; k <= stato_.Aperto.UltimoSlot(Genere::Campo); ++k) {
-        if (CampoDiRiga(stato_.Aperto.Campi[k])) {
-            stato_.Aperto.Campi[k].Y = righe.yInizio;
-            anteprima_.PosizionaCampo(k, true);
-        }
-    }
-    SimuloRighe();
-    emit ModificaConclusa();
+    // The simulation follows the step.
+    Passo passo(stato_.documento, QStringLiteral("conferma posizione righe"));
+    passo.ImpostaRighe(
+        {*yInizio, *yFine, *interlinea, *interlineaDescr, caselle_.Testo(ui_->SeguePag)});
 }
 
 void PaginaRighe::OptSimuloRighe_Click()
@@ -92,7 +98,7 @@ void PaginaRighe::SimuloRighe()
 {
     QList<Frm1::RigaSimulata> righe;
     if (ui_->OptSimuloRighe->isChecked()) {
-        righe = RigheSimulate(stato_.Aperto, stato_.zoom, [this](int campo) {
+        righe = RigheSimulate(stato_.Aperto(), stato_.zoom, [this](int campo) {
             return anteprima_.MisuraControllo(Genere::Campo, campo).width();
         });
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialogs/MemoriaCaselle.h"
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 #include "preview/Frm1.h"
 
 #include <QList>
@@ -33,15 +33,13 @@ public:
     /// would come out the same.
     void SimuloRighe();
 
-signals:
-    void Variato();
-    void ModificaConclusa();
-
 private:
     void Collegamenti();
     /// Lenient reading of a box; a number beyond a double gives nothing, and a message that names
     /// the box by its label.
     std::optional<double> Letto(const QLineEdit *casella, const QLabel *etichetta);
+    void SegueDocumento(const Cambiamento &cambiamento);
+    void RiempieCaselle();
 
     std::unique_ptr<Ui::PaginaRighe> ui_;
     StatoProgramma &stato_;

@@ -4,6 +4,7 @@
 #include "catalogue/Sfoglia.h"
 #include "dialogs/MemoriaCaselle.h"
 #include "dialogs/Riduzione.h"
+#include "documento/Passo.h"
 #include "editor/TestiEsplicativi.h"
 #include "model/Numeri.h"
 #include "platform/FiltroAnsi.h"
@@ -78,6 +79,7 @@ void PaginaSfondo::Collegamenti()
     LegaTesto(ui_->SfondoYImmagine, &ImmagineSfondo::Yimmagine);
     LegaTesto(ui_->SfondoXPosImm, &ImmagineSfondo::XPos);
     LegaTesto(ui_->SfondoYPosImm, &ImmagineSfondo::YPos);
+    Collega(&stato_.documento, &Documento::Cambiato, this, &PaginaSfondo::SegueDocumento);
     ui_->VisualizzaImmagineSfondo->installEventFilter(this);
     ui_->SfondoXimmagine->installEventFilter(this);
     ui_->SfondoYImmagine->installEventFilter(this);
@@ -85,13 +87,15 @@ void PaginaSfondo::Collegamenti()
 
 void PaginaSfondo::LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro)
 {
-    connect(casella, &QLineEdit::textChanged, this,
-            [this, membro](const QString &testo) { stato_.Aperto.Sfondo.*membro = testo; });
-    connect(casella, &QLineEdit::textEdited, this, [this] {
-        // An undone text is an edit too: the preview may have been drawn with the one before.
-        scritta_ = true;
-        emit Variato();
+    Collega(casella, &QLineEdit::textChanged, this, [this, casella, membro](const QString &testo) {
+        Passo passo(stato_.documento, QStringLiteral("immagine di sfondo"),
+                    {casella->objectName()});
+        ImmagineSfondo sfondo = stato_.Aperto().Sfondo;
+        sfondo.*membro = testo;
+        passo.ImpostaSfondo(sfondo);
     });
+    // An undone text is an edit too: the preview may have been drawn with the one before.
+    connect(casella, &QLineEdit::textEdited, this, [this] { scritta_ = true; });
     Collega(casella, &QLineEdit::editingFinished, this,
             [this, casella] { RidisegnaSeScritta(casella); });
 }
@@ -106,12 +110,20 @@ void PaginaSfondo::RidisegnaSeScritta(const QLineEdit *casella)
         RiprendeMessaggi();
     }
     ImpostaImmagineSfondo(false);
-    emit ModificaConclusa();
+    stato_.documento.ChiudeUnione();
+}
+
+void PaginaSfondo::SegueDocumento(const Cambiamento &cambiamento)
+{
+    if (cambiamento.Sfondo && cambiamento.origine == Cambiamento::Origine::Storia) {
+        Mostra();
+        ImpostaImmagineSfondo(false);
+    }
 }
 
 void PaginaSfondo::Mostra()
 {
-    const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
+    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
     MostraTesto(ui_->SfondoFileImmagine, sfondo.File);
     MostraTesto(ui_->SfondoXimmagine, sfondo.Ximmagine);
     MostraTesto(ui_->SfondoYImmagine, sfondo.Yimmagine);
@@ -133,7 +145,7 @@ void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
     } else {
         anteprima_.PulisceSfondo();
     }
-    const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
+    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
     if (sfondo.Visualizza == 0 || sfondo.File.isEmpty()) {
         return;
     }
@@ -168,7 +180,7 @@ std::optional<double> PaginaSfondo::Letto(const QLineEdit *casella, const QStrin
 std::optional<QRectF> PaginaSfondo::Posto()
 {
     // Read from the model, where any text may stand: what a box cannot show counts too.
-    const ImmagineSfondo &sfondo = stato_.Aperto.Sfondo;
+    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
     const std::array<std::pair<const QLineEdit *, QString>, 4> numeri{{
         {ui_->SfondoXPosImm, sfondo.XPos},
         {ui_->SfondoYPosImm, sfondo.YPos},
@@ -197,13 +209,13 @@ void PaginaSfondo::SegnalaGuasto(const QString &guasto, const QString &messaggio
 
 QString PaginaSfondo::FileSfondo() const
 {
-    const QString &file = stato_.Aperto.Sfondo.File;
+    const QString &file = stato_.Aperto().Sfondo.File;
     return Percorsi::EstraeNomeFile(file) == file ? file : Percorsi::Risolve(file);
 }
 
 void PaginaSfondo::ChiedeDimensione()
 {
-    const QString file = stato_.Aperto.Sfondo.File;
+    const QString file = stato_.Aperto().Sfondo.File;
     const QSizeF naturali = Immagini::DimensioniNaturali(FileSfondo());
     const std::optional<QString> risposta = Messaggi::ChiedeTesto(
         window(), QStringLiteral("caricamento immagine ") + file,
@@ -218,34 +230,36 @@ void PaginaSfondo::ChiedeDimensione()
     }
     MostraDallInizio(ui_->SfondoXimmagine, TestoNumero(misura->width()));
     MostraDallInizio(ui_->SfondoYImmagine, TestoNumero(misura->height()));
-    emit Variato();
 }
 
 void PaginaSfondo::VisualizzaImmagineSfondo_Click()
 {
     RiprendeMessaggi();
     ui_->VisualizzaImmagineSfondo->setTristate(false);
-    stato_.Aperto.Sfondo.Visualizza = ui_->VisualizzaImmagineSfondo->isChecked() ? 1 : 0;
-    emit Variato();
+    const bool visibile = ui_->VisualizzaImmagineSfondo->isChecked();
+    ImmagineSfondo sfondo = stato_.Aperto().Sfondo;
+    sfondo.Visualizza = visibile ? 1 : 0;
+    Passo passo(stato_.documento, visibile ? QStringLiteral("mostra l'immagine di sfondo")
+                                           : QStringLiteral("nasconde l'immagine di sfondo"));
+    passo.ImpostaSfondo(sfondo);
     ImpostaImmagineSfondo(false);
-    emit ModificaConclusa();
 }
 
 void PaginaSfondo::Command8_Click()
 {
     RiprendeMessaggi();
+    const Passo passo(stato_.documento, QStringLiteral("dimensioni dell'immagine di sfondo"));
     ImpostaImmagineSfondo(true);
-    emit ModificaConclusa();
 }
 
 void PaginaSfondo::SfondoSfoglia_Click()
 {
     Sfoglia sfoglia(window());
-    sfoglia.FileEntrata()->setText(stato_.Aperto.Sfondo.File);
+    sfoglia.FileEntrata()->setText(stato_.Aperto().Sfondo.File);
     sfoglia.ImpostaPartenza(stato_.CartellaModelli);
     sfoglia.exec();
     const QString scelto = RisultatoSfoglia();
-    if (scelto == stato_.Aperto.Sfondo.File) {
+    if (scelto == stato_.Aperto().Sfondo.File) {
         return;
     }
     const QString rifiuto = RifiutoDelNome(scelto);
@@ -253,10 +267,9 @@ void PaginaSfondo::SfondoSfoglia_Click()
         Messaggi::Mostra(window(), rifiuto);
         return;
     }
+    const Passo passo(stato_.documento, QStringLiteral("sceglie l'immagine di sfondo"));
     MostraDallInizio(ui_->SfondoFileImmagine, scelto);
-    emit Variato();
     ImpostaImmagineSfondo(true);
-    emit ModificaConclusa();
 }
 
 void PaginaSfondo::SfondoSpostaSx_Click()
@@ -285,10 +298,12 @@ void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
     if (!posto) {
         return;
     }
-    emit Variato();
+    Passo spostamento(
+        stato_.documento, QStringLiteral("sposta l'immagine di sfondo"),
+        {QStringLiteral("%1 %2").arg(casella->objectName()).arg(passo), MillisecondiDiSeguito});
+    spostamento.SegnaVariato();
     MostraDallInizio(casella, TestoNumero(*posto + passo));
     ImpostaImmagineSfondo(false);
-    emit ModificaConclusa();
 }
 
 void PaginaSfondo::SfondoXimmagine_GotFocus()
@@ -303,13 +318,12 @@ void PaginaSfondo::SfondoYimmagine_GotFocus()
 
 void PaginaSfondo::VisualizzaImmagineSfondo_MouseDown(Qt::MouseButton bottone)
 {
-    if (bottone != Qt::RightButton || stato_.Aperto.Sfondo.File.isEmpty()) {
+    if (bottone != Qt::RightButton || stato_.Aperto().Sfondo.File.isEmpty()) {
         return;
     }
+    const Passo passo(stato_.documento, QStringLiteral("toglie l'immagine di sfondo"));
     ui_->SfondoFileImmagine->clear();
-    emit Variato();
     ImpostaImmagineSfondo(false);
-    emit ModificaConclusa();
 }
 
 bool PaginaSfondo::eventFilter(QObject *oggetto, QEvent *evento)

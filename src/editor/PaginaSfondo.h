@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 
 #include <QRectF>
 #include <QWidget>
@@ -43,15 +43,12 @@ public:
     /// The right button empties the file; the others are the check box's own.
     void VisualizzaImmagineSfondo_MouseDown(Qt::MouseButton bottone);
 
-signals:
-    void Variato();
-    void ModificaConclusa();
-
 protected:
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     void Collegamenti();
+    void SegueDocumento(const Cambiamento &cambiamento);
     void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
     void RidisegnaSeScritta(const QLineEdit *casella);
     /// Where the scan is, in the spelling found on disk; a name alone is taken as typed.

@@ -2,6 +2,7 @@
 
 #include "base/ErroreSistema.h"
 #include "dialogs/MemoriaCaselle.h"
+#include "documento/Passo.h"
 #include "editor/TestiEsplicativi.h"
 #include "model/Numeri.h"
 #include "platform/Finestre.h"
@@ -75,11 +76,12 @@ void PaginaSpostamento::Sposta(Genere genere)
     if (ui_->OptGiu->isChecked()) {
         dy += passo;
     }
-    // Deleted elements keep their slots and move with the others.
-    for (int k = 1; k <= stato_.Aperto.UltimoSlot(genere); ++k) {
-        stato_.Aperto.X(genere, k) += dx;
-        stato_.Aperto.Y(genere, k) += dy;
-        anteprima_.Posiziona(genere, k, true);
-    }
-    emit ModificaConclusa();
+    static constexpr const char16_t *Tutti[] = {u"sposta tutti i campi", u"sposta tutte le cornici",
+                                                u"sposta tutte le immagini"};
+    const QString testo = QString::fromUtf16(Tutti[Posto(genere)]);
+    // A press held, or repeated at once, is one step; the other way is another.
+    Passo spostamento(
+        stato_.documento, testo,
+        {QStringLiteral("%1 %2 %3").arg(testo).arg(dx).arg(dy), MillisecondiDiSeguito});
+    spostamento.SpostaTutti(genere, dx, dy);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 
 #include <QWidget>
 
@@ -26,9 +26,6 @@ public:
     void Command2_Click(); ///< all fields
     void Command5_Click(); ///< all frames and labels
     void Command6_Click(); ///< all images
-
-signals:
-    void ModificaConclusa();
 
 private:
     void Collegamenti();

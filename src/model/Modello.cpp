@@ -11,10 +11,11 @@ constexpr QLatin1String FontNuovo("Arial");
 constexpr qint16 DimensioneNuova = 11;
 constexpr int CaratteriMascheraNuova = 30;
 
-/// True when the value was another.
+/// True when the value was another; what is no number stays the same.
 bool Cambia(double &valore, double nuovo)
 {
-    return std::exchange(valore, nuovo) != nuovo;
+    const double vecchio = std::exchange(valore, nuovo);
+    return vecchio != nuovo && !(std::isnan(vecchio) && std::isnan(nuovo));
 }
 
 bool CorniceConNome(const Modello &modello, const QString &nome)
@@ -86,21 +87,6 @@ QString &Modello::Nome(Genere genere, int indice)
 const QString &Modello::Nome(Genere genere, int indice) const
 {
     return Di({genere, indice}).Nome;
-}
-
-double &Modello::X(Genere genere, int indice)
-{
-    return Di({genere, indice}).X;
-}
-
-double &Modello::Y(Genere genere, int indice)
-{
-    return Di({genere, indice}).Y;
-}
-
-QString &Modello::Descrizione(Genere genere, int indice)
-{
-    return Di({genere, indice}).Descrizione;
 }
 
 bool Modello::Presente(Genere genere, int indice) const

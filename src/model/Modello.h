@@ -168,9 +168,6 @@ struct Modello
     const Elemento &Di(Chiave chiave) const;
     QString &Nome(Genere genere, int indice);
     const QString &Nome(Genere genere, int indice) const;
-    double &X(Genere genere, int indice); ///< mm
-    double &Y(Genere genere, int indice); ///< mm
-    QString &Descrizione(Genere genere, int indice);
     /// False when the element is deleted (empty Nome). A new image has no Nome yet and is absent
     /// until it is given a picture.
     bool Presente(Genere genere, int indice) const;

@@ -1,6 +1,6 @@
 #include "preview/Anteprima.h"
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 #include "platform/Finestre.h"
 #include "preview/Foglio.h"
 #include "preview/Righelli.h"
@@ -141,6 +141,11 @@ void Anteprima::Dispone(QSize interna)
     Text1->setContentsMargins(TextZoom->geometry().right() + geometria.Pixel(4), 0, 0, 0);
     ScrollX->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.width()) - PassoFreccia));
     ScrollY->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.height()) - PassoFreccia));
+}
+
+QSizeF Anteprima::VistaInMillimetri() const
+{
+    return {geometria.Millimetri(AreaFoglio->width()), geometria.Millimetri(AreaFoglio->height())};
 }
 
 void Anteprima::ScorreX()

@@ -21,6 +21,8 @@ struct Anteprima
 
     /// Places everything for the window's inner size and clips the sheet and the rulers to it.
     void Dispone(QSize interna);
+    /// Size of the part of the window where the sheet shows, mm of screen.
+    QSizeF VistaInMillimetri() const;
     /// Moves the sheet and its rulers to the values of the scroll bars.
     void ScorreX();
     void ScorreY();

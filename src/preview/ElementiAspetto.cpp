@@ -1,7 +1,7 @@
 // How the controls take their look and their place from the model.
 
 #include "base/ErroreSistema.h"
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 #include "model/Tavolozza.h"
 #include "platform/Immagini.h"
 #include "platform/Testo.h"
@@ -35,7 +35,7 @@ void ElementiFoglio::Imposta(Genere genere, int i)
 
 void ElementiFoglio::ImpostaCampo(int i)
 {
-    const Campo &campo = stato_.Aperto.Campi[i];
+    const Campo &campo = stato_.Aperto().Campi[i];
     Etichetta &C1 = EtichettaDi(Genere::Campo, i);
     C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Barrato()}, campo.Testo,
                     PuntiDiTesto(campo.Dimensione) / stato_.zoom, {0, 0});
@@ -47,7 +47,7 @@ void ElementiFoglio::ImpostaCampo(int i)
 
 void ElementiFoglio::ImpostaCornice(int i)
 {
-    const Cornice &cornice = stato_.Aperto.Cornici[i];
+    const Cornice &cornice = stato_.Aperto().Cornici[i];
     Etichetta &C2 = EtichettaDi(Genere::Cornice, i);
     C2.ImpostaColore(QColor(Tavolozza::RgbONero(cornice.ColoreTesto)));
     C2.ImpostaTesto({cornice.Font, cornice.Grassetto != Falso, false}, cornice.Testo,
@@ -64,7 +64,7 @@ void ElementiFoglio::ImpostaImmagine(int i)
 {
     ControlloElemento &C3 = Elemento(Genere::Immagine, i);
     C3.ImpostaBordo(true, Qt::gray);
-    C3.ImpostaSuggerimento(QStringLiteral("Immagine ") + stato_.Aperto.Immagini[i].Nome);
+    C3.ImpostaSuggerimento(QStringLiteral("Immagine ") + stato_.Aperto().Immagini[i].Nome);
 }
 
 void ElementiFoglio::CaricaImmagine(int i)
@@ -72,7 +72,7 @@ void ElementiFoglio::CaricaImmagine(int i)
     QString percorso;
     try {
         percorso =
-            Immagini::PercorsoInCartella(stato_.CartellaModelli, stato_.Aperto.Immagini[i].Nome);
+            Immagini::PercorsoInCartella(stato_.CartellaModelli, stato_.Aperto().Immagini[i].Nome);
     } catch (const ErroreSistema &) {
         // A name that is no file of the folder (a new image has none yet) is like a picture that
         // cannot be loaded: no message, an empty box.
@@ -83,7 +83,7 @@ void ElementiFoglio::CaricaImmagine(int i)
 
 QRectF ElementiFoglio::PostoDa(Genere genere, int i) const
 {
-    const Modello &modello = stato_.Aperto;
+    const Modello &modello = stato_.Aperto();
     const double z = stato_.zoom;
     const auto posto = [z](const auto &e) {
         return QRectF(e.X / z, e.Y / z, std::max(0.0, e.Larghezza / z),
@@ -110,20 +110,21 @@ void ElementiFoglio::ScriveSuggerimentoManiglia(Genere genere, int i)
     Maniglia &conSuggerimento =
         ManigliaDi(genere == Genere::Immagine ? Genere::Immagine : Genere::Cornice);
     conSuggerimento.ImpostaSuggerimento(QString::fromUtf16(Sposta[static_cast<int>(genere)]) +
-                                        stato_.Aperto.Nome(genere, i));
+                                        stato_.Aperto().Nome(genere, i));
 }
 
-void ElementiFoglio::Posiziona(Genere genere, int i, bool mosso)
+void ElementiFoglio::Posiziona(Genere genere, int i)
 {
-    ControlloElemento &controllo = Elemento(genere, i);
-    stato_.Aperto.Arrotonda(genere, i);
+    stato_.documento.Colloca({genere, i});
     if (genere == Genere::Immagine) {
         CaricaImmagine(i);
     }
-    controllo.Colloca(PostoDa(genere, i));
-    AncoraManiglia(genere, i);
+    Ricolloca(genere, i);
     ScriveSuggerimentoManiglia(genere, i);
-    if (mosso) {
-        emit Variato();
-    }
+}
+
+void ElementiFoglio::Ricolloca(Genere genere, int i)
+{
+    Elemento(genere, i).Colloca(PostoDa(genere, i));
+    AncoraManiglia(genere, i);
 }

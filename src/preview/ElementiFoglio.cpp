@@ -1,8 +1,8 @@
 #include "preview/ElementiFoglio.h"
 
 #include "base/ErroreSistema.h"
+#include "documento/StatoProgramma.h"
 #include "model/Numeri.h"
-#include "model/StatoProgramma.h"
 #include "model/Tavolozza.h"
 #include "preview/GeometriaAnteprima.h"
 #include "preview/PrimoPiano.h"
@@ -71,6 +71,12 @@ int ElementiFoglio::Selezionato(Genere genere) const
     return maniglia.isVisible() ? maniglia.Tag.toInt() : 0;
 }
 
+bool ElementiFoglio::InVista(Genere genere, int i) const
+{
+    const ControlloElemento *controllo = elementi_.at(Posto(genere))[i];
+    return controllo != nullptr && controllo->isVisible();
+}
+
 void ElementiFoglio::Crea(Genere genere, int i)
 {
     ControlloElemento *&controllo = elementi_.at(Posto(genere))[i];
@@ -124,17 +130,17 @@ double ElementiFoglio::Area(Genere genere, int i) const
         return misura.width() * misura.height();
     }
     case Genere::Cornice:
-        return stato_.Aperto.Cornici[i].Larghezza * stato_.Aperto.Cornici[i].Altezza;
+        return stato_.Aperto().Cornici[i].Larghezza * stato_.Aperto().Cornici[i].Altezza;
     case Genere::Immagine:
         break;
     }
-    return stato_.Aperto.Immagini[i].Larghezza * stato_.Aperto.Immagini[i].Altezza;
+    return stato_.Aperto().Immagini[i].Larghezza * stato_.Aperto().Immagini[i].Altezza;
 }
 
 void ElementiFoglio::PrimoPiano(Genere genere)
 {
     QList<double> aree;
-    for (int i = 1; i <= stato_.Aperto.UltimoSlot(genere); ++i) {
+    for (int i = 1; i <= stato_.Aperto().UltimoSlot(genere); ++i) {
         aree.append(Area(genere, i));
     }
     for (const int i : PrimoPiano::Ordine(aree)) {
@@ -179,7 +185,7 @@ void ElementiFoglio::Seleziona(Genere genere, int i)
     maniglia.setVisible(true);
     maniglia.ImpostaPuntatore(Qt::SizeAllCursor);
     maniglia.Tag = QString::number(i);
-    Posiziona(genere, i, false);
+    Posiziona(genere, i);
 }
 
 void ElementiFoglio::AncoraManiglia(Genere genere, int i)

@@ -29,7 +29,11 @@ public:
     void NascondeManiglia(Genere genere);
 
     void Imposta(Genere genere, int i);
-    void Posiziona(Genere genere, int i, bool mosso);
+    void Posiziona(Genere genere, int i);
+    /// Only where the control and the handle of its kind stand, with the model's very numbers.
+    void Ricolloca(Genere genere, int i);
+    /// True when the element has a control, and that is not hidden.
+    bool InVista(Genere genere, int i) const;
     void Seleziona(Genere genere, int i);
     void PrimoPiano(Genere genere);
     /// Behind every other element.
@@ -69,9 +73,6 @@ public:
     void TogliRighe();
     void AggiungeRiga(const QRectF &posto, const TestoScalato::Aspetto &aspetto,
                       const QString &testo, double punti);
-
-signals:
-    void Variato();
 
 private:
     void ImpostaCampo(int i);

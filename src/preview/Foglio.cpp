@@ -1,6 +1,6 @@
 #include "preview/Foglio.h"
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 #include "platform/Guardia.h"
 #include "preview/GeometriaAnteprima.h"
 

@@ -1,8 +1,8 @@
 #include "preview/Frm1.h"
 
 #include "base/ErroreSistema.h"
+#include "documento/StatoProgramma.h"
 #include "model/Numeri.h"
-#include "model/StatoProgramma.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
 #include "preview/Anteprima.h"
@@ -91,13 +91,10 @@ void Frm1::CollegaSegnali()
 {
     Collega(parti_->ScrollX, &QScrollBar::valueChanged, this, &Frm1::ScrollX_Change);
     Collega(parti_->ScrollY, &QScrollBar::valueChanged, this, &Frm1::ScrollY_Change);
-    connect(elementi_.get(), &ElementiFoglio::Variato, this, &Frm1::Variato);
-    connect(mani_.get(), &ManiSulFoglio::Variato, this, &Frm1::Variato);
+    Collega(&stato_.documento, &Documento::Cambiato, this, &Frm1::SegueDocumento);
     connect(mani_.get(), &ManiSulFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
     connect(mani_.get(), &ManiSulFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
     connect(mani_.get(), &ManiSulFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
-    connect(mani_.get(), &ManiSulFoglio::RigheDaRidisegnare, this, &Frm1::RigheDaRidisegnare);
-    connect(mani_.get(), &ManiSulFoglio::ModificaConclusa, this, &Frm1::ModificaConclusa);
     Collega(mani_.get(), &ManiSulFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
     Collega(mani_.get(), &ManiSulFoglio::ElementoInMano, this, &Frm1::MostraElemento);
 }
@@ -193,9 +190,9 @@ void Frm1::TextZoom_KeyUp()
     emit SfondoDaRidisegnare();
     Righello();
     for (const Genere genere : Generi) {
-        for (int i = 1; i <= stato_.Aperto.UltimoSlot(genere); ++i) {
+        for (int i = 1; i <= stato_.Aperto().UltimoSlot(genere); ++i) {
             Impostazioni(genere, i);
-            Posiziona(genere, i, false);
+            Posiziona(genere, i);
         }
     }
     elementi_->RiancoraManiglie();
@@ -222,7 +219,7 @@ void Frm1::MostraPuntatore(QPointF punto)
 
 void Frm1::MostraElemento(Genere genere, int i)
 {
-    const Modello &modello = stato_.Aperto;
+    const Modello &modello = stato_.Aperto();
     static constexpr const char16_t *Nomi[] = {u"Campo ", u"Cornice ", u"Immagine "};
     QString testo = QString::fromUtf16(Nomi[static_cast<int>(genere)]) +
                     modello.Nome(genere, i).left(NomeLeggibile);
@@ -268,9 +265,89 @@ void Frm1::Impostazioni(Genere genere, int i)
     elementi_->Imposta(genere, i);
 }
 
-void Frm1::Posiziona(Genere genere, int i, bool mosso)
+void Frm1::Posiziona(Genere genere, int i)
 {
-    elementi_->Posiziona(genere, i, mosso);
+    elementi_->Posiziona(genere, i);
+}
+
+void Frm1::MostraModello()
+{
+    for (const Genere genere : Generi) {
+        for (int i = 1; i <= stato_.Aperto().UltimoSlot(genere); ++i) {
+            CreaElemento(genere, i);
+            Impostazioni(genere, i);
+            Posiziona(genere, i);
+            if (!stato_.documento.InVista({genere, i})) {
+                NascondiElemento(genere, i);
+            }
+        }
+    }
+    NascondiMarcatori();
+    PrimoPianoImmagini();
+    PrimoPianoCornici();
+    PrimoPianoCampi();
+}
+
+void Frm1::SegueDocumento(const Cambiamento &cambiamento)
+{
+    const QList<Chiave> elementi = cambiamento.Elementi();
+    for (const Chiave &chiave : elementi) {
+        switch (cambiamento.origine) {
+        case Cambiamento::Origine::Gesto:
+            elementi_->Ricolloca(chiave.genere, chiave.indice);
+            break;
+        case Cambiamento::Origine::Posto:
+            Posiziona(chiave.genere, chiave.indice);
+            break;
+        case Cambiamento::Origine::Comando:
+        case Cambiamento::Origine::Storia:
+            AggiornaElemento(chiave);
+            break;
+        case Cambiamento::Origine::Apertura:
+            return; // MostraModello builds the sheet
+        }
+    }
+    RiancoraManiglie();
+    if (elementi.size() > 1) {
+        RinominaManiglie(); // each element placed has put its own name on them
+    }
+}
+
+void Frm1::AggiornaElemento(Chiave chiave)
+{
+    const bool inVista = elementi_->InVista(chiave.genere, chiave.indice);
+    if (!stato_.documento.InVista(chiave)) {
+        if (inVista) {
+            NascondiElemento(chiave.genere, chiave.indice);
+        }
+        return;
+    }
+    if (!inVista) {
+        CreaElemento(chiave.genere, chiave.indice);
+    }
+    Impostazioni(chiave.genere, chiave.indice);
+    Posiziona(chiave.genere, chiave.indice);
+}
+
+void Frm1::PortaInVista(Chiave chiave)
+{
+    const QRectF posto = elementi_->Elemento(chiave.genere, chiave.indice).Posto();
+    const QSizeF vista = parti_->VistaInMillimetri();
+    const auto porta = [](QScrollBar *barra, double inizio, double fine, double larghezza) {
+        constexpr int Margine = 5; // mm of screen
+        if (inizio < barra->value() || fine > barra->value() + larghezza) {
+            barra->setValue(static_cast<int>(inizio) - Margine);
+        }
+    };
+    porta(parti_->ScrollX, posto.left(), posto.right(), vista.width());
+    porta(parti_->ScrollY, posto.top(), posto.bottom(), vista.height());
+}
+
+void Frm1::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() != Qt::Key_Escape || !mani_->Rinuncia()) {
+        QWidget::keyPressEvent(evento);
+    }
 }
 
 void Frm1::Seleziona(Genere genere, int i)

@@ -12,6 +12,7 @@
 #include <memory>
 
 struct StatoProgramma;
+class Cambiamento;
 struct Anteprima;
 class ElementiFoglio;
 class ManiSulFoglio;
@@ -46,12 +47,18 @@ public:
     void ImpostazioniCornice(int i) { Impostazioni(Genere::Cornice, i); }
     void ImpostazioniImmagine(int i) { Impostazioni(Genere::Immagine, i); }
 
-    /// Places the control and the handle of its kind; fields and frames are first rounded to whole
-    /// mm in the model, and a row field goes to yInizio. mosso emits Variato.
-    void Posiziona(Genere genere, int i, bool mosso);
-    void PosizionaCampo(int i, bool mosso) { Posiziona(Genere::Campo, i, mosso); }
-    void PosizionaCornice(int i, bool mosso) { Posiziona(Genere::Cornice, i, mosso); }
-    void PosizionaImmagine(int i, bool mosso) { Posiziona(Genere::Immagine, i, mosso); }
+    /// Places the control and the handle of its kind, once the document has put the element where
+    /// its rules want it. What has moved it marks the model as changed: a step of the document.
+    void Posiziona(Genere genere, int i);
+    void PosizionaCampo(int i) { Posiziona(Genere::Campo, i); }
+    void PosizionaCornice(int i) { Posiziona(Genere::Cornice, i); }
+    void PosizionaImmagine(int i) { Posiziona(Genere::Immagine, i); }
+
+    /// Builds the sheet: a control for every element, stacked by area, no handle in sight. From
+    /// then on it follows the document by itself.
+    void MostraModello();
+    /// Scrolls until the element's corner can be seen.
+    void PortaInVista(Chiave chiave);
 
     /// Shows the handle of the kind on element i, ready to drag it.
     void Seleziona(Genere genere, int i);
@@ -128,10 +135,8 @@ signals:
     void ElementoPuntato(Genere genere, int i);    ///< the editor's combo of the kind goes to i
     void PaginaRichiesta(Genere genere);           ///< the editor shows the page of the kind
     void RichiestaProprieta(Genere genere, int i); ///< the property dialog is to open
-    void Variato();                                ///< the model has been changed
     void SfondoDaRidisegnare();                    ///< the zoom has changed: background scan
-    void RigheDaRidisegnare();                     ///< a field or the zoom has changed: rows
-    void ModificaConclusa();                       ///< a gesture that changed the model has ended
+    void RigheDaRidisegnare();                     ///< the zoom has changed: simulated rows
     void ChiusuraRichiesta(); ///< the user wants the preview closed; it stays until the editor acts
 
 protected:
@@ -140,6 +145,8 @@ protected:
     void showEvent(QShowEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
     void wheelEvent(QWheelEvent *evento) override;
+    /// Escape gives up the drag or resize under way.
+    void keyPressEvent(QKeyEvent *evento) override;
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
@@ -149,6 +156,8 @@ private:
     void ScrollY_Change();
     void TextZoom_KeyUp();
     void CollegaSegnali();
+    void SegueDocumento(const Cambiamento &cambiamento);
+    void AggiornaElemento(Chiave chiave);
     void MostraPuntatore(QPointF punto);
     void MostraElemento(Genere genere, int i);
 

@@ -1,7 +1,8 @@
 #include "preview/ManiSulFoglio.h"
 
+#include "documento/Passo.h"
+#include "documento/StatoProgramma.h"
 #include "model/Numeri.h"
-#include "model/StatoProgramma.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/GeometriaAnteprima.h"
 
@@ -65,19 +66,15 @@ Controllo *ManiSulFoglio::ControlloDi(const Cattura &bersaglio) const
     return nullptr;
 }
 
-ManiSulFoglio::Stampo ManiSulFoglio::StampoDi(Genere genere, int i) const
+QSizeF ManiSulFoglio::MisuraDi(Genere genere, int i) const
 {
-    const Modello &modello = stato_.Aperto;
-    const auto conMisura = [](const auto &e) { return Stampo{e.X, e.Y, e.Larghezza, e.Altezza}; };
-    switch (genere) {
-    case Genere::Campo:
-        return {modello.Campi[i].X, modello.Campi[i].Y};
-    case Genere::Cornice:
-        return conMisura(modello.Cornici[i]);
-    case Genere::Immagine:
-        break;
-    }
-    return conMisura(modello.Immagini[i]);
+    return stato_.Aperto().Con(genere, [i](const auto &tabella) {
+        if constexpr (requires { tabella[i].Larghezza; }) {
+            return QSizeF(tabella[i].Larghezza, tabella[i].Altezza);
+        } else {
+            return QSizeF();
+        }
+    });
 }
 
 void ManiSulFoglio::Preme(const EventoMouse &evento)
@@ -98,7 +95,7 @@ void ManiSulFoglio::Preme(const EventoMouse &evento)
         return;
     }
     if (elemento || maniglia) {
-        bersaglio.prima = StampoDi(bersaglio.genere, bersaglio.indice);
+        bersaglio.misuraPrima = MisuraDi(bersaglio.genere, bersaglio.indice);
     }
     preso_ = bersaglio;
     if (elemento && evento.bottone == Qt::LeftButton &&
@@ -203,6 +200,7 @@ void ManiSulFoglio::ChiedeProprieta(Genere genere, int i)
 {
     // The dialog takes the mouse: its release will not come here.
     preso_ = {};
+    passo_.reset();
     ridimensione_ = {};
     emit RichiestaProprieta(genere, i);
 }
@@ -225,6 +223,25 @@ void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
     if (preso_.preso == Preso::Maniglia && !ultimoTrascinato_) {
         preso_.secondaPressione = evento.punto;
     }
+}
+
+bool ManiSulFoglio::Rinuncia()
+{
+    const bool trascina = preso_.preso == Preso::Maniglia && preso_.trascinato;
+    if (!passo_ || (!trascina && !ridimensione_.avviata)) {
+        return false;
+    }
+    const Cattura preso = std::exchange(preso_, {});
+    ridimensione_ = {};
+    passo_->Rinuncia();
+    passo_.reset();
+    elementi_.NascondeGuide();
+    if (preso.genere == Genere::Immagine) {
+        static_cast<RiquadroImmagine &>(elementi_.Elemento(preso.genere, preso.indice))
+            .ImpostaElastico(false);
+    }
+    emit ElementoInMano(preso.genere, preso.indice);
+    return true;
 }
 
 bool ManiSulFoglio::FermoDopoDueVolte(QPointF punto)
@@ -265,10 +282,7 @@ void ManiSulFoglio::ConcludeGesto(std::optional<QPointF> rilascio)
         RilasciaElemento(preso, rilascio);
     }
     AggiornaPuntatore(preso);
-    if ((preso.preso == Preso::Maniglia || preso.preso == Preso::Elemento) &&
-        !(StampoDi(preso.genere, preso.indice) == preso.prima)) {
-        emit ModificaConclusa();
-    }
+    passo_.reset();
     if (preso.secondaPressione && rilascio) {
         ChiedeProprieta(preso.genere, preso.indice);
     }
@@ -279,8 +293,8 @@ void ManiSulFoglio::RilasciaManiglia(const Cattura &preso)
     elementi_.NascondeGuide();
     if (preso.genere == Genere::Campo) {
         // Placing rounds to whole millimetres of paper and takes a row field back to yInizio.
-        elementi_.Posiziona(Genere::Campo, preso.indice, true);
-        emit RigheDaRidisegnare();
+        PassoDi(Genere::Campo, preso.indice, VerboSposta).Colloca({Genere::Campo, preso.indice});
+        passo_.reset();
     }
     emit ElementoInMano(preso.genere, preso.indice);
 }

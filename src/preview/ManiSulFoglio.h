@@ -7,12 +7,14 @@
 #include <QObject>
 #include <QRectF>
 
+#include <memory>
 #include <optional>
 
 class ControlloElemento;
 class Controllo;
 class ElementiFoglio;
 class Maniglia;
+class Passo;
 
 /// What the mouse does on the sheet: pointing selects, handles drag, edges resize, a right or
 /// double click on an element or its handle asks for the properties. The control under a press
@@ -39,15 +41,14 @@ public:
     void Rilascia(const EventoMouse &evento) override;
     void PremeDueVolte(const EventoMouse &evento) override;
     void Interrompe() override;
+    /// Gives up the drag or resize under way: the element is as it was. False when there is none.
+    bool Rinuncia();
     Spiegazione Suggerimento(QPointF punto) const override;
 
 signals:
     void ElementoPuntato(Genere genere, int i);
     void PaginaRichiesta(Genere genere);
     void RichiestaProprieta(Genere genere, int i);
-    void Variato();
-    void RigheDaRidisegnare();
-    void ModificaConclusa();
     /// The left button is held on the empty sheet, at a point in mm of screen.
     void FoglioPuntato(QPointF punto);
     /// Element i has been selected, moved or resized.
@@ -55,23 +56,17 @@ signals:
 
 private:
     enum class Preso { Niente, Foglio, Maniglia, Elemento };
-    /// What a gesture changes of an element, mm of the sheet; to know at its end whether it did.
-    struct Stampo
-    {
-        double x = 0;
-        double y = 0;
-        double larghezza = 0;
-        double altezza = 0;
+    /// What undo says it takes back.
+    static constexpr QLatin1String VerboSposta{"sposta"};
+    static constexpr QLatin1String VerboRidimensiona{"ridimensiona"};
 
-        bool operator==(const Stampo &) const = default;
-    };
     struct Cattura
     {
         Preso preso = Preso::Niente;
         Genere genere = Genere::Campo;
         int indice = 0;
         Qt::MouseButton bottone = Qt::NoButton;
-        Stampo prima = {};
+        QSizeF misuraPrima = {}; ///< of a frame or image at the press, mm of the sheet
         bool trascinato = false; ///< a drag step has moved the element
         /// Where a handle was pressed for the second time, as long as the pointer stays there.
         std::optional<QPointF> secondaPressione = {};
@@ -89,7 +84,11 @@ private:
 
     Cattura Bersaglio(QPointF punto) const;
     Controllo *ControlloDi(const Cattura &bersaglio) const;
-    Stampo StampoDi(Genere genere, int i) const;
+    QSizeF MisuraDi(Genere genere, int i) const;
+    /// The step of the gesture under way; the first change begins it.
+    Passo &PassoDi(Genere genere, int i, QLatin1String verbo);
+    /// A step that no press has begun is over at once.
+    void ConcludePassoIsolato();
     bool Ridimensionabile(Genere genere, int i) const;
     bool SulBordoSelezionato(Genere genere, QPointF punto) const;
 
@@ -114,6 +113,7 @@ private:
     ElementiFoglio &elementi_;
     Foglio &foglio_;
     Cattura preso_;
+    std::unique_ptr<Passo> passo_;
     bool ultimoTrascinato_ = false; ///< the gesture before this one has dragged an element
     Ridimensione ridimensione_;
 };

@@ -1,7 +1,8 @@
 // The gestures that change the model: dragging by a handle, resizing by an edge.
 
+#include "documento/Passo.h"
+#include "documento/StatoProgramma.h"
 #include "model/Numeri.h"
-#include "model/StatoProgramma.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/GeometriaAnteprima.h"
 #include "preview/ManiSulFoglio.h"
@@ -33,6 +34,23 @@ double NelFoglio(double posto, double misura, double foglio)
 
 } // namespace
 
+Passo &ManiSulFoglio::PassoDi(Genere genere, int i, QLatin1String verbo)
+{
+    if (!passo_) {
+        passo_ = std::make_unique<Passo>(stato_.documento,
+                                         verbo + u' ' + stato_.Aperto().Nome(genere, i));
+        passo_->SoloSeCambia();
+    }
+    return *passo_;
+}
+
+void ManiSulFoglio::ConcludePassoIsolato()
+{
+    if (preso_.preso == Preso::Niente) {
+        passo_.reset();
+    }
+}
+
 void ManiSulFoglio::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, double x, double y)
 {
     Maniglia &maniglia = elementi_.ManigliaDi(genere);
@@ -47,25 +65,20 @@ void ManiSulFoglio::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, doubl
     const QRectF prima = controllo.Posto();
     const QPointF dopo(NelFoglio(prima.left() + x, prima.width(), geometria_.LarghezzaFoglio()),
                        NelFoglio(prima.top() + y, prima.height(), geometria_.AltezzaFoglio()));
-    controllo.Muove(dopo);
-    elementi_.AncoraManiglia(genere, i);
-    // An axis that did not move keeps the model's own digits.
-    if (dopo.x() != prima.left()) {
-        stato_.Aperto.X(genere, i) = dopo.x() * stato_.zoom;
-    }
-    if (dopo.y() != prima.top()) {
-        stato_.Aperto.Y(genere, i) = dopo.y() * stato_.zoom;
-    }
     elementi_.MostraGuide(dopo, maniglia.Sfondo());
     if (dopo == prima.topLeft()) {
         return;
     }
+    // An axis that did not move keeps the model's own digits.
+    const Elemento &elemento = stato_.Aperto().Di({genere, i});
+    const QPointF posto(dopo.x() == prima.left() ? elemento.X : dopo.x() * stato_.zoom,
+                        dopo.y() == prima.top() ? elemento.Y : dopo.y() * stato_.zoom);
+    Passo &passo = PassoDi(genere, i, VerboSposta);
+    passo.Trascina({genere, i}, posto);
+    passo.Mostra();
     preso_.trascinato = true;
-    if (genere == Genere::Campo) {
-        emit RigheDaRidisegnare();
-    }
-    emit Variato();
     emit ElementoInMano(genere, i);
+    ConcludePassoIsolato();
 }
 
 bool ManiSulFoglio::Ridimensionabile(Genere genere, int i) const
@@ -76,7 +89,7 @@ bool ManiSulFoglio::Ridimensionabile(Genere genere, int i) const
     if (genere == Genere::Immagine) {
         return true;
     }
-    return stato_.Aperto.Cornici[i].Ridimensionabile();
+    return stato_.Aperto().Cornici[i].Ridimensionabile();
 }
 
 bool ManiSulFoglio::SulBordoSelezionato(Genere genere, QPointF punto) const
@@ -146,23 +159,18 @@ void ManiSulFoglio::ApplicaMisura(Genere genere, int i, QSizeF misura)
     if (genere == Genere::Immagine) {
         static_cast<RiquadroImmagine &>(controllo).ImpostaElastico(true);
     }
-    controllo.Colloca(QRectF(controllo.Posto().topLeft(), misura));
-    elementi_.AncoraManiglia(genere, i);
-    const auto scrive = [&](auto &elemento) {
-        if (misura.width() != prima.width()) {
-            elemento.Larghezza = misura.width() * stato_.zoom;
-        }
-        if (misura.height() != prima.height()) {
-            elemento.Altezza = misura.height() * stato_.zoom;
-        }
-    };
-    if (genere == Genere::Cornice) {
-        scrive(stato_.Aperto.Cornici[i]);
-    } else {
-        scrive(stato_.Aperto.Immagini[i]);
+    QSizeF carta = MisuraDi(genere, i);
+    if (misura.width() != prima.width()) {
+        carta.setWidth(misura.width() * stato_.zoom);
     }
-    emit Variato();
+    if (misura.height() != prima.height()) {
+        carta.setHeight(misura.height() * stato_.zoom);
+    }
+    Passo &passo = PassoDi(genere, i, VerboRidimensiona);
+    passo.Ridimensiona({genere, i}, carta);
+    passo.Mostra();
     emit ElementoInMano(genere, i);
+    ConcludePassoIsolato();
 }
 
 void ManiSulFoglio::ConcludeRidimensione(const Cattura &preso, Presa presa)
@@ -174,20 +182,24 @@ void ManiSulFoglio::ConcludeRidimensione(const Cattura &preso, Presa presa)
     }
     // A frame is placed on whole millimetres; rounding must not push a gripped edge past the sheet,
     // or farther past it than it was. The other edges stay wherever they are.
-    elementi_.Posiziona(preso.genere, i, false);
-    Cornice &cornice = stato_.Aperto.Cornici[i];
-    const auto limita = [](double &misura, double foglio, double prima) {
+    const Chiave chiave{preso.genere, i};
+    Passo &passo = PassoDi(preso.genere, i, VerboRidimensiona);
+    passo.Colloca(chiave);
+    const Cornice &cornice = stato_.Aperto().Cornici[i];
+    QSizeF misura(cornice.Larghezza, cornice.Altezza);
+    const auto limita = [](double &lato, double foglio, double prima) {
         if (Interi(foglio) >= MisuraMinima) {
-            misura = std::min(misura, std::max(Interi(foglio), prima));
+            lato = std::min(lato, std::max(Interi(foglio), prima));
         }
     };
     if (Ridimensionamento::InLarghezza(presa)) {
-        limita(cornice.Larghezza, geometria_.LarghezzaFoglio() * stato_.zoom - cornice.X,
-               preso.prima.larghezza);
+        limita(misura.rwidth(), geometria_.LarghezzaFoglio() * stato_.zoom - cornice.X,
+               preso.misuraPrima.width());
     }
     if (Ridimensionamento::InAltezza(presa)) {
-        limita(cornice.Altezza, geometria_.AltezzaFoglio() * stato_.zoom - cornice.Y,
-               preso.prima.altezza);
+        limita(misura.rheight(), geometria_.AltezzaFoglio() * stato_.zoom - cornice.Y,
+               preso.misuraPrima.height());
     }
-    elementi_.Posiziona(preso.genere, i, false);
+    passo.Ridimensiona(chiave, misura);
+    passo.Colloca(chiave);
 }

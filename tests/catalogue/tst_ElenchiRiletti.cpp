@@ -79,7 +79,7 @@ void tst_ElenchiRiletti::ArchiviEModelli()
              (QStringList{QStringLiteral("Aaa"), QStringLiteral("Alfa"), QStringLiteral("Beta")}));
     QCOMPARE(prova.Scelto("List2"), QStringLiteral("Beta"));
     QCOMPARE(prova.Stato.CartellaModelli, prova.Ini());
-    QCOMPARE(prova.Stato.Aperto.NomeFile, QStringLiteral("Beta.Mod"));
+    QCOMPARE(prova.Stato.NomeFile, QStringLiteral("Beta.Mod"));
 }
 
 void tst_ElenchiRiletti::ModelloScomparso_data()

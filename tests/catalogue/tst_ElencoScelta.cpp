@@ -48,7 +48,7 @@ void tst_ElencoScelta::PrimoTasto()
     QTRY_VERIFY(prova.Lista("List2")->hasFocus());
     QTest::keyClick(prova.Lista("List2"), tasto);
     QCOMPARE(prova.Scelto("List2"), scelto);
-    QCOMPARE(prova.Stato.Aperto.NomeFile, scelto + QStringLiteral(".Mod"));
+    QCOMPARE(prova.Stato.NomeFile, scelto + QStringLiteral(".Mod"));
     // From there on every key moves as in any list.
     QTest::keyClick(prova.Lista("List2"), Qt::Key_Home);
     QTest::keyClick(prova.Lista("List2"), Qt::Key_Down);
@@ -77,7 +77,7 @@ void tst_ElencoScelta::UnicoModello()
     QTest::keyClick(prova.Lista("List2"), tasto);
     QTest::keyClick(prova.Lista("List2"), Qt::Key_Return);
     QCOMPARE(aperto.size(), 1);
-    QCOMPARE(prova.Stato.Aperto.NomeFile, QStringLiteral("Alfa.Mod"));
+    QCOMPARE(prova.Stato.NomeFile, QStringLiteral("Alfa.Mod"));
 }
 
 void tst_ElencoScelta::DallArchivioAlPrimoModello()
@@ -127,7 +127,7 @@ void tst_ElencoScelta::ElencoVuoto()
         QTest::keyClick(prova.Lista("List2"), tasto);
     }
     QCOMPARE(prova.Scelto("List2"), QString());
-    QVERIFY(prova.Stato.Aperto.NomeFile.isEmpty());
+    QVERIFY(prova.Stato.NomeFile.isEmpty());
 }
 
 void tst_ElencoScelta::ArchivioRestaSceltoConCtrl_data()

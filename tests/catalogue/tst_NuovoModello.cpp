@@ -59,7 +59,7 @@ void tst_NuovoModello::NomeNonValidoRichiesto()
         QCOMPARE(robot.Predefiniti().value(domanda), nome);
     }
     QCOMPARE(ByteDi(prova.Ini(QStringLiteral("Corretto.Mod"))), QByteArray("fattura tipo"));
-    QCOMPARE(prova.Stato.Aperto.NomeFile, QStringLiteral("Corretto.Mod"));
+    QCOMPARE(prova.Stato.NomeFile, QStringLiteral("Corretto.Mod"));
     QCOMPARE(scelto.size(), 1);
     QCOMPARE(NomiIn(prova.Ini()).size(), 3);
 }
@@ -110,14 +110,14 @@ void tst_NuovoModello::NomeLecitoConEstensione()
     QVERIFY(robot.Soddisfatto());
     const QString nomeFile = nome + QStringLiteral(".Mod");
     QVERIFY(NomiIn(prova.Ini()).contains(nomeFile));
-    QCOMPARE(prova.Stato.Aperto.NomeFile, nomeFile);
+    QCOMPARE(prova.Stato.NomeFile, nomeFile);
     // The user finds it again, and it opens.
     prova.Mostra();
     QCOMPARE(prova.Scelto("List2"), nome);
     prova.Clic("List2", QStringLiteral("TIFATTURA"));
     prova.Clic("List2", nome);
     Controlli::Preme(prova.Finestra, "Apri");
-    QCOMPARE(ByteDi(prova.Stato.CartellaModelli + prova.Stato.Aperto.NomeFile),
+    QCOMPARE(ByteDi(prova.Stato.CartellaModelli + prova.Stato.NomeFile),
              QByteArray("fattura tipo"));
 }
 

@@ -582,9 +582,9 @@ void tst_SelezioneArchivifrm::Modello_scelto()
 {
     Carica();
     Seleziona("List2", QStringLiteral("Beta"));
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Beta.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Beta.Mod"));
     QTest::keyClick(Lista("List2"), Qt::Key_Up);
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Alfa.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Alfa.Mod"));
 }
 
 void tst_SelezioneArchivifrm::Apri_senzaArchivio()
@@ -629,7 +629,7 @@ void tst_SelezioneArchivifrm::Apri_bottone()
     QCOMPARE(scelto.size(), 1);
     QVERIFY2(chiusa, "the window has closed before the signal");
     QCOMPARE(stato_->CartellaModelli, Ini());
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Beta.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Beta.Mod"));
 }
 
 void tst_SelezioneArchivifrm::Apri_doppioClic()
@@ -640,7 +640,7 @@ void tst_SelezioneArchivifrm::Apri_doppioClic()
     QTest::mouseDClick(Lista("List2")->viewport(), Qt::LeftButton, Qt::NoModifier,
                        Lista("List2")->visualItemRect(Lista("List2")->currentItem()).center());
     QCOMPARE(scelto.size(), 1);
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Alfa.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Alfa.Mod"));
 }
 
 void tst_SelezioneArchivifrm::Apri_invio()
@@ -651,7 +651,7 @@ void tst_SelezioneArchivifrm::Apri_invio()
     QTest::keyClick(Lista("List2"), Qt::Key_Down);
     QTest::keyClick(Lista("List2"), Qt::Key_Return);
     QCOMPARE(scelto.size(), 1);
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Beta.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Beta.Mod"));
 }
 
 void tst_SelezioneArchivifrm::Nuovo_perTipo_data()
@@ -700,7 +700,7 @@ void tst_SelezioneArchivifrm::Nuovo_perTipo()
     QCOMPARE(ByteDi(percorso), byte);
     QCOMPARE(scelto.size(), 1);
     QVERIFY(!frm_->isVisible());
-    QCOMPARE(stato_->Aperto.NomeFile, proposto + QStringLiteral(".Mod"));
+    QCOMPARE(stato_->NomeFile, proposto + QStringLiteral(".Mod"));
 }
 
 void tst_SelezioneArchivifrm::Nuovo_senzaArchivio()
@@ -798,7 +798,7 @@ void tst_SelezioneArchivifrm::Nuovo_esisteSi()
     Preme(*frm_, "Nuovo");
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(ByteDi(Ini(QStringLiteral("Alfa.Mod"))), QByteArray("fattura tipo"));
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Alfa.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Alfa.Mod"));
 }
 
 void tst_SelezioneArchivifrm::Nuovo_esisteConAltreMaiuscole()
@@ -854,7 +854,7 @@ void tst_SelezioneArchivifrm::Nuovo_modelloTipoMancante()
     QCOMPARE(NomiIn(Ini()).size(), 3);
     QVERIFY(frm_->isVisible());
     QVERIFY(scelto.isEmpty());
-    QVERIFY(stato_->Aperto.NomeFile.isEmpty());
+    QVERIFY(stato_->NomeFile.isEmpty());
 }
 
 void tst_SelezioneArchivifrm::Nuovo_modelloTipoCheECartella()
@@ -922,7 +922,7 @@ void tst_SelezioneArchivifrm::Duplico_nomeProposto()
     QCOMPARE(robot.Predefiniti().value(0), QStringLiteral("Fattura_pers.Mod_nuovo"));
     QCOMPARE(ByteDi(Ini(QStringLiteral("Fattura_pers.Mod_nuovo.Mod"))), QByteArray("pers"));
     QCOMPARE(ByteDi(Ini(QStringLiteral("Fattura_pers.mod"))), QByteArray("pers"));
-    QCOMPARE(stato_->Aperto.NomeFile, QStringLiteral("Fattura_pers.Mod_nuovo.Mod"));
+    QCOMPARE(stato_->NomeFile, QStringLiteral("Fattura_pers.Mod_nuovo.Mod"));
 }
 
 void tst_SelezioneArchivifrm::Duplico_suSeStesso()

@@ -5,34 +5,34 @@
 #include <QObject>
 #include <QStringList>
 
-#include <functional>
-
-/// Writes down the signals of a property dialog in their order, "Applicato 2", and what a look at
-/// the program tells at that moment.
+/// Writes down what a property dialog does to the document and says to the editor, in its order:
+/// "Cambiato 2 Totale" with what the list shows by then, "VoceScelta 2", "chiuso".
 class RegistroSegnali : public QObject
 {
 public:
-    explicit RegistroSegnali(const FrmElemento &dialogo, std::function<QString()> sguardo = {})
-        : sguardo_(std::move(sguardo))
+    RegistroSegnali(const StatoProgramma &stato, const FrmElemento &dialogo)
     {
-        connect(&dialogo, &FrmElemento::Applicato, this,
-                [this](Genere, int n) { Annota(QStringLiteral("Applicato %1").arg(n)); });
-        connect(&dialogo, &FrmElemento::Ricollocato, this,
-                [this](Genere, int n) { Annota(QStringLiteral("Ricollocato %1").arg(n)); });
-        connect(&dialogo, &FrmElemento::VoceRinominata, this,
-                [this](Genere, int n, const QString &nome) {
-                    Annota(QStringLiteral("VoceRinominata %1 %2").arg(n).arg(nome));
-                });
-        connect(&dialogo, &FrmElemento::Eliminato, this,
-                [this](Genere, int n) { Annota(QStringLiteral("Eliminato %1").arg(n)); });
-        connect(&dialogo, &QDialog::finished, this, [this] { Annota(QStringLiteral("chiuso")); });
+        const Documento *documento = &stato.documento;
+        connect(documento, &Documento::Cambiato, this, [this, documento](const Cambiamento &c) {
+            if (c.origine == Cambiamento::Origine::Apertura) {
+                return; // the test's own
+            }
+            const bool soloPosto = c.origine == Cambiamento::Origine::Posto;
+            const QString che =
+                soloPosto ? QStringLiteral("Ricollocato %1") : QStringLiteral("Cambiato %1 %2");
+            for (const Chiave &chiave : c.Elementi()) {
+                const QString voce = che.arg(chiave.indice);
+                voci_.append(soloPosto ? voce : voce.arg(documento->Voce(chiave)));
+            }
+        });
+        connect(&dialogo, &FrmElemento::VoceScelta, this,
+                [this](Genere, int n) { voci_.append(QStringLiteral("VoceScelta %1").arg(n)); });
+        connect(&dialogo, &QDialog::finished, this,
+                [this] { voci_.append(QStringLiteral("chiuso")); });
     }
 
     const QStringList &Voci() const { return voci_; }
 
 private:
-    void Annota(const QString &voce) { voci_.append(sguardo_ ? voce + u' ' + sguardo_() : voce); }
-
-    std::function<QString()> sguardo_;
     QStringList voci_;
 };

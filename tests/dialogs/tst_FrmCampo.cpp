@@ -4,6 +4,7 @@
 #include "dialogs/RegistroSegnali.h"
 #include "platform/Finestre.h"
 #include "support/Controlli.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Errori.h"
 #include "support/Robot.h"
 
@@ -22,7 +23,7 @@ struct Prova
 {
     explicit Prova(int indice = 2, SorgenteCasuale casuale = {})
         : dialogo((Riempie(stato), stato), nullptr, std::move(casuale))
-        , segnali(dialogo)
+        , segnali(stato, dialogo)
     {
         QObject::connect(&dialogo, &FrmCampo::SettaComboMaskRichiesto, &dialogo,
                          [this] { SettaComboMask(); });
@@ -34,7 +35,7 @@ struct Prova
     {
         dialogo.RiempieComboImpostazioni();
         dialogo.Carica(indice);
-        const Campo &campo = stato.Aperto.Campi[indice];
+        const Campo &campo = stato.Aperto().Campi[indice];
         dialogo.Font()->setCurrentText(campo.Font);
         dialogo.Dimensioni()->setCurrentText(QString::number(campo.Dimensione).rightJustified(2));
         SettaComboMask();
@@ -46,11 +47,13 @@ struct Prova
     static void Riempie(StatoProgramma &stato)
     {
         stato.ElencoFont = {QStringLiteral("Arial"), QStringLiteral("Courier New")};
-        for (int i = 1; i <= 3; ++i) {
-            const int n = stato.Aperto.AggiungeCampo(10 * i, 20 * i);
-            stato.Aperto.Campi[n].Nome = QStringLiteral("Campo%1").arg(i);
-            stato.Aperto.Campi[n].Testo = QStringLiteral("prova%1").arg(i);
-        }
+        Cambia(stato, [](Modello &modello) {
+            for (int i = 1; i <= 3; ++i) {
+                const int n = modello.AggiungeCampo(10 * i, 20 * i);
+                modello.Campi[n].Nome = QStringLiteral("Campo%1").arg(i);
+                modello.Campi[n].Testo = QStringLiteral("prova%1").arg(i);
+            }
+        });
     }
 
     void SettaComboMask()
@@ -71,7 +74,11 @@ struct Prova
         dialogo.Maschere()->setCurrentIndex(i);
     }
 
-    Campo &Secondo() { return stato.Aperto.Campi[2]; }
+    void CambiaSecondo(const std::function<void(Campo &)> &cambia)
+    {
+        Cambia(stato, [&](Modello &modello) { cambia(modello.Campi[2]); });
+    }
+    const Campo &Secondo() const { return stato.Aperto().Campi[2]; }
 
     StatoProgramma stato;
     FrmCampo dialogo;
@@ -250,13 +257,16 @@ void TestFrmCampo::RiempireDueVolteNonRaddoppiaLeListe()
 void TestFrmCampo::CaricaIlCampo()
 {
     Prova p;
-    p.Secondo() = Campo{{QStringLiteral("Data"), 12.5, 40.25, QStringLiteral("data del documento")},
-                        QStringLiteral("01/02/2003"),
-                        QStringLiteral("$$$"),
-                        QStringLiteral("Courier New"),
-                        9,
-                        Vero,
-                        QStringLiteral("$$$$$")};
+    p.CambiaSecondo([](Campo &campo) {
+        campo = Campo{{QStringLiteral("Data"), 0, 0, QStringLiteral("data del documento")},
+                      QStringLiteral("01/02/2003"),
+                      QStringLiteral("$$$"),
+                      QStringLiteral("Courier New"),
+                      9,
+                      Vero,
+                      QStringLiteral("$$$$$")};
+    });
+    Lascia(p.stato, {Genere::Campo, 2}, {12.5, 40.25, 0, 0});
     p.Apre(2);
     QCOMPARE(Testo(p.dialogo, "Num"), QStringLiteral("2"));
     QCOMPARE(Testo(p.dialogo, "Nome"), QStringLiteral("Data"));
@@ -284,7 +294,7 @@ void TestFrmCampo::LaDidascaliaSegueLaMaschera()
     const auto didascalia = [&] {
         return Trova<QPushButton>(p.dialogo, "NonStampaCampo")->text().remove(u'&');
     };
-    p.Secondo().Maschera = QStringLiteral("No");
+    p.CambiaSecondo([&](Campo &campo) { campo.Maschera = QStringLiteral("No"); });
     p.Apre(2);
     QCOMPARE(didascalia(), QStringLiteral("ripristina stampa campo"));
     Digita(p.dialogo, "Maschera", QStringLiteral("NO"));
@@ -294,7 +304,7 @@ void TestFrmCampo::LaDidascaliaSegueLaMaschera()
 void TestFrmCampo::ConfermaScriveTuttiIValori()
 {
     Prova p;
-    Digita(p.dialogo, "Nome", QStringLiteral("R_Qta"));
+    Digita(p.dialogo, "Nome", QStringLiteral("Qta"));
     Digita(p.dialogo, "Descrizione", QStringLiteral("quantità"));
     Digita(p.dialogo, "Testo", QStringLiteral("12"));
     Digita(p.dialogo, "Maschera", QStringLiteral("###"));
@@ -305,7 +315,7 @@ void TestFrmCampo::ConfermaScriveTuttiIValori()
     p.dialogo.Dimensioni()->setCurrentText(QStringLiteral(" 8"));
     Preme(p.dialogo, "Bold");
     Preme(p.dialogo, "PConfemaCampo");
-    const Campo atteso{{QStringLiteral("R_Qta"), 1.25, -3, QStringLiteral("quantità")},
+    const Campo atteso{{QStringLiteral("Qta"), 1, -3, QStringLiteral("quantità")},
                        QStringLiteral("12"),
                        QStringLiteral("###"),
                        QStringLiteral("Courier New"),
@@ -321,13 +331,11 @@ void TestFrmCampo::ConfermaScriveTuttiIValori()
 void TestFrmCampo::ConfermaSegnalaAnteprimaPoiElenco()
 {
     Prova p;
-    const RegistroSegnali segnali(
-        p.dialogo, [&] { return p.Secondo().Nome + (p.dialogo.isVisible() ? u'+' : u'-'); });
     Digita(p.dialogo, "Nome", QStringLiteral("Iva"));
     Preme(p.dialogo, "PConfemaCampo");
-    QCOMPARE(segnali.Voci(), QStringList({QStringLiteral("Applicato 2 Iva+"),
-                                          QStringLiteral("VoceRinominata 2 Iva Iva+"),
-                                          QStringLiteral("chiuso Iva-")}));
+    QCOMPARE(p.segnali.Voci(),
+             QStringList({QStringLiteral("Cambiato 2 Iva"), QStringLiteral("VoceScelta 2"),
+                          QStringLiteral("chiuso")}));
 }
 
 void TestFrmCampo::InvioConferma()
@@ -356,11 +364,11 @@ void TestFrmCampo::InvioSuUnBottoneLoPreme()
 void TestFrmCampo::EscChiudeSenzaScrivere()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     Digita(p.dialogo, "Nome", QStringLiteral("Iva"));
     QTest::keyClick(Trova<QLineEdit>(p.dialogo, "Nome"), Qt::Key_Escape);
     QVERIFY(!p.dialogo.isVisible());
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QCOMPARE(p.segnali.Voci(), QStringList({QStringLiteral("chiuso")}));
 }
 
@@ -369,19 +377,21 @@ void TestFrmCampo::AprireEConfermareNonCambiaNulla()
     for (const QLocale &locale : {QLocale::c(), QLocale(QStringLiteral("it_IT"))}) {
         QLocale::setDefault(locale);
         Prova p;
-        p.Secondo() = Campo{{QStringLiteral("nome\tcon \x01 e\nriga"), 1.0 / 3, 1e300 / 7,
-                             QStringLiteral(" a\u00A0 ")},
-                            QString(40000, u'è'),
-                            QString(40001, u'$'),
-                            QStringLiteral("Arial"),
-                            11,
-                            Falso,
-                            QStringLiteral("\x7F\u0081 x")};
-        const Modello prima = p.stato.Aperto;
+        p.CambiaSecondo([](Campo &campo) {
+            campo = Campo{{QStringLiteral("nome\tcon \x01 e\nriga"), 1.0 / 3, 1e300 / 7,
+                           QStringLiteral(" a\u00A0 ")},
+                          QString(40000, u'è'),
+                          QString(40001, u'$'),
+                          QStringLiteral("Arial"),
+                          11,
+                          Falso,
+                          QStringLiteral("\x7F\u0081 x")};
+        });
+        const Modello prima = p.stato.Aperto();
         p.Apre(2);
         Preme(p.dialogo, "PConfemaCampo");
         QVERIFY(!p.dialogo.isVisible());
-        QVERIFY(p.stato.Aperto == prima);
+        QVERIFY(p.stato.Aperto() == prima);
     }
 }
 
@@ -404,12 +414,12 @@ void TestFrmCampo::NomeDiUnAltroCampo()
 {
     QFETCH(QString, nome);
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", nome);
     Preme(p.dialogo, "PConfemaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("nome già esistente")}));
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QVERIFY(p.dialogo.isVisible());
     QVERIFY(p.segnali.Voci().isEmpty());
     QCOMPARE(Testo(p.dialogo, "Nome"), nome);
@@ -418,24 +428,24 @@ void TestFrmCampo::NomeDiUnAltroCampo()
 void TestFrmCampo::NomeVuotoRifiutato()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QString());
     Digita(p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
     Preme(p.dialogo, "PConfemaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: non può essere vuoto")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmCampo::FineDeiCampiNonEUnNome()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QStringLiteral("FINECAMPI"));
     Preme(p.dialogo, "PConfemaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: FINECAMPI è riservato")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
     // The reader tells capitals apart.
     Digita(p.dialogo, "Nome", QStringLiteral("Finecampi"));
     Preme(p.dialogo, "PConfemaCampo");
@@ -523,13 +533,13 @@ void TestFrmCampo::TestoCheNonENumero()
     QFETCH(QString, testo);
     QFETCH(QString, messaggio);
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QStringLiteral("Iva"));
     Digita(p.dialogo, casella, testo);
     Preme(p.dialogo, "PConfemaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({messaggio}));
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QVERIFY(p.dialogo.isVisible());
     QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
 }
@@ -538,20 +548,20 @@ void TestFrmCampo::NumeriConLaVirgolaDellaLocale()
 {
     QLocale::setDefault(QLocale(QStringLiteral("it_IT")));
     Prova p;
-    p.Secondo().X = 12.5;
+    Lascia(p.stato, {Genere::Campo, 2}, {12.5, 40, 0, 0});
     p.Apre(2);
     QCOMPARE(Testo(p.dialogo, "X"), QStringLiteral("12,5"));
     Digita(p.dialogo, "X", QStringLiteral("7,25"));
     Digita(p.dialogo, "Y", QStringLiteral("8.75"));
     Preme(p.dialogo, "PConfemaCampo");
-    QCOMPARE(p.Secondo().X, 7.25);
-    QCOMPARE(p.Secondo().Y, 8.75);
+    QCOMPARE(p.Secondo().X, 7.0); // on whole millimetres
+    QCOMPARE(p.Secondo().Y, 9.0);
 }
 
 void TestFrmCampo::IndiceFuoriTabellaAllaConferma()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok().Ok();
     Trova<QLineEdit>(p.dialogo, "Num")->setText(QStringLiteral("101"));
     Digita(p.dialogo, "Nome", QStringLiteral("Iva"));
@@ -561,7 +571,7 @@ void TestFrmCampo::IndiceFuoriTabellaAllaConferma()
     for (const QString &testo : p.robot.Testi()) {
         QVERIFY2(testo.startsWith(QStringLiteral("errore 9 ")), qPrintable(testo));
     }
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QVERIFY(p.segnali.Voci().isEmpty() && p.dialogo.isVisible());
 }
 
@@ -601,7 +611,7 @@ void TestFrmCampo::MascheraNumericaGeneraIlTesto()
     Preme(p.dialogo, "PCambiaMaschera");
     QCOMPARE(Testo(p.dialogo, "Maschera"), QStringLiteral("#,"));
     QCOMPARE(Testo(p.dialogo, "Testo").length(), 1);
-    QVERIFY(p.stato.Aperto.Campi[2].Maschera == Trenta); // saved by the confirm only
+    QVERIFY(p.stato.Aperto().Campi[2].Maschera == Trenta); // saved by the confirm only
 }
 
 void TestFrmCampo::MascheraAlfanumericaTogliIlNumero()
@@ -664,15 +674,15 @@ void TestFrmCampo::NonStampareESalvaSubito()
     QCOMPARE(p.Secondo().Maschera, QStringLiteral("No"));
     QCOMPARE(p.Secondo().MascheraDefault, Trenta);
     QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Applicato 2"), QStringLiteral("VoceRinominata 2 Campo2"),
+             QStringList({QStringLiteral("Cambiato 2 Campo2"), QStringLiteral("VoceScelta 2"),
                           QStringLiteral("chiuso")}));
 }
 
 void TestFrmCampo::RipristinaStampaESalvaSubito()
 {
     Prova p(1, [] { return 0.4; });
-    p.Secondo().Maschera = QStringLiteral("No");
-    p.Secondo().MascheraDefault = QStringLiteral("###,");
+    p.CambiaSecondo([&](Campo &campo) { campo.Maschera = QStringLiteral("No"); });
+    p.CambiaSecondo([&](Campo &campo) { campo.MascheraDefault = QStringLiteral("###,"); });
     p.Apre(2);
     Preme(p.dialogo, "NonStampaCampo");
     QCOMPARE(p.Secondo().Maschera, QStringLiteral("###,"));
@@ -694,8 +704,8 @@ void TestFrmCampo::NonStampareConNomeDoppioNonSalva()
 void TestFrmCampo::FontSuTuttiICampi()
 {
     Prova p;
-    p.stato.Aperto.Campi[3].Nome.clear();
-    Modello atteso = p.stato.Aperto;
+    Cambia(p.stato, [&](Modello &modello) { modello.Campi[3].Nome.clear(); });
+    Modello atteso = p.stato.Aperto();
     for (int i = 1; i <= 3; ++i) {
         atteso.Campi[i].Font = QStringLiteral("Courier New");
         atteso.Campi[i].Dimensione = 40;
@@ -706,10 +716,10 @@ void TestFrmCampo::FontSuTuttiICampi()
     Preme(p.dialogo, "Bold");
     Digita(p.dialogo, "Nome", QStringLiteral("altro"));
     Preme(p.dialogo, "Command2");
-    QVERIFY(p.stato.Aperto == atteso);
+    QVERIFY(p.stato.Aperto() == atteso);
     QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Applicato 1"), QStringLiteral("Applicato 2"),
-                          QStringLiteral("Applicato 3")}));
+             QStringList({QStringLiteral("Cambiato 1 Campo1"), QStringLiteral("Cambiato 2 Campo2"),
+                          QStringLiteral("Cambiato 3 ")}));
     QVERIFY(p.dialogo.isVisible());
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
@@ -717,7 +727,7 @@ void TestFrmCampo::FontSuTuttiICampi()
 void TestFrmCampo::FontSuTuttiCon101Campi()
 {
     Prova p;
-    p.stato.Aperto.NumCampi = 101;
+    Cambia(p.stato, [&](Modello &modello) { modello.NumCampi = 101; });
     Digita(p.dialogo, "Nome", QStringLiteral("Iva"));
     Preme(p.dialogo, "Command2");
     QCOMPARE(p.segnali.Voci().size(), 100);
@@ -729,26 +739,27 @@ void TestFrmCampo::FontSuTuttiCon101Campi()
 void TestFrmCampo::EliminaConNo()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.No();
     Digita(p.dialogo, "Nome", QStringLiteral("altro"));
     Preme(p.dialogo, "PEliminaCampo");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Elimino il campo Campo2")}));
     QCOMPARE(p.robot.Predefiniti(), QStringList({QStringLiteral("&No")}));
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QVERIFY(p.dialogo.isVisible() && p.segnali.Voci().isEmpty());
 }
 
 void TestFrmCampo::EliminaConSi()
 {
     Prova p;
-    Modello atteso = p.stato.Aperto;
+    Modello atteso = p.stato.Aperto();
     atteso.Campi[2].Nome.clear();
     p.robot.Si();
     Preme(p.dialogo, "PEliminaCampo");
-    QVERIFY(p.stato.Aperto == atteso);
+    QVERIFY(p.stato.Aperto() == atteso);
     QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Eliminato 2"), QStringLiteral("chiuso")}));
+             QStringList({QStringLiteral("Cambiato 2  ELIMINATO: Campo2"),
+                          QStringLiteral("VoceScelta 2"), QStringLiteral("chiuso")}));
 }
 
 void TestFrmCampo::DoppioClicSulNome()

@@ -6,6 +6,7 @@
 #include "platform/Finestre.h"
 #include "platform/Testo.h"
 #include "support/Controlli.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Errori.h"
 #include "support/Robot.h"
 
@@ -25,7 +26,7 @@ struct Prova
 {
     explicit Prova(int indice = 2)
         : dialogo((Riempie(stato), stato))
-        , segnali(dialogo)
+        , segnali(stato, dialogo)
     {
         dialogo.setModal(false); // the robot looks for modal boxes only
         Apre(indice);
@@ -35,7 +36,7 @@ struct Prova
     {
         dialogo.RiempieComboImpostazioni();
         dialogo.Carica(indice);
-        const Cornice &cornice = stato.Aperto.Cornici[indice];
+        const Cornice &cornice = stato.Aperto().Cornici[indice];
         dialogo.Font()->setCurrentText(cornice.Font);
         dialogo.Dimensioni()->setCurrentText(QString::number(cornice.Dimensione).rightJustified(2));
         dialogo.show();
@@ -46,13 +47,19 @@ struct Prova
     static void Riempie(StatoProgramma &stato)
     {
         stato.ElencoFont = {QStringLiteral("Arial"), QStringLiteral("Courier New")};
-        for (int i = 1; i <= 3; ++i) {
-            const int n = stato.Aperto.AggiungeCornice(10 * i, 20 * i, 0, 0);
-            stato.Aperto.Cornici[n].Nome = QStringLiteral("Cornice%1").arg(i);
-        }
+        Cambia(stato, [](Modello &modello) {
+            for (int i = 1; i <= 3; ++i) {
+                const int n = modello.AggiungeCornice(10 * i, 20 * i, 0, 0);
+                modello.Cornici[n].Nome = QStringLiteral("Cornice%1").arg(i);
+            }
+        });
     }
 
-    Cornice &Seconda() { return stato.Aperto.Cornici[2]; }
+    void CambiaSeconda(const std::function<void(Cornice &)> &cambia)
+    {
+        Cambia(stato, [&](Modello &modello) { cambia(modello.Cornici[2]); });
+    }
+    const Cornice &Seconda() const { return stato.Aperto().Cornici[2]; }
     bool BordoAbilitato() const { return Trova<QLineEdit>(dialogo, "Bordo")->isEnabled(); }
     QColor Colore() const
     {
@@ -202,16 +209,19 @@ void TestFrmCornice::ListeDeiFontEDelleDimensioni()
 void TestFrmCornice::CaricaLaCornice()
 {
     Prova p;
-    p.Seconda() = Cornice{{QStringLiteral("Box"), 1.5, 2.5, QStringLiteral("riquadro")},
+    p.CambiaSeconda([](Cornice &cornice) {
+        cornice = Cornice{{QStringLiteral("Box"), 0, 0, QStringLiteral("riquadro")},
                           QStringLiteral("Spett.le"),
                           QStringLiteral("Courier New"),
                           8,
                           Vero,
-                          30.25,
-                          60.5,
+                          0,
+                          0,
                           2.2,
                           4,
                           12};
+    });
+    Lascia(p.stato, {Genere::Cornice, 2}, {1.5, 2.5, 60.5, 30.25});
     p.Apre(2);
     const QList<std::pair<const char *, const char *>> attesi{
         {"Num", "2"},        {"Nome", "Box"},      {"Testo", "Spett.le"},
@@ -249,9 +259,9 @@ void TestFrmCornice::TipoAllApertura()
     QFETCH(bool, etichetta);
     QFETCH(QString, testo);
     Prova p;
-    p.Seconda().Bordo = bordo;
+    p.CambiaSeconda([&](Cornice &cornice) { cornice.Bordo = bordo; });
     // The dialog may have shown a record of the other type before.
-    p.stato.Aperto.Cornici[3].Bordo = etichetta ? 1 : 0;
+    Cambia(p.stato, [&](Modello &modello) { modello.Cornici[3].Bordo = etichetta ? 1 : 0; });
     p.Apre(3);
     p.Apre(2);
     QCOMPARE(Trova<QRadioButton>(p.dialogo, "OptEtichetta")->isChecked(), etichetta);
@@ -333,13 +343,13 @@ void TestFrmCornice::ConfermaScriveTuttiIValori()
     p.dialogo.Dimensioni()->setCurrentText(QStringLiteral(" 8"));
     Preme(p.dialogo, "Bold");
     Preme(p.dialogo, "Confema");
-    const Cornice attesa{{QStringLiteral("Totali"), 1.25, -3, QStringLiteral("riquadro totali")},
+    const Cornice attesa{{QStringLiteral("Totali"), 1, -3, QStringLiteral("riquadro totali")},
                          QStringLiteral("Totale"),
                          QStringLiteral("Courier New"),
                          8,
                          Vero,
                          8,
-                         70.5,
+                         71,
                          2.2,
                          2,
                          15};
@@ -351,12 +361,11 @@ void TestFrmCornice::ConfermaScriveTuttiIValori()
 void TestFrmCornice::ConfermaSegnalaAnteprimaPoiElenco()
 {
     Prova p;
-    const RegistroSegnali segnali(p.dialogo, [&] { return p.Seconda().Nome; });
     Digita(p.dialogo, "Nome", QStringLiteral("Box"));
     Preme(p.dialogo, "Confema");
-    QCOMPARE(segnali.Voci(), QStringList({QStringLiteral("Applicato 2 Box"),
-                                          QStringLiteral("VoceRinominata 2 Box Box"),
-                                          QStringLiteral("chiuso Box")}));
+    QCOMPARE(p.segnali.Voci(),
+             QStringList({QStringLiteral("Cambiato 2 Box"), QStringLiteral("VoceScelta 2"),
+                          QStringLiteral("chiuso")}));
 }
 
 void TestFrmCornice::InvioConfermaEdEscNo()
@@ -378,31 +387,32 @@ void TestFrmCornice::AprireEConfermareNonCambiaNulla()
     for (const QLocale &locale : {QLocale::c(), QLocale(QStringLiteral("it_IT"))}) {
         QLocale::setDefault(locale);
         Prova p;
-        Cornice &cornice = p.Seconda();
-        cornice.Nome = QStringLiteral("nome\tcon \x01 e\nriga");
-        cornice.Testo = QString(40000, u'è');
-        cornice.X = 1.0 / 3;
-        cornice.Y = -1e-20;
-        cornice.Larghezza = 20.0 / 3;
-        cornice.Altezza = -1;
-        cornice.Bordo = 1.1 + 1e-14 / 3;
-        const Modello prima = p.stato.Aperto;
+        p.CambiaSeconda([](Cornice &cornice) {
+            cornice.Nome = QStringLiteral("nome\tcon \x01 e\nriga");
+            cornice.Testo = QString(40000, u'è');
+            cornice.X = 1.0 / 3;
+            cornice.Y = -1e-20;
+            cornice.Larghezza = 20.0 / 3;
+            cornice.Altezza = -1;
+            cornice.Bordo = 1.1 + 1e-14 / 3;
+        });
+        const Modello prima = p.stato.Aperto();
         p.Apre(2);
         Preme(p.dialogo, "Confema");
         QVERIFY(!p.dialogo.isVisible());
-        QVERIFY(p.stato.Aperto == prima);
+        QVERIFY(p.stato.Aperto() == prima);
     }
 }
 
 void TestFrmCornice::NomiUgualiSalvoLeMaiuscole()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QStringLiteral("cORNICE3"));
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("nome già esistente")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmCornice::ConfermaIlProprioNome()
@@ -416,19 +426,19 @@ void TestFrmCornice::ConfermaIlProprioNome()
 void TestFrmCornice::NomeVuotoRifiutato()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QString());
     Digita(p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: non può essere vuoto")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmCornice::SenzaBordoESenzaEtichetta()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Preme(p.dialogo, "OptEtichetta");
     Digita(p.dialogo, "Testo", QString());
@@ -436,7 +446,7 @@ void TestFrmCornice::SenzaBordoESenzaEtichetta()
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral(
                                   "non si può impostare cornice senza bordo e senza etichetta")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmCornice::LarghezzaZeroOMinore_data()
@@ -453,13 +463,13 @@ void TestFrmCornice::LarghezzaZeroOMinore()
 {
     QFETCH(QString, testo);
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Largh", testo);
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(),
              QStringList({QStringLiteral("non si può LARGHEZZA cornice ZERO o minore di zero")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmCornice::AltezzaZeroONegativaAccettata()
@@ -496,7 +506,7 @@ void TestFrmCornice::Colori()
         {"ColoreCorn", QStringLiteral("Colore cornice errato")}};
     for (const auto &[casella, messaggio] : caselle) {
         Prova p;
-        const Modello prima = p.stato.Aperto;
+        const Modello prima = p.stato.Aperto();
         if (colore < 0) {
             p.robot.Ok();
         }
@@ -505,7 +515,7 @@ void TestFrmCornice::Colori()
         QVERIFY(p.robot.Soddisfatto());
         if (colore < 0) {
             QCOMPARE(p.robot.Testi(), QStringList({messaggio}));
-            QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+            QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
             QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
         } else {
             const bool delTesto = qstrcmp(casella, "ColoreTesto") == 0;
@@ -518,7 +528,7 @@ void TestFrmCornice::Colori()
 void TestFrmCornice::OrdineDeiControlli()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok().Ok().Ok().Ok().Ok().Ok().Ok();
     Digita(p.dialogo, "X", QStringLiteral("abc"));
     Digita(p.dialogo, "ColoreCorn", QStringLiteral("16"));
@@ -534,7 +544,7 @@ void TestFrmCornice::OrdineDeiControlli()
         {"Largh", QStringLiteral("5")}};
     for (const auto &[casella, testo] : correzioni) {
         Preme(p.dialogo, "Confema");
-        QVERIFY(p.stato.Aperto == prima);
+        QVERIFY(p.stato.Aperto() == prima);
         Digita(p.dialogo, casella, testo);
     }
     QCOMPARE(
@@ -566,20 +576,20 @@ void TestFrmCornice::TestoCheNonENumero()
     QFETCH(QByteArray, casella);
     QFETCH(QString, nome);
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QStringLiteral("Box"));
     Digita(p.dialogo, casella, QStringLiteral("1x"));
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({nome + QStringLiteral(": «1x» non è un numero")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
     QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
 }
 
 void TestFrmCornice::NumeroTroppoGrandeAlSuoPosto()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok().Ok().Ok().Ok();
     Digita(p.dialogo, "ColoreTesto", QStringLiteral("16"));
     Digita(p.dialogo, "Largh", QStringLiteral("1e400"));
@@ -591,7 +601,7 @@ void TestFrmCornice::NumeroTroppoGrandeAlSuoPosto()
                                                              {"ColoreTesto", QStringLiteral("1")}};
     for (const auto &[casella, testo] : correzioni) {
         Preme(p.dialogo, "Confema");
-        QVERIFY(p.stato.Aperto == prima);
+        QVERIFY(p.stato.Aperto() == prima);
         QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
         Digita(p.dialogo, casella, testo);
     }
@@ -618,8 +628,8 @@ void TestFrmCornice::BordoConosceSoloIlPunto()
 {
     QLocale::setDefault(QLocale(QStringLiteral("it_IT")));
     Prova p;
-    p.Seconda().Bordo = 1.5;
-    p.Seconda().Larghezza = 12.5;
+    p.CambiaSeconda([&](Cornice &cornice) { cornice.Bordo = 1.5; });
+    Lascia(p.stato, {Genere::Cornice, 2}, {20, 40, 12.5, 10});
     p.Apre(2);
     QCOMPARE(Testo(p.dialogo, "Bordo"), QStringLiteral("1.5"));
     QCOMPARE(Testo(p.dialogo, "Largh"), QStringLiteral("12,5"));
@@ -627,19 +637,19 @@ void TestFrmCornice::BordoConosceSoloIlPunto()
     Digita(p.dialogo, "Largh", QStringLiteral("1,5"));
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.Seconda().Bordo, 2.4);
-    QCOMPARE(p.Seconda().Larghezza, 1.5);
+    QCOMPARE(p.Seconda().Larghezza, 2.0); // on whole millimetres
 }
 
 void TestFrmCornice::IndiceFuoriTabellaAllaConferma()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Trova<QLineEdit>(p.dialogo, "Num")->setText(QStringLiteral("101"));
     Digita(p.dialogo, "Nome", QStringLiteral("Box"));
     Preme(p.dialogo, "Confema");
     QVERIFY(p.robot.Testi().value(0).startsWith(QStringLiteral("errore 9 ")));
-    QVERIFY(p.stato.Aperto == prima && p.segnali.Voci().isEmpty());
+    QVERIFY(p.stato.Aperto() == prima && p.segnali.Voci().isEmpty());
 }
 
 void TestFrmCornice::EtichettaMisurataDalTesto()
@@ -664,14 +674,14 @@ void TestFrmCornice::EtichettaMisurataDalTesto()
 void TestFrmCornice::EtichettaVuoleUnaLarghezzaPositiva()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Preme(p.dialogo, "OptEtichetta");
     Digita(p.dialogo, "Largh", QStringLiteral("0"));
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(),
              QStringList({QStringLiteral("non si può LARGHEZZA cornice ZERO o minore di zero")}));
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     Digita(p.dialogo, "Largh", QStringLiteral("0.1"));
     Preme(p.dialogo, "Confema");
     QVERIFY(p.Seconda().Larghezza > 1);
@@ -701,7 +711,7 @@ void TestFrmCornice::CorniceSenzaBordoTieneLeMisure()
 void TestFrmCornice::ColoriSuTutte()
 {
     Prova p;
-    Modello atteso = p.stato.Aperto;
+    Modello atteso = p.stato.Aperto();
     for (int i = 1; i <= 3; ++i) {
         atteso.Cornici[i].ColoreTesto = 12;
         atteso.Cornici[i].ColoreCornice = 2;
@@ -710,10 +720,11 @@ void TestFrmCornice::ColoriSuTutte()
     Digita(p.dialogo, "ColoreCorn", QStringLiteral("2.5"));
     Digita(p.dialogo, "Nome", QStringLiteral("non salvato"));
     Preme(p.dialogo, "Command1");
-    QVERIFY(p.stato.Aperto == atteso);
-    QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Applicato 1"), QStringLiteral("Applicato 2"),
-                          QStringLiteral("Applicato 3"), QStringLiteral("chiuso")}));
+    QVERIFY(p.stato.Aperto() == atteso);
+    QCOMPARE(
+        p.segnali.Voci(),
+        QStringList({QStringLiteral("Cambiato 1 Cornice1"), QStringLiteral("Cambiato 2 Cornice2"),
+                     QStringLiteral("Cambiato 3 Cornice3"), QStringLiteral("chiuso")}));
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
 
@@ -740,7 +751,7 @@ void TestFrmCornice::ColoriSuTutteSenzaControllo()
     QFETCH(int, colore);
     for (const bool delTesto : {true, false}) {
         Prova p;
-        Modello atteso = p.stato.Aperto;
+        Modello atteso = p.stato.Aperto();
         for (int i = 1; i <= 3; ++i) {
             atteso.Cornici[i].ColoreTesto = qint16(delTesto ? colore : 5);
             atteso.Cornici[i].ColoreCornice = qint16(delTesto ? 5 : colore);
@@ -749,7 +760,7 @@ void TestFrmCornice::ColoriSuTutteSenzaControllo()
         Digita(p.dialogo, "ColoreCorn", delTesto ? QStringLiteral("5") : testo);
         Preme(p.dialogo, "Command1");
         QVERIFY(p.robot.Soddisfatto());
-        QVERIFY(p.stato.Aperto == atteso);
+        QVERIFY(p.stato.Aperto() == atteso);
         QVERIFY(!p.dialogo.isVisible());
     }
 }
@@ -758,14 +769,14 @@ void TestFrmCornice::ColoriSuTutteOltre16Bit()
 {
     for (const char *testo : {"40000", "32767.9", "1e400"}) {
         Prova p;
-        const Modello prima = p.stato.Aperto;
+        const Modello prima = p.stato.Aperto();
         p.robot.Ok();
         Digita(p.dialogo, "ColoreCorn", QString::fromLatin1(testo));
         Preme(p.dialogo, "Command1");
         QCOMPARE(p.robot.Testi(),
                  QStringList({QStringLiteral("Colore cornice: «%1» è un numero troppo grande")
                                   .arg(QString::fromLatin1(testo))}));
-        QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+        QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
         QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, "ColoreCorn"));
         QVERIFY(p.segnali.Voci().isEmpty());
         QVERIFY(QGuiApplication::overrideCursor() == nullptr);
@@ -775,7 +786,7 @@ void TestFrmCornice::ColoriSuTutteOltre16Bit()
 void TestFrmCornice::FontSuTutte()
 {
     Prova p;
-    Modello atteso = p.stato.Aperto;
+    Modello atteso = p.stato.Aperto();
     for (int i = 1; i <= 3; ++i) {
         atteso.Cornici[i].Font = QStringLiteral("Courier New");
         atteso.Cornici[i].Dimensione = 6;
@@ -788,7 +799,7 @@ void TestFrmCornice::FontSuTutte()
     Digita(p.dialogo, "ColoreTesto", QStringLiteral("4"));
     Digita(p.dialogo, "ColoreCorn", QStringLiteral("abc")); // not looked at
     Preme(p.dialogo, "Command2");
-    QVERIFY(p.stato.Aperto == atteso);
+    QVERIFY(p.stato.Aperto() == atteso);
     QCOMPARE(p.segnali.Voci().size(), 4);
     QCOMPARE(p.segnali.Voci().last(), QStringLiteral("chiuso"));
 }
@@ -823,12 +834,12 @@ void TestFrmCornice::FontSuTutteEConfermaArrotondanoIlColore()
 void TestFrmCornice::FontSuTutteConColoreErrato()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "ColoreTesto", QStringLiteral("16"));
     Preme(p.dialogo, "Command2");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Colore errato")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
     QVERIFY(p.segnali.Voci().isEmpty());
 }
 
@@ -836,7 +847,7 @@ void TestFrmCornice::SuTutteCon101Cornici()
 {
     for (const char *comando : {"Command1", "Command2", "Confema"}) {
         Prova p;
-        p.stato.Aperto.NumCornici = 101;
+        Cambia(p.stato, [&](Modello &modello) { modello.NumCornici = 101; });
         Preme(p.dialogo, comando);
         QVERIFY(p.robot.Soddisfatto());
         QVERIFY(!p.dialogo.isVisible());
@@ -846,24 +857,25 @@ void TestFrmCornice::SuTutteCon101Cornici()
 void TestFrmCornice::EliminaConNo()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.No();
     Preme(p.dialogo, "Elimina");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Elimino Cornice Cornice2")}));
     QCOMPARE(p.robot.Predefiniti(), QStringList({QStringLiteral("&No")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmCornice::EliminaConSi()
 {
     Prova p;
-    Modello atteso = p.stato.Aperto;
+    Modello atteso = p.stato.Aperto();
     atteso.Cornici[2].Nome.clear();
     p.robot.Si();
     Preme(p.dialogo, "Elimina");
-    QVERIFY(p.stato.Aperto == atteso);
+    QVERIFY(p.stato.Aperto() == atteso);
     QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Eliminato 2"), QStringLiteral("chiuso")}));
+             QStringList({QStringLiteral("Cambiato 2  ELIMINATO: Cornice2"),
+                          QStringLiteral("VoceScelta 2"), QStringLiteral("chiuso")}));
 }
 
 void TestFrmCornice::DoppioClicSulNome()

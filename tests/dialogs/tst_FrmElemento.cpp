@@ -6,6 +6,7 @@
 #include "dialogs/Mnemonici.h"
 #include "platform/DialogoScorrevole.h"
 #include "support/Controlli.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Robot.h"
 
 #include <QAbstractItemView>
@@ -19,7 +20,7 @@ using namespace Controlli;
 
 namespace {
 
-constexpr double PiuLungo = -1.23456789012345e-105; // than any box of a dialog
+constexpr double PiuLungo = -1.23456789012345e+105; // than any box of a dialog
 
 /// A model with an element of each kind, and the dialog of one of them as the editor opens it.
 struct Prova
@@ -28,12 +29,14 @@ struct Prova
     {
         stato.CartellaModelli = cartella.path() + u'/';
         stato.ElencoFont = {QStringLiteral("Arial"), QStringLiteral("Courier New")};
-        stato.Aperto.AggiungeCampo(PiuLungo, PiuLungo);
-        stato.Aperto.AggiungeCornice(PiuLungo, PiuLungo, 5, 7);
-        stato.Aperto.AggiungeImmagine(PiuLungo, PiuLungo);
-        stato.Aperto.Campi[1].Dimensione = dimensione;
-        stato.Aperto.Cornici[1].Dimensione = dimensione;
-        stato.Aperto.Immagini[1].Nome = QStringLiteral("logo.bmp");
+        Cambia(stato, [dimensione](Modello &modello) {
+            modello.AggiungeCampo(PiuLungo, PiuLungo);
+            modello.AggiungeCornice(PiuLungo, PiuLungo, 5, 7);
+            modello.AggiungeImmagine(PiuLungo, PiuLungo);
+            modello.Campi[1].Dimensione = dimensione;
+            modello.Cornici[1].Dimensione = dimensione;
+            modello.Immagini[1].Nome = QStringLiteral("logo.bmp");
+        });
         Crea(genere);
         if (scorre) {
             constexpr int OltreLoSchermo = 3000;
@@ -53,7 +56,7 @@ struct Prova
             auto campo = std::make_unique<FrmCampo>(stato);
             campo->RiempieComboImpostazioni();
             campo->Carica(1);
-            Sceglie(*campo, stato.Aperto.Campi[1].Dimensione);
+            Sceglie(*campo, stato.Aperto().Campi[1].Dimensione);
             campo->Maschere()->setCurrentIndex(60);
             dialogo = std::move(campo);
             break;
@@ -62,7 +65,7 @@ struct Prova
             auto cornice = std::make_unique<FrmCornice>(stato);
             cornice->RiempieComboImpostazioni();
             cornice->Carica(1);
-            Sceglie(*cornice, stato.Aperto.Cornici[1].Dimensione);
+            Sceglie(*cornice, stato.Aperto().Cornici[1].Dimensione);
             dialogo = std::move(cornice);
             break;
         }
@@ -192,7 +195,7 @@ void tst_FrmElemento::DimensioneFuoriElenco()
     QFETCH(Genere, genere);
     QFETCH(qint16, dimensione);
     Prova p(genere, dimensione);
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     const QString messaggio =
         QStringLiteral("Dim.: l'elemento ha %1, che non è nell'elenco; sceglierne una da 6 a 40")
             .arg(dimensione);
@@ -200,7 +203,7 @@ void tst_FrmElemento::DimensioneFuoriElenco()
     Preme(*p.dialogo, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
     Preme(*p.dialogo, "Command2"); // the font of all elements
     QCOMPARE(p.robot.Testi(), QStringList(2, messaggio));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo->isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo->isVisible());
     auto *elenco = Trova<QComboBox>(*p.dialogo, "ComboDim");
     QCOMPARE(p.dialogo->focusWidget(), elenco);
     elenco->setCurrentText(QStringLiteral("40"));

@@ -4,6 +4,7 @@
 #include "dialogs/RegistroSegnali.h"
 #include "platform/Finestre.h"
 #include "support/Controlli.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Errori.h"
 #include "support/ImmaginiDiProva.h"
 #include "support/ImmaginiRare.h"
@@ -38,7 +39,7 @@ struct Prova
 {
     explicit Prova(int indice = 2)
         : dialogo((Riempie(stato, cartella), stato))
-        , segnali(dialogo)
+        , segnali(stato, dialogo)
     {
         dialogo.setModal(false); // the robot looks for modal boxes only
         Apre(indice);
@@ -55,10 +56,12 @@ struct Prova
     static void Riempie(StatoProgramma &stato, const QTemporaryDir &cartella)
     {
         stato.CartellaModelli = cartella.path() + QDir::separator();
-        for (int i = 1; i <= 3; ++i) {
-            const int n = stato.Aperto.AggiungeImmagine(10 * i, 20 * i);
-            stato.Aperto.Immagini[n].Nome = QStringLiteral("vecchia%1.bmp").arg(i);
-        }
+        Cambia(stato, [](Modello &modello) {
+            for (int i = 1; i <= 3; ++i) {
+                const int n = modello.AggiungeImmagine(10 * i, 20 * i);
+                modello.Immagini[n].Nome = QStringLiteral("vecchia%1.bmp").arg(i);
+            }
+        });
     }
 
     /// Adds a file to the folder and shows the second picture again.
@@ -80,7 +83,11 @@ struct Prova
                           elenco->visualItemRect(voci.first()).center());
     }
 
-    Immagine &Seconda() { return stato.Aperto.Immagini[2]; }
+    void CambiaSeconda(const std::function<void(Immagine &)> &cambia)
+    {
+        Cambia(stato, [&](Modello &modello) { cambia(modello.Immagini[2]); });
+    }
+    const Immagine &Seconda() const { return stato.Aperto().Immagini[2]; }
 
     QTemporaryDir cartella;
     StatoProgramma stato;
@@ -224,8 +231,10 @@ void TestFrmImmagine::CartellaCheNonCePiu()
 void TestFrmImmagine::CaricaLImmagine()
 {
     Prova p;
-    p.Seconda() =
-        Immagine{{QStringLiteral("LOGO.bmp"), 1.5, 2.5, QStringLiteral("il logo")}, 30.25, 60.5, 1};
+    p.CambiaSeconda([](Immagine &immagine) {
+        immagine = Immagine{
+            {QStringLiteral("LOGO.bmp"), 1.5, 2.5, QStringLiteral("il logo")}, 30.25, 60.5, 1};
+    });
     p.Aggiunge("logo.bmp", Figura("bmp", 5, 5));
     const QList<std::pair<const char *, const char *>> attesi{
         {"Num", "2"},     {"Nome", "LOGO.bmp"}, {"X", "1.5"},   {"Y", "2.5"},
@@ -339,7 +348,7 @@ void TestFrmImmagine::RispostaZeroVuotaOAnnullata()
     QFETCH(QString, risposta);
     Prova p;
     p.Aggiunge("grande.bmp", Figura("bmp", 250, 100));
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     if (risposta.isNull()) {
         p.robot.Annulla();
     } else {
@@ -347,7 +356,7 @@ void TestFrmImmagine::RispostaZeroVuotaOAnnullata()
     }
     p.Clicca("grande.bmp");
     QVERIFY(p.robot.Soddisfatto());
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QCOMPARE(Testo(p.dialogo, "Largh"), QStringLiteral("50"));
     QCOMPARE(Testo(p.dialogo, "Alt"), QStringLiteral("10"));
     QVERIFY(p.segnali.Voci().isEmpty());
@@ -365,13 +374,13 @@ void TestFrmImmagine::PercentualeTroppoGrandeDetta()
     QFETCH(QString, risposta);
     Prova p;
     p.Aggiunge("grande.bmp", Figura("bmp", 250, 100));
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Digita(risposta).Ok();
     p.Clicca("grande.bmp");
     QVERIFY(p.robot.Soddisfatto());
     QCOMPARE(p.robot.Testi().value(1),
              QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(risposta));
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QCOMPARE(Testo(p.dialogo, "Largh"), QStringLiteral("50"));
     QCOMPARE(Testo(p.dialogo, "Alt"), QStringLiteral("10"));
     QVERIFY(p.segnali.Voci().isEmpty());
@@ -581,13 +590,13 @@ void TestFrmImmagine::AprendoSiDiceSeNonSiLegge()
     if (lunghezza != 0) {
         QVERIFY(QFile::resize(file, lunghezza));
     }
-    p.Seconda().Nome = QStringLiteral("aperta.bmp");
-    const Modello prima = p.stato.Aperto;
+    p.CambiaSeconda([&](Immagine &immagine) { immagine.Nome = QStringLiteral("aperta.bmp"); });
+    const Modello prima = p.stato.Aperto();
     p.Apre(2);
     const auto *riga = Trova<QLabel>(p.dialogo, "AvvisoImmagine");
     QCOMPARE(riga->isVisible(), !avviso.isEmpty());
     QCOMPARE(riga->text(), avviso);
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QVERIFY(p.segnali.Voci().isEmpty());
     QVERIFY(p.robot.Soddisfatto() && p.robot.Testi().isEmpty());
 }
@@ -610,7 +619,7 @@ void TestFrmImmagine::NomeCheIlModelloNonPuoContenere()
     Prova p;
     ImmaginiDiProva::Scrive(p.cartella.filePath(nome), Figura("bmp", 250, 100));
     p.Apre(2);
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     auto *elenco = Trova<QListWidget>(p.dialogo, "FileImmagini");
     const auto voci = elenco->findItems(nome, Qt::MatchExactly);
@@ -621,7 +630,7 @@ void TestFrmImmagine::NomeCheIlModelloNonPuoContenere()
     const QString detto = p.robot.Testi().constFirst();
     QVERIFY2(detto.contains(carattere) && detto.contains(QStringLiteral("Rinominare il file")),
              qPrintable(detto));
-    QVERIFY(p.stato.Aperto == prima);
+    QVERIFY(p.stato.Aperto() == prima);
     QCOMPARE(Testo(p.dialogo, "Nome"), QStringLiteral("vecchia2.bmp"));
     QVERIFY(elenco->currentItem() == nullptr);
     QVERIFY(p.segnali.Voci().isEmpty());
@@ -673,11 +682,11 @@ void TestFrmImmagine::RimisuraLImmagineScelta()
 void TestFrmImmagine::IndiceFuoriTabellaNellaMisura()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     Trova<QLineEdit>(p.dialogo, "Num")->setText(QStringLiteral("101"));
     Preme(p.dialogo, "Command1");
     QVERIFY(p.robot.Soddisfatto());
-    QVERIFY(p.stato.Aperto == prima && p.segnali.Voci().isEmpty());
+    QVERIFY(p.stato.Aperto() == prima && p.segnali.Voci().isEmpty());
 }
 
 void TestFrmImmagine::SceltaConLaTastiera()
@@ -736,12 +745,11 @@ void TestFrmImmagine::ConfermaScriveTuttiIValori()
 void TestFrmImmagine::ConfermaSegnalaAnteprimaPoiElenco()
 {
     Prova p;
-    const RegistroSegnali segnali(p.dialogo, [&] { return p.Seconda().Nome; });
     Digita(p.dialogo, "Nome", QStringLiteral("a.gif"));
     Preme(p.dialogo, "Confema");
-    QCOMPARE(segnali.Voci(), QStringList({QStringLiteral("Applicato 2 a.gif"),
-                                          QStringLiteral("VoceRinominata 2 a.gif a.gif"),
-                                          QStringLiteral("chiuso a.gif")}));
+    QCOMPARE(p.segnali.Voci(),
+             QStringList({QStringLiteral("Cambiato 2 a.gif"), QStringLiteral("VoceScelta 2"),
+                          QStringLiteral("chiuso")}));
 }
 
 void TestFrmImmagine::InvioConfermaEdEscNo()
@@ -761,44 +769,47 @@ void TestFrmImmagine::AprireEConfermareNonCambiaNulla()
     for (const QLocale &locale : {QLocale::c(), QLocale(QStringLiteral("it_IT"))}) {
         QLocale::setDefault(locale);
         Prova p;
-        p.Seconda() = Immagine{
-            {QStringLiteral("nome\tcon \x01 e\nriga.jpg"), 1.0 / 3, -2.0 / 3, QString(40000, u'è')},
-            1e300 / 7,
-            20.0 / 3,
-            1.0 / 7};
-        const Modello prima = p.stato.Aperto;
+        p.CambiaSeconda([](Immagine &immagine) {
+            immagine = Immagine{{QStringLiteral("nome\tcon \x01 e\nriga.jpg"), 1.0 / 3, -2.0 / 3,
+                                 QString(40000, u'è')},
+                                1e300 / 7,
+                                20.0 / 3,
+                                1.0 / 7};
+        });
+        const Modello prima = p.stato.Aperto();
         p.Apre(2);
         Preme(p.dialogo, "Confema");
         QVERIFY(!p.dialogo.isVisible());
-        QVERIFY(p.stato.Aperto == prima);
+        QVERIFY(p.stato.Aperto() == prima);
     }
 }
 
 void TestFrmImmagine::ConfermaSenzaImmagineElimina()
 {
     Prova p;
-    Modello atteso = p.stato.Aperto;
+    Modello atteso = p.stato.Aperto();
     atteso.Immagini[2].Nome.clear();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QString());
     Digita(p.dialogo, "X", QStringLiteral("abc")); // not looked at
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("non è stata selezionata un immagine")}));
-    QVERIFY(p.stato.Aperto == atteso);
+    QVERIFY(p.stato.Aperto() == atteso);
     QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Eliminato 2"), QStringLiteral("chiuso")}));
+             QStringList({QStringLiteral("Cambiato 2  ELIMINATO: vecchia2.bmp"),
+                          QStringLiteral("VoceScelta 2"), QStringLiteral("chiuso")}));
 }
 
 void TestFrmImmagine::FileDiUnAltraImmagine()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Nome", QStringLiteral("VECCHIA3.BMP"));
     Digita(p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("immagine già esistente")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmImmagine::TestoCheNonENumero_data()
@@ -817,20 +828,20 @@ void TestFrmImmagine::TestoCheNonENumero()
     QFETCH(QByteArray, casella);
     QFETCH(QString, nome);
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
     Digita(p.dialogo, "Descrizione", QStringLiteral("cambiata"));
     Digita(p.dialogo, casella, QStringLiteral("1x"));
     Preme(p.dialogo, "Confema");
     QCOMPARE(p.robot.Testi(), QStringList({nome + QStringLiteral(": «1x» non è un numero")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
     QCOMPARE(p.dialogo.focusWidget(), Trova<QWidget>(p.dialogo, casella));
 }
 
 void TestFrmImmagine::Con101Immagini()
 {
     Prova p;
-    p.stato.Aperto.NumImmagini = 101;
+    Cambia(p.stato, [&](Modello &modello) { modello.NumImmagini = 101; });
     Digita(p.dialogo, "X", QStringLiteral("7"));
     Preme(p.dialogo, "Confema");
     QVERIFY(p.robot.Soddisfatto());
@@ -840,24 +851,25 @@ void TestFrmImmagine::Con101Immagini()
 void TestFrmImmagine::EliminaConNo()
 {
     Prova p;
-    const Modello prima = p.stato.Aperto;
+    const Modello prima = p.stato.Aperto();
     p.robot.No();
     Preme(p.dialogo, "Elimina");
     QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Elimino Immagine vecchia2.bmp")}));
     QCOMPARE(p.robot.Predefiniti(), QStringList({QStringLiteral("&No")}));
-    QVERIFY(p.stato.Aperto == prima && p.dialogo.isVisible());
+    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
 }
 
 void TestFrmImmagine::EliminaConSi()
 {
     Prova p;
-    Modello atteso = p.stato.Aperto;
+    Modello atteso = p.stato.Aperto();
     atteso.Immagini[2].Nome.clear();
     p.robot.Si();
     Preme(p.dialogo, "Elimina");
-    QVERIFY(p.stato.Aperto == atteso);
+    QVERIFY(p.stato.Aperto() == atteso);
     QCOMPARE(p.segnali.Voci(),
-             QStringList({QStringLiteral("Eliminato 2"), QStringLiteral("chiuso")}));
+             QStringList({QStringLiteral("Cambiato 2  ELIMINATO: vecchia2.bmp"),
+                          QStringLiteral("VoceScelta 2"), QStringLiteral("chiuso")}));
 }
 
 void TestFrmImmagine::StaInUnoSchermoPiccolo()

@@ -104,7 +104,7 @@ public:
     {
         QStringList avvisi;
         const QString pdf = Archivio.Stato().CartellaModelli + QStringLiteral("../foglio.pdf");
-        StampaModello(Archivio.Stato().Aperto, Archivio.Stato().CartellaModelli,
+        StampaModello(Archivio.Aperto(), Archivio.Stato().CartellaModelli,
                       *Stampanti::SuPdf(pdf), false,
                       [&](const QString &testo) { avvisi.append(testo); });
         return avvisi;

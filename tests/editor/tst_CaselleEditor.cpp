@@ -106,19 +106,19 @@ void tst_CaselleEditor::SeguePagNonToccatoTieneIlSuoTesto()
 {
     ArchivioDiProva prova;
     const QString nascosto = QStringLiteral("segue\x01\n") + QString(40000, u'è');
-    prova.Aperto().Righe.SeguePag = nascosto;
+    prova.DaAprire().Righe.SeguePag = nascosto;
     prova.Scrive();
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
     Preme(editor, "ConfermaPosizioneRighe");
     QCOMPARE(prova.Aperto().Righe.SeguePag, nascosto);
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::NumeriDelleRigheNonToccatiRestanoEsatti()
 {
     EditorAperto prova;
-    ParametriRighe &righe = prova.Aperto().Righe;
+    ParametriRighe &righe = prova.DaAprire().Righe;
     righe.yInizio = 1.0 / 3; // more digits than its text has
     righe.Interlinea = -1e-20;
     prova.Scrive();
@@ -129,8 +129,8 @@ void tst_CaselleEditor::NumeriDelleRigheNonToccatiRestanoEsatti()
     Preme(editor, "ConfermaPosizioneRighe");
     QCOMPARE(prova.Aperto().Righe, lette);
     QCOMPARE(FileModello::Componi(prova.Aperto(), QLocale::c()), prima);
-    editor.Variato = false;
-    prova.Editor().Variato = false;
+    prova.Stato().documento.Salvato();
+    prova.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::TipoAnnullatoValeComeSiVede()
@@ -142,18 +142,18 @@ void tst_CaselleEditor::TipoAnnullatoValeComeSiVede()
     QCOMPARE(prova.Aperto().Tipo, QStringLiteral("bolla"));
     AnnullaFinoA(*casella, mostrato);
     QCOMPARE(prova.Aperto().Tipo, mostrato);
-    prova.Editor().Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::SfondoAnnullatoDopoUnoZoomSiRidisegna()
 {
     EditoreDiProva prova;
-    prova.Archivio.Aperto().Sfondo = {Scansione(prova.Archivio, 40, 40),
-                                      QStringLiteral("40"),
-                                      QStringLiteral("40"),
-                                      QStringLiteral("20"),
-                                      QStringLiteral("150"),
-                                      1};
+    prova.Archivio.DaAprire().Sfondo = {Scansione(prova.Archivio, 40, 40),
+                                        QStringLiteral("40"),
+                                        QStringLiteral("40"),
+                                        QStringLiteral("20"),
+                                        QStringLiteral("150"),
+                                        1};
     QVERIFY(prova.Apre());
     auto *casella = Trova<QLineEdit>(*prova.Editor, "SfondoXPosImm");
     QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
@@ -166,13 +166,13 @@ void tst_CaselleEditor::SfondoAnnullatoDopoUnoZoomSiRidisegna()
     QCOMPARE(prova.Archivio.Aperto().Sfondo.XPos, QStringLiteral("20"));
     QCOMPARE(Colore(*prova.Editor, 15, 85), QColor(Qt::red));
     QCOMPARE(Colore(*prova.Editor, 60, 85), QColor(Qt::white));
-    prova.Editor->Variato = false;
+    prova.Archivio.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::INumeriLunghiMostranoLInizio()
 {
     EditoreDiProva prova;
-    Modello &modello = prova.Archivio.Aperto();
+    Modello &modello = prova.Archivio.DaAprire();
     constexpr double Lungo = -1.23456789012345e-105;
     const QString testo = QStringLiteral("123456789012345678901234567890");
     modello.Righe = {Lungo, Lungo, Lungo, Lungo, testo};
@@ -191,9 +191,9 @@ void tst_CaselleEditor::INumeriLunghiMostranoLInizio()
 void tst_CaselleEditor::LaMisuraCalcolataMostraLInizio()
 {
     EditoreDiProva prova;
-    prova.Archivio.Aperto().Sfondo.File = Scansione(prova.Archivio, 40, 40);
-    prova.Archivio.Aperto().Sfondo.Visualizza = 1;
-    prova.Archivio.Aperto().Sfondo.XPos = QStringLiteral("1.123456789012");
+    prova.Archivio.DaAprire().Sfondo.File = Scansione(prova.Archivio, 40, 40);
+    prova.Archivio.DaAprire().Sfondo.Visualizza = 1;
+    prova.Archivio.DaAprire().Sfondo.XPos = QStringLiteral("1.123456789012");
     QVERIFY(prova.Apre());
     Robot robot;
     robot.Digita(QStringLiteral("33.3333333333333"));
@@ -203,14 +203,14 @@ void tst_CaselleEditor::LaMisuraCalcolataMostraLInizio()
     for (const char *nome : {"SfondoXimmagine", "SfondoYImmagine", "SfondoXPosImm"}) {
         QVERIFY2(MostraLInizio(*Trova<QLineEdit>(*prova.Editor, nome)), nome);
     }
-    prova.Editor->Variato = false;
+    prova.Archivio.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::LaSelezioneAllEntrataMostraLInizio()
 {
     EditoreDiProva prova;
     const QString lungo = QStringLiteral("123456789012345678901234567890");
-    prova.Archivio.Aperto().Sfondo.Ximmagine = lungo;
+    prova.Archivio.DaAprire().Sfondo.Ximmagine = lungo;
     QVERIFY(prova.Apre());
     Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(5);
     prova.Editor->activateWindow();
@@ -224,7 +224,7 @@ void tst_CaselleEditor::LaSelezioneAllEntrataMostraLInizio()
 void tst_CaselleEditor::EntrandoDaTastieraSiVedeLInizio()
 {
     EditoreDiProva prova;
-    prova.Archivio.Aperto().Tipo = QString(200, u'T');
+    prova.Archivio.DaAprire().Tipo = QString(200, u'T');
     QVERIFY(prova.Apre());
     prova.Editor->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
@@ -253,7 +253,7 @@ void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero()
                                 QStringLiteral("20"),
                                 QStringLiteral("150"),
                                 1};
-    prova.Archivio.Aperto().Sfondo = sfondo;
+    prova.Archivio.DaAprire().Sfondo = sfondo;
     QVERIFY(prova.Apre());
     Robot robot;
     robot.Digita(risposta).Ok();
@@ -263,7 +263,7 @@ void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero()
              QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(risposta));
     QCOMPARE(prova.Archivio.Aperto().Sfondo, sfondo);
     QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
-    QVERIFY(!prova.Editor->Variato);
+    QVERIFY(!prova.Editor->Variato());
 }
 
 void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta_data()
@@ -287,12 +287,12 @@ void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta()
     QFETCH(QString, nome);
     QFETCH(QByteArray, freccia);
     EditoreDiProva prova;
-    prova.Archivio.Aperto().Sfondo = {Scansione(prova.Archivio, 40, 40),
-                                      QStringLiteral("40"),
-                                      QStringLiteral("40"),
-                                      QStringLiteral("20"),
-                                      QStringLiteral("150"),
-                                      1};
+    prova.Archivio.DaAprire().Sfondo = {Scansione(prova.Archivio, 40, 40),
+                                        QStringLiteral("40"),
+                                        QStringLiteral("40"),
+                                        QStringLiteral("20"),
+                                        QStringLiteral("150"),
+                                        1};
     QVERIFY(prova.Apre());
     QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
     Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(5);
@@ -317,14 +317,14 @@ void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta()
     robot.Ok();
     scrive(QStringLiteral("1e400")); // another mistake
     QVERIFY(robot.Soddisfatto());
-    prova.Editor->Variato = false;
+    prova.Archivio.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::NumeroTroppoGrandeDettoAllaSpinta()
 {
     // Nothing is drawn, so only the arrow reads the box.
     EditoreDiProva prova;
-    prova.Archivio.Aperto().Sfondo.XPos = QStringLiteral("-1e400");
+    prova.Archivio.DaAprire().Sfondo.XPos = QStringLiteral("-1e400");
     QVERIFY(prova.Apre());
     Robot robot;
     robot.Ok();
@@ -333,14 +333,14 @@ void tst_CaselleEditor::NumeroTroppoGrandeDettoAllaSpinta()
     QCOMPARE(robot.Testi(),
              QStringList{QStringLiteral("posizione X: «-1e400» è un numero troppo grande")});
     QCOMPARE(prova.Archivio.Aperto().Sfondo.XPos, QStringLiteral("-1e400"));
-    QVERIFY(!prova.Editor->Variato);
+    QVERIFY(!prova.Editor->Variato());
 }
 
 void tst_CaselleEditor::ColoriFuoriDallaTavolozzaSonoNeri()
 {
     EditoreDiProva prova;
     prova.Archivio.AggiungeCornice(QStringLiteral("Riquadro"), 50, 60, 40, 20);
-    Cornice &cornice = prova.Archivio.Aperto().Cornici[1];
+    Cornice &cornice = prova.Archivio.DaAprire().Cornici[1];
     cornice.Bordo = 1.9;
     cornice.ColoreCornice = 4;
     QVERIFY(prova.Apre());
@@ -360,7 +360,7 @@ void tst_CaselleEditor::ColoriFuoriDallaTavolozzaSonoNeri()
         QCOMPARE(rosso(), QColor(Qt::black));
         QCOMPARE(prova.Stampa(), QStringList());
     }
-    prova.Editor->Variato = false;
+    prova.Archivio.Stato().documento.Salvato();
 }
 
 void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere_data()

@@ -3,6 +3,7 @@
 #include "editor/Form2.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
 #include "support/Robot.h"
 
@@ -291,9 +292,9 @@ void tst_Form2::ModelloAppenaApertoNonVariato()
     prova.Scrive();
     Form2 editor(prova.Stato());
     prova.Stato().zoom = 2;
-    editor.Variato = true;
+    prova.Stato().documento.SegnaVariato();
     QVERIFY(editor.Form_Load());
-    QVERIFY(!editor.Variato);
+    QVERIFY(!editor.Variato());
     QCOMPARE(prova.Stato().zoom, 1.0);
 }
 
@@ -335,7 +336,7 @@ void tst_Form2::ModelloScrittoInAltroModo()
     QVERIFY(QFile::rename(prova.Percorso(), maiuscolo));
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
-    prova.Aperto().Campi[1].X = 77;
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 77; });
     Robot robot;
     robot.Si();
     Preme(editor, "Salva");
@@ -365,9 +366,9 @@ void tst_Form2::CampoAggiuntoConAnteprimaScorsa()
     QCOMPARE(campo.Font, QStringLiteral("Arial"));
     QCOMPARE(campo.Dimensione, qint16(11));
     QCOMPARE(Trova<QComboBox>(editor, "ComboCampi")->currentIndex(), 1);
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     QVERIFY(Controllo(editor, QStringLiteral("S1"))->isVisible());
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2::TerzoCampoSiChiamaNuovocampo3()
@@ -383,14 +384,15 @@ void tst_Form2::TerzoCampoSiChiamaNuovocampo3()
     Preme(editor, "Aggiungicampo");
     QCOMPARE(prova.Aperto().Campi[3].Nome, QStringLiteral("nuovocampo3"));
     QCOMPARE(Trova<QComboBox>(editor, "ComboCampi")->currentText(), QStringLiteral("nuovocampo3"));
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2::CorniceAggiunta()
 {
     ArchivioDiProva prova;
-    prova.Aperto().Cornici[1].ColoreTesto = 4;
     prova.Scrive();
+    // The slot keeps the colour that the model open before had in it.
+    Cambia(prova.Stato(), [](Modello &modello) { modello.Cornici[1].ColoreTesto = 4; });
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
     Robot robot;
@@ -407,7 +409,7 @@ void tst_Form2::CorniceAggiunta()
     QCOMPARE(cornice.Bordo, 1.0);
     QCOMPARE(cornice.ColoreTesto, qint16(4));
     QCOMPARE(Trova<QComboBox>(editor, "ComboCornici")->currentText(), cornice.Nome);
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2::ImmagineAggiunta()
@@ -424,7 +426,7 @@ void tst_Form2::ImmagineAggiunta()
     QCOMPARE(immagine.Descrizione, QStringLiteral("nuovaImmagine1"));
     QCOMPARE(QSizeF(immagine.Larghezza, immagine.Altezza), QSizeF(50, 10));
     QCOMPARE(Voci(editor, "ComboImmagini"), QStringList({Separatore, QString()}));
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2::CentunesimoElementoErrore9_data()
@@ -457,7 +459,7 @@ void tst_Form2::DopoIlCentunesimoSiSalvanoICento()
     Robot robot;
     robot.Ok().Si();
     Preme(editor, "Aggiungicampo");
-    prova.Aperto().Campi[100].X = 123;
+    Modifica(prova.Stato(), [](Modello &modello) { modello.Campi[100].X = 123; });
     Preme(editor, "Salva");
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(prova.Riletto().NumCampi, qint16(100));
@@ -472,13 +474,15 @@ void tst_Form2::VoceEliminataNonSiApre()
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
     auto *combo = Trova<QComboBox>(editor, "ComboCampi");
-    combo->setItemText(1, QStringLiteral(" ELIMINATO: Data"));
+    Passo(prova.Stato().documento, {}).Elimina({Genere::Campo, 1});
+    QCOMPARE(combo->itemText(1), QStringLiteral(" ELIMINATO: Data"));
     combo->setCurrentIndex(1);
     Robot robot;
     Preme(editor, "VariazioneCampo");
     QVERIFY(robot.Soddisfatto());
     QVERIFY(robot.Testi().isEmpty());
-    combo->setItemText(1, QStringLiteral("Data"));
+    prova.Stato().documento.Annulla();
+    QCOMPARE(combo->itemText(1), QStringLiteral("Data"));
     robot.Annulla();
     Preme(editor, "VariazioneCampo");
     QCOMPARE(robot.Testi(), QStringList{QStringLiteral("FrmCampo")});
@@ -516,12 +520,12 @@ void tst_Form2::NoLasciaVariato()
     const QByteArray prima = prova.ByteDelFile();
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
-    prova.Aperto().Campi[1].X = 99;
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 99; });
     Robot robot;
     robot.No();
     Preme(editor, "Salva");
     QVERIFY(robot.Soddisfatto());
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     QCOMPARE(prova.ByteDelFile(), prima);
 }
 
@@ -532,18 +536,18 @@ void tst_Form2::SiScriveEAzzeraVariato()
     prova.Scrive();
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
-    prova.Aperto().Campi[1].X = 99;
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 99; });
     Robot robot;
     robot.Si();
     Preme(editor, "Salva");
-    QVERIFY(!editor.Variato);
+    QVERIFY(!editor.Variato());
     QCOMPARE(prova.Riletto().Campi[1].X, 99.0);
 }
 
 void tst_Form2::TipoFinisceNelFile()
 {
     ArchivioDiProva prova;
-    prova.Aperto().Tipo = QStringLiteral("Fattura");
+    prova.DaAprire().Tipo = QStringLiteral("Fattura");
     prova.Scrive();
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
@@ -551,7 +555,7 @@ void tst_Form2::TipoFinisceNelFile()
     QCOMPARE(tipo->text(), QStringLiteral("Fattura"));
     tipo->setCursorPosition(7);
     QTest::keyClicks(tipo, QStringLiteral(" B"));
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     Robot robot;
     robot.Si();
     Preme(editor, "Salva");
@@ -579,9 +583,8 @@ void tst_Form2::ChiusuraConVariazioniChiedeESalva()
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
     editor.show();
-    prova.Aperto().Campi[1].X = 55;
-    editor.Anteprima()->PosizionaCampo(1, true);
-    QVERIFY(editor.Variato);
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 55; });
+    QVERIFY(editor.Variato());
     Robot robot;
     robot.Si();
     QVERIFY(editor.close());
@@ -597,8 +600,8 @@ void tst_Form2::ChiusuraConNoNonScrive()
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
     editor.show();
-    editor.Variato = true;
-    prova.Aperto().Tipo = QStringLiteral("altro");
+    prova.Stato().documento.SegnaVariato();
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Tipo = QStringLiteral("altro"); });
     Robot robot;
     robot.No();
     QVERIFY(editor.close());
@@ -610,7 +613,7 @@ void tst_Form2::SalvataggioFallitoTieneApertoLEditor()
     EditorAperto prova;
     Form2 &editor = prova.Editor();
     editor.show();
-    editor.Variato = true;
+    prova.Stato().documento.SegnaVariato();
     // The archive's folder is gone: not even root can write there.
     QVERIFY(QDir(prova.Stato().CartellaModelli).removeRecursively());
     Robot robot;
@@ -620,8 +623,8 @@ void tst_Form2::SalvataggioFallitoTieneApertoLEditor()
     QVERIFY2(robot.Testi().constLast().startsWith(QStringLiteral("errore 76 ")),
              qPrintable(robot.Testi().constLast()));
     QVERIFY(editor.isVisible());
-    QVERIFY(editor.Variato);
-    editor.Variato = false;
+    QVERIFY(editor.Variato());
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2::ChiudereLAnteprimaChiudeLEditor()
@@ -630,7 +633,7 @@ void tst_Form2::ChiudereLAnteprimaChiudeLEditor()
     Form2 &editor = prova.Editor();
     editor.show();
     editor.Anteprima()->show();
-    editor.Variato = true;
+    prova.Stato().documento.SegnaVariato();
     QSignalSpy chiuso(&editor, &Form2::Chiuso);
     Robot robot;
     robot.No();
@@ -661,7 +664,7 @@ void tst_Form2::EliminaModelloSi()
     EditorAperto prova;
     Form2 &editor = prova.Editor();
     editor.show();
-    editor.Variato = true;
+    prova.Stato().documento.SegnaVariato();
     QSignalSpy chiuso(&editor, &Form2::Chiuso);
     Robot robot;
     robot.Si().Ok();
@@ -726,7 +729,7 @@ void tst_Form2::EliminaTutteNo()
     Preme(editor, "Command7");
     QVERIFY(editor.isVisible());
     QCOMPARE(prova.Aperto().Cornici[1].Nome, QStringLiteral("a"));
-    QVERIFY(!editor.Variato);
+    QVERIFY(!editor.Variato());
 }
 
 void tst_Form2::CambioPaginaNascondeIMarcatori()
@@ -811,7 +814,7 @@ void tst_Form2::NuovoCampoDavantiATutti()
     QVERIFY(nuovo > Controllo(editor, QStringLiteral("C1(1)"))->zValue());
     QVERIFY(nuovo > Controllo(editor, QStringLiteral("C2(1)"))->zValue());
     QVERIFY(Controllo(editor, QStringLiteral("S1"))->zValue() > nuovo);
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2::CambioPaginaRiordina()
@@ -908,7 +911,7 @@ void tst_Form2::ChiusuraDuranteLaDomanda()
     EditorAperto prova;
     Form2 &editor = prova.Editor();
     editor.show();
-    editor.Variato = true;
+    prova.Stato().documento.SegnaVariato();
     QVERIFY(QDir(prova.Stato().CartellaModelli).removeRecursively());
     Robot robot;
     // The window manager's close of the editor comes while the question of the preview's is open.
@@ -924,7 +927,7 @@ void tst_Form2::ChiusuraDuranteLaDomanda()
     QTRY_VERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().size(), 2); // the question once, and the error of the failed save
     QVERIFY(editor.isVisible());
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 QTEST_MAIN(tst_Form2)

@@ -4,6 +4,7 @@
 #include "platform/Stampanti.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
 #include "support/Robot.h"
 
@@ -27,7 +28,7 @@ public:
         prova.AggiungeCornice(QStringLiteral("Riquadro"), 30, 40, 20, 10);
         prova.AggiungeCornice(QStringLiteral("Scritta"), 30, 60, 20, 10);
         prova.AggiungeImmagine(QStringLiteral("logo.bmp"), 40, 50, 20, 10);
-        Campo &totale = prova.Aperto().Campi[2];
+        Campo &totale = prova.DaAprire().Campi[2];
         totale.Testo = QStringLiteral("1.234,50");
         totale.Maschera = QStringLiteral("###.###,###");
         totale.MascheraDefault = totale.Maschera;
@@ -37,9 +38,9 @@ public:
         editor = std::make_unique<Form2>(prova.Stato());
         caricato = editor->Form_Load();
     }
-    ~EditorDiProva() { editor->Variato = false; }
+    ~EditorDiProva() { prova.Stato().documento.Salvato(); }
 
-    Modello &Aperto() { return prova.Aperto(); }
+    const Modello &Aperto() const { return prova.Aperto(); }
     QGraphicsObject *Controllo(const char *nome)
     {
         return ElementoAnteprima(*editor->Anteprima(), QString::fromLatin1(nome));
@@ -109,13 +110,14 @@ void tst_Form2Dialoghi::IlCampoRiempieIlDialogo()
     });
     e.editor->ApreFrmCampo(2);
     QVERIFY(robot.Soddisfatto());
-    QVERIFY(!e.editor->Variato);
+    QVERIFY(!e.editor->Variato());
 }
 
 void tst_Form2Dialoghi::CampoNonStampato()
 {
     EditorDiProva e;
-    e.Aperto().Campi[2].Maschera = QStringLiteral("No");
+    Modifica(e.prova.Stato(),
+             [&](Modello &modello) { modello.Campi[2].Maschera = QStringLiteral("No"); });
     Robot robot;
     robot.Agisce([](QDialog *d) {
         QCOMPARE(Trova<QAbstractButton>(*d, "NonStampaCampo")->text().remove(u'&'),
@@ -138,7 +140,7 @@ void tst_Form2Dialoghi::ConfermaAggiornaAnteprimaEVoce()
     });
     e.editor->ApreFrmCampo(2);
     QVERIFY(robot.Soddisfatto());
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
     QCOMPARE(e.Aperto().Campi[2].X, 70.0); // the placing rounds to whole millimetres
     QCOMPARE(e.Controllo("C1(2)")->pos().x(), 70.0);
     QCOMPARE(Trova<QComboBox>(*e.editor, "ComboCampi")->currentText(), QStringLiteral("Importo"));
@@ -148,7 +150,8 @@ void tst_Form2Dialoghi::ConfermaAggiornaAnteprimaEVoce()
 void tst_Form2Dialoghi::MascheraPredefinitaRipresa()
 {
     EditorDiProva e;
-    e.Aperto().Campi[2].Maschera = QStringLiteral("No");
+    Modifica(e.prova.Stato(),
+             [&](Modello &modello) { modello.Campi[2].Maschera = QStringLiteral("No"); });
     Robot robot;
     robot.Agisce([](QDialog *d) { Preme(*d, "NonStampaCampo"); });
     e.editor->ApreFrmCampo(2);
@@ -168,7 +171,7 @@ void tst_Form2Dialoghi::EliminaCampo()
     e.editor->ApreFrmCampo(1);
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().value(1), QStringLiteral("Elimino il campo Data"));
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
     QCOMPARE(Trova<QComboBox>(*e.editor, "ComboCampi")->currentText(),
              QStringLiteral(" ELIMINATO: Data"));
     QVERIFY(!e.Controllo("C1(1)")->isVisible());
@@ -204,7 +207,8 @@ void tst_Form2Dialoghi::EliminaImmagine()
 void tst_Form2Dialoghi::FontSconosciutoDiventaArial()
 {
     EditorDiProva e;
-    e.Aperto().Campi[2].Font = QStringLiteral("Inesistente");
+    Modifica(e.prova.Stato(),
+             [&](Modello &modello) { modello.Campi[2].Font = QStringLiteral("Inesistente"); });
     Robot robot;
     robot.Ok().Agisce([](QDialog *d) {
         QCOMPARE(Trova<QComboBox>(*d, "ComboFont")->currentText(), QStringLiteral("Arial"));
@@ -222,7 +226,7 @@ void tst_Form2Dialoghi::FontDiPariLarghezzeResta()
     EditorDiProva e;
     e.prova.Stato().ElencoFont = Stampanti::ElencoFont();
     const QString tondo = QStringLiteral("Times New Roman");
-    e.Aperto().Cornici[2].Font = tondo;
+    Modifica(e.prova.Stato(), [&](Modello &modello) { modello.Cornici[2].Font = tondo; });
     Robot robot;
     robot.Agisce([](QDialog *d) { Preme(*d, "Confema"); });
     e.editor->ApreFrmCornice(2);
@@ -233,7 +237,7 @@ void tst_Form2Dialoghi::FontDiPariLarghezzeResta()
 void tst_Form2Dialoghi::DimensioneFuoriElencoNonSiSceglie()
 {
     EditorDiProva e;
-    e.Aperto().Cornici[1].Dimensione = 60;
+    Modifica(e.prova.Stato(), [&](Modello &modello) { modello.Cornici[1].Dimensione = 60; });
     Robot robot;
     robot.Agisce([](QDialog *d) {
         QCOMPARE(Trova<QComboBox>(*d, "ComboDim")->currentIndex(), -1);
@@ -258,7 +262,8 @@ void tst_Form2Dialoghi::DimensioniConUnaCifra()
 void tst_Form2Dialoghi::MascheraFuoriCatalogo()
 {
     EditorDiProva e;
-    e.Aperto().Campi[1].Maschera = QStringLiteral("##/##/####");
+    Modifica(e.prova.Stato(),
+             [&](Modello &modello) { modello.Campi[1].Maschera = QStringLiteral("##/##/####"); });
     Robot robot;
     robot.Agisce([](QDialog *d) {
         QCOMPARE(Trova<QComboBox>(*d, "ComboMask")->currentIndex(), -1);
@@ -286,7 +291,7 @@ void tst_Form2Dialoghi::FontSuTuttiICampi()
         QCOMPARE(e.Aperto().Campi[k].Dimensione, qint16(9));
         QCOMPARE(e.Aperto().Campi[k].Grassetto, Vero);
     }
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
 }
 
 void tst_Form2Dialoghi::DialogoDentroLoSchermo_data()
@@ -356,7 +361,8 @@ void tst_Form2Dialoghi::SenzaArialNellElenco()
 {
     EditorDiProva e;
     e.prova.Stato().ElencoFont = {QStringLiteral("DejaVu Sans")};
-    e.Aperto().Campi[2].Font = QStringLiteral("Inesistente");
+    Modifica(e.prova.Stato(),
+             [&](Modello &modello) { modello.Campi[2].Font = QStringLiteral("Inesistente"); });
     Robot robot;
     robot.Ok().Agisce([](QDialog *d) { Preme(*d, "PConfemaCampo"); });
     e.editor->ApreFrmCampo(2);
@@ -420,10 +426,10 @@ void tst_Form2Dialoghi::ComandoSuTuttiLaManigliaNominaIlSuo()
     prova.AggiungeImmagine(QStringLiteral("logo.bmp"), 40, 50, 20, 10);
     prova.AggiungeImmagine(QStringLiteral("firma.bmp"), 40, 90, 20, 10);
     for (int k = 1; k <= 2; ++k) {
-        prova.Aperto().Campi[k].Font = QStringLiteral("Arial");
-        prova.Aperto().Cornici[k].Font = QStringLiteral("Arial");
-        prova.Aperto().Campi[k].Dimensione = 10;
-        prova.Aperto().Cornici[k].Dimensione = 10;
+        prova.DaAprire().Campi[k].Font = QStringLiteral("Arial");
+        prova.DaAprire().Cornici[k].Font = QStringLiteral("Arial");
+        prova.DaAprire().Campi[k].Dimensione = 10;
+        prova.DaAprire().Cornici[k].Dimensione = 10;
     }
     prova.Scrive();
     Form2 editor(prova.Stato());
@@ -453,7 +459,7 @@ void tst_Form2Dialoghi::ComandoSuTuttiLaManigliaNominaIlSuo()
     const char *const coppie[][2] = {{"S1", "C1(1)"}, {"S2", "C2(1)"}, {"S3", "C3(1)"}};
     const auto &coppia = coppie[static_cast<int>(genere)];
     QCOMPARE(posto(coppia[0]), posto(coppia[1]));
-    editor.Variato = false;
+    prova.Stato().documento.Salvato();
 }
 
 QTEST_MAIN(tst_Form2Dialoghi)

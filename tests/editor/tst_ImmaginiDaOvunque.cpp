@@ -30,12 +30,12 @@ public:
 
     void ConSfondo(const QString &percorso, const char *x = "0")
     {
-        Archivio.Aperto().Sfondo = {percorso,
-                                    QStringLiteral("84"),
-                                    QStringLiteral("80"),
-                                    QString::fromLatin1(x),
-                                    QStringLiteral("0"),
-                                    1};
+        Archivio.DaAprire().Sfondo = {percorso,
+                                      QStringLiteral("84"),
+                                      QStringLiteral("80"),
+                                      QString::fromLatin1(x),
+                                      QStringLiteral("0"),
+                                      1};
     }
 
     /// Colour of the sheet at a point in mm of screen.
@@ -197,7 +197,7 @@ void tst_ImmaginiDaOvunque::SfondoConNomeCheIlModelloNonPuoContenere()
     QVERIFY2(robot.Testi().constLast().contains(QStringLiteral("U+0300")),
              qPrintable(robot.Testi().constLast()));
     QVERIFY(prova.Archivio.Aperto() == prima);
-    QVERIFY(!prova.Editor->Variato);
+    QVERIFY(!prova.Editor->Variato());
     QCOMPARE(Trova<QLineEdit>(*prova.Editor, "SfondoFileImmagine")->text(), buona);
 }
 

@@ -31,7 +31,7 @@ public:
 
     void ConSfondo(const QString &percorso)
     {
-        ImmagineSfondo &sfondo = Archivio.Aperto().Sfondo;
+        ImmagineSfondo &sfondo = Archivio.DaAprire().Sfondo;
         sfondo.File = percorso;
         sfondo.Ximmagine = QStringLiteral("210");
         sfondo.Yimmagine = QStringLiteral("297");
@@ -251,7 +251,7 @@ void tst_ImmaginiOstili::SfondoCheNonEUnFile()
     Preme(*prova.Editor, "SfondoSfoglia");
     QVERIFY(robot.Soddisfatto());
     QVERIFY2(tempo.Entro(Secondo), qPrintable(QString::number(tempo.MilliSecondi())));
-    QVERIFY(!prova.Editor->Variato);
+    QVERIFY(!prova.Editor->Variato());
 }
 
 void tst_ImmaginiOstili::NomeFuoriDallaCartella_data()
@@ -273,7 +273,7 @@ void tst_ImmaginiOstili::NomeFuoriDallaCartella()
     Scrive(sopra + QStringLiteral("/spia.bmp"),
            InFormato(Tinta({300, 300}, qRgb(255, 0, 255)), "bmp", 96));
     prova.Archivio.AggiungeImmagine(nome.contains(u'%') ? nome.arg(sopra) : nome, 20, 20, 40, 40);
-    prova.Archivio.Aperto().Campi[prova.Archivio.AggiungeCampo(QStringLiteral("a"), 1, 1)].Testo =
+    prova.Archivio.DaAprire().Campi[prova.Archivio.AggiungeCampo(QStringLiteral("a"), 1, 1)].Testo =
         QStringLiteral("a");
     const QString dentro = prova.In(QString());
     const auto prima = Contenuto(sopra, dentro);

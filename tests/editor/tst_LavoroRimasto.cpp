@@ -43,8 +43,8 @@ private:
         {
             CopiaRecupero copia(Copie(prova), prova.Percorso());
             copia.Parte(prova.ByteDelFile());
-            prova.Aperto().Campi[1].X = x;
-            copia.Scrive(prova.Aperto());
+            prova.DaAprire().Campi[1].X = x;
+            copia.Scrive(prova.DaAprire());
         }
         QVERIFY(QFile::remove(prova.Percorso()));
     }
@@ -121,7 +121,7 @@ void tst_LavoroRimasto::SiGuarda()
     // The whole sheet, and something on it where the field now is.
     QVERIFY(std::abs(visto.height() * 240.0 / visto.width() - 350) < 1);
     const double pixel = visto.width() / 240.0;
-    const Campo &campo = prova.Aperto().Campi[1];
+    const Campo &campo = prova.DaAprire().Campi[1];
     int scuri = 0;
     for (int x = int(77 * pixel); x < int(90 * pixel); ++x) {
         for (int y = int(campo.Y * pixel); y < int((campo.Y + 5) * pixel); ++y) {

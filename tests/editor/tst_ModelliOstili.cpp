@@ -54,7 +54,7 @@ void LavoraConTutto(const EditoreDiProva &prova)
 {
     Frm1 &anteprima = *prova.Editor->Anteprima();
     for (const Genere genere : Generi) {
-        for (int i = 1; i <= prova.Archivio.Stato().Aperto.UltimoSlot(genere); ++i) {
+        for (int i = 1; i <= prova.Archivio.Stato().Aperto().UltimoSlot(genere); ++i) {
             anteprima.Seleziona(genere, i);
         }
     }
@@ -177,7 +177,7 @@ void tst_ModelliOstili::DiecimilaCaratteriPerTesto()
 {
     QFETCH(QString, testo);
     EditoreDiProva prova;
-    Modello &modello = prova.Archivio.Aperto();
+    Modello &modello = prova.Archivio.DaAprire();
     prova.Archivio.Riempie(PerGenere);
     for (int i = 1; i <= PerGenere; ++i) {
         const QString suo = QString::number(i) + testo;
@@ -245,8 +245,8 @@ void tst_ModelliOstili::FontInesistenti()
     EditoreDiProva prova;
     prova.Archivio.Riempie(20);
     for (int i = 1; i <= 20; ++i) {
-        prova.Archivio.Aperto().Campi[i].Font = font;
-        prova.Archivio.Aperto().Cornici[i].Font = font;
+        prova.Archivio.DaAprire().Campi[i].Font = font;
+        prova.Archivio.DaAprire().Cornici[i].Font = font;
     }
     Robot robot;
     IN_UN_SECONDO(QVERIFY(prova.Apre()));
@@ -280,7 +280,7 @@ void tst_ModelliOstili::CoordinateEnormi()
     QFETCH(double, valore);
     EditoreDiProva prova;
     prova.Archivio.Riempie(20);
-    Modello &modello = prova.Archivio.Aperto();
+    Modello &modello = prova.Archivio.DaAprire();
     ImmaginiDiProva::Scrive(
         prova.Archivio.Stato().CartellaModelli + QStringLiteral("logo.bmp"),
         ImmaginiDiProva::InFormato(ImmaginiDiProva::Tinta({20, 20}, qRgb(0, 90, 0)), "bmp"));
@@ -347,13 +347,13 @@ void tst_ModelliOstili::TestiDelloSfondo()
     ImmaginiDiProva::Scrive(
         prova.Archivio.Stato().CartellaModelli + QStringLiteral("foglio.bmp"),
         ImmaginiDiProva::InFormato(ImmaginiDiProva::Tinta({20, 20}, qRgb(0, 90, 0)), "bmp"));
-    prova.Archivio.Aperto().Sfondo = {prova.Archivio.Stato().CartellaModelli +
-                                          QStringLiteral("foglio.bmp"),
-                                      testo,
-                                      testo,
-                                      testo,
-                                      testo,
-                                      1};
+    prova.Archivio.DaAprire().Sfondo = {prova.Archivio.Stato().CartellaModelli +
+                                            QStringLiteral("foglio.bmp"),
+                                        testo,
+                                        testo,
+                                        testo,
+                                        testo,
+                                        1};
     prova.Archivio.Scrive();
     const QByteArray prima = prova.Archivio.ByteDelFile();
     {
@@ -361,7 +361,7 @@ void tst_ModelliOstili::TestiDelloSfondo()
         IN_UN_SECONDO(QVERIFY(prova.ApreComeSta()));
         QVERIFY(robot.Testi().size() <= 1);
     }
-    QVERIFY(!prova.Editor->Variato);
+    QVERIFY(!prova.Editor->Variato());
     Robot robot;
     robot.Si();
     Preme(*prova.Editor, "Salva");
@@ -391,7 +391,7 @@ void tst_ModelliOstili::TestiAlPostoDeiNumeri()
     constexpr double Segno = 777;
     EditoreDiProva prova;
     prova.Archivio.Riempie(3);
-    Modello &modello = prova.Archivio.Aperto();
+    Modello &modello = prova.Archivio.DaAprire();
     QList<double *> numeri{&modello.Righe.yInizio,        &modello.Righe.yFine,
                            &modello.Righe.Interlinea,     &modello.Righe.InterlineaDescr,
                            &modello.Campi[2].X,           &modello.Campi[2].Y,
@@ -453,7 +453,7 @@ void tst_ModelliOstili::TestiNelleCaselle()
     QFETCH(QString, testo);
     EditoreDiProva prova;
     prova.Archivio.Riempie(5);
-    prova.Archivio.Aperto().Campi[2].Nome = QStringLiteral("R_Prezzo");
+    prova.Archivio.DaAprire().Campi[2].Nome = QStringLiteral("R_Prezzo");
     QVERIFY(prova.Apre());
     IN_UN_SECONDO(prova.Zoom(testo));
     QVERIFY(prova.Archivio.Stato().zoom >= 1 && prova.Archivio.Stato().zoom <= 3);

@@ -3,6 +3,7 @@
 #include "editor/PaginaSfondo.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
 #include "support/Robot.h"
 
@@ -32,7 +33,7 @@ public:
         editor = std::make_unique<Form2>(prova.Stato());
         caricato = editor->Form_Load();
     }
-    ~EditorDiProva() { editor->Variato = false; }
+    ~EditorDiProva() { prova.Stato().documento.Salvato(); }
 
     void Scrive(const char *casella, const QString &testo)
     {
@@ -41,7 +42,8 @@ public:
         QTest::keyClicks(riga, testo);
     }
     QString Testo(const char *casella) { return Trova<QLineEdit>(*editor, casella)->text(); }
-    Modello &Aperto() { return prova.Aperto(); }
+    Modello &DaAprire() { return prova.DaAprire(); }
+    const Modello &Aperto() const { return prova.Aperto(); }
 
     /// A picture of 200 x 100 mm at 10 dots a millimetre.
     QString Scansione()
@@ -115,7 +117,7 @@ void tst_Pagine::RigheMostrateColPunto()
     const QLocale precedente;
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     EditorDiProva e;
-    e.Aperto().Righe.Interlinea = 4.5;
+    e.DaAprire().Righe.Interlinea = 4.5;
     e.prova.Scrive();
     Form2 editor(e.prova.Stato());
     QVERIFY(editor.Form_Load());
@@ -134,9 +136,9 @@ void tst_Pagine::ConfermaScriveEAllinea()
     e.Scrive("Interlinea", QStringLiteral("6"));
     e.Scrive("InterlineaDescr", QStringLiteral("3.5"));
     e.Scrive("SeguePag", QStringLiteral("continua"));
-    QVERIFY(!e.editor->Variato);
+    QVERIFY(!e.editor->Variato());
     Preme(*e.editor, "ConfermaPosizioneRighe");
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
     QCOMPARE(e.Aperto().Righe, (ParametriRighe{110.5, 210, 6, 3.5, QStringLiteral("continua")}));
     QCOMPARE(e.Aperto().Campi[1].Y, 110.5);
     QCOMPARE(e.Aperto().Campi[2].Y, 30.0);
@@ -228,7 +230,7 @@ void tst_Pagine::NumeroTroppoGrande()
     QCOMPARE(robot.Testi(), attesi);
     QCOMPARE(e.Aperto().Righe.yInizio, 100.0);
     QCOMPARE(e.Aperto().Campi[2].X, 20.0);
-    QVERIFY(!e.editor->Variato);
+    QVERIFY(!e.editor->Variato());
 }
 
 void tst_Pagine::TooltipDellePagine()
@@ -291,7 +293,7 @@ void tst_Pagine::SpostamentoCampi()
     QCOMPARE(QPointF(e.Aperto().Campi[2].X, e.Aperto().Campi[2].Y), atteso);
     QCOMPARE(e.Aperto().Campi[1].Y, 100.0); // a row field stays at yInizio
     QCOMPARE(e.Aperto().Cornici[1].X, 30.0);
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
     QCOMPARE(ElementoAnteprima(*e.editor->Anteprima(), QStringLiteral("C1(2)"))->pos(), atteso);
 }
 
@@ -339,8 +341,7 @@ void tst_Pagine::SpostamentoCorniciEImmagini()
 void tst_Pagine::SpostamentoMuoveGliEliminati()
 {
     EditorDiProva e;
-    e.Aperto().Campi[2].Nome.clear();
-    e.editor->Anteprima()->NascondiElemento(Genere::Campo, 2);
+    Passo(e.prova.Stato().documento, {}).Elimina({Genere::Campo, 2});
     Preme(*e.editor, "OptDx");
     Preme(*e.editor, "Command2");
     QCOMPARE(e.Aperto().Campi[2].X, 21.0);
@@ -378,12 +379,12 @@ void tst_Pagine::TestiDelloSpostamento()
 void tst_Pagine::SfondoMostraITestiDelModello()
 {
     EditorDiProva e;
-    e.Aperto().Sfondo = {QString(),
-                         QStringLiteral("210,5 mm"),
-                         QStringLiteral(" 297"),
-                         QStringLiteral("-3"),
-                         QStringLiteral("x"),
-                         1};
+    e.DaAprire().Sfondo = {QString(),
+                           QStringLiteral("210,5 mm"),
+                           QStringLiteral(" 297"),
+                           QStringLiteral("-3"),
+                           QStringLiteral("x"),
+                           1};
     e.prova.Scrive();
     const QByteArray prima = e.prova.ByteDelFile();
     Form2 editor(e.prova.Stato());
@@ -393,7 +394,7 @@ void tst_Pagine::SfondoMostraITestiDelModello()
     QCOMPARE(Trova<QLineEdit>(editor, "SfondoXPosImm")->text(), QStringLiteral("-3"));
     QCOMPARE(Trova<QLineEdit>(editor, "SfondoYPosImm")->text(), QStringLiteral("x"));
     QVERIFY(Trova<QCheckBox>(editor, "VisualizzaImmagineSfondo")->isChecked());
-    QVERIFY(!editor.Variato);
+    QVERIFY(!editor.Variato());
     Robot robot;
     robot.Si();
     Preme(editor, "Salva");
@@ -409,7 +410,7 @@ void tst_Pagine::SfondoQuattroPressioniDueMillimetri()
         Preme(*e.editor, "SfondoSpostaDx");
     }
     QCOMPARE(e.Testo("SfondoXPosImm"), QStringLiteral("2"));
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
     Preme(*e.editor, "SfondoSpostaSx");
     QCOMPARE(e.Testo("SfondoXPosImm"), QStringLiteral("1.5"));
     Preme(*e.editor, "SfondoSpostaSu");
@@ -424,8 +425,8 @@ void tst_Pagine::SfondoQuattroPressioniDueMillimetri()
 void tst_Pagine::SfondoSpentoNonSiVede()
 {
     EditorDiProva e;
-    e.Aperto().Sfondo = {e.Scansione(),       QStringLiteral("200"), QStringLiteral("100"),
-                         QStringLiteral("5"), QStringLiteral("150"), 0};
+    e.DaAprire().Sfondo = {e.Scansione(),       QStringLiteral("200"), QStringLiteral("100"),
+                           QStringLiteral("5"), QStringLiteral("150"), 0};
     e.prova.Scrive();
     e.editor = std::make_unique<Form2>(e.prova.Stato());
     QVERIFY(e.editor->Form_Load());
@@ -566,8 +567,8 @@ void tst_Pagine::SfondoFileGuasto()
 void tst_Pagine::SfondoSiSpostaSulFoglio()
 {
     EditorDiProva e;
-    e.Aperto().Sfondo = {e.Scansione(),         QStringLiteral("100"), QStringLiteral("50"),
-                         QStringLiteral("100"), QStringLiteral("150"), 1};
+    e.DaAprire().Sfondo = {e.Scansione(),         QStringLiteral("100"), QStringLiteral("50"),
+                           QStringLiteral("100"), QStringLiteral("150"), 1};
     e.prova.Scrive();
     e.editor = std::make_unique<Form2>(e.prova.Stato());
     QVERIFY(e.editor->Form_Load());
@@ -578,10 +579,10 @@ void tst_Pagine::SfondoSiSpostaSulFoglio()
     QCOMPARE(e.Colore(101, 160), QColor(Qt::white));
     QCOMPARE(e.Colore(103, 160), QColor(Qt::red));
     QCOMPARE(e.Colore(201, 160), QColor(Qt::red));
-    e.editor->Variato = false;
+    e.prova.Stato().documento.Salvato();
     QTest::mouseClick(Trova<QCheckBox>(*e.editor, "VisualizzaImmagineSfondo"), Qt::RightButton);
     QCOMPARE(e.Colore(103, 160), QColor(Qt::white));
-    QVERIFY(e.editor->Variato);
+    QVERIFY(e.editor->Variato());
 }
 
 void tst_Pagine::SfondoSceltoConSfoglia()
@@ -617,7 +618,7 @@ void tst_Pagine::SfondoSceltoConSfoglia()
 void tst_Pagine::SfondoSfogliaDallaCartellaDelModello()
 {
     EditorDiProva e;
-    e.Aperto().Sfondo.File.clear();
+    Modifica(e.prova.Stato(), [](Modello &modello) { modello.Sfondo.File.clear(); });
     QString aperta;
     Robot robot;
     robot.Agisce([&](QDialog *dialogo) {
@@ -633,7 +634,7 @@ void tst_Pagine::SfondoSfogliaDallaCartellaDelModello()
 void tst_Pagine::SfondoCaratteriDiControlloIntatti()
 {
     EditorDiProva e;
-    e.Aperto().Sfondo.XPos = QStringLiteral("1\n2\x01");
+    e.DaAprire().Sfondo.XPos = QStringLiteral("1\n2\x01");
     e.prova.Scrive();
     Form2 editor(e.prova.Stato());
     QVERIFY(editor.Form_Load());

@@ -7,6 +7,7 @@
 #include "platform/SuDisco.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
+#include "support/DocumentoDiProva.h"
 #include "support/FileDiProva.h"
 #include "support/Finestre.h"
 #include "support/Permessi.h"
@@ -44,20 +45,18 @@ CopiaRecupero CopieDi(const ArchivioDiProva &prova)
 }
 
 /// One finished edit: field 1 goes to x, as at the release of a drag.
-void Modifica(Form2 &editor, StatoProgramma &stato, double x)
+void SpostaCampo(StatoProgramma &stato, double x)
 {
-    stato.Aperto.Campi[1].X = x;
-    editor.Anteprima()->PosizionaCampo(1, true);
-    emit editor.Anteprima()->ModificaConclusa();
+    Modifica(stato, [x](Modello &modello) { modello.Campi[1].X = x; });
 }
 
 /// An editor that has made the edit and then died: nothing of its closing runs.
 void ModificaEMuore(ArchivioDiProva &prova, double x)
 {
-    StatoProgramma stato = prova.Stato();
+    StatoProgramma stato = prova.AltroStato();
     Form2 editor(stato);
     QVERIFY(editor.Form_Load());
-    Modifica(editor, stato, x);
+    SpostaCampo(stato, x);
 }
 
 /// The child process: edits without end, and says the number of each finished edit.
@@ -67,14 +66,14 @@ int ModificaSenzaFine(const QString &cartella, const QString &nome)
     Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     StatoProgramma stato;
     stato.CartellaModelli = cartella;
-    stato.Aperto.NomeFile = nome;
+    stato.NomeFile = nome;
     stato.ElencoFont = {QStringLiteral("Arial")};
     Form2 editor(stato);
     if (!editor.Form_Load()) {
         return 1;
     }
     for (int n = 1;; ++n) {
-        Modifica(editor, stato, n);
+        SpostaCampo(stato, n);
         std::printf("%d\n", n);
         std::fflush(stdout);
     }
@@ -118,23 +117,23 @@ private slots:
 void tst_Recupero::NessunaCopiaSenzaModifiche()
 {
     EditorAperto prova(3);
-    Form2 &editor = prova.Editor();
-    emit editor.Anteprima()->ModificaConclusa();
+    emit prova.Stato().documento.ModificaConclusa();
     QVERIFY(Copie(prova).isEmpty());
 }
 
 void tst_Recupero::CopiaAllaFineDiOgniModifica()
 {
     EditorAperto prova(1);
-    Form2 &editor = prova.Editor();
-    prova.Aperto().Campi[1].X = 77;
-    editor.Anteprima()->PosizionaCampo(1, true);
-    QVERIFY2(Copie(prova).isEmpty(), "a move step is no finished edit");
-    emit editor.Anteprima()->ModificaConclusa();
+    {
+        Passo passo(prova.Stato().documento, {});
+        passo.Trascina({Genere::Campo, 1}, {77, 20});
+        passo.Mostra();
+        QVERIFY2(Copie(prova).isEmpty(), "a move step is no finished edit");
+    }
     QCOMPARE(Copie(prova).size(), 1);
     QVERIFY2(QDir(prova.Stato().CartellaModelli)
                      .entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot) ==
-                 QStringList{prova.Aperto().NomeFile},
+                 QStringList{prova.Stato().NomeFile},
              "the archive holds the model and nothing else");
     const auto trovate = CopieDi(prova).Cerca();
     QCOMPARE(trovate.size(), 1);
@@ -207,9 +206,9 @@ void tst_Recupero::CadutaERipresa()
                  QStringLiteral("Il modello Prova.Mod ha modifiche non salvate del ")),
              qPrintable(robot.Testi().constFirst()));
     QCOMPARE(robot.Predefiniti().constFirst(), QStringLiteral("&Sì"));
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     QCOMPARE(prova.Aperto().Campi[1].X, 123.0);
-    QCOMPARE(prova.Aperto().NomeFile, QStringLiteral("Prova.Mod"));
+    QCOMPARE(prova.Stato().NomeFile, QStringLiteral("Prova.Mod"));
     QCOMPARE(ElementoAnteprima(*editor.Anteprima(), QStringLiteral("C1(1)"))->pos().x(), 123.0);
     Preme(editor, "Salva");
     QCOMPARE(prova.Riletto().Campi[1].X, 123.0);
@@ -223,15 +222,13 @@ void tst_Recupero::CadutaDueVolte()
     prova.Scrive();
     ModificaEMuore(prova, 50);
     {
-        StatoProgramma stato = prova.Stato();
+        StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
         Robot robot;
         robot.Si();
         QVERIFY(editor.Form_Load());
-        QCOMPARE(stato.Aperto.Campi[1].X, 50.0);
-        stato.Aperto.Campi[2].X = 60;
-        editor.Anteprima()->PosizionaCampo(2, true);
-        emit editor.Anteprima()->ModificaConclusa();
+        QCOMPARE(stato.Aperto().Campi[1].X, 50.0);
+        Modifica(stato, [](Modello &modello) { modello.Campi[2].X = 60; });
     }
     QVERIFY2(Copie(prova).size() == 1, "the work taken up lives on in the new copy alone");
     Form2 editor(prova.Stato());
@@ -247,18 +244,18 @@ void tst_Recupero::Rifiutata()
     ArchivioDiProva prova;
     prova.Riempie(2);
     prova.Scrive();
-    const double prima = prova.Aperto().Campi[1].X;
+    const double prima = prova.DaAprire().Campi[1].X;
     ModificaEMuore(prova, 50);
     {
-        StatoProgramma stato = prova.Stato();
+        StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
         Robot robot;
         robot.No();
         QVERIFY(editor.Form_Load());
-        QVERIFY(!editor.Variato);
-        QCOMPARE(stato.Aperto.Campi[1].X, prima);
+        QVERIFY(!editor.Variato());
+        QCOMPARE(stato.Aperto().Campi[1].X, prima);
         // The next edit has a copy of its own: the declined one is not written over.
-        Modifica(editor, stato, 70);
+        SpostaCampo(stato, 70);
         QCOMPARE(Copie(prova).size(), 2);
     }
     Form2 editor(prova.Stato());
@@ -276,24 +273,24 @@ void tst_Recupero::NonAncoraOffertaResta()
     prova.Scrive();
     ModificaEMuore(prova, 50);
     {
-        StatoProgramma stato = prova.Stato();
+        StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
         Robot robot;
         robot.No();
         QVERIFY(editor.Form_Load());
-        Modifica(editor, stato, 70);
+        SpostaCampo(stato, 70);
     }
     // Of two works left behind the newer is taken up; the older has not been seen this time.
     const auto trovate = CopieDi(prova).Cerca();
     QCOMPARE(trovate.size(), 2);
     Invecchia(trovate[trovate[0].modello.Campi[1].X == 50 ? 0 : 1].file, 60);
     {
-        StatoProgramma stato = prova.Stato();
+        StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
         Robot robot;
         robot.Si().Si();
         QVERIFY(editor.Form_Load());
-        QCOMPARE(stato.Aperto.Campi[1].X, 70.0);
+        QCOMPARE(stato.Aperto().Campi[1].X, 70.0);
         Preme(editor, "Salva");
         QVERIFY(robot.Soddisfatto());
         QVERIFY(editor.close());
@@ -316,7 +313,7 @@ void tst_Recupero::RipresaSenzaPostoPerLaNuova()
     ModificaEMuore(prova, 50);
     const QStringList copie = Copie(prova);
     {
-        StatoProgramma stato = prova.Stato();
+        StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
         Robot robot;
         robot.Si().Ok();
@@ -350,7 +347,7 @@ void tst_Recupero::FileCambiatoDaAllora()
     prova.Riempie(2);
     prova.Scrive();
     ModificaEMuore(prova, 50);
-    prova.Aperto().Tipo = QStringLiteral("cambiato");
+    prova.DaAprire().Tipo = QStringLiteral("cambiato");
     prova.Scrive();
     Form2 editor(prova.Stato());
     Robot robot;
@@ -389,13 +386,13 @@ void tst_Recupero::UnAltroModelloNonLaRiceve()
     prova.Riempie(2);
     prova.Scrive();
     ModificaEMuore(prova, 50);
-    prova.Aperto().NomeFile = QStringLiteral("Altra.Mod");
+    prova.Stato().NomeFile = QStringLiteral("Altra.Mod");
     prova.Scrive();
     Form2 editor(prova.Stato());
     Robot robot;
     QVERIFY(editor.Form_Load());
     QVERIFY(robot.Testi().isEmpty());
-    Modifica(editor, prova.Stato(), 60);
+    SpostaCampo(prova.Stato(), 60);
     robot.Si();
     Preme(editor, "Salva");
     QCOMPARE(Copie(prova).size(), 1); // that of the other model stays
@@ -409,7 +406,7 @@ void tst_Recupero::UnProgrammaVivoTieneLaSua()
     prova.Scrive();
     QProcess altro;
     altro.start(QCoreApplication::applicationFilePath(),
-                {ArgomentoFiglio, prova.Stato().CartellaModelli, prova.Aperto().NomeFile});
+                {ArgomentoFiglio, prova.Stato().CartellaModelli, prova.Stato().NomeFile});
     QVERIFY(altro.waitForReadyRead(30000));
     {
         Form2 editor(prova.Stato());
@@ -428,7 +425,7 @@ void tst_Recupero::UnProgrammaVivoTieneLaSua()
     robot.Si();
     QVERIFY(editor.Form_Load());
     QVERIFY(robot.Soddisfatto());
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
 }
 
 void tst_Recupero::UgualeAlFileNonSiOffre()
@@ -438,13 +435,13 @@ void tst_Recupero::UgualeAlFileNonSiOffre()
     prova.Scrive();
     ModificaEMuore(prova, 50);
     // The save had come to its end, the removal of the copy had not.
-    prova.Aperto().Campi[1].X = 50;
+    prova.DaAprire().Campi[1].X = 50;
     prova.Scrive();
     Form2 editor(prova.Stato());
     Robot robot;
     QVERIFY(editor.Form_Load());
     QVERIFY(robot.Testi().isEmpty());
-    QVERIFY(!editor.Variato);
+    QVERIFY(!editor.Variato());
     QCOMPARE(prova.Aperto().Campi[1].X, 50.0);
     QVERIFY(Copie(prova).isEmpty());
 }
@@ -475,14 +472,13 @@ void tst_Recupero::NonLeggibileSiDice()
 void tst_Recupero::DiscoPieno()
 {
     EditorAperto prova(2);
-    Form2 &editor = prova.Editor();
-    Modifica(editor, prova.Stato(), 50);
+    SpostaCampo(prova.Stato(), 50);
     Robot robot;
     robot.Ok();
     {
         const LimiteFile poco(prova.ByteDelFile().size() / 2);
-        Modifica(editor, prova.Stato(), 51);
-        Modifica(editor, prova.Stato(), 52);
+        SpostaCampo(prova.Stato(), 51);
+        SpostaCampo(prova.Stato(), 52);
     }
     // Told once, and the copy of the edit before stands whole.
     QVERIFY(robot.Soddisfatto());
@@ -490,11 +486,11 @@ void tst_Recupero::DiscoPieno()
              QStringList{QStringLiteral("copia di recupero non scritta: errore 61 Disco pieno")});
     QCOMPARE(CopieDi(prova).Cerca().constFirst().modello.Campi[1].X, 50.0);
     // With room again, the next edit is kept, and a new lack of it told anew.
-    Modifica(editor, prova.Stato(), 53);
+    SpostaCampo(prova.Stato(), 53);
     {
         robot.Ok();
         const LimiteFile poco(100);
-        Modifica(editor, prova.Stato(), 54);
+        SpostaCampo(prova.Stato(), 54);
     }
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().size(), 2);
@@ -515,8 +511,8 @@ void tst_Recupero::CartellaImpossibile()
     QVERIFY(editor.Form_Load());
     Robot robot;
     robot.Ok().Si();
-    Modifica(editor, prova.Stato(), 50);
-    Modifica(editor, prova.Stato(), 51);
+    SpostaCampo(prova.Stato(), 50);
+    SpostaCampo(prova.Stato(), 51);
     QCOMPARE(robot.Testi().size(), 1);
     QVERIFY2(robot.Testi().constFirst().startsWith(
                  QStringLiteral("copia di recupero non scritta: errore ")),
@@ -536,11 +532,11 @@ void tst_Recupero::ViaDopoIlSalvataggio()
     Robot robot;
     robot.No().Si();
     QVERIFY(editor.Form_Load());
-    Modifica(editor, prova.Stato(), 60);
+    SpostaCampo(prova.Stato(), 60);
     QCOMPARE(Copie(prova).size(), 2);
     Preme(editor, "Salva");
     QVERIFY(Copie(prova).isEmpty());
-    Modifica(editor, prova.Stato(), 61);
+    SpostaCampo(prova.Stato(), 61);
     QCOMPARE(Copie(prova).size(), 1);
 }
 
@@ -549,7 +545,7 @@ void tst_Recupero::ViaDopoLaChiusuraSenzaSalvare()
     EditorAperto prova(1);
     Form2 &editor = prova.Editor();
     editor.show();
-    Modifica(editor, prova.Stato(), 60);
+    SpostaCampo(prova.Stato(), 60);
     Robot robot;
     robot.No();
     QVERIFY(editor.close());
@@ -573,7 +569,7 @@ void tst_Recupero::FileCambiatoDaAltriPrimaDiSalvare()
                             "l'apertura.\nLO VUOI SOSTITUIRE?"));
     QCOMPARE(robot.Predefiniti().constLast(), QStringLiteral("&No"));
     QCOMPARE(prova.ByteDelFile(), altro);
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     robot.Si().Si();
     Preme(editor, "Salva");
     QVERIFY(robot.Soddisfatto());
@@ -586,7 +582,7 @@ void tst_Recupero::FileCambiatoDaAltriDuranteLaDomanda()
     prova.Riempie(1);
     prova.Scrive();
     ModificaEMuore(prova, 50);
-    Modello altrui = prova.Aperto();
+    Modello altrui = prova.DaAprire();
     altrui.Tipo = QStringLiteral("di un altro");
     Form2 editor(prova.Stato());
     Robot robot;
@@ -620,7 +616,7 @@ void tst_Recupero::SecondoSalvataggioNonChiede()
     Robot robot;
     robot.Si().Si();
     Preme(editor, "Salva");
-    Modifica(editor, prova.Stato(), 60);
+    SpostaCampo(prova.Stato(), 60);
     Preme(editor, "Salva");
     QVERIFY2(robot.Soddisfatto(), "the program's own save is nobody else's change");
     QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
@@ -642,7 +638,7 @@ void tst_Recupero::SalvatoNonostanteLErroreNonChiede()
 {
     EditorAperto prova(1);
     Form2 &editor = prova.Editor();
-    prova.Aperto().Campi[1].X = 60;
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 60; });
     Disco::UsaSincronizzazione(nullptr, [](const QString &) -> std::error_code {
         return {EIO, std::generic_category()};
     });
@@ -653,9 +649,9 @@ void tst_Recupero::SalvatoNonostanteLErroreNonChiede()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constLast(), QStringLiteral("errore 57 Errore di I/O della periferica\n"
                                                        "salvataggio del file Prova.Mod"));
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     QVERIFY2(prova.Riletto().Campi[1].X == 60.0, "the new file had its place already");
-    prova.Aperto().Campi[1].X = 70;
+    SpostaCampo(prova.Stato(), 70);
     robot.Si();
     Preme(editor, "Salva");
     QVERIFY2(robot.Soddisfatto(), "nobody else has changed the file");
@@ -672,7 +668,7 @@ void tst_Recupero::DuecentoUccisioni()
     for (int giro = 0; giro < Uccisioni; ++giro) {
         QProcess figlio;
         figlio.start(QCoreApplication::applicationFilePath(),
-                     {ArgomentoFiglio, prova.Stato().CartellaModelli, prova.Aperto().NomeFile});
+                     {ArgomentoFiglio, prova.Stato().CartellaModelli, prova.Stato().NomeFile});
         QVERIFY(figlio.waitForReadyRead(30000));
         QTest::qWait(QRandomGenerator::global()->bounded(20));
         figlio.kill();

@@ -1,5 +1,6 @@
 #include "EditoreDiProva.h"
 #include "preview/Controlli.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Tempi.h"
 
 #include <QCheckBox>
@@ -17,11 +18,11 @@ struct ConRighe
     explicit ConRighe(double interlinea)
     {
         const int n = prova.Archivio.AggiungeCampo(QStringLiteral("R_Descr"), 20, 20);
-        Campo &campo = prova.Archivio.Aperto().Campi[n];
+        Campo &campo = prova.Archivio.DaAprire().Campi[n];
         campo.Font = QStringLiteral("Arial");
         campo.Dimensione = 10;
         campo.Testo = QString(40, u'x');
-        prova.Archivio.Aperto().Righe = {20, 60, interlinea, 4, QString()};
+        prova.Archivio.DaAprire().Righe = {20, 60, interlinea, 4, QString()};
         if (!prova.Apre()) {
             qFatal("the model does not open");
         }
@@ -99,7 +100,7 @@ void tst_RigheStrette::SpariteSenzaLaSpunta()
 void tst_RigheStrette::TrascinareRestaPronto()
 {
     ConRighe righe(0.1);
-    righe.prova.Archivio.Aperto().Righe.yFine = 350;
+    righe.prova.Archivio.DaAprire().Righe.yFine = 350;
     Trova<QLineEdit>(*righe.prova.Editor, "yFine")->setText(QStringLiteral("350"));
     righe.Simula();
     Frm1 &anteprima = *righe.prova.Editor->Anteprima();
@@ -120,19 +121,24 @@ void tst_RigheStrette::UnPassoSenzaAltreRigheNonLeTocca()
     ConRighe righe(0.1);
     Trova<QLineEdit>(*righe.prova.Editor, "yFine")->setText(QStringLiteral("350"));
     righe.Simula();
-    Frm1 &anteprima = *righe.prova.Editor->Anteprima();
     righe.prova.Foto();
     const TempoDiLavoro tempo;
     constexpr int Passi = 100;
     constexpr double Millisecondi = 1.5; // one step
-    for (int k = 0; k < Passi; ++k) {
-        emit anteprima.RigheDaRidisegnare(); // as a field outside the rows does when it is dragged
+    {
+        // As a field does that is dragged and is not the one that the rows begin at.
+        Documento &documento = righe.prova.Archivio.Stato().documento;
+        const Campo &campo = documento.Aperto().Campi[1];
+        Passo passo(documento, {});
+        for (int k = 0; k < Passi; ++k) {
+            passo.Trascina({Genere::Campo, 1}, {campo.X, campo.Y});
+            passo.Mostra();
+        }
     }
     QVERIFY2(tempo.Entro(Passi * Millisecondi), qPrintable(QString::number(tempo.MilliSecondi())));
     // What they depend on has changed: they follow.
     const QImage prima = righe.Foglio()->grab().toImage();
-    righe.prova.Archivio.Aperto().Campi[1].X = 60;
-    emit anteprima.RigheDaRidisegnare();
+    Modifica(righe.prova.Archivio.Stato(), [](Modello &modello) { modello.Campi[1].X = 60; });
     QVERIFY(righe.Foglio()->grab().toImage() != prima);
 }
 

@@ -4,6 +4,8 @@
 #include "model/FileModello.h"
 #include "support/FileDiProva.h"
 
+#include "support/DocumentoDiProva.h"
+
 #include <QDir>
 #include <QMessageBox>
 #include <QTest>
@@ -64,11 +66,11 @@ void tst_RiscritturaDelModello::ConDueNomi()
     const QString altro = AltroNome(prova);
     Robot robot;
     for (const double x : {60.0, 70.0}) {
-        prova.Aperto().Campi[1].X = x;
+        Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = x; });
         robot.Si();
         Preme(prova.Editor(), "Salva");
         QVERIFY(robot.Soddisfatto());
-        QVERIFY(!prova.Editor().Variato);
+        QVERIFY(!prova.Editor().Variato());
         QCOMPARE(prova.Riletto().Campi[1].X, x);
         QCOMPARE(ByteDi(altro), prova.ByteDelFile());
         QVERIFY(Copie(prova).isEmpty());
@@ -87,16 +89,16 @@ void tst_RiscritturaDelModello::InUnaCartellaNonScrivibile()
     QCOMPARE(chmod((archivio + "/../..").constData(), 0755), 0);
     QCOMPARE(chmod(QFile::encodeName(prova.Percorso()).constData(), 0666), 0);
     QCOMPARE(chmod(archivio.constData(), 0555), 0);
-    prova.Aperto().Campi[1].X = 60;
     Robot robot;
     robot.Si();
     {
         const UtenteComune utente;
+        Modifica(prova.Stato(), [](Modello &modello) { modello.Campi[1].X = 60; });
         Preme(prova.Editor(), "Salva");
     }
     QCOMPARE(chmod(archivio.constData(), 0755), 0);
     QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
-    QVERIFY(!prova.Editor().Variato);
+    QVERIFY(!prova.Editor().Variato());
     QCOMPARE(prova.Riletto().Campi[1].X, 60.0);
 }
 
@@ -104,7 +106,7 @@ void tst_RiscritturaDelModello::RestatoIncompletoSiDice()
 {
     EditorAperto prova(2);
     AltroNome(prova);
-    prova.Aperto().Campi[1].X = 60;
+    Modifica(prova.Stato(), [](Modello &modello) { modello.Campi[1].X = 60; });
     ModelloGuasto = QFileInfo(prova.Percorso()).canonicalFilePath();
     Disco::UsaSincronizzazione(&SincroniaFallita, nullptr);
     Robot robot;
@@ -116,7 +118,7 @@ void tst_RiscritturaDelModello::RestatoIncompletoSiDice()
              QStringLiteral("errore 57 Errore di I/O della periferica; il file è rimasto "
                             "incompleto, il lavoro è nella copia di recupero\n"
                             "salvataggio del file Prova.Mod"));
-    QVERIFY(prova.Editor().Variato);
+    QVERIFY(prova.Editor().Variato());
     QCOMPARE(Copie(prova).size(), 1);
     // What is left in the file is nobody else's.
     ScriveFile(prova.Percorso(), prova.ByteDelFile().chopped(10));
@@ -136,7 +138,7 @@ void tst_RiscritturaDelModello::IncompletoSiChiudeSenzaPerdere()
     Robot robot;
     auto editor = std::make_unique<Form2>(prova.Stato());
     QVERIFY(editor->Form_Load());
-    prova.Aperto().Campi[1].X = 60;
+    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 60; });
     ModelloGuasto = QFileInfo(prova.Percorso()).canonicalFilePath();
     Disco::UsaSincronizzazione(&SincroniaFallita, nullptr);
     robot.Si().Ok();
@@ -183,7 +185,7 @@ void tst_RiscritturaDelModello::InterrottaSiRiprende()
         // The program ended with half of the new bytes over the old ones.
         CopiaRecupero copia(prova.CartellaStato() + QStringLiteral("/plakera"), prova.Percorso());
         copia.Parte(prima);
-        Modello modello = prova.Aperto();
+        Modello modello = prova.DaAprire();
         modello.Campi[1].X = 60;
         modello.Tipo = QStringLiteral("piu' lungo di prima");
         const QByteArray nuovi = FileModello::Componi(modello, QLocale::c());

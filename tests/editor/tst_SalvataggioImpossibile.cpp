@@ -3,6 +3,8 @@
 #include "model/FileModello.h"
 #include "support/FileDiProva.h"
 
+#include "support/DocumentoDiProva.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTest>
@@ -133,7 +135,7 @@ void tst_SalvataggioImpossibile::SalvaDiceIlPerche()
     QVERIFY(prova.Apre());
     const QByteArray prima = prova.Archivio.ByteDelFile();
     const QStringList nomi = NomiIn(prova.Archivio.Stato().CartellaModelli);
-    prova.Archivio.Aperto().Campi[1].X = 77;
+    Modifica(prova.Archivio.Stato(), [&](Modello &modello) { modello.Campi[1].X = 77; });
     Robot robot;
     robot.Si().Ok();
     {
@@ -143,13 +145,13 @@ void tst_SalvataggioImpossibile::SalvaDiceIlPerche()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constLast(),
              messaggio + QStringLiteral("\nsalvataggio del file Prova.Mod"));
-    QVERIFY(prova.Editor->Variato);
+    QVERIFY(prova.Editor->Variato());
     QCOMPARE(prova.Archivio.ByteDelFile(), prima);
     QCOMPARE(NomiIn(prova.Archivio.Stato().CartellaModelli), nomi);
     robot.Si();
     Preme(*prova.Editor, "Salva");
     QVERIFY(robot.Soddisfatto());
-    QVERIFY(!prova.Editor->Variato);
+    QVERIFY(!prova.Editor->Variato());
     QCOMPARE(prova.Archivio.Riletto().Campi[1].X, 77.0);
 }
 
@@ -158,8 +160,8 @@ void tst_SalvataggioImpossibile::ChiudendoNonSiPerdeNulla()
     EditoreDiProva prova;
     prova.Archivio.Riempie(2);
     QVERIFY(prova.Apre());
-    prova.Archivio.Aperto().Campi[1].X = 77;
-    prova.Editor->Variato = true;
+    Modifica(prova.Archivio.Stato(), [&](Modello &modello) { modello.Campi[1].X = 77; });
+    prova.Archivio.Stato().documento.SegnaVariato();
     Robot robot;
     robot.Si().Ok();
     {
@@ -182,7 +184,7 @@ void tst_SalvataggioImpossibile::AttraversoUnCollegamento()
     QVERIFY(QFile::rename(prova.Archivio.Percorso(), vero));
     QVERIFY(QFile::link(vero, prova.Archivio.Percorso()));
     QVERIFY(prova.ApreComeSta());
-    prova.Archivio.Aperto().Campi[1].X = 77;
+    Modifica(prova.Archivio.Stato(), [&](Modello &modello) { modello.Campi[1].X = 77; });
     Robot robot;
     robot.Si();
     Preme(*prova.Editor, "Salva");
@@ -197,7 +199,7 @@ void tst_SalvataggioImpossibile::NonOltreQuantoSiRilegge()
     ArchivioDiProva prova;
     prova.Riempie(1);
     prova.Scrive();
-    const QByteArray descrizione = prova.Aperto().Immagini[1].Descrizione.toLatin1();
+    const QByteArray descrizione = prova.DaAprire().Immagini[1].Descrizione.toLatin1();
     QByteArray byte = prova.ByteDelFile().replace("\r\n", "\r");
     byte.insert(byte.indexOf(descrizione),
                 QByteArray(FileModello::DimensioneMassima - byte.size(), 'x'));
@@ -208,20 +210,21 @@ void tst_SalvataggioImpossibile::NonOltreQuantoSiRilegge()
         QStringLiteral("errore 7 Modello troppo grande: salvato, non si potrebbe più aprire");
     Robot robot;
     robot.Ok().Si().Ok();
-    editor.Variato = true;
-    emit editor.Anteprima()->ModificaConclusa();
+    prova.Stato().documento.SegnaVariato();
+    emit prova.Stato().documento.ModificaConclusa();
     Preme(editor, "Salva");
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constFirst(),
              QStringLiteral("copia di recupero non scritta: ") + perche);
     QCOMPARE(robot.Testi().constLast(),
              perche + QStringLiteral("\nsalvataggio del file Prova.Mod"));
-    QVERIFY(editor.Variato);
+    QVERIFY(editor.Variato());
     QVERIFY2(prova.ByteDelFile() == byte, "the file that can be opened stands");
-    prova.Aperto().Immagini[1].Descrizione.chop(1'000'000);
+    Modifica(prova.Stato(),
+             [](Modello &modello) { modello.Immagini[1].Descrizione.chop(1'000'000); });
     robot.Si();
     Preme(editor, "Salva");
-    QVERIFY(robot.Soddisfatto());
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
     QVERIFY(prova.Riletto().Immagini[1].Descrizione.endsWith(QLatin1String("xxx")));
 }
 

@@ -43,7 +43,7 @@ void tst_SfondoUnaVoltaSola::init()
     percorso_ = prova_->Archivio.Stato().CartellaModelli + QStringLiteral("modulo.jpg");
     ImmaginiDiProva::Scrive(percorso_, a4_);
     prova_->Archivio.Riempie(30);
-    ImmagineSfondo &sfondo = prova_->Archivio.Aperto().Sfondo;
+    ImmagineSfondo &sfondo = prova_->Archivio.DaAprire().Sfondo;
     sfondo.File = percorso_;
     sfondo.Visualizza = 1;
     sfondo.Ximmagine = QStringLiteral("210");
@@ -55,7 +55,7 @@ void tst_SfondoUnaVoltaSola::init()
 
 void tst_SfondoUnaVoltaSola::cleanup()
 {
-    prova_->Editor->Variato = false;
+    prova_->Archivio.Stato().documento.Salvato();
     prova_.reset();
 }
 

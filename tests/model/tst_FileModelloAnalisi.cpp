@@ -179,7 +179,7 @@ void tst_FileModelloAnalisi::CentounesimoBlocco()
     QCOMPARE(pieno.UltimoSlot(genere), 100);
     for (int i = 1; i <= 100; ++i) {
         QCOMPARE(pieno.Nome(genere, i), QStringLiteral("nome") + QString::number(i));
-        QCOMPARE(pieno.X(genere, i), 1.5);
+        QCOMPARE(pieno.Di({genere, i}).X, 1.5);
     }
     // The model that stayed can be saved, and what is saved is what was read.
     QCOMPARE(FileModello::Componi(pieno, Punto), FileModello::Componi(modello, Punto));

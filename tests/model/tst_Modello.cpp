@@ -262,7 +262,7 @@ void tst_Modello::CentounesimoElemento()
     QCOMPARE(ErroreDi([&] { Aggiunge(modello, genere); }), 9);
     QCOMPARE(modello.Numero(genere), qint16(101));
     QCOMPARE(modello.UltimoSlot(genere), 100);
-    QCOMPARE(modello.X(genere, 100), 10.0);
+    QCOMPARE(modello.Di({genere, 100}).X, 10.0);
 }
 
 void tst_Modello::EliminatoTieneLoSlot_data()
@@ -297,9 +297,9 @@ void tst_Modello::PerGenere()
     Modello modello;
     modello.Numero(genere) = 1;
     modello.Nome(genere, 1) = QStringLiteral("n");
-    modello.X(genere, 1) = 1.5;
-    modello.Y(genere, 1) = 2.5;
-    modello.Descrizione(genere, 1) = QStringLiteral("d");
+    modello.Di({genere, 1}).X = 1.5;
+    modello.Di({genere, 1}).Y = 2.5;
+    modello.Di({genere, 1}).Descrizione = QStringLiteral("d");
 
     Modello atteso;
     switch (genere) {

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "model/StatoProgramma.h"
+#include "documento/Passo.h"
+#include "documento/StatoProgramma.h"
 #include "preview/Controlli.h"
 #include "preview/Frm1.h"
 #include "preview/GeometriaAnteprima.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
 
 #include <QLineEdit>
@@ -48,37 +50,59 @@ public:
 
     int Campo(const QString &nome, double x, double y, const QString &testo = QStringLiteral("abc"))
     {
-        const int i = modello.AggiungeCampo(x, y);
-        modello.Campi[i].Nome = nome;
-        modello.Campi[i].Testo = testo;
-        return Mostra(Genere::Campo, i);
+        return Aggiunge([&](Passo &passo) {
+            const int i = passo.AggiungeCampo(x, y);
+            ::Campo campo = modello.Campi[i];
+            campo.Nome = nome;
+            campo.Testo = testo;
+            passo.Scrive(i, campo);
+            return i;
+        });
     }
 
     int Cornice(double x, double y, double larghezza, double altezza, double bordo = 1)
     {
-        const int i = modello.AggiungeCornice(x, y, 5, 7);
-        modello.Cornici[i].Larghezza = larghezza;
-        modello.Cornici[i].Altezza = altezza;
-        modello.Cornici[i].Bordo = bordo;
-        return Mostra(Genere::Cornice, i);
+        return Aggiunge([&](Passo &passo) {
+            const int i = passo.AggiungeCornice(x, y, QTime(0, 5, 7));
+            ::Cornice cornice = modello.Cornici[i];
+            cornice.Larghezza = larghezza;
+            cornice.Altezza = altezza;
+            cornice.Bordo = bordo;
+            passo.Scrive(i, cornice);
+            return i;
+        });
     }
 
     int Immagine(double x, double y, double larghezza, double altezza, const QString &file = {})
     {
-        const int i = modello.AggiungeImmagine(x, y);
-        modello.Immagini[i].Nome = file;
-        modello.Immagini[i].Larghezza = larghezza;
-        modello.Immagini[i].Altezza = altezza;
-        return Mostra(Genere::Immagine, i);
+        return Aggiunge([&](Passo &passo) {
+            const int i = passo.AggiungeImmagine(x, y);
+            ::Immagine immagine = modello.Immagini[i];
+            immagine.Nome = file;
+            immagine.Larghezza = larghezza;
+            immagine.Altezza = altezza;
+            passo.Scrive(i, immagine);
+            return i;
+        });
     }
 
-    /// Creates the control of an element that the model already has.
-    int Mostra(Genere genere, int i)
+    /// Changes records and row area before the test begins: no sign is noted, nothing is modified.
+    template <typename Azione>
+    void Cambia(Azione &&azione)
     {
-        frm->CreaElemento(genere, i);
-        frm->Impostazioni(genere, i);
-        frm->Posiziona(genere, i, false);
-        return i;
+        Aggiunge([&](Passo &) {
+            Modifica(stato, azione);
+            return 0;
+        });
+    }
+
+    /// Puts an element where a drag leaves it: not rounded before it is placed the next time.
+    void Lascia(Chiave chiave, QPointF posto)
+    {
+        Aggiunge([&](Passo &passo) {
+            passo.Trascina(chiave, posto);
+            return 0;
+        });
     }
 
     template <typename Elemento = Controllo>
@@ -154,36 +178,65 @@ public:
 
     QTemporaryDir cartella;
     StatoProgramma stato;
-    Modello &modello = stato.Aperto;
+    const Modello &modello = stato.Aperto();
     std::unique_ptr<Frm1> frm;
     QStringList segnali; ///< "ElementoPuntato 0 3", "Variato" ... in their order
 
 private:
+    template <typename Azione>
+    int Aggiunge(Azione &&azione)
+    {
+        muto_ = true;
+        int i = 0;
+        {
+            Passo passo(stato.documento, {});
+            i = azione(passo);
+        }
+        stato.documento.DimenticaStoria();
+        stato.documento.Salvato();
+        muto_ = false;
+        return i;
+    }
+
+    void Annota(const QString &segnale)
+    {
+        if (!muto_) {
+            segnali.append(segnale);
+        }
+    }
+
     QPoint Locale(QPointF punto) const { return Vista()->mapTo(frm.get(), Pixel(punto)); }
 
     void Ascolta()
     {
         const auto annota = [this](const char *nome) {
-            return [this, nome] { segnali.append(QString::fromLatin1(nome)); };
+            return [this, nome] { Annota(QString::fromLatin1(nome)); };
         };
         const auto annotaElemento = [this](const char *nome) {
             return [this, nome](Genere genere, int i) {
-                segnali.append(QStringLiteral("%1 %2 %3")
-                                   .arg(QString::fromLatin1(nome))
-                                   .arg(static_cast<int>(genere))
-                                   .arg(i));
+                Annota(QStringLiteral("%1 %2 %3")
+                           .arg(QString::fromLatin1(nome))
+                           .arg(static_cast<int>(genere))
+                           .arg(i));
             };
         };
         Frm1 *f = frm.get();
         QObject::connect(f, &Frm1::ElementoPuntato, f, annotaElemento("ElementoPuntato"));
         QObject::connect(f, &Frm1::RichiestaProprieta, f, annotaElemento("RichiestaProprieta"));
         QObject::connect(f, &Frm1::PaginaRichiesta, f, [this](Genere genere) {
-            segnali.append(QStringLiteral("PaginaRichiesta %1").arg(static_cast<int>(genere)));
+            Annota(QStringLiteral("PaginaRichiesta %1").arg(static_cast<int>(genere)));
         });
-        QObject::connect(f, &Frm1::Variato, f, annota("Variato"));
+        const Documento *documento = &stato.documento;
+        QObject::connect(documento, &Documento::Cambiato, f, [this](const Cambiamento &) {
+            if (stato.documento.Variato()) {
+                Annota(QStringLiteral("Variato"));
+            }
+        });
         QObject::connect(f, &Frm1::SfondoDaRidisegnare, f, annota("SfondoDaRidisegnare"));
         QObject::connect(f, &Frm1::RigheDaRidisegnare, f, annota("RigheDaRidisegnare"));
-        QObject::connect(f, &Frm1::ModificaConclusa, f, annota("ModificaConclusa"));
+        QObject::connect(documento, &Documento::ModificaConclusa, f, annota("ModificaConclusa"));
         QObject::connect(f, &Frm1::ChiusuraRichiesta, f, annota("ChiusuraRichiesta"));
     }
+
+    bool muto_ = false;
 };

@@ -59,7 +59,7 @@ private slots:
     void PostoDivisoPerZoom();
     void ManigliaSullUltimoPosizionato();
     void SuggerimentoDelCampoSullaManigliaDelleCornici();
-    void MossoSegnaVariato();
+    void CollocatoInUnPassoSegnaVariato();
     // Pictures
     void ImmagineRiempieIlRiquadro();
     void ImmagineIlleggibileNonMostraQuellaDiPrima_data();
@@ -88,9 +88,10 @@ void tst_ElementiFoglio::CampoMostraIlTestoDiProva()
 {
     Banco banco;
     banco.Campo(QStringLiteral("Totale"), 10, 10, QStringLiteral("1.234,56"));
-    Campo &campo = banco.modello.Campi[1];
-    campo.Font = QStringLiteral("Liberation Serif");
-    campo.Grassetto = Vero;
+    banco.Cambia([](Modello &modello) {
+        modello.Campi[1].Font = QStringLiteral("Liberation Serif");
+        modello.Campi[1].Grassetto = Vero;
+    });
     banco.frm->ImpostazioniCampo(1);
     QCOMPARE(banco.C1(1)->Testo().Testo(), QStringLiteral("1.234,56"));
     QCOMPARE(banco.C1(1)->Testo().Forma().famiglia, QStringLiteral("Liberation Serif"));
@@ -101,8 +102,11 @@ void tst_ElementiFoglio::SuggerimentoCampo()
 {
     Banco banco;
     banco.Campo(QStringLiteral("Totale"), 10, 10);
-    banco.modello.Campi[1].Descrizione = QStringLiteral("totale documento");
-    banco.modello.Campi[1].Maschera = QStringLiteral("###.###,##");
+    banco.Cambia([&](Modello &modello) {
+        modello.Campi[1].Descrizione = QStringLiteral("totale documento");
+    });
+    banco.Cambia(
+        [&](Modello &modello) { modello.Campi[1].Maschera = QStringLiteral("###.###,##"); });
     banco.frm->ImpostazioniCampo(1);
     QCOMPARE(banco.C1(1)->toolTip(), QStringLiteral("campo Totale  - totale documento -'") +
                                          RitornoCarrello + QStringLiteral("10 ###.###,##"));
@@ -124,7 +128,7 @@ void tst_ElementiFoglio::BarratoSoloSeMascheraNo()
     QFETCH(QString, maschera);
     Banco banco;
     banco.Campo(QStringLiteral("Totale"), 10, 10);
-    banco.modello.Campi[1].Maschera = maschera;
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Maschera = maschera; });
     banco.frm->ImpostazioniCampo(1);
     QTEST(banco.C1(1)->Testo().Forma().barrato, "barrato");
 }
@@ -133,9 +137,9 @@ void tst_ElementiFoglio::PuntiDivisiPerZoom()
 {
     Banco banco;
     banco.Campo(QStringLiteral("Totale"), 10, 10);
-    banco.modello.Campi[1].Dimensione = 10;
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Dimensione = 10; });
     const int cornice = banco.Cornice(10, 30, 20, 10);
-    banco.modello.Cornici[cornice].Dimensione = 9;
+    banco.Cambia([&](Modello &modello) { modello.Cornici[cornice].Dimensione = 9; });
     banco.stato.zoom = 2;
     banco.frm->ImpostazioniCampo(1);
     banco.frm->ImpostazioniCornice(1);
@@ -163,12 +167,12 @@ void tst_ElementiFoglio::SenzaFontODimensioneComeSuCarta()
     Banco banco(zoom);
     const QString testo = QStringLiteral("Totale documento");
     banco.Campo(QStringLiteral("Totale"), 10, 10, testo);
-    banco.modello.Campi[1].Font = font;
-    banco.modello.Campi[1].Dimensione = qint16(dimensione);
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Font = font; });
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Dimensione = qint16(dimensione); });
     banco.Cornice(10, 30, 80, 10);
-    banco.modello.Cornici[1].Testo = testo;
-    banco.modello.Cornici[1].Font = font;
-    banco.modello.Cornici[1].Dimensione = qint16(dimensione);
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].Testo = testo; });
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].Font = font; });
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].Dimensione = qint16(dimensione); });
     banco.frm->ImpostazioniCampo(1);
     banco.frm->ImpostazioniCornice(1);
     // What the printer sets: Arial in 8 points.
@@ -228,8 +232,8 @@ void tst_ElementiFoglio::BordoDipintoNelColoreDellaCornice()
 {
     Banco banco;
     banco.Cornice(10, 10, 40, 20);
-    banco.modello.Cornici[1].ColoreCornice = 12;
-    banco.modello.Cornici[1].Testo.clear();
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].ColoreCornice = 12; });
+    banco.Cambia([](Modello &modello) { modello.Cornici[1].Testo.clear(); });
     banco.frm->ImpostazioniCornice(1);
     const QImage foglio = banco.Fotografia();
     QVERIFY(LineaOrizzontale(foglio, 30, 10, 0xff0000));
@@ -257,14 +261,12 @@ void tst_ElementiFoglio::ScrittaCorniceDoveSuCarta()
     Banco banco;
     // A field 1.0 mm right of the frame's corner and 0.4 mm below it stands where its caption does.
     banco.Campo(QStringLiteral("R_campo"), 61, 40.4, QStringLiteral("HHHHHH"));
-    banco.modello.Righe.yInizio = 40.4;
-    banco.modello.Campi[1].Dimensione = 30;
+    banco.Cambia([&](Modello &modello) { modello.Righe.yInizio = 40.4; });
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Dimensione = 30; });
     banco.Cornice(60, 40, 80, 30, 0);
-    banco.modello.Cornici[1].Testo = QStringLiteral("HHHHHH");
-    banco.modello.Cornici[1].Dimensione = 30;
-    banco.stato.zoom = zoom;
-    banco.Mostra(Genere::Campo, 1);
-    banco.Mostra(Genere::Cornice, 1);
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].Testo = QStringLiteral("HHHHHH"); });
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].Dimensione = 30; });
+    banco.Zoom(QString::number(zoom));
     banco.frm->NascondiElemento(Genere::Cornice, 1);
     const QImage campo = banco.Fotografia();
     banco.frm->CreaElemento(Genere::Cornice, 1);
@@ -279,7 +281,9 @@ void tst_ElementiFoglio::ColoreTestoDallaTavolozza()
     Banco banco;
     banco.Cornice(10, 10, 40, 20, 0);
     for (int colore = 0; colore < Tavolozza::Colori; ++colore) {
-        banco.modello.Cornici[1].ColoreTesto = static_cast<qint16>(colore);
+        banco.Cambia([&](Modello &modello) {
+            modello.Cornici[1].ColoreTesto = static_cast<qint16>(colore);
+        });
         banco.frm->ImpostazioniCornice(1);
         QCOMPARE(banco.C2(1)->Colore(), QColor(Tavolozza::Rgb(colore)));
     }
@@ -290,8 +294,11 @@ void tst_ElementiFoglio::ColoreFuoriTavolozza()
     Banco banco;
     banco.Cornice(10, 10, 40, 20);
     for (const int colore : {16, -1, 32767, -32768}) {
-        Cornice &cornice = banco.modello.Cornici[1];
-        cornice.ColoreTesto = cornice.ColoreCornice = static_cast<qint16>(colore);
+        const Cornice &cornice = banco.modello.Cornici[1];
+        banco.Cambia([&](Modello &modello) {
+            modello.Cornici[1].ColoreTesto = static_cast<qint16>(colore);
+            modello.Cornici[1].ColoreCornice = static_cast<qint16>(colore);
+        });
         banco.frm->ImpostazioniCornice(1);
         QCOMPARE(banco.C2(1)->Colore(), QColor(Qt::black));
         QCOMPARE(banco.C2(1)->ColoreBordo(), QColor(Qt::black));
@@ -331,7 +338,7 @@ void tst_ElementiFoglio::CampoArrotondato()
 void tst_ElementiFoglio::CampoDiRigaSempreAInizioRighe()
 {
     Banco banco;
-    banco.modello.Righe.yInizio = 98.25;
+    banco.Cambia([&](Modello &modello) { modello.Righe.yInizio = 98.25; });
     banco.Campo(QStringLiteral("R_Qta"), 30.4, 231.7);
     QCOMPARE(banco.modello.Campi[1].Y, 98.25); // unrounded
     QCOMPARE(banco.modello.Campi[1].X, 30.0);
@@ -389,9 +396,9 @@ void tst_ElementiFoglio::ManigliaSullUltimoPosizionato()
     Banco banco;
     banco.Campo(QStringLiteral("uno"), 10, 20);
     banco.Campo(QStringLiteral("due"), 40, 60);
-    banco.frm->PosizionaCampo(1, false);
+    banco.frm->PosizionaCampo(1);
     QCOMPARE(banco.S(1)->Posto().topLeft(), QPointF(10, 20));
-    banco.frm->PosizionaCampo(2, false);
+    banco.frm->PosizionaCampo(2);
     QCOMPARE(banco.S(1)->Posto().topLeft(), QPointF(40, 60));
     QVERIFY(!banco.S(1)->isVisible());
 }
@@ -404,26 +411,31 @@ void tst_ElementiFoglio::SuggerimentoDelCampoSullaManigliaDelleCornici()
     }
     banco.Cornice(10, 20, 30, 10);
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta Cornice Nuova57"));
-    banco.frm->PosizionaCampo(4, false);
+    banco.frm->PosizionaCampo(4);
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo campo4"));
     QCOMPARE(banco.S(1)->toolTip(), QString());
-    banco.frm->PosizionaCornice(1, false);
+    banco.frm->PosizionaCornice(1);
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta Cornice Nuova57"));
     banco.Immagine(10, 10, 20, 20, QStringLiteral("a.jpg"));
     QCOMPARE(banco.S(3)->toolTip(), QStringLiteral("sposta Immagine a.jpg"));
 }
 
-void tst_ElementiFoglio::MossoSegnaVariato()
+void tst_ElementiFoglio::CollocatoInUnPassoSegnaVariato()
 {
     Banco banco;
     banco.Campo(QStringLiteral("uno"), 10, 20);
     banco.Cornice(10, 20, 30, 10);
     banco.Immagine(10, 10, 20, 20);
     QCOMPARE(banco.segnali, QStringList());
-    banco.frm->PosizionaCampo(1, true);
-    banco.frm->PosizionaCornice(1, true);
-    banco.frm->PosizionaImmagine(1, true);
-    QCOMPARE(banco.segnali, QStringList(3, QStringLiteral("Variato")));
+    for (const Genere genere : Generi) {
+        banco.frm->Posiziona(genere, 1);
+    }
+    QVERIFY(!banco.stato.documento.Variato());
+    for (const Genere genere : Generi) {
+        banco.stato.documento.Salvato();
+        Passo(banco.stato.documento, {}).Colloca({genere, 1});
+        QVERIFY(banco.stato.documento.Variato());
+    }
 }
 
 void tst_ElementiFoglio::ImmagineRiempieIlRiquadro()
@@ -471,14 +483,14 @@ void tst_ElementiFoglio::ImmagineIlleggibileNonMostraQuellaDiPrima()
     }
     banco.Immagine(20, 20, 60, 30, QStringLiteral("verde.bmp"));
     QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
-    banco.modello.Immagini[1].Nome = nome;
-    banco.frm->PosizionaImmagine(1, false);
+    banco.Cambia([&](Modello &modello) { modello.Immagini[1].Nome = nome; });
+    banco.frm->PosizionaImmagine(1);
     QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0xffffffu);
     // A box that never had one stays empty.
     banco.Immagine(120, 20, 60, 30, nome);
     QCOMPARE(ColoreFoto(banco.Fotografia(), {150, 35}), 0xffffffu);
-    banco.modello.Immagini[1].Nome = QStringLiteral("verde.bmp");
-    banco.frm->PosizionaImmagine(1, false);
+    banco.Cambia([&](Modello &modello) { modello.Immagini[1].Nome = QStringLiteral("verde.bmp"); });
+    banco.frm->PosizionaImmagine(1);
     QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
 }
 
@@ -490,8 +502,8 @@ void tst_ElementiFoglio::ImmagineToltaPerUnMomentoRimane()
     banco.Immagine(20, 20, 60, 30, QStringLiteral("verde.bmp"));
     QCOMPARE(ColoreFoto(banco.Fotografia(), {50, 35}), 0x00ff00u);
     QVERIFY(QFile::remove(percorso));
-    banco.modello.Immagini[1].Larghezza = 90;
-    banco.frm->PosizionaImmagine(1, false);
+    banco.Cambia([&](Modello &modello) { modello.Immagini[1].Larghezza = 90; });
+    banco.frm->PosizionaImmagine(1);
     QCOMPARE(ColoreFoto(banco.Fotografia(), {105, 35}), 0x00ff00u);
 }
 
@@ -503,8 +515,8 @@ void tst_ElementiFoglio::ImmagineRilettaSoloSeCambiata()
     banco.Immagine(20, 20, 60, 30, QStringLiteral("a.bmp"));
     banco.Fotografia();
     const qint64 chiave = banco.C3(1)->Figura().cacheKey();
-    banco.modello.Immagini[1].X = 50;
-    banco.frm->PosizionaImmagine(1, true);
+    banco.Cambia([&](Modello &modello) { modello.Immagini[1].X = 50; });
+    banco.frm->PosizionaImmagine(1);
     banco.Fotografia();
     QCOMPARE(banco.C3(1)->Figura().cacheKey(), chiave);
 
@@ -514,7 +526,7 @@ void tst_ElementiFoglio::ImmagineRilettaSoloSeCambiata()
     QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(60),
                              QFileDevice::FileModificationTime));
     file.close();
-    banco.frm->PosizionaImmagine(1, true);
+    banco.frm->PosizionaImmagine(1);
     QCOMPARE(ColoreFoto(banco.Fotografia(), {80, 35}), 0x0000ffu);
 }
 
@@ -565,7 +577,7 @@ void tst_ElementiFoglio::IndiceFuoriTabella()
     Banco banco;
     for (const Genere genere : {Genere::Campo, Genere::Cornice, Genere::Immagine}) {
         QCOMPARE(ErroreDi([&] { banco.frm->Impostazioni(genere, indice); }), 9);
-        QCOMPARE(ErroreDi([&] { banco.frm->Posiziona(genere, indice, true); }), 9);
+        QCOMPARE(ErroreDi([&] { banco.frm->Posiziona(genere, indice); }), 9);
         QCOMPARE(ErroreDi([&] { banco.frm->Seleziona(genere, indice); }), 9);
         QCOMPARE(ErroreDi([&] { banco.frm->NascondiElemento(genere, indice); }), 9);
         QCOMPARE(ErroreDi([&] { banco.frm->Sposta(genere, indice, Qt::LeftButton, {}, 1, 1); }), 9);
@@ -628,9 +640,9 @@ void tst_ElementiFoglio::PrimoPianoCampiMisuratiSulloSchermo()
     banco.Campo(QStringLiteral("corto"), 10, 10, QStringLiteral("W"));
     banco.frm->PrimoPianoCampi();
     QVERIFY(banco.C1(2)->zValue() > banco.C1(1)->zValue());
-    banco.modello.Campi[2].Dimensione = 200;
+    banco.Cambia([&](Modello &modello) { modello.Campi[2].Dimensione = 200; });
     banco.frm->ImpostazioniCampo(2); // larger now than the long one in small type
-    banco.modello.Campi[1].Dimensione = 6;
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Dimensione = 6; });
     banco.frm->ImpostazioniCampo(1);
     banco.frm->PrimoPianoCampi();
     QVERIFY(banco.C1(1)->zValue() > banco.C1(2)->zValue());
@@ -709,10 +721,10 @@ void tst_ElementiFoglio::ValoriImpossibili()
     ImmaginiDiProva::Tinta({8, 8}, 0xff00ff00)
         .save(banco.cartella.filePath(QStringLiteral("a.bmp")));
     banco.Campo(QString(10000, u'n'), valore, valore, QString(10000, u'W'));
-    banco.modello.Campi[1].Maschera = QString(10000, u'$');
-    banco.modello.Campi[1].Dimensione = -3;
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Maschera = QString(10000, u'$'); });
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Dimensione = -3; });
     banco.Cornice(valore, valore, valore, valore, valore);
-    banco.modello.Cornici[1].Testo = QString(10000, u'W');
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].Testo = QString(10000, u'W'); });
     banco.Cornice(10, 10, valore, valore);
     banco.Immagine(valore, valore, valore, valore, QStringLiteral("a.bmp"));
     banco.Immagine(10, 10, valore, valore, QStringLiteral("a.bmp"));

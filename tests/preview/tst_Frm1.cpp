@@ -2,6 +2,7 @@
 #include "preview/Banco.h"
 #include "preview/Righelli.h"
 #include "support/Controlli.h"
+#include "support/DocumentoDiProva.h"
 #include "support/Errori.h"
 #include "support/ImmaginiDiProva.h"
 #include "support/Robot.h"
@@ -324,7 +325,7 @@ void tst_Frm1::ZoomUgualeNonRidisegna()
 {
     Banco banco;
     banco.Campo(QStringLiteral("uno"), 100, 50);
-    banco.modello.Campi[1].X = 10.4; // would be rounded if the field were placed again
+    banco.Lascia({Genere::Campo, 1}, {10.4, 50}); // rounded if the field were placed again
     auto *TextZoom = Trova<QLineEdit>(*banco.frm, "TextZoom");
     QTest::keyClick(TextZoom, Qt::Key_Left);
     banco.Zoom(QStringLiteral("1"));
@@ -378,7 +379,7 @@ void tst_Frm1::ZoomConElementiEliminati()
     Banco banco;
     banco.Campo(QStringLiteral("uno"), 100, 50);
     banco.Cornice(100, 50, 40, 20);
-    banco.modello.Campi[1].Nome.clear();
+    banco.Cambia([](Modello &modello) { modello.Campi[1].Nome.clear(); });
     banco.frm->NascondiElemento(Genere::Campo, 1);
     banco.Zoom(QStringLiteral("2"));
     QVERIFY(!banco.C1(1)->isVisible());
@@ -407,14 +408,16 @@ void tst_Frm1::ZoomDigitatoTastoPerTasto()
 void tst_Frm1::ErroreDuranteLoZoomInUnMessaggio()
 {
     Banco banco;
-    banco.modello.NumCampi = 5; // without controls: a fault that must not end the program
+    Cambia(banco.stato, [](Modello &modello) {
+        modello.NumCampi = 5;
+    }); // without controls: a fault that must not end the program
     Robot robot;
     robot.Ok();
     banco.Zoom(QStringLiteral("2"));
     QVERIFY(robot.Soddisfatto());
     QVERIFY(robot.Testi().value(0).startsWith(QStringLiteral("errore 9")));
     QVERIFY(QApplication::overrideCursor() == nullptr);
-    banco.modello.NumCampi = 0;
+    Cambia(banco.stato, [](Modello &modello) { modello.NumCampi = 0; });
 }
 
 void tst_Frm1::SfondoDipintoEPulito()
@@ -456,8 +459,8 @@ void tst_Frm1::SfondoDietroGliElementi()
     const QString percorso = banco.cartella.filePath(QStringLiteral("scansione.bmp"));
     ImmaginiDiProva::Tinta({20, 20}, 0xff00ffff).save(percorso);
     banco.Cornice(30, 20, 20, 10);
-    banco.modello.Cornici[1].Testo.clear();
-    banco.modello.Cornici[1].ColoreCornice = 12;
+    banco.Cambia([](Modello &modello) { modello.Cornici[1].Testo.clear(); });
+    banco.Cambia([&](Modello &modello) { modello.Cornici[1].ColoreCornice = 12; });
     banco.frm->ImpostazioniCornice(1);
     const QImage senza = banco.Fotografia();
     banco.frm->DipingeSfondo(percorso, QRectF(0, 0, 100, 100));

@@ -29,7 +29,7 @@ bool Guide(const Banco &banco)
 /// A row field whose handle is in sight, with the pointer on the handle.
 QPointF SullaManigliaDiRiga(Banco &banco)
 {
-    banco.modello.Righe.yInizio = 40;
+    banco.Cambia([&](Modello &modello) { modello.Righe.yInizio = 40; });
     banco.Campo(QStringLiteral("R_Descr"), 60, 40);
     banco.Muove({63, 42});
     banco.Muove({61, 41});
@@ -500,8 +500,10 @@ void tst_Gesti::DopoLoZoomOgniManigliaNominaIlSuo()
     Banco banco;
     for (int k = 1; k <= 3; ++k) {
         banco.Campo(QStringLiteral("campo%1").arg(k), 10 + 40 * k, 10);
-        banco.modello.Cornici[banco.Cornice(10 + 40 * k, 40, 30, 20)].Nome =
-            QStringLiteral("cornice%1").arg(k);
+        banco.Cornice(10 + 40 * k, 40, 30, 20);
+        banco.Cambia([k](Modello &modello) {
+            modello.Cornici[k].Nome = QStringLiteral("cornice%1").arg(k);
+        });
         banco.Immagine(10 + 40 * k, 80, 30, 20, QStringLiteral("immagine%1").arg(k));
     }
     banco.frm->SelezionaImmagine(2);
@@ -512,7 +514,7 @@ void tst_Gesti::DopoLoZoomOgniManigliaNominaIlSuo()
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta Cornice cornice1"));
     QCOMPARE(banco.S(3)->toolTip(), QStringLiteral("sposta Immagine immagine2"));
     QCOMPARE(banco.S(1)->toolTip(), QString());
-    banco.frm->PosizionaCampo(3, false);
+    banco.frm->PosizionaCampo(3);
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo campo3"));
 }
 
@@ -521,7 +523,8 @@ void tst_Gesti::DopoLoZoomIlCampoInMano()
     Banco banco;
     banco.Campo(QStringLiteral("uno"), 20, 20);
     banco.Campo(QStringLiteral("due"), 60, 20);
-    banco.modello.Cornici[banco.Cornice(20, 60, 30, 20)].Nome = QStringLiteral("cornice");
+    banco.Cornice(20, 60, 30, 20);
+    banco.Cambia([](Modello &modello) { modello.Cornici[1].Nome = QStringLiteral("cornice"); });
     banco.frm->SelezionaCampo(1);
     banco.Zoom(QStringLiteral("2"));
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo uno"));
@@ -530,17 +533,15 @@ void tst_Gesti::DopoLoZoomIlCampoInMano()
 void tst_Gesti::TrascinatoUnCampoLaManigliaDelleCorniciLoNomina()
 {
     Banco banco;
-    banco.modello.Cornici[banco.Cornice(20, 60, 30, 20)].Nome = QStringLiteral("cornice");
+    banco.Cornice(20, 60, 30, 20);
+    banco.Cambia([](Modello &modello) { modello.Cornici[1].Nome = QStringLiteral("cornice"); });
     banco.frm->SelezionaCornice(1);
-    // As the editor does, which draws the rows again and puts the handles back.
-    QObject::connect(banco.frm.get(), &Frm1::RigheDaRidisegnare, banco.frm.get(),
-                     &Frm1::RiancoraManiglie);
     const QPointF presa = SullaManigliaDiRiga(banco);
     banco.Preme(presa);
     banco.Muove({100, 90});
     banco.Rilascia({100, 90});
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta campo R_Descr"));
-    banco.frm->PosizionaCornice(1, false);
+    banco.frm->PosizionaCornice(1);
     QCOMPARE(banco.S(2)->toolTip(), QStringLiteral("sposta Cornice cornice"));
 }
 

@@ -70,7 +70,6 @@ private slots:
     void CampoDiRigaTornaAInizioRighe();
     void PiuLargoDelFoglio();
     void LineeGuidaDuranteIlTrascinamento();
-    void RigheRidisegnateSpostandoUnCampo();
     void AsseFermoTieneLeSueCifre();
     void FineDelGesto();
     void RilascioPersoConcludeIlGesto();
@@ -304,8 +303,8 @@ void tst_ManiSulFoglio::Suggerimenti()
     // The hint of what lies under the pointer, as plain text, carriage return as a line end.
     Banco banco;
     banco.Campo(QStringLiteral("<b>uno</b>"), 20, 20);
-    banco.modello.Campi[1].Maschera = QStringLiteral("##");
-    banco.modello.Campi[1].Descrizione = QStringLiteral("d");
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Maschera = QStringLiteral("##"); });
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Descrizione = QStringLiteral("d"); });
     banco.frm->ImpostazioniCampo(1);
     QCOMPARE(banco.C1(1)->toolTip(), QStringLiteral("campo <b>uno</b>  - d -'\r2 ##"));
     banco.Muove({100, 100});
@@ -315,7 +314,7 @@ void tst_ManiSulFoglio::Suggerimenti()
     QTRY_VERIFY(QToolTip::isVisible());
     QTextDocumentFragment mostrato = QTextDocumentFragment::fromHtml(QToolTip::text());
     QCOMPARE(mostrato.toPlainText(), QStringLiteral("campo <b>uno</b>  - d -'\n2 ##"));
-    banco.modello.Campi[1].Nome = QStringLiteral("uno");
+    banco.Cambia([&](Modello &modello) { modello.Campi[1].Nome = QStringLiteral("uno"); });
     banco.frm->ImpostazioniCampo(1);
     QApplication::sendEvent(banco.Vista(), &aiuto);
     QTRY_COMPARE(QToolTip::text(), QStringLiteral("campo uno  - d -'\n2 ##"));
@@ -397,7 +396,7 @@ void tst_ManiSulFoglio::TrascinaCornice()
     QCOMPARE(cornice.Larghezza, 30.0);
     QVERIFY(banco.segnali.contains(QStringLiteral("Variato")));
     QCOMPARE(banco.segnali.last(), QStringLiteral("ModificaConclusa"));
-    banco.frm->PosizionaCornice(1, false);
+    banco.frm->PosizionaCornice(1);
     QCOMPARE(cornice.X, Numeri::Ar(atteso.x() * zoom));
 }
 
@@ -415,7 +414,7 @@ void tst_ManiSulFoglio::TrascinaImmagine()
     QCOMPARE(banco.C3(1)->Posto().topLeft(), atteso);
     QCOMPARE(banco.modello.Immagini[1].X, atteso.x() * zoom);
     QCOMPARE(banco.modello.Immagini[1].Y, atteso.y() * zoom);
-    banco.frm->PosizionaImmagine(1, false);
+    banco.frm->PosizionaImmagine(1);
     QCOMPARE(banco.modello.Immagini[1].X, atteso.x() * zoom);
 }
 
@@ -430,7 +429,7 @@ void tst_ManiSulFoglio::PassoDi3e4AZoom2()
     banco.frm->SpostaCampo(1, Qt::LeftButton, {}, 3.4, 0);
     QCOMPARE(banco.C1(1)->Posto().left(), 53.5);
     QCOMPARE(banco.modello.Campi[1].X, 107.0);
-    banco.frm->PosizionaCampo(1, true);
+    banco.frm->PosizionaCampo(1);
     QCOMPARE(banco.modello.Campi[1].X, 107.0);
     banco.frm->SelezionaImmagine(1);
     banco.frm->SpostaImmagine(1, Qt::LeftButton, {}, 3.4, 0);
@@ -489,7 +488,7 @@ void tst_ManiSulFoglio::OltreIBordi()
 void tst_ManiSulFoglio::CampoDiRigaTornaAInizioRighe()
 {
     Banco banco;
-    banco.modello.Righe.yInizio = 40.25;
+    banco.Cambia([&](Modello &modello) { modello.Righe.yInizio = 40.25; });
     banco.Campo(QStringLiteral("R_Descr"), 60, 10);
     banco.Muove({63, 42});
     banco.TrascinaManiglia(1, {90, 100});
@@ -536,19 +535,6 @@ void tst_ManiSulFoglio::LineeGuidaDuranteIlTrascinamento()
     QCOMPARE(foglio.pixel(PuntoFoto(foglio, angolo).x(), 10), colore);
     banco.Rilascia({80, 70});
     QVERIFY(!LineXX->isVisible() && !LineYY->isVisible());
-}
-
-void tst_ManiSulFoglio::RigheRidisegnateSpostandoUnCampo()
-{
-    Banco banco;
-    banco.Campo(QStringLiteral("R_Qta"), 60, 50);
-    banco.Cornice(100, 50, 30, 20);
-    banco.frm->SelezionaCampo(1);
-    banco.frm->SpostaCampo(1, Qt::LeftButton, {}, 5, 0);
-    QCOMPARE(Volte(banco.segnali, "RigheDaRidisegnare"), 1);
-    banco.frm->SelezionaCornice(1);
-    banco.frm->SpostaCornice(1, Qt::LeftButton, {}, 5, 0);
-    QCOMPARE(Volte(banco.segnali, "RigheDaRidisegnare"), 1);
 }
 
 void tst_ManiSulFoglio::AsseFermoTieneLeSueCifre()

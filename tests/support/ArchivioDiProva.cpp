@@ -11,8 +11,9 @@ ArchivioDiProva::ArchivioDiProva(const QString &nomeFile)
     // Safety copies must not land among the user's own.
     qputenv("XDG_STATE_HOME", QFile::encodeName(CartellaStato()));
     stato_.CartellaModelli = cartella_.filePath(QStringLiteral("Contabilita/ini/"));
-    stato_.Aperto.NomeFile = nomeFile;
-    stato_.Aperto.Righe = {100, 200, 5, 4, Modello::SeguePagPredefinito};
+    stato_.NomeFile = nomeFile;
+    modello_.NomeFile = nomeFile;
+    modello_.Righe = {100, 200, 5, 4, Modello::SeguePagPredefinito};
     stato_.ElencoFont = {QStringLiteral("Arial"), QStringLiteral("DejaVu Sans")};
 }
 
@@ -23,18 +24,28 @@ QString ArchivioDiProva::CartellaStato() const
 
 QString ArchivioDiProva::Percorso() const
 {
-    return stato_.CartellaModelli + stato_.Aperto.NomeFile;
+    return stato_.CartellaModelli + stato_.NomeFile;
+}
+
+StatoProgramma ArchivioDiProva::AltroStato() const
+{
+    return {.documento = {},
+            .NomeFile = stato_.NomeFile,
+            .CartellaModelli = stato_.CartellaModelli,
+            .ArchivioPredefinito = {},
+            .ElencoFont = stato_.ElencoFont,
+            .zoom = stato_.zoom};
 }
 
 void ArchivioDiProva::Scrive()
 {
-    FileModello::Salva(stato_.Aperto, Percorso(), QLocale::c());
+    FileModello::Salva(modello_, Percorso(), QLocale::c());
 }
 
 Modello ArchivioDiProva::Riletto() const
 {
     Modello letto;
-    letto.NomeFile = stato_.Aperto.NomeFile;
+    letto.NomeFile = stato_.NomeFile;
     FileModello::Carica(letto, Percorso());
     return letto;
 }
@@ -58,8 +69,8 @@ void ArchivioDiProva::Riempie(int n)
 
 int ArchivioDiProva::AggiungeCampo(const QString &nome, double x, double y)
 {
-    const int n = stato_.Aperto.AggiungeCampo(x, y);
-    Campo &campo = stato_.Aperto.Campi[n];
+    const int n = modello_.AggiungeCampo(x, y);
+    Campo &campo = modello_.Campi[n];
     campo.Nome = nome;
     campo.Testo = nome;
     return n;
@@ -68,8 +79,8 @@ int ArchivioDiProva::AggiungeCampo(const QString &nome, double x, double y)
 int ArchivioDiProva::AggiungeCornice(const QString &nome, double x, double y, double larghezza,
                                      double altezza)
 {
-    const int n = stato_.Aperto.AggiungeCornice(x, y, 0, 0);
-    Cornice &cornice = stato_.Aperto.Cornici[n];
+    const int n = modello_.AggiungeCornice(x, y, 0, 0);
+    Cornice &cornice = modello_.Cornici[n];
     cornice.Nome = nome;
     cornice.Testo = nome;
     cornice.Larghezza = larghezza;
@@ -80,8 +91,8 @@ int ArchivioDiProva::AggiungeCornice(const QString &nome, double x, double y, do
 int ArchivioDiProva::AggiungeImmagine(const QString &nome, double x, double y, double larghezza,
                                       double altezza)
 {
-    const int n = stato_.Aperto.AggiungeImmagine(x, y);
-    Immagine &immagine = stato_.Aperto.Immagini[n];
+    const int n = modello_.AggiungeImmagine(x, y);
+    Immagine &immagine = modello_.Immagini[n];
     immagine.Nome = nome;
     immagine.Larghezza = larghezza;
     immagine.Altezza = altezza;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/StatoProgramma.h"
+#include "documento/StatoProgramma.h"
 
 #include <QTemporaryDir>
 
@@ -10,7 +10,7 @@ class ArchivioDiProva
 public:
     explicit ArchivioDiProva(const QString &nomeFile = QStringLiteral("Prova.Mod"));
 
-    /// Writes the model into its file; call it after filling Aperto().
+    /// Writes DaAprire() into its file; call it before the file is opened.
     void Scrive();
     /// The model as the file holds it now.
     Modello Riletto() const;
@@ -26,11 +26,17 @@ public:
     int AggiungeCornice(const QString &nome, double x, double y, double larghezza, double altezza);
     int AggiungeImmagine(const QString &nome, double x, double y, double larghezza, double altezza);
 
-    Modello &Aperto() { return stato_.Aperto; }
+    /// The model that is composed, for Scrive().
+    Modello &DaAprire() { return modello_; }
+    /// The model that a window has opened.
+    const Modello &Aperto() const { return stato_.Aperto(); }
     StatoProgramma &Stato() { return stato_; }
+    /// As another run of the program has it that opens the same model.
+    StatoProgramma AltroStato() const;
     const StatoProgramma &Stato() const { return stato_; }
 
 private:
     QTemporaryDir cartella_;
+    Modello modello_;
     StatoProgramma stato_;
 };
