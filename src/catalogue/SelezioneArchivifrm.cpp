@@ -8,7 +8,7 @@
 #include "catalogue/TabellaFont.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
-#include "platform/IconaGuida.h"
+#include "platform/Icone.h"
 #include "platform/Impostazioni.h"
 #include "platform/Messaggi.h"
 #include "platform/Percorsi.h"

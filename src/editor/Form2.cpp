@@ -2,6 +2,7 @@
 
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/Passo.h"
+#include "editor/ComandiStoria.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
 #include "editor/PaginaSfondo.h"
@@ -9,7 +10,7 @@
 #include "model/CopiaRecupero.h"
 #include "platform/Finestre.h"
 #include "platform/Guardia.h"
-#include "platform/IconaGuida.h"
+#include "platform/Icone.h"
 #include "platform/Percorsi.h"
 #include "preview/Frm1.h"
 #include "ui_Form2.h"
@@ -97,6 +98,8 @@ bool Form2::Form_Load()
     ImpostaHelp(this);
     Collegamenti();
     CollegaAnteprima();
+    storia_ = std::make_unique<ComandiStoria>(stato_.documento, ui_->Annulla, ui_->Ripristina,
+                                              QList<QWidget *>{this, anteprima_.get()});
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
     anteprima_->MostraModello();

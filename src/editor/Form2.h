@@ -8,6 +8,7 @@
 #include <array>
 #include <memory>
 
+class ComandiStoria;
 class CopiaRecupero;
 class FrmCampo;
 class FrmCarattere;
@@ -131,6 +132,7 @@ private:
     PaginaRighe *righe_ = nullptr;
     PaginaSpostamento *spostamento_ = nullptr;
     PaginaSfondo *sfondo_ = nullptr;
+    std::unique_ptr<ComandiStoria> storia_;
     std::unique_ptr<CopiaRecupero> copia_;
     bool copiaMancata_ = false; ///< its failure has been shown
     QString percorso_;          ///< the model's file, spelled as on disk

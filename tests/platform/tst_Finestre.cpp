@@ -1,5 +1,5 @@
 #include "platform/Finestre.h"
-#include "platform/IconaGuida.h"
+#include "platform/Icone.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
