@@ -47,7 +47,7 @@ void Passo::Rinuncia()
     Differenza differenza(*primo.prima_, documento_.stato_);
     differenza.Scambia(documento_.stato_);
     differenza.Segnala(documento_.tocchi_);
-    documento_.daConcludere_ = false;
+    documento_.daConcludere_ = primo.daConcluderePrima_;
     documento_.variato_ = primo.variatoPrima_;
     documento_.Avvisa(Cambiamento::Origine::Storia);
 }

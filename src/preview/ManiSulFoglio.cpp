@@ -95,6 +95,8 @@ void ManiSulFoglio::Preme(const EventoMouse &evento)
         return;
     }
     if (elemento || maniglia) {
+        const Elemento &prima = stato_.Aperto().Di({bersaglio.genere, bersaglio.indice});
+        bersaglio.postoPrima = {prima.X, prima.Y};
         bersaglio.misuraPrima = MisuraDi(bersaglio.genere, bersaglio.indice);
     }
     preso_ = bersaglio;
@@ -227,14 +229,17 @@ void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
 
 bool ManiSulFoglio::Rinuncia()
 {
-    const bool trascina = preso_.preso == Preso::Maniglia && preso_.trascinato;
-    if (!passo_ || (!trascina && !ridimensione_.avviata)) {
+    const bool trascina = preso_.preso == Preso::Maniglia && preso_.bottone == Qt::LeftButton;
+    if (!trascina && ridimensione_.presa == Presa::Nessuna) {
         return false;
     }
     const Cattura preso = std::exchange(preso_, {});
+    ultimoTrascinato_ = preso.trascinato;
     ridimensione_ = {};
-    passo_->Rinuncia();
-    passo_.reset();
+    if (passo_) {
+        passo_->Rinuncia();
+        passo_.reset();
+    }
     elementi_.NascondeGuide();
     if (preso.genere == Genere::Immagine) {
         static_cast<RiquadroImmagine &>(elementi_.Elemento(preso.genere, preso.indice))

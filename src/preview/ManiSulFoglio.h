@@ -41,7 +41,8 @@ public:
     void Rilascia(const EventoMouse &evento) override;
     void PremeDueVolte(const EventoMouse &evento) override;
     void Interrompe() override;
-    /// Gives up the drag or resize under way: the element is as it was. False when there is none.
+    /// Gives up the drag or resize under way, from its press on: the element is as it was. False
+    /// when there is none.
     bool Rinuncia();
     Spiegazione Suggerimento(QPointF punto) const override;
 
@@ -66,6 +67,7 @@ private:
         Genere genere = Genere::Campo;
         int indice = 0;
         Qt::MouseButton bottone = Qt::NoButton;
+        QPointF postoPrima = {}; ///< of the element at the press, mm of the sheet
         QSizeF misuraPrima = {}; ///< of a frame or image at the press, mm of the sheet
         bool trascinato = false; ///< a drag step has moved the element
         /// Where a handle was pressed for the second time, as long as the pointer stays there.

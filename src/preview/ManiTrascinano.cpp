@@ -25,6 +25,13 @@ double Interi(double millimetri)
     return std::floor(millimetri + 1e-9);
 }
 
+/// The same length, where only the arithmetic of the way there and back tells them apart.
+double Riportato(double millimetri, double prima)
+{
+    constexpr double Inezia = 1e-6;
+    return std::abs(millimetri - prima) < Inezia ? prima : millimetri;
+}
+
 double NelFoglio(double posto, double misura, double foglio)
 {
     const double dopoInizio = posto < 0 ? 0 : posto;
@@ -71,8 +78,12 @@ void ManiSulFoglio::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, doubl
     }
     // An axis that did not move keeps the model's own digits.
     const Elemento &elemento = stato_.Aperto().Di({genere, i});
-    const QPointF posto(dopo.x() == prima.left() ? elemento.X : dopo.x() * stato_.zoom,
-                        dopo.y() == prima.top() ? elemento.Y : dopo.y() * stato_.zoom);
+    QPointF posto(dopo.x() == prima.left() ? elemento.X : dopo.x() * stato_.zoom,
+                  dopo.y() == prima.top() ? elemento.Y : dopo.y() * stato_.zoom);
+    if (preso_.preso != Preso::Niente) {
+        posto = {Riportato(posto.x(), preso_.postoPrima.x()),
+                 Riportato(posto.y(), preso_.postoPrima.y())};
+    }
     Passo &passo = PassoDi(genere, i, VerboSposta);
     passo.Trascina({genere, i}, posto);
     passo.Mostra();
@@ -165,6 +176,10 @@ void ManiSulFoglio::ApplicaMisura(Genere genere, int i, QSizeF misura)
     }
     if (misura.height() != prima.height()) {
         carta.setHeight(misura.height() * stato_.zoom);
+    }
+    if (preso_.preso != Preso::Niente) {
+        carta = {Riportato(carta.width(), preso_.misuraPrima.width()),
+                 Riportato(carta.height(), preso_.misuraPrima.height())};
     }
     Passo &passo = PassoDi(genere, i, VerboRidimensiona);
     passo.Ridimensiona({genere, i}, carta);
