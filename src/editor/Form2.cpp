@@ -17,6 +17,8 @@
 
 #include <QTime>
 
+#include <algorithm>
+
 namespace {
 
 // Order of the pages of SSTab1; the preview asks for the pages of the three kinds.
@@ -144,19 +146,22 @@ void Form2::MostraRitrovati(const Cambiamento &cambiamento)
             anteprima_->PrimoPiano(genere);
         }
     }
-    for (const Chiave &chiave : cambiamento.Elementi()) {
-        MostraPaginaDi(chiave.genere);
-        if (stato_.documento.InVista(chiave)) {
-            Pagina(chiave.genere).Seleziona(chiave.indice);
-            anteprima_->Seleziona(chiave.genere, chiave.indice);
-            anteprima_->PortaInVista(chiave);
-            return;
-        }
-    }
+    const QList<Chiave> elementi = cambiamento.Elementi();
+    // The row area takes its fields along, but is not confirmed on theirs.
     if (cambiamento.Righe) {
         ui_->SSTab1->setCurrentWidget(righe_);
     } else if (cambiamento.Sfondo) {
         ui_->SSTab1->setCurrentWidget(sfondo_);
+    } else if (!elementi.isEmpty()) {
+        MostraPaginaDi(elementi.constFirst().genere);
+    }
+    const auto inVista = std::find_if(elementi.begin(), elementi.end(), [&](Chiave chiave) {
+        return stato_.documento.InVista(chiave);
+    });
+    if (inVista != elementi.end()) {
+        Pagina(inVista->genere).Seleziona(inVista->indice);
+        anteprima_->Seleziona(inVista->genere, inVista->indice);
+        anteprima_->PortaInVista(*inVista);
     }
 }
 
