@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
 #include <malloc.h>
 #endif
@@ -45,6 +47,7 @@ private slots:
     void IlCentunesimoElementoFallisceConIlContatoreAlzato();
     void LArrotondamentoDiChiGuardaNonEUnPasso();
     void OgniVistaSentePerNomeCheCosaECambiato();
+    void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data();
     void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte();
     void UnPassoSuTrecentoElementiCostaPoco();
 };
@@ -303,16 +306,45 @@ void tst_Documento::OgniVistaSentePerNomeCheCosaECambiato()
     QVERIFY(!sentiti[2].Righe);
 }
 
+void tst_Documento::DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data()
+{
+    QTest::addColumn<std::function<void(Passo &, const Modello &, int)>>("modifica");
+    const auto riga = [](const char *nome, std::function<void(Passo &, const Modello &, int)> m) {
+        QTest::newRow(nome) << std::move(m);
+    };
+    riga("tutti spostati", [](Passo &passo, const Modello &, int) {
+        for (const Genere genere : Generi) {
+            passo.SpostaTutti(genere, 1, 1);
+        }
+    });
+    riga("font su tutti i campi", [](Passo &passo, const Modello &modello, int k) {
+        const QString font = QStringLiteral("Font %1").arg(k);
+        for (int i = 1; i <= 100; ++i) {
+            Campo campo = modello.Campi[i];
+            campo.Font = font;
+            passo.Scrive(i, campo);
+        }
+    });
+    riga("font su tutte le cornici", [](Passo &passo, const Modello &modello, int k) {
+        const QString font = QStringLiteral("Font %1").arg(k);
+        for (int i = 1; i <= 100; ++i) {
+            Cornice cornice = modello.Cornici[i];
+            cornice.Font = font;
+            passo.Scrive(i, cornice);
+        }
+    });
+}
+
 void tst_Documento::DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte()
 {
+    using Modifica = std::function<void(Passo &, const Modello &, int)>;
+    QFETCH(Modifica, modifica);
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
     Banco banco(100);
     const std::size_t prima = mallinfo2().uordblks;
     for (int k = 0; k < 200; ++k) {
-        Passo passo(banco.documento, QStringLiteral("sposta"));
-        for (const Genere genere : Generi) {
-            passo.SpostaTutti(genere, 1, 1);
-        }
+        Passo passo(banco.documento, QStringLiteral("modifica"));
+        modifica(passo, banco.documento.Aperto(), k);
     }
     const std::size_t occupati = mallinfo2().uordblks - prima;
     QVERIFY2(occupati > 0 && occupati < 10 * 1024 * 1024, qPrintable(QString::number(occupati)));

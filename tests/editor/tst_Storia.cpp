@@ -43,6 +43,8 @@ private slots:
     void IBottoniStannoTraTipoECartella();
     void LaCasellaHaIlSuoAnnullaPerPrima();
     void LaCasellaSenzaLegameHaIlSuoAnnullaPerPrima();
+    void LoZoomHaIlSuoAnnullaPerPrimo();
+    void IlBottoneAnnullaQuelCheSiStaScrivendo();
     void ConUnDialogoApertoAspetta();
     void ConUnaDomandaApertaAspetta();
     void ConUnElementoInManoAspetta();
@@ -201,6 +203,45 @@ void tst_Storia::LaCasellaSenzaLegameHaIlSuoAnnullaPerPrima()
     storia.Annulla();
     QCOMPARE(storia.Aperto(), storia.Prima);
     QCOMPARE(Controlli::Testo(*storia.Editor, "yInizio"), QStringLiteral("7"));
+}
+
+void tst_Storia::LoZoomHaIlSuoAnnullaPerPrimo()
+{
+    StoriaDiProva storia;
+    SpostaDocNumero(storia);
+    const Modello dopo = storia.Aperto();
+    auto *zoom = Trova<QLineEdit>(storia.Anteprima(), "TextZoom");
+    Controlli::Digita(storia.Anteprima(), "TextZoom", QStringLiteral("2"));
+    QCOMPARE(storia.Archivio.Stato().zoom, 2.0);
+    while (zoom->isUndoAvailable()) {
+        StoriaDiProva::Tasto(storia.Anteprima(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(storia.Aperto(), dopo);
+    }
+    QCOMPARE(storia.Archivio.Stato().zoom, 1.0);
+    StoriaDiProva::Tasto(storia.Anteprima(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(storia.Aperto(), storia.Prima);
+}
+
+void tst_Storia::IlBottoneAnnullaQuelCheSiStaScrivendo()
+{
+    StoriaDiProva storia;
+    SpostaDocNumero(storia);
+    auto *tipo = Trova<QLineEdit>(*storia.Editor, "Tipo");
+    Controlli::Digita(*storia.Editor, "Tipo", QStringLiteral("DDT"));
+    QTest::mouseClick(storia.Bottone("Annulla"), Qt::LeftButton);
+    QCOMPARE(tipo->text(), QStringLiteral("Fattura"));
+    QCOMPARE(storia.Aperto().Tipo, QStringLiteral("Fattura"));
+    QCOMPARE(storia.DaAnnullare(), QStringLiteral("sposta Doc_Numero"));
+    QCOMPARE(storia.DaRipristinare(), QStringLiteral("tipo del modello"));
+    // What is typed now is another step, and the box has only that to take back itself.
+    tipo->setFocus();
+    tipo->end(false);
+    QTest::keyClick(tipo, 'X');
+    QCOMPARE(storia.Aperto().Tipo, QStringLiteral("FatturaX"));
+    storia.Annulla();
+    QCOMPARE(storia.Aperto().Tipo, QStringLiteral("Fattura"));
+    storia.Annulla();
+    QCOMPARE(storia.Aperto(), storia.Prima);
 }
 
 void tst_Storia::ConUnDialogoApertoAspetta()
