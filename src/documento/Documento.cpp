@@ -3,6 +3,7 @@
 #include "documento/Passo.h"
 
 #include <QElapsedTimer>
+#include <QScopedValueRollback>
 #include <QUndoStack>
 
 #include <utility>
@@ -173,8 +174,10 @@ void Documento::ChiudeUnione()
 
 void Documento::Colloca(Chiave chiave)
 {
-    if (aperto_ != nullptr) {
-        return; // in the middle of a gesture the coordinates are the mouse's
+    if (aperto_ != nullptr || percorre_) {
+        // In the middle of a gesture the coordinates are the mouse's; what undo and redo bring back
+        // is what was there, though they select it.
+        return;
     }
     if (stato_.modello.Arrotonda(chiave.genere, chiave.indice)) {
         tocchi_.Aggiunge(chiave);
@@ -218,5 +221,6 @@ void Documento::Percorre(Differenza &differenza)
     differenza.Segnala(tocchi_);
     variato_ = true;
     daConcludere_ = true;
+    const QScopedValueRollback<bool> percorre(percorre_, true);
     Avvisa(Cambiamento::Origine::Storia);
 }

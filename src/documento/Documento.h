@@ -91,4 +91,5 @@ private:
     Cambiamento tocchi_; ///< not yet told to the views
     bool daConcludere_ = false;
     Passo *aperto_ = nullptr; ///< the outermost open step
+    bool percorre_ = false;   ///< undo or redo is being told to the views
 };
