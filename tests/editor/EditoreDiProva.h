@@ -104,9 +104,8 @@ public:
     {
         QStringList avvisi;
         const QString pdf = Archivio.Stato().CartellaModelli + QStringLiteral("../foglio.pdf");
-        StampaModello(Archivio.Aperto(), Archivio.Stato().CartellaModelli,
-                      *Stampanti::SuPdf(pdf), false,
-                      [&](const QString &testo) { avvisi.append(testo); });
+        StampaModello(Archivio.Aperto(), Archivio.Stato().CartellaModelli, *Stampanti::SuPdf(pdf),
+                      false, [&](const QString &testo) { avvisi.append(testo); });
         return avvisi;
     }
 
