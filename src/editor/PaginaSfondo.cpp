@@ -41,13 +41,6 @@ void MostraTesto(QLineEdit *casella, const QString &testo)
     MostraDallInizio(casella, testo);
 }
 
-void SelezionaTutto(QLineEdit *casella)
-{
-    // Queued, because the press that brings the focus still places the cursor afterwards.
-    QMetaObject::invokeMethod(
-        casella, [casella] { SelezionaDallInizio(casella); }, Qt::QueuedConnection);
-}
-
 } // namespace
 
 PaginaSfondo::PaginaSfondo(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
@@ -80,6 +73,9 @@ void PaginaSfondo::Collegamenti()
     LegaTesto(ui_->SfondoXPosImm, &ImmagineSfondo::XPos);
     LegaTesto(ui_->SfondoYPosImm, &ImmagineSfondo::YPos);
     Collega(&stato_.documento, &Documento::Cambiato, this, &PaginaSfondo::SegueDocumento);
+    // Queued, because the press that brings the focus still places the cursor afterwards.
+    connect(this, &PaginaSfondo::SelezioneChiesta, this, &SelezionaDallInizio,
+            Qt::QueuedConnection);
     ui_->VisualizzaImmagineSfondo->installEventFilter(this);
     ui_->SfondoXimmagine->installEventFilter(this);
     ui_->SfondoYImmagine->installEventFilter(this);
@@ -308,12 +304,12 @@ void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
 
 void PaginaSfondo::SfondoXimmagine_GotFocus()
 {
-    SelezionaTutto(ui_->SfondoXimmagine);
+    emit SelezioneChiesta(ui_->SfondoXimmagine);
 }
 
 void PaginaSfondo::SfondoYimmagine_GotFocus()
 {
-    SelezionaTutto(ui_->SfondoYImmagine);
+    emit SelezioneChiesta(ui_->SfondoYImmagine);
 }
 
 void PaginaSfondo::VisualizzaImmagineSfondo_MouseDown(Qt::MouseButton bottone)

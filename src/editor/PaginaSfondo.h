@@ -2,6 +2,7 @@
 
 #include "documento/StatoProgramma.h"
 
+#include <QLineEdit>
 #include <QRectF>
 #include <QWidget>
 
@@ -9,7 +10,6 @@
 #include <optional>
 
 class Frm1;
-class QLineEdit;
 
 namespace Ui {
 class PaginaSfondo;
@@ -45,6 +45,10 @@ public:
 
 protected:
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
+
+signals:
+    /// The whole text of a box that takes the focus is to be selected.
+    void SelezioneChiesta(QLineEdit *casella);
 
 private:
     void Collegamenti();

@@ -16,9 +16,9 @@ constexpr qint64 ByteFile = 14; ///< of the file's own header, before the pictur
 constexpr quint32 ByteCorta = 12;
 constexpr quint32 ByteNormale = 40;
 constexpr quint32 CompressioneMaschere = 3;
-constexpr qint64 ByteTestaMassimi = 64 * 1024;
+constexpr qint64 ByteTestaMassimi = 64LL * 1024;
 /// Decoded pixels of a strip: few enough to stay in the processor's cache.
-constexpr qint64 PixelStriscia = 16 * 1024;
+constexpr qint64 PixelStriscia = 16LL * 1024;
 /// What the shortest header can state.
 constexpr qint64 RigheStriscia = 0xFFFF;
 

@@ -8,10 +8,10 @@
 namespace {
 
 /// What the pictures not in hand may take: all the small ones of a page, no scan.
-constexpr qsizetype ByteInDisparte = 16 * 1024 * 1024;
+constexpr qsizetype ByteInDisparte = 16LL * 1024 * 1024;
 /// Of these, what those may take that no further use is foreseen of: they are only asked for again
 /// where the page is computed, and filling fresh memory takes longer than the few that are.
-constexpr qsizetype ByteGiaUsati = 2 * 1024 * 1024;
+constexpr qsizetype ByteGiaUsati = 2LL * 1024 * 1024;
 
 QSize Ridotta(const QSize &intera, qsizetype livello)
 {
