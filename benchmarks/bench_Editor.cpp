@@ -1,8 +1,8 @@
 #include "Misura.h"
 #include "editor/Form2.h"
-#include "platform/CartellaStato.h"
-#include "platform/Finestre.h"
+#include "finestre/Finestre.h"
 #include "preview/Frm1.h"
+#include "sistema/CartellaStato.h"
 #include "support/ArchivioDiProva.h"
 #include "support/Finestre.h"
 

@@ -1,8 +1,8 @@
 #include "Misura.h"
 #include "print/StampaProva.h"
 
-#include "platform/Stampanti.h"
 #include "print/Retino.h"
+#include "print/Stampanti.h"
 #include "support/ImmaginiDiProva.h"
 
 #include <QElapsedTimer>

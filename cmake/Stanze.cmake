@@ -1,9 +1,14 @@
 # Declares the rooms that src/stanze.txt tells: every source in the folder, and the rooms and Qt
-# modules it may use. A folder without a line there fails.
+# modules it may use; a source named ..._Windows or ..._Unix belongs to that system alone. A folder without a line there fails.
 function(stanza nome altre moduli)
   file(GLOB sorgenti CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${nome}/*.cpp
        ${CMAKE_CURRENT_SOURCE_DIR}/${nome}/*.h ${CMAKE_CURRENT_SOURCE_DIR}/${nome}/*.ui
        ${CMAKE_CURRENT_SOURCE_DIR}/${nome}/*.qrc)
+  if(WIN32)
+    list(FILTER sorgenti EXCLUDE REGEX "_Unix\\.cpp$")
+  else()
+    list(FILTER sorgenti EXCLUDE REGEX "_Windows\\.cpp$")
+  endif()
   add_library(plakera_${nome} STATIC ${sorgenti})
   target_include_directories(plakera_${nome} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   list(TRANSFORM altre PREPEND plakera_)

@@ -1,10 +1,10 @@
 #include "FileDiUscita.h"
 
-#include "base/Disco.h"
 #include "base/ErroreSistema.h"
+#include "grafica/Immagini.h"
 #include "model/Modello.h"
-#include "platform/Immagini.h"
-#include "platform/Percorsi.h"
+#include "sistema/Disco.h"
+#include "sistema/Percorsi.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,17 +1,17 @@
 #include "LineaDiComando.h"
 
 #include "FileDiUscita.h"
-#include "base/Disco.h"
 #include "base/ErroreSistema.h"
 #include "editor/Form2.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
 #include "model/FileModello.h"
 #include "model/Numeri.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
-#include "platform/Percorsi.h"
-#include "platform/Stampanti.h"
 #include "preview/Frm1.h"
 #include "print/StampaProva.h"
+#include "print/Stampanti.h"
+#include "sistema/Disco.h"
+#include "sistema/Percorsi.h"
 
 #include <QBuffer>
 #include <QCommandLineParser>

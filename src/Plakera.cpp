@@ -1,11 +1,11 @@
 #include "Plakera.h"
 
-#include "catalogue/ApriManuale.h"
 #include "catalogue/SelezioneArchivifrm.h"
 #include "editor/Form2.h"
 #include "editor/LavoroRimasto.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
+#include "finestre/ApriManuale.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
 #include "preview/Frm1.h"
 
 #include <QApplication>

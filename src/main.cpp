@@ -1,10 +1,10 @@
 #include "LineaDiComando.h"
 #include "Plakera.h"
-#include "base/Disco.h"
-#include "platform/Finestre.h"
-#include "platform/ScalaSchermo.h"
-#include "platform/SenzaFinestre.h"
-#include "platform/SuDisco.h"
+#include "finestre/Finestre.h"
+#include "finestre/ScalaSchermo.h"
+#include "sistema/Disco.h"
+#include "sistema/SenzaFinestre.h"
+#include "sistema/SuDisco.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -6,9 +6,9 @@
 
 #include "base/ErroreSistema.h"
 #include "catalogue/ModelliTipo.h"
-#include "catalogue/NomeModello.h"
-#include "platform/Messaggi.h"
-#include "platform/Percorsi.h"
+#include "finestre/Messaggi.h"
+#include "finestre/NomeModello.h"
+#include "sistema/Percorsi.h"
 
 #include <QFileInfo>
 

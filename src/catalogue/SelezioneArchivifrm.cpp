@@ -3,16 +3,16 @@
 #include "ui_SelezioneArchivifrm.h"
 
 #include "base/ErroreSistema.h"
-#include "catalogue/ApriManuale.h"
-#include "catalogue/ElencoModelli.h"
 #include "catalogue/TabellaFont.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Icone.h"
-#include "platform/Impostazioni.h"
-#include "platform/Messaggi.h"
-#include "platform/Percorsi.h"
-#include "platform/Stampanti.h"
+#include "finestre/ApriManuale.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/Icone.h"
+#include "finestre/Messaggi.h"
+#include "print/Stampanti.h"
+#include "sistema/ElencoModelli.h"
+#include "sistema/Impostazioni.h"
+#include "sistema/Percorsi.h"
 
 #include <QDir>
 #include <QFileInfo>

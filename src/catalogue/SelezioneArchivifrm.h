@@ -1,7 +1,7 @@
 #pragma once
 
 #include "documento/StatoProgramma.h"
-#include "platform/IstanzaUnica.h"
+#include "sistema/IstanzaUnica.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #include "catalogue/TabellaFont.h"
 
-#include "platform/Messaggi.h"
-#include "platform/Stampanti.h"
+#include "finestre/Messaggi.h"
+#include "print/Stampanti.h"
 
 void RiempieElencoFont(QWidget *padre, const QStringList &font, QStringList &elenco)
 {

@@ -2,11 +2,11 @@
 
 #include "ui_FrmCampo.h"
 
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
 #include "model/FileModelloRighe.h"
 #include "model/Numeri.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
 
 #include <QFontDatabase>
 

@@ -1,7 +1,7 @@
 #include "dialogs/FrmCarattere.h"
 
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,11 +2,11 @@
 
 #include "ui_FrmCornice.h"
 
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "grafica/Testo.h"
 #include "model/Numeri.h"
 #include "model/Tavolozza.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Testo.h"
 
 namespace {
 

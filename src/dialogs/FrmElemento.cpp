@@ -1,9 +1,9 @@
 #include "dialogs/FrmElemento.h"
 
 #include "base/ErroreSistema.h"
+#include "finestre/Finestre.h"
+#include "finestre/Messaggi.h"
 #include "model/Numeri.h"
-#include "platform/Finestre.h"
-#include "platform/Messaggi.h"
 
 #include <QPalette>
 

@@ -3,13 +3,13 @@
 #include "ui_FrmImmagine.h"
 
 #include "dialogs/Riduzione.h"
+#include "finestre/FiltroAnsi.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
+#include "grafica/Immagini.h"
 #include "model/Numeri.h"
-#include "platform/FiltroAnsi.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Immagini.h"
-#include "platform/Messaggi.h"
-#include "platform/Percorsi.h"
+#include "sistema/Percorsi.h"
 
 #include <QKeyEvent>
 

@@ -2,8 +2,8 @@
 
 #include "base/ErroreSistema.h"
 #include "dialogs/MemoriaCaselle.h"
+#include "finestre/Messaggi.h"
 #include "model/Numeri.h"
-#include "platform/Messaggi.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 #include "editor/ComandiStoria.h"
 
 #include "documento/Documento.h"
-#include "platform/Guardia.h"
-#include "platform/Icone.h"
+#include "finestre/Guardia.h"
+#include "finestre/Icone.h"
 
 #include <QApplication>
 #include <QKeyEvent>

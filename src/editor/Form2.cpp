@@ -1,18 +1,18 @@
 #include "editor/Form2.h"
 
 #include "dialogs/MemoriaCaselle.h"
+#include "documento/CopiaRecupero.h"
 #include "documento/Passo.h"
 #include "editor/ComandiStoria.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
 #include "editor/PaginaSfondo.h"
 #include "editor/PaginaSpostamento.h"
-#include "model/CopiaRecupero.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Icone.h"
-#include "platform/Percorsi.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/Icone.h"
 #include "preview/Frm1.h"
+#include "sistema/Percorsi.h"
 #include "ui_Form2.h"
 
 #include <QTime>

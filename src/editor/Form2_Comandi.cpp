@@ -1,20 +1,20 @@
 // The commands of the editor's buttons for the whole model: save, delete, print.
 
 #include "base/ErroreSistema.h"
-#include "catalogue/ApriManuale.h"
+#include "documento/CopiaRecupero.h"
 #include "documento/Passo.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
-#include "model/CopiaRecupero.h"
+#include "finestre/ApriManuale.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
 #include "model/FileModello.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
-#include "platform/Percorsi.h"
-#include "platform/Stampanti.h"
 #include "preview/Frm1.h"
 #include "print/Retino.h"
 #include "print/StampaProva.h"
+#include "print/Stampanti.h"
+#include "sistema/Percorsi.h"
 
 #include <QCoreApplication>
 

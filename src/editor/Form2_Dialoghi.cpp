@@ -6,10 +6,10 @@
 #include "documento/Passo.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
+#include "finestre/DialogoScorrevole.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
 #include "model/Numeri.h"
-#include "platform/DialogoScorrevole.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
 #include "preview/Frm1.h"
 
 #include <QComboBox>

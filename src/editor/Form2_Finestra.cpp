@@ -1,10 +1,10 @@
 // The editor as a window: its place on the screen, and its closing.
 
+#include "documento/CopiaRecupero.h"
 #include "editor/Form2.h"
-#include "model/CopiaRecupero.h"
-#include "platform/DialogoScorrevole.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
+#include "finestre/DialogoScorrevole.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
 #include "preview/Frm1.h"
 #include "ui_Form2.h"
 

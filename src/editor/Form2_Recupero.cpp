@@ -1,11 +1,11 @@
 // Reading the model, and the safety copies of unsaved work.
 
 #include "base/ErroreSistema.h"
+#include "documento/CopiaRecupero.h"
 #include "editor/Form2.h"
-#include "model/CopiaRecupero.h"
+#include "finestre/Messaggi.h"
 #include "model/FileModello.h"
-#include "platform/CartellaStato.h"
-#include "platform/Messaggi.h"
+#include "sistema/CartellaStato.h"
 
 #include <QDir>
 #include <QLocale>

@@ -1,9 +1,9 @@
 #include "editor/FrmLavoroRimasto.h"
 
 #include "documento/StatoProgramma.h"
-#include "platform/Finestre.h"
-#include "platform/Percorsi.h"
+#include "finestre/Finestre.h"
 #include "preview/Frm1.h"
+#include "sistema/Percorsi.h"
 #include "ui_FrmLavoroRimasto.h"
 
 #include <QFileInfo>

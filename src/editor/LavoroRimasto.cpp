@@ -1,15 +1,15 @@
 #include "editor/LavoroRimasto.h"
 
-#include "catalogue/NomeModello.h"
+#include "documento/CopieRimaste.h"
+#include "documento/FileCopia.h"
 #include "documento/StatoProgramma.h"
 #include "editor/FrmLavoroRimasto.h"
-#include "model/CopieRimaste.h"
-#include "model/FileCopia.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
+#include "finestre/NomeModello.h"
 #include "model/FileModello.h"
-#include "platform/CartellaStato.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
-#include "platform/Percorsi.h"
+#include "sistema/CartellaStato.h"
+#include "sistema/Percorsi.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "editor/PaginaElementi.h"
 
 #include "editor/TestiEsplicativi.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
 #include "ui_PaginaElementi.h"
 
 #include <QEvent>

@@ -4,8 +4,8 @@
 #include "documento/Passo.h"
 #include "editor/RigheSimulate.h"
 #include "editor/TestiEsplicativi.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
 #include "ui_PaginaRighe.h"
 
 PaginaRighe::PaginaRighe(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)

@@ -4,10 +4,10 @@
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/Passo.h"
 #include "editor/TestiEsplicativi.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/Messaggi.h"
 #include "model/Numeri.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
-#include "platform/Messaggi.h"
 #include "preview/Frm1.h"
 #include "ui_PaginaSpostamento.h"
 

@@ -1,6 +1,6 @@
 #include "editor/RigheSimulate.h"
 
-#include "platform/Testo.h"
+#include "grafica/Testo.h"
 #include "preview/GeometriaAnteprima.h"
 
 #include <algorithm>

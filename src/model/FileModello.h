@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/Disco.h"
 #include "model/Modello.h"
 #include "model/Numeri.h"
+#include "sistema/Disco.h"
 
 #include <QByteArray>
 #include <QLocale>

@@ -1,15 +1,12 @@
 #pragma once
 
+#include "base/Logici.h"
 #include "model/Tabella.h"
 
 #include <QString>
 
 #include <array>
 #include <utility>
-
-/// 16-bit booleans, as models keep them.
-inline constexpr qint16 Vero = -1;
-inline constexpr qint16 Falso = 0;
 
 /// What the three kinds of element share. An empty Nome marks an absent element, which keeps its
 /// slot.

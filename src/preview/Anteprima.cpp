@@ -1,7 +1,7 @@
 #include "preview/Anteprima.h"
 
 #include "documento/StatoProgramma.h"
-#include "platform/Finestre.h"
+#include "finestre/Finestre.h"
 #include "preview/Foglio.h"
 #include "preview/Righelli.h"
 

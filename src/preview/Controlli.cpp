@@ -1,7 +1,7 @@
 #include "preview/Controlli.h"
 
 #include "base/ErroreSistema.h"
-#include "platform/Immagini.h"
+#include "grafica/Immagini.h"
 #include "preview/Tratti.h"
 
 #include <QFileInfo>

@@ -2,9 +2,9 @@
 
 #include "base/ErroreSistema.h"
 #include "documento/StatoProgramma.h"
+#include "grafica/Immagini.h"
+#include "grafica/Testo.h"
 #include "model/Tavolozza.h"
-#include "platform/Immagini.h"
-#include "platform/Testo.h"
 #include "preview/ElementiFoglio.h"
 
 #include <algorithm>

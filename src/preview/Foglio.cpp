@@ -1,7 +1,7 @@
 #include "preview/Foglio.h"
 
 #include "documento/StatoProgramma.h"
-#include "platform/Guardia.h"
+#include "finestre/Guardia.h"
 #include "preview/GeometriaAnteprima.h"
 
 #include <QCoreApplication>

@@ -2,9 +2,9 @@
 
 #include "base/ErroreSistema.h"
 #include "documento/StatoProgramma.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
 #include "model/Numeri.h"
-#include "platform/Finestre.h"
-#include "platform/Guardia.h"
 #include "preview/Anteprima.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/Foglio.h"

@@ -1,6 +1,6 @@
 #include "preview/Sfondo.h"
 
-#include "platform/Immagini.h"
+#include "grafica/Immagini.h"
 #include "preview/GeometriaAnteprima.h"
 #include "preview/Tratti.h"
 

@@ -1,7 +1,7 @@
 #include "preview/TestoScalato.h"
 
 #include "base/Misure.h"
-#include "platform/Testo.h"
+#include "grafica/Testo.h"
 #include "preview/Tratti.h"
 
 #include <QFont>

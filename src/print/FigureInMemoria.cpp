@@ -1,6 +1,6 @@
 #include "print/FigureInMemoria.h"
 
-#include "platform/Immagini.h"
+#include "grafica/Immagini.h"
 
 #include <algorithm>
 #include <new>

@@ -2,9 +2,9 @@
 
 #include "base/ErroreSistema.h"
 #include "base/Misure.h"
-#include "platform/Memoria.h"
-#include "platform/Testo.h"
+#include "grafica/Testo.h"
 #include "print/Sovrapposizione.h"
+#include "sistema/Memoria.h"
 
 #include <QFontMetricsF>
 #include <QPageLayout>

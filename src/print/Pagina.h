@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Destinazione.h"
+#include "print/Destinazione.h"
 #include "print/FigureInMemoria.h"
 #include "print/Tracciati.h"
 

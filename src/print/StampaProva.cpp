@@ -1,8 +1,8 @@
 #include "print/StampaProva.h"
 
 #include "base/ErroreSistema.h"
+#include "grafica/Immagini.h"
 #include "model/Tavolozza.h"
-#include "platform/Immagini.h"
 #include "print/Pagina.h"
 
 #include <cmath>

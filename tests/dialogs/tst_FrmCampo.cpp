@@ -2,7 +2,7 @@
 
 #include "dialogs/Mnemonici.h"
 #include "dialogs/RegistroSegnali.h"
-#include "platform/Finestre.h"
+#include "finestre/Finestre.h"
 #include "support/Controlli.h"
 #include "support/DocumentoDiProva.h"
 #include "support/Errori.h"

@@ -2,9 +2,9 @@
 
 #include "dialogs/Mnemonici.h"
 #include "dialogs/RegistroSegnali.h"
+#include "finestre/Finestre.h"
+#include "grafica/Testo.h"
 #include "model/Tavolozza.h"
-#include "platform/Finestre.h"
-#include "platform/Testo.h"
 #include "support/Controlli.h"
 #include "support/DocumentoDiProva.h"
 #include "support/Errori.h"

@@ -4,7 +4,7 @@
 #include "dialogs/FrmCornice.h"
 #include "dialogs/FrmImmagine.h"
 #include "dialogs/Mnemonici.h"
-#include "platform/DialogoScorrevole.h"
+#include "finestre/DialogoScorrevole.h"
 #include "support/Controlli.h"
 #include "support/DocumentoDiProva.h"
 #include "support/Robot.h"

@@ -1,7 +1,7 @@
 #include "Copione.h"
 
 #include "base/Ansi.h"
-#include "model/FileCopia.h"
+#include "documento/FileCopia.h"
 #include "model/FileModello.h"
 #include "support/FileDiProva.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "editor/Form2.h"
-#include "platform/Stampanti.h"
 #include "preview/Frm1.h"
 #include "print/StampaProva.h"
+#include "print/Stampanti.h"
 #include "support/ArchivioDiProva.h"
 #include "support/Finestre.h"
 #include "support/Robot.h"

@@ -1,7 +1,7 @@
 #include "Copione.h"
 #include "Modelli.h"
 
-#include "catalogue/Sfoglia.h"
+#include "finestre/Sfoglia.h"
 #include "support/FileDiProva.h"
 
 #include <QListView>

@@ -1,6 +1,6 @@
+#include "documento/CopiaRecupero.h"
 #include "editor/FrmLavoroRimasto.h"
 #include "editor/LavoroRimasto.h"
-#include "model/CopiaRecupero.h"
 #include "model/FileModello.h"
 #include "support/ArchivioDiProva.h"
 #include "support/FileDiProva.h"

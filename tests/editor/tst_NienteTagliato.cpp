@@ -1,6 +1,6 @@
 #include "EditoreDiProva.h"
 #include "catalogue/SelezioneArchivifrm.h"
-#include "catalogue/Sfoglia.h"
+#include "finestre/Sfoglia.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>

@@ -1,6 +1,6 @@
-#include "catalogue/Sfoglia.h"
 #include "editor/Form2.h"
 #include "editor/PaginaSfondo.h"
+#include "finestre/Sfoglia.h"
 #include "preview/Frm1.h"
 #include "support/ArchivioDiProva.h"
 #include "support/DocumentoDiProva.h"

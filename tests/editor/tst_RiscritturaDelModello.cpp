@@ -1,7 +1,7 @@
 #include "EditoreDiProva.h"
-#include "base/Disco.h"
-#include "model/CopiaRecupero.h"
+#include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
+#include "sistema/Disco.h"
 #include "support/FileDiProva.h"
 
 #include "support/DocumentoDiProva.h"

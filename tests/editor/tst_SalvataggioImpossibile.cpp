@@ -1,6 +1,6 @@
 #include "EditoreDiProva.h"
-#include "base/Disco.h"
 #include "model/FileModello.h"
+#include "sistema/Disco.h"
 #include "support/FileDiProva.h"
 
 #include "support/DocumentoDiProva.h"

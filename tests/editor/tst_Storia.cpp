@@ -1,5 +1,5 @@
 #include "StoriaDiProva.h"
-#include "model/CopiaRecupero.h"
+#include "documento/CopiaRecupero.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "fuzz/Pretende.h"
 
-#include "platform/IntestazioneImmagine.h"
-#include "platform/MarcatoriJpeg.h"
-#include "platform/SeparazioniJpeg.h"
+#include "grafica/IntestazioneImmagine.h"
+#include "grafica/MarcatoriJpeg.h"
+#include "grafica/SeparazioniJpeg.h"
 
 #include <QBuffer>
 

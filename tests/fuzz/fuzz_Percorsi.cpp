@@ -1,10 +1,10 @@
 #include "fuzz/Pretende.h"
 
 #include "base/ErroreSistema.h"
-#include "catalogue/ElencoModelli.h"
-#include "catalogue/PercorsoNellaCartella.h"
-#include "platform/Immagini.h"
-#include "platform/Percorsi.h"
+#include "grafica/Immagini.h"
+#include "sistema/ElencoModelli.h"
+#include "sistema/Percorsi.h"
+#include "sistema/PercorsoNellaCartella.h"
 
 #include <QDir>
 #include <QFile>

@@ -105,7 +105,7 @@ private slots:
     void LeFrecceVannoInGiu();
     void OgniInclusioneSegueUnaFreccia_data();
     void OgniInclusioneSegueUnaFreccia();
-    void IlSistemaSiNominaSoloInPlatform();
+    void IlSistemaSiNominaSoloInSistema();
     void UnaFrecciaVietataSiVede_data();
     void UnaFrecciaVietataSiVede();
 };
@@ -156,14 +156,14 @@ void tst_Stanze::OgniInclusioneSegueUnaFreccia()
     QVERIFY2(violazioni.isEmpty(), qPrintable(violazioni.join(u'\n')));
 }
 
-void tst_Stanze::IlSistemaSiNominaSoloInPlatform()
+void tst_Stanze::IlSistemaSiNominaSoloInSistema()
 {
     static const QRegularExpression condizione(
         QStringLiteral("^\\s*#\\s*(?:if|ifdef|ifndef|elif).*\\b(?:Q_OS_\\w+|_WIN32|__linux__|"
                        "__unix__|__APPLE__)"),
         QRegularExpression::MultilineOption);
     for (const QString &percorso : Sorgenti(QStringLiteral(CARTELLA_SORGENTI))) {
-        if (!percorso.contains(QLatin1String("/platform/"))) {
+        if (!percorso.contains(QLatin1String("/sistema/"))) {
             QVERIFY2(!condizione.match(Leggi(percorso)).hasMatch(), qPrintable(percorso));
         }
     }
@@ -174,10 +174,14 @@ void tst_Stanze::UnaFrecciaVietataSiVede_data()
     QTest::addColumn<QString>("stanza");
     QTest::addColumn<QString>("inclusa");
     QTest::addColumn<bool>("vietata");
-    QTest::newRow("model -> platform") << "model"
-                                       << "platform/Messaggi.h" << true;
-    QTest::newRow("platform -> model") << "platform"
-                                       << "model/Modello.h" << true;
+    QTest::newRow("model -> finestre") << "model"
+                                       << "finestre/Messaggi.h" << true;
+    QTest::newRow("sistema -> model") << "sistema"
+                                      << "model/Modello.h" << true;
+    QTest::newRow("editor -> catalogue") << "editor"
+                                         << "catalogue/SelezioneArchivifrm.h" << true;
+    QTest::newRow("print -> QWidget") << "print"
+                                      << "QWidget" << true;
     QTest::newRow("preview -> editor") << "preview"
                                        << "editor/Form2.h" << true;
     QTest::newRow("dialogs -> preview") << "dialogs"

@@ -1,6 +1,6 @@
-#include "base/Disco.h"
-#include "model/CopiaRecupero.h"
+#include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
+#include "sistema/Disco.h"
 
 #include "support/FileDiProva.h"
 #include "support/ModelloDiProva.h"

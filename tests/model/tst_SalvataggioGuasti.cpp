@@ -1,6 +1,6 @@
-#include "base/Disco.h"
 #include "model/FileModello.h"
-#include "platform/SuDisco.h"
+#include "sistema/Disco.h"
+#include "sistema/SuDisco.h"
 
 #include "support/FileDiProva.h"
 #include "support/ModelloDiProva.h"

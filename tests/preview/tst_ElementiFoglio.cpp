@@ -1,6 +1,6 @@
 #include "base/ErroreSistema.h"
+#include "grafica/Testo.h"
 #include "model/Tavolozza.h"
-#include "platform/Testo.h"
 #include "preview/Banco.h"
 #include "support/Errori.h"
 #include "support/ImmaginiDiProva.h"

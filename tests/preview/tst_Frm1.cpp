@@ -1,4 +1,4 @@
-#include "platform/Finestre.h"
+#include "finestre/Finestre.h"
 #include "preview/Banco.h"
 #include "preview/Righelli.h"
 #include "support/Controlli.h"

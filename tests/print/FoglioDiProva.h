@@ -1,9 +1,9 @@
 #pragma once
 
 #include "model/Modello.h"
-#include "platform/Stampanti.h"
 #include "print/Retino.h"
 #include "print/StampaProva.h"
+#include "print/Stampanti.h"
 #include "support/ImmaginiDiProva.h"
 #include "support/LettorePdf.h"
 

@@ -1,7 +1,7 @@
 #include "FoglioDiProva.h"
 
+#include "grafica/Testo.h"
 #include "model/Tavolozza.h"
-#include "platform/Testo.h"
 #include "print/Pagina.h"
 #include "support/Errori.h"
 #include "support/Tempi.h"

@@ -1,8 +1,8 @@
-#include "base/Disco.h"
 #include "base/ErroreSistema.h"
-#include "model/CopiaRecupero.h"
+#include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
-#include "platform/SuDisco.h"
+#include "sistema/Disco.h"
+#include "sistema/SuDisco.h"
 
 #include "support/ModelloDiProva.h"
 

@@ -1,0 +1,82 @@
+#include "finestre/Icone.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <functional>
+
+namespace {
+
+constexpr QColor Azzurro(0x1f, 0x6f, 0xb5);
+constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
+
+/// What disegna draws in a square of side 1, as large as asked and as fine as the screen. Drawn
+/// rather than set in a font, so that it looks the same on every machine.
+QPixmap Disegnata(int lato, const std::function<void(QPainter &)> &disegna)
+{
+    const double scala = qGuiApp->devicePixelRatio();
+    QPixmap icona(QSize(lato, lato) * scala);
+    icona.setDevicePixelRatio(scala);
+    icona.fill(Qt::transparent);
+    QPainter pittore(&icona);
+    pittore.setRenderHint(QPainter::Antialiasing);
+    pittore.scale(lato, lato);
+    disegna(pittore);
+    return icona;
+}
+
+QPen Tratto(const QColor &colore)
+{
+    return {colore, 0.1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+QPainterPath Gancio()
+{
+    QPainterPath gancio(QPointF(0.34, 0.40));
+    gancio.arcTo(QRectF(0.34, 0.22, 0.32, 0.32), 170, -215);
+    gancio.quadTo(QPointF(0.50, 0.56), QPointF(0.50, 0.64));
+    return gancio;
+}
+
+/// An arrow that turns back to the left, over what was done.
+QPainterPath FrecciaIndietro()
+{
+    QPainterPath freccia(QPointF(0.14, 0.42));
+    freccia.lineTo(0.62, 0.42);
+    freccia.arcTo(QRectF(0.44, 0.42, 0.40, 0.40), 90, -180);
+    freccia.lineTo(0.40, 0.82);
+    freccia.moveTo(0.34, 0.22);
+    freccia.lineTo(0.14, 0.42);
+    freccia.lineTo(0.34, 0.62);
+    return freccia;
+}
+
+} // namespace
+
+QPixmap IconaGuida(int lato)
+{
+    return Disegnata(lato, [](QPainter &pittore) {
+        pittore.setPen(Qt::NoPen);
+        pittore.setBrush(Azzurro);
+        pittore.drawEllipse(QRectF(0.04, 0.04, 0.92, 0.92));
+        pittore.strokePath(Gancio(), Tratto(Qt::white));
+        pittore.setBrush(Qt::white);
+        pittore.drawEllipse(QPointF(0.50, 0.77), 0.06, 0.06);
+    });
+}
+
+QPixmap IconaAnnulla(int lato)
+{
+    return Disegnata(
+        lato, [](QPainter &pittore) { pittore.strokePath(FrecciaIndietro(), Tratto(BluScuro)); });
+}
+
+QPixmap IconaRipristina(int lato)
+{
+    return Disegnata(lato, [](QPainter &pittore) {
+        pittore.translate(1, 0);
+        pittore.scale(-1, 1);
+        pittore.strokePath(FrecciaIndietro(), Tratto(BluScuro));
+    });
+}

@@ -1,0 +1,93 @@
+// The default printer where CUPS prints.
+
+#include "print/Stampanti.h"
+#include "sistema/SistemaDiStampa.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// The whole sheet is made in memory, where no temporary folder can be full, and then given to the
+/// print system in one conversation. Qt's own printer object would do the same by way of a file,
+/// but keeps to itself whether the job was taken, and waits minutes for a system that hangs.
+class CodaCups : public Destinazione
+{
+public:
+    CodaCups(const QString &coda, const QPageLayout &foglio, int puntiPerPollice,
+             SistemaDiStampa::Impostazioni impostazioni)
+        : coda_(coda)
+        , impostazioni_(std::move(impostazioni))
+        , scrittore_(&pdf_)
+    {
+        pdf_.open(QIODevice::WriteOnly);
+        scrittore_.setResolution(puntiPerPollice);
+        scrittore_.setPageLayout(foglio);
+    }
+    QPagedPaintDevice &Dispositivo() override { return scrittore_; }
+    void Titolo(const QString &titolo) override
+    {
+        titolo_ = titolo;
+        scrittore_.setTitle(titolo);
+    }
+    void Prepara() override { SistemaDiStampa::Prepara(coda_); }
+    ErroreSistema Rifiuto() const override { return ErroreSistema(ErroreSistema::Stampante); }
+    void Consegna() override
+    {
+        SistemaDiStampa::Consegna(coda_, titolo_, impostazioni_, pdf_.data());
+    }
+
+private:
+    QString coda_;
+    SistemaDiStampa::Impostazioni impostazioni_;
+    QString titolo_;
+    QBuffer pdf_;
+    QPdfWriter scrittore_;
+};
+
+/// The page of the printer object, but of the very size that the queue knows for it: a PDF that
+/// differs by a point is centred on the sheet, half a point off.
+QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDellaCoda &coda)
+{
+    constexpr double StessoFoglio = 1; // mm
+    QPageLayout foglio = stampante.pageLayout();
+    const QMarginsF margini = foglio.margins(QPageLayout::Point);
+    const QSizeF misura = foglio.pageSize().size(QPageSize::Millimeter);
+    const auto scarto = [&](const QSizeF &nota) {
+        return std::max(std::abs(nota.width() - misura.width()),
+                        std::abs(nota.height() - misura.height()));
+    };
+    const auto nota =
+        std::min_element(coda.Misure.begin(), coda.Misure.end(),
+                         [&](const QSizeF &a, const QSizeF &b) { return scarto(a) < scarto(b); });
+    if (nota != coda.Misure.end() && scarto(*nota) < StessoFoglio) {
+        foglio.setPageSize(
+            QPageSize(*nota, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+    }
+    if (!coda.Orizzontale) {
+        return {foglio.pageSize(), QPageLayout::Portrait, margini, QPageLayout::Point};
+    }
+    const QMarginsF girati =
+        coda.InSensoOrario
+            ? QMarginsF(margini.top(), margini.right(), margini.bottom(), margini.left())
+            : QMarginsF(margini.bottom(), margini.left(), margini.top(), margini.right());
+    return {foglio.pageSize(), QPageLayout::Landscape, girati, QPageLayout::Point};
+}
+
+} // namespace
+
+std::unique_ptr<Destinazione> Stampanti::Predefinita()
+{
+    // Before Qt asks, which cannot be given up once it has begun.
+    if (!SistemaDiStampa::Risponde()) {
+        throw SistemaDiStampa::NonRisponde();
+    }
+    const std::unique_ptr<QPrinter> stampante = NativaPredefinita();
+    const QString coda = stampante->printerName();
+    const SistemaDiStampa::FoglioDellaCoda foglio = SistemaDiStampa::ChiedeFoglio(coda);
+    return std::make_unique<CodaCups>(coda, FoglioDi(*stampante, foglio), stampante->resolution(),
+                                      foglio.DellUtente);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "print/Destinazione.h"
+
+#include <QPrinter>
+#include <QStringList>
+
+#include <memory>
+
+/// Printers and their fonts.
+namespace Stampanti {
+
+inline constexpr int FontAlMassimo = 2000;
+
+/// The printer's font families, without the system's generic names; with the well-known ones that
+/// the system sets with another of the same widths, so that models made elsewhere find their fonts.
+QStringList ElencoFont();
+
+/// The default printer's own page at its highest resolution, origin at the printable corner, no
+/// fitting. Throws ErroreSistema 482 when there is none or when the print system is silent, which a
+/// few seconds tell; the sheet's delivery, last of all, waits for its answer up to ten seconds.
+std::unique_ptr<Destinazione> Predefinita();
+
+/// Writes an A4 sheet without margins to a PDF file, pictures lossless. Asks no print system.
+std::unique_ptr<Destinazione> SuPdf(const QString &percorso);
+
+/// The system's default printer set to its own page and margins. Throws ErroreSistema 482 when
+/// there is none. It asks the print system, and waits for it as long as that takes.
+std::unique_ptr<QPrinter> NativaPredefinita();
+
+} // namespace Stampanti

@@ -1,0 +1,67 @@
+#include "sistema/Lucchetto.h"
+
+#include <QFileInfo>
+#include <QSysInfo>
+
+#include <filesystem>
+
+namespace {
+
+/// Whether something that no process ever locks takes the place of the lock file: a folder, a link
+/// that leads nowhere, a device. Qt would call it a lock that somebody holds, and reading a device
+/// may never end.
+bool PostoIngombro(const QString &file)
+{
+    namespace fs = std::filesystem;
+    const fs::path percorso = QFileInfo(file).filesystemFilePath();
+    std::error_code codice;
+    switch (fs::status(percorso, codice).type()) {
+    case fs::file_type::regular:
+        return false;
+    case fs::file_type::not_found:
+        return fs::symlink_status(percorso, codice).type() == fs::file_type::symlink;
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+Lucchetto::Lucchetto(const QString &file)
+    : file_(file)
+{
+    file_.setStaleLockTime(0);
+}
+
+Lucchetto::Esito Lucchetto::Prende()
+{
+    if (file_.isLocked()) {
+        return Esito::Preso;
+    }
+    if (PostoIngombro(file_.fileName())) {
+        return Esito::Impossibile;
+    }
+    if (file_.tryLock(0)) {
+        return Esito::Preso;
+    }
+    if (file_.error() != QLockFile::LockFailedError) {
+        return Esito::Impossibile;
+    }
+    qint64 processo = 0;
+    QString macchina;
+    QString programma;
+    if (file_.getLockInfo(&processo, &macchina, &programma) &&
+        macchina != QSysInfo::machineHostName()) {
+        return Esito::Occupato;
+    }
+    // Of a process that has died, where the disk has no room for Qt's own way to take its lock
+    // over; or of a machine that died while the lock was being written, and names no process. The
+    // removal itself fails while a living process holds the file.
+    if (!file_.removeStaleLockFile()) {
+        return Esito::Occupato;
+    }
+    if (file_.tryLock(0)) {
+        return Esito::Preso;
+    }
+    return file_.error() == QLockFile::LockFailedError ? Esito::Occupato : Esito::Impossibile;
+}
