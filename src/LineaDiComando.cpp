@@ -2,12 +2,13 @@
 
 #include "FileDiUscita.h"
 #include "base/ErroreSistema.h"
-#include "editor/Form2.h"
+#include "documento/StatoProgramma.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
 #include "model/FileModello.h"
 #include "model/Numeri.h"
 #include "preview/Frm1.h"
+#include "preview/SfondoDelModello.h"
 #include "print/StampaProva.h"
 #include "print/Stampanti.h"
 #include "sistema/Disco.h"
@@ -65,31 +66,38 @@ QString Contraddizione(const Richieste &richieste)
     return {};
 }
 
+void Avvisa(const QString &testo)
+{
+    Messaggi::Mostra(nullptr, testo);
+}
+
 QString CartellaDi(const QString &percorso)
 {
     return QFileInfo(percorso).absolutePath() + Percorsi::Separatore();
 }
 
-void StampaPdf(const Modello &modello, const QString &cartella, const Richieste &richieste)
+void StampaPdf(const StatoProgramma &stato, const Richieste &richieste)
 {
     FileDiUscita::Scrive(richieste.pdf, [&](const QString &appoggio) {
         const auto stampante = Stampanti::SuPdf(appoggio);
-        StampaModello(modello, cartella, *stampante, richieste.nomi,
-                      [](const QString &testo) { Messaggi::Mostra(nullptr, testo); });
+        StampaModello(stato.Aperto(), stato.CartellaModelli, *stampante, richieste.nomi, Avvisa);
         return Disco::Legge(appoggio, std::numeric_limits<qint64>::max());
     });
 }
 
 void SalvaAnteprima(StatoProgramma &stato, const Richieste &richieste)
 {
-    Form2 editor(stato);
-    if (!editor.Form_Load()) {
-        return;
+    Frm1 anteprima(stato);
+    try {
+        SfondoDelModello::Disegna(stato.Aperto().Sfondo, anteprima);
+    } catch (const ErroreSistema &errore) {
+        // Told, and the sheet is shown without it, as in the editor.
+        Avvisa(SfondoDelModello::NonCaricato(stato.Aperto().Sfondo, errore));
     }
-    auto *foglio = editor.Anteprima()->findChild<QWidget *>(QStringLiteral("P1"));
+    anteprima.MostraModello();
     FileDiUscita::Scrive(richieste.anteprima, [&](const QString &) {
         QBuffer byte;
-        if (!byte.open(QIODevice::WriteOnly) || !foglio->grab().save(&byte, "PNG")) {
+        if (!byte.open(QIODevice::WriteOnly) || !anteprima.Ritratto().save(&byte, "PNG")) {
             throw ErroreSistema(ErroreSistema::MemoriaEsaurita);
         }
         return byte.data();
@@ -147,15 +155,13 @@ int StampaSenzaFinestre(const Richieste &richieste)
         stato.NomeFile = QFileInfo(percorso).fileName();
         Modello modello;
         modello.NomeFile = stato.NomeFile;
-        if (!FileModello::LeggeModello(modello, percorso, [](const QString &testo) {
-                Messaggi::Mostra(nullptr, testo);
-            })) {
+        if (!FileModello::LeggeModello(modello, percorso, Avvisa)) {
             return;
         }
         FileDiUscita::Verifica(Uscite(richieste), percorso, modello);
+        stato.documento.Prende(std::move(modello), false);
         if (!richieste.pdf.isEmpty()) {
-            modello.ArrotondaTutti();
-            StampaPdf(modello, stato.CartellaModelli, richieste);
+            StampaPdf(stato, richieste);
         }
         if (!richieste.anteprima.isEmpty()) {
             SalvaAnteprima(stato, richieste);

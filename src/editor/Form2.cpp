@@ -1,9 +1,10 @@
 #include "editor/Form2.h"
 
 #include "dialogs/MemoriaCaselle.h"
-#include "documento/CopiaRecupero.h"
+#include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
 #include "editor/ComandiStoria.h"
+#include "editor/DomandeSulModello.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
 #include "editor/PaginaSfondo.h"
@@ -12,7 +13,7 @@
 #include "finestre/Guardia.h"
 #include "finestre/Icone.h"
 #include "preview/Frm1.h"
-#include "sistema/Percorsi.h"
+#include "sistema/CartellaStato.h"
 #include "ui_Form2.h"
 
 #include <QTime>
@@ -82,9 +83,10 @@ PaginaElementi &Form2::Pagina(Genere genere) const
 bool Form2::Form_Load()
 {
     stato_.zoom = 1;
-    copiaMancata_ = false;
-    percorso_ = Percorsi::Risolve(stato_.CartellaModelli + stato_.NomeFile);
-    if (!LeggeModello()) {
+    domande_ = std::make_unique<DomandeSulModello>(stato_, *this);
+    file_ = std::make_unique<ModelloSuFile>(stato_.documento, stato_.CartellaModelli,
+                                            stato_.NomeFile, CartellaStato(), *domande_);
+    if (!file_->Apre()) {
         return false;
     }
     anteprima_ = std::make_unique<Frm1>(stato_);
@@ -188,7 +190,6 @@ void Form2::Collegamenti()
                   &Form2::ComboImmagini_GotFocus);
     Collega(&Pagina(Genere::Cornice), &PaginaElementi::EliminaTutte, this, &Form2::Command7_Click);
     Collega(&stato_.documento, &Documento::Cambiato, this, &Form2::SegueDocumento);
-    Collega(&stato_.documento, &Documento::ModificaConclusa, this, &Form2::ModificaConclusa);
 }
 
 void Form2::CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica,

@@ -9,11 +9,12 @@
 #include <memory>
 
 class ComandiStoria;
-class CopiaRecupero;
+class DomandeSulModello;
 class FrmCampo;
 class FrmCarattere;
 class FrmElemento;
 class Frm1;
+class ModelloSuFile;
 class PaginaElementi;
 class PaginaRighe;
 class PaginaSfondo;
@@ -103,13 +104,6 @@ private:
     void ApreProprieta(Genere genere, int indice);
     void Modifica(Genere genere);
     void MostraDialogo(FrmElemento &dialogo, Chiave chiave);
-    bool LeggeModello();
-    enum class Recupero { Nessuno, Ripreso, Annullato };
-    /// modello becomes the work that is taken up. letto: it has been read to the end.
-    Recupero OffreRecupero(Modello &modello, bool letto);
-    bool PuoSovrascrivere();
-    void ScriveSulDisco();
-    void ModificaConclusa();
     void SistemaFinestre();
     /// On a screen too narrow for the window: its pages and its column of commands scroll.
     void FaScorrere();
@@ -133,10 +127,9 @@ private:
     PaginaSpostamento *spostamento_ = nullptr;
     PaginaSfondo *sfondo_ = nullptr;
     std::unique_ptr<ComandiStoria> storia_;
-    std::unique_ptr<CopiaRecupero> copia_;
-    bool copiaMancata_ = false; ///< its failure has been shown
-    QString percorso_;          ///< the model's file, spelled as on disk
-    bool chiude_ = false;       ///< the question about unsaved work is open
+    std::unique_ptr<DomandeSulModello> domande_;
+    std::unique_ptr<ModelloSuFile> file_;
+    bool chiude_ = false; ///< the question about unsaved work is open
     bool chiuso_ = false;
     QMargins cornice_; ///< the window manager's, as far as it is known
 };

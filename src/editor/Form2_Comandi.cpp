@@ -1,7 +1,6 @@
 // The commands of the editor's buttons for the whole model: save, delete, print.
 
-#include "base/ErroreSistema.h"
-#include "documento/CopiaRecupero.h"
+#include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
@@ -9,12 +8,10 @@
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
-#include "model/FileModello.h"
 #include "preview/Frm1.h"
 #include "print/Retino.h"
 #include "print/StampaProva.h"
 #include "print/Stampanti.h"
-#include "sistema/Percorsi.h"
 
 #include <QCoreApplication>
 
@@ -43,39 +40,10 @@ bool Form2::SalvareVariazioni()
     }
     bool salvato = false;
     Guardia(this, [&] {
-        try {
-            if (PuoSovrascrivere()) {
-                const PuntatoreOccupato occupato;
-                ScriveSulDisco();
-                stato_.documento.Salvato();
-                salvato = true;
-            }
-        } catch (const ErroreSistema &errore) {
-            throw ErroreSistema(errore.numero, QStringLiteral("%1\nsalvataggio del file %2")
-                                                   .arg(errore.descrizione, stato_.NomeFile));
-        }
+        const PuntatoreOccupato occupato;
+        salvato = file_->Salva();
     });
     return salvato;
-}
-
-void Form2::ScriveSulDisco()
-{
-    QByteArray byte;
-    try {
-        FileModello::ScriveModello(stato_.Aperto(), percorso_, &byte,
-                                   [&] { copia_->TieneIlLavoro(stato_.Aperto(), byte); });
-    } catch (const Disco::FileIncompleto &errore) {
-        copia_->Incompleto();
-        throw ErroreSistema(errore.numero,
-                            errore.descrizione +
-                                QStringLiteral(", il lavoro è nella copia di recupero"));
-    } catch (const ErroreSistema &) {
-        // The new bytes may stand all the same; they would be no other program's.
-        copia_->Tentati(byte);
-        throw;
-    }
-    copia_->EliminaOfferte();
-    copia_->Parte(byte);
 }
 
 void Form2::Elimina_Click()
@@ -85,11 +53,8 @@ void Form2::Elimina_Click()
                            Messaggi::Risposta::No)) {
         return;
     }
-    Percorsi::Elimina(percorso_);
-    copia_->EliminaOfferte();
+    file_->Elimina();
     Messaggi::Mostra(this, nome + QStringLiteral(" eliminato"));
-    // Nothing is left to save: asking would bring the deleted file back.
-    stato_.documento.Salvato();
     close();
 }
 

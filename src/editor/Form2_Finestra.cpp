@@ -1,6 +1,6 @@
 // The editor as a window: its place on the screen, and its closing.
 
-#include "documento/CopiaRecupero.h"
+#include "documento/ModelloSuFile.h"
 #include "editor/Form2.h"
 #include "finestre/DialogoScorrevole.h"
 #include "finestre/Finestre.h"
@@ -93,8 +93,8 @@ bool Form2::Form_Unload()
     }
     chiuso_ = true;
     stato_.documento.DimenticaStoria();
-    if (copia_) {
-        copia_->Chiude(); // saved, or given up in answer to the question
+    if (file_) {
+        file_->Chiude(); // saved, or given up in answer to the question
     }
     if (anteprima_) {
         anteprima_->hide();

@@ -10,18 +10,6 @@
 #include <QPixmap>
 #include <QScreen>
 
-namespace {
-
-/// The sheet as the preview shows it.
-QPixmap Ritratto(StatoProgramma &stato)
-{
-    Frm1 anteprima(stato);
-    anteprima.MostraModello();
-    return anteprima.findChild<QWidget *>(QStringLiteral("P1"))->grab();
-}
-
-} // namespace
-
 FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percorso, QWidget *padre)
     : QDialog(padre)
     , ui_(std::make_unique<Ui::FrmLavoroRimasto>())
@@ -31,7 +19,9 @@ FrmLavoroRimasto::FrmLavoroRimasto(const Modello &modello, const QString &percor
     StatoProgramma stato;
     stato.documento.Prende(modello, false);
     stato.CartellaModelli = QFileInfo(percorso).path() + Percorsi::Separatore();
-    const QPixmap ritratto = Ritratto(stato);
+    Frm1 anteprima(stato);
+    anteprima.MostraModello();
+    const QPixmap ritratto = anteprima.Ritratto();
     ui_->Foglio->setPixmap(ritratto);
     // Room for the scroll bars and the button.
     constexpr int Intorno = 80;

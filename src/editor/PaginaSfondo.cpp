@@ -13,16 +13,14 @@
 #include "grafica/Immagini.h"
 #include "model/Numeri.h"
 #include "preview/Frm1.h"
-#include "sistema/Percorsi.h"
+#include "preview/SfondoDelModello.h"
 #include "ui_PaginaSfondo.h"
 
 #include <QLabel>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
-#include <array>
 #include <optional>
-#include <utility>
 
 namespace {
 
@@ -136,62 +134,37 @@ void PaginaSfondo::Mostra()
 
 void PaginaSfondo::ImpostaImmagineSfondo(bool chiedeDimensione)
 {
-    if (chiedeDimensione) {
-        anteprima_.DimenticaSfondo(); // the picture is to be loaded again
-    } else {
-        anteprima_.PulisceSfondo();
-    }
-    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
-    if (sfondo.Visualizza == 0 || sfondo.File.isEmpty()) {
-        return;
-    }
     try {
         if (chiedeDimensione) {
-            ChiedeDimensione();
+            anteprima_.DimenticaSfondo(); // the picture is to be loaded again
+            if (SfondoDelModello::Visibile(stato_.Aperto().Sfondo)) {
+                ChiedeDimensione();
+            }
         }
-        if (const std::optional<QRectF> posto = Posto()) {
-            const PuntatoreOccupato occupato;
-            anteprima_.DipingeSfondo(FileSfondo(), *posto);
+        SfondoDelModello::Disegna(stato_.Aperto().Sfondo, anteprima_);
+        if (SfondoDelModello::Visibile(stato_.Aperto().Sfondo)) {
             guastoMostrato_.clear();
         }
+    } catch (const SfondoDelModello::NumeroNonLetto &errore) {
+        SegnalaNumero(CasellaDi(errore.Membro), stato_.Aperto().Sfondo.*errore.Membro);
     } catch (const ErroreSistema &errore) {
-        anteprima_.PulisceSfondo();
-        SegnalaGuasto(sfondo.File,
-                      QStringLiteral("impossibile caricare l'immagine di sfondo %1\n%2")
-                          .arg(sfondo.File, errore.Messaggio()));
+        const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
+        SegnalaGuasto(sfondo.File, SfondoDelModello::NonCaricato(sfondo, errore));
     }
 }
 
-std::optional<double> PaginaSfondo::Letto(const QLineEdit *casella, const QString &testo)
+const QLineEdit *PaginaSfondo::CasellaDi(QString ImmagineSfondo::*membro) const
 {
-    try {
-        return Numeri::Val(testo);
-    } catch (const ErroreSistema &) {
-        const QString messaggio = NumeroTroppoGrande(casella->accessibleName(), testo);
-        SegnalaGuasto(messaggio, messaggio);
-        return std::nullopt;
-    }
+    return membro == &ImmagineSfondo::XPos        ? ui_->SfondoXPosImm
+           : membro == &ImmagineSfondo::YPos      ? ui_->SfondoYPosImm
+           : membro == &ImmagineSfondo::Ximmagine ? ui_->SfondoXimmagine
+                                                  : ui_->SfondoYImmagine;
 }
 
-std::optional<QRectF> PaginaSfondo::Posto()
+void PaginaSfondo::SegnalaNumero(const QLineEdit *casella, const QString &testo)
 {
-    // Read from the model, where any text may stand: what a box cannot show counts too.
-    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
-    const std::array<std::pair<const QLineEdit *, QString>, 4> numeri{{
-        {ui_->SfondoXPosImm, sfondo.XPos},
-        {ui_->SfondoYPosImm, sfondo.YPos},
-        {ui_->SfondoXimmagine, sfondo.Ximmagine},
-        {ui_->SfondoYImmagine, sfondo.Yimmagine},
-    }};
-    std::array<double, numeri.size()> letti{};
-    for (std::size_t i = 0; i < numeri.size(); ++i) {
-        const std::optional<double> letto = Letto(numeri[i].first, numeri[i].second);
-        if (!letto) {
-            return std::nullopt;
-        }
-        letti[i] = *letto;
-    }
-    return QRectF(letti[0], letti[1], letti[2], letti[3]);
+    const QString messaggio = NumeroTroppoGrande(casella->accessibleName(), testo);
+    SegnalaGuasto(messaggio, messaggio);
 }
 
 void PaginaSfondo::SegnalaGuasto(const QString &guasto, const QString &messaggio)
@@ -203,16 +176,11 @@ void PaginaSfondo::SegnalaGuasto(const QString &guasto, const QString &messaggio
     }
 }
 
-QString PaginaSfondo::FileSfondo() const
-{
-    const QString &file = stato_.Aperto().Sfondo.File;
-    return Percorsi::EstraeNomeFile(file) == file ? file : Percorsi::Risolve(file);
-}
-
 void PaginaSfondo::ChiedeDimensione()
 {
     const QString file = stato_.Aperto().Sfondo.File;
-    const QSizeF naturali = Immagini::DimensioniNaturali(FileSfondo());
+    const QSizeF naturali =
+        Immagini::DimensioniNaturali(SfondoDelModello::File(stato_.Aperto().Sfondo));
     const std::optional<QString> risposta = Messaggi::ChiedeTesto(
         window(), QStringLiteral("caricamento immagine ") + file,
         QStringLiteral("Impostare la % di riduzione delle dimensioni dell'immagine"),
@@ -290,15 +258,18 @@ void PaginaSfondo::SfondoSpostaGiu_Click()
 
 void PaginaSfondo::Sposta(QLineEdit *casella, double passo)
 {
-    const std::optional<double> posto = Letto(casella, casella->text());
-    if (!posto) {
+    double posto = 0;
+    try {
+        posto = Numeri::Val(casella->text());
+    } catch (const ErroreSistema &) {
+        SegnalaNumero(casella, casella->text());
         return;
     }
     Passo spostamento(
         stato_.documento, QStringLiteral("sposta l'immagine di sfondo"),
         {QStringLiteral("%1 %2").arg(casella->objectName()).arg(passo), MillisecondiDiSeguito});
     spostamento.SegnaVariato();
-    MostraDallInizio(casella, TestoNumero(*posto + passo));
+    MostraDallInizio(casella, TestoNumero(posto + passo));
     ImpostaImmagineSfondo(false);
 }
 

@@ -3,11 +3,9 @@
 #include "documento/StatoProgramma.h"
 
 #include <QLineEdit>
-#include <QRectF>
 #include <QWidget>
 
 #include <memory>
-#include <optional>
 
 class Frm1;
 
@@ -55,14 +53,10 @@ private:
     void SegueDocumento(const Cambiamento &cambiamento);
     void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
     void RidisegnaSeScritta(const QLineEdit *casella);
-    /// Where the scan is, in the spelling found on disk; a name alone is taken as typed.
-    QString FileSfondo() const;
     void ChiedeDimensione();
-    /// The place of the scan in mm; nothing when a box holds a number beyond a double, see Letto.
-    std::optional<QRectF> Posto();
-    /// Lenient reading of what stands in the box; a number beyond a double gives nothing, and a
-    /// message that names the box.
-    std::optional<double> Letto(const QLineEdit *casella, const QString &testo);
+    const QLineEdit *CasellaDi(QString ImmagineSfondo::*membro) const;
+    /// The box holds a number beyond a double; the message names it.
+    void SegnalaNumero(const QLineEdit *casella, const QString &testo);
     /// Shows the message unless guasto is what the user has been told last.
     void SegnalaGuasto(const QString &guasto, const QString &messaggio);
     void Sposta(QLineEdit *casella, double passo);

@@ -329,6 +329,11 @@ void Frm1::AggiornaElemento(Chiave chiave)
     Posiziona(chiave.genere, chiave.indice);
 }
 
+QPixmap Frm1::Ritratto()
+{
+    return parti_->P1->grab();
+}
+
 void Frm1::PortaInVista(Chiave chiave)
 {
     const QRectF posto = elementi_->Elemento(chiave.genere, chiave.indice).Posto();

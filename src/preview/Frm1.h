@@ -3,6 +3,7 @@
 #include "model/Modello.h"
 
 #include <QList>
+#include <QPixmap>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
@@ -57,6 +58,8 @@ public:
     /// Builds the sheet: a control for every element, stacked by area, no handle in sight. From
     /// then on it follows the document by itself.
     void MostraModello();
+    /// The sheet as it shows.
+    QPixmap Ritratto();
     /// Scrolls until the element's corner can be seen.
     void PortaInVista(Chiave chiave);
 
