@@ -19,6 +19,9 @@ public:
     /// True when the box holds a number of at most 400; otherwise puts "0" into it.
     static bool Numero(QLineEdit *casella);
 
+    /// What undo says of a change made in a dialog.
+    static QString TestoModifica(const QString &nome);
+
 signals:
     /// Element n has been confirmed or deleted: the editor's list goes to it.
     void VoceScelta(Genere genere, int n);
@@ -118,7 +121,6 @@ protected:
 
 private:
     static Rifiuto TroppoGrande(QWidget *controllo, const QString &testo);
-    static QString TestoModifica(const QString &nome);
     void Conclude(int n);
     void Rifiuta(const Rifiuto &rifiuto);
 

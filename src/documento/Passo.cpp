@@ -97,27 +97,13 @@ void Passo::ImpostaRighe(const ParametriRighe &righe)
     }
 }
 
-int Passo::AggiungeCampo(double x, double y)
+Chiave Passo::Aggiunge(Genere genere, QPointF posto, QTime ora)
 {
-    return Accoglie(Genere::Campo, Aperto().AggiungeCampo(x, y));
-}
-
-int Passo::AggiungeCornice(double x, double y, QTime ora)
-{
-    return Accoglie(Genere::Cornice, Aperto().AggiungeCornice(x, y, ora.minute(), ora.second()));
-}
-
-int Passo::AggiungeImmagine(double x, double y)
-{
-    return Accoglie(Genere::Immagine, Aperto().AggiungeImmagine(x, y));
-}
-
-int Passo::Accoglie(Genere genere, int n)
-{
-    const Chiave chiave{genere, n};
+    const Chiave chiave{
+        genere, Aperto().Aggiunge(genere, posto.x(), posto.y(), ora.minute(), ora.second())};
     RinominaVoce(chiave);
     Colloca(chiave);
-    return n;
+    return chiave;
 }
 
 template <typename Record>

@@ -48,11 +48,9 @@ public:
     /// Stores the row area and sends the row fields to its beginning.
     void ImpostaRighe(const ParametriRighe &righe);
 
-    /// Adds an element with the values of a new one at (x, y) mm and returns its number; raises the
-    /// count before it fails beyond 100.
-    int AggiungeCampo(double x, double y);
-    int AggiungeCornice(double x, double y, QTime ora);
-    int AggiungeImmagine(double x, double y);
+    /// Adds an element with the values of a new one at a place in mm; raises the count before it
+    /// fails beyond 100. A frame bears the minute and second of ora in its name.
+    Chiave Aggiunge(Genere genere, QPointF posto, QTime ora);
 
     /// Replaces the record of an element and places it.
     void Scrive(int n, const Campo &campo);
@@ -75,7 +73,6 @@ public:
 private:
     template <typename Record>
     void ScriveRecord(Chiave chiave, Record &vecchio, const Record &nuovo);
-    int Accoglie(Genere genere, int n);
     void Tocca(Chiave chiave);
     StatoDocumento &Stato() { return documento_.stato_; }
     Modello &Aperto() { return documento_.stato_.modello; }

@@ -20,26 +20,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// Order of the pages of SSTab1; the preview asks for the pages of the three kinds.
-enum Pagine { PaginaCampi, PaginaPosizioneRighe, PaginaCornici, PaginaImmagini };
-
-int PaginaDi(Genere genere)
-{
-    switch (genere) {
-    case Genere::Campo:
-        return PaginaCampi;
-    case Genere::Cornice:
-        return PaginaCornici;
-    case Genere::Immagine:
-        break;
-    }
-    return PaginaImmagini;
-}
-
-} // namespace
-
 Form2::Form2(StatoProgramma &stato, QWidget *padre)
     : QWidget(padre)
     , ui_(std::make_unique<Ui::Form2>())
@@ -62,7 +42,7 @@ Form2::~Form2()
 void Form2::CreaPagine()
 {
     for (const Genere genere : Generi) {
-        pagineElementi_[static_cast<std::size_t>(genere)] = new PaginaElementi(genere, this);
+        pagineElementi_.at(Posto(genere)) = new PaginaElementi(genere, this);
     }
     righe_ = new PaginaRighe(stato_, *anteprima_, this);
     spostamento_ = new PaginaSpostamento(stato_, *anteprima_, this);
@@ -77,7 +57,7 @@ void Form2::CreaPagine()
 
 PaginaElementi &Form2::Pagina(Genere genere) const
 {
-    return *pagineElementi_[static_cast<std::size_t>(genere)];
+    return *pagineElementi_.at(Posto(genere));
 }
 
 bool Form2::Form_Load()
@@ -211,7 +191,7 @@ void Form2::CollegaAnteprima()
     Collega(anteprima, &Frm1::RichiestaProprieta, this, &Form2::ApreProprieta);
     Collega(anteprima, &Frm1::SfondoDaRidisegnare, this,
             [this] { sfondo_->ImpostaImmagineSfondo(false); });
-    Collega(anteprima, &Frm1::RigheDaRidisegnare, this, &Form2::RidisegnaRighe);
+    Collega(anteprima, &Frm1::RigheDaRidisegnare, righe_, &PaginaRighe::SimuloRighe);
     // An editor without its preview is of no use: closing the preview closes the editor, with its
     // question about unsaved work. Queued, because the preview is in the middle of its own event.
     connect(
@@ -234,50 +214,35 @@ void Form2::PPPP()
 
 void Form2::Aggiungicampo_Click()
 {
-    // Adding and the dialog that it opens are one step.
-    const Passo visita(stato_.documento, QStringLiteral("aggiunge campo"));
-    int n = 0;
-    {
-        Passo passo(stato_.documento, {});
-        n = passo.AggiungeCampo(anteprima_->ScorrimentoX() + 10, anteprima_->ScorrimentoY() + 10);
-    }
-    SceglieNuovo({Genere::Campo, n});
-    // A new field stays in front of all others, where it was created, however large its text.
-    VariazioneCampo_Click();
+    Aggiunge(Genere::Campo);
 }
 
 void Form2::AggiungiCornice_Click()
 {
-    const Passo visita(stato_.documento, QStringLiteral("aggiunge cornice"));
-    int n = 0;
-    {
-        Passo passo(stato_.documento, {});
-        n = passo.AggiungeCornice(anteprima_->ScorrimentoX() + 10, anteprima_->ScorrimentoY() + 10,
-                                  QTime::currentTime());
-    }
-    SceglieNuovo({Genere::Cornice, n});
-    anteprima_->PrimoPianoCornici();
-    VariazioneCornice_Click();
+    Aggiunge(Genere::Cornice);
 }
 
 void Form2::AggiungiImmagine_Click()
 {
-    const Passo visita(stato_.documento, QStringLiteral("aggiunge immagine"));
-    int n = 0;
-    {
-        Passo passo(stato_.documento, {});
-        n = passo.AggiungeImmagine(anteprima_->ScorrimentoX() + 10,
-                                   anteprima_->ScorrimentoY() + 10);
-    }
-    SceglieNuovo({Genere::Immagine, n});
-    anteprima_->PrimoPianoImmagini();
-    VariazioneImmagine_Click();
+    Aggiunge(Genere::Immagine);
 }
 
-void Form2::SceglieNuovo(Chiave chiave)
+void Form2::Aggiunge(Genere genere)
 {
-    anteprima_->Seleziona(chiave.genere, chiave.indice);
-    Pagina(chiave.genere).Seleziona(chiave.indice);
+    constexpr int Rientro = 10; // mm, from the visible corner of the sheet
+    // Adding and the dialog that it opens are one step.
+    Passo visita(stato_.documento, QStringLiteral("aggiunge ") + QString(NomeDi(genere)).toLower());
+    const Chiave chiave = visita.Aggiunge(
+        genere, QPointF(anteprima_->ScorrimentoX() + Rientro, anteprima_->ScorrimentoY() + Rientro),
+        QTime::currentTime());
+    visita.Mostra(Cambiamento::Origine::Comando);
+    anteprima_->Seleziona(genere, chiave.indice);
+    Pagina(genere).Seleziona(chiave.indice);
+    // A new field stays in front of all others, where it was created, however large its text.
+    if (genere != Genere::Campo) {
+        anteprima_->PrimoPiano(genere);
+    }
+    Modifica(genere);
 }
 
 void Form2::VariazioneCampo_Click()
@@ -335,18 +300,12 @@ void Form2::Modifica(Genere genere)
 
 void Form2::MostraPaginaDi(Genere genere)
 {
-    if (ui_->SSTab1->currentIndex() == PaginaDi(genere)) {
+    if (ui_->SSTab1->currentWidget() == &Pagina(genere)) {
         return;
     }
-    ui_->SSTab1->setCurrentIndex(PaginaDi(genere));
+    ui_->SSTab1->setCurrentWidget(&Pagina(genere));
     // Changing the page hides the markers; the element that the user has in hand keeps its own.
     if (const int indice = Pagina(genere).Indice(); indice > 0) {
         anteprima_->Seleziona(genere, indice);
     }
-}
-
-void Form2::RidisegnaRighe()
-{
-    righe_->SimuloRighe();
-    anteprima_->RiancoraManiglie();
 }

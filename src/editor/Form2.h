@@ -100,7 +100,7 @@ private:
     void SegueDocumento(const Cambiamento &cambiamento);
     /// Undo and redo show what they have changed.
     void MostraRitrovati(const Cambiamento &cambiamento);
-    void SceglieNuovo(Chiave chiave);
+    void Aggiunge(Genere genere);
     void ApreProprieta(Genere genere, int indice);
     void Modifica(Genere genere);
     void MostraDialogo(FrmElemento &dialogo, Chiave chiave);
@@ -111,9 +111,6 @@ private:
     void AdattaAllaCornice();
     void GuardaCornice();
     void MostraPaginaDi(Genere genere);
-    /// After a command that moved elements: the simulation follows, and each handle stands on its
-    /// own element again.
-    void RidisegnaRighe();
     bool Form_Unload();
     /// Asks about unsaved work, then closes. The question stands before close(), because while a
     /// close of the program's own is under way the window manager's would go through unasked.

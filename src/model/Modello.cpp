@@ -146,6 +146,19 @@ int Modello::AggiungeImmagine(double x, double y)
     return n;
 }
 
+int Modello::Aggiunge(Genere genere, double x, double y, int minuto, int secondo)
+{
+    switch (genere) {
+    case Genere::Campo:
+        return AggiungeCampo(x, y);
+    case Genere::Cornice:
+        return AggiungeCornice(x, y, minuto, secondo);
+    case Genere::Immagine:
+        break;
+    }
+    return AggiungeImmagine(x, y);
+}
+
 bool Modello::Arrotonda(Genere genere, int indice)
 {
     switch (genere) {

@@ -119,6 +119,14 @@ constexpr std::size_t Posto(Genere genere)
     return static_cast<std::size_t>(genere);
 }
 
+/// The word for a kind, with a capital.
+constexpr QLatin1String NomeDi(Genere genere)
+{
+    constexpr std::array<QLatin1String, Generi.size()> Nomi{
+        QLatin1String("Campo"), QLatin1String("Cornice"), QLatin1String("Immagine")};
+    return Nomi.at(Posto(genere));
+}
+
 /// Which element: its kind and its slot, 1 to 100.
 struct Chiave
 {
@@ -176,6 +184,7 @@ struct Modello
     int AggiungeCampo(double x, double y);
     int AggiungeCornice(double x, double y, int minuto, int secondo);
     int AggiungeImmagine(double x, double y);
+    int Aggiunge(Genere genere, double x, double y, int minuto, int secondo);
 
     /// Gives the element the place at which it is shown and printed: fields and frames stand at
     /// whole millimetres (frames' sizes too), a row field at yInizio, images where they are. True

@@ -33,8 +33,7 @@ QRectF Entro(const QRectF &rettangolo)
 
 QString NomeControllo(Genere genere, int indice)
 {
-    static constexpr const char16_t *Nomi[] = {u"C1(%1)", u"C2(%1)", u"C3(%1)"};
-    return QString::fromUtf16(Nomi[static_cast<int>(genere)]).arg(indice);
+    return QStringLiteral("C%1(%2)").arg(Posto(genere) + 1).arg(indice);
 }
 
 } // namespace

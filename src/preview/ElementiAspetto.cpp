@@ -104,13 +104,13 @@ QRectF ElementiFoglio::PostoDa(Genere genere, int i) const
 
 void ElementiFoglio::ScriveSuggerimentoManiglia(Genere genere, int i)
 {
-    static constexpr const char16_t *Sposta[] = {u"sposta campo ", u"sposta Cornice ",
-                                                 u"sposta Immagine "};
+    static constexpr std::array<QLatin1String, Generi.size()> Sposta{
+        QLatin1String("sposta campo "), QLatin1String("sposta Cornice "),
+        QLatin1String("sposta Immagine ")};
     // A field writes its hint onto the frames' handle: the fields' own never has one.
     Maniglia &conSuggerimento =
         ManigliaDi(genere == Genere::Immagine ? Genere::Immagine : Genere::Cornice);
-    conSuggerimento.ImpostaSuggerimento(QString::fromUtf16(Sposta[static_cast<int>(genere)]) +
-                                        stato_.Aperto().Nome(genere, i));
+    conSuggerimento.ImpostaSuggerimento(Sposta.at(Posto(genere)) + stato_.Aperto().Nome(genere, i));
 }
 
 void ElementiFoglio::Posiziona(Genere genere, int i)

@@ -36,14 +36,16 @@ ElementiFoglio::ElementiFoglio(StatoProgramma &stato, const GeometriaAnteprima &
     maniglie_ = {new Maniglia(QStringLiteral("S1"), QColor(0x1f5fbf)),
                  new Maniglia(QStringLiteral("S2"), QColor(0x2e8b57)),
                  new Maniglia(QStringLiteral("S3"), QColor(0xc05a12))};
-    for (Maniglia *maniglia : maniglie_) {
-        maniglia->setZValue(PianoManiglie);
-        scena_.addItem(maniglia);
+    for (const Genere genere : Generi) {
+        ManigliaDi(genere).setZValue(PianoManiglie);
+        scena_.addItem(&ManigliaDi(genere));
+        stato_.selezione.Lascia(genere); // a new sheet shows no handle
     }
     for (LineaGuida *linea : {LineXX_, LineYY_}) {
         linea->setZValue(PianoGuide);
         scena_.addItem(linea);
     }
+    connect(&stato_.selezione, &Selezione::Cambiata, this, &ElementiFoglio::SegueSelezione);
 }
 
 ControlloElemento &ElementiFoglio::Elemento(Genere genere, int i) const
@@ -67,8 +69,7 @@ Maniglia &ElementiFoglio::ManigliaDi(Genere genere) const
 
 int ElementiFoglio::Selezionato(Genere genere) const
 {
-    const Maniglia &maniglia = ManigliaDi(genere);
-    return maniglia.isVisible() ? maniglia.Tag.toInt() : 0;
+    return stato_.selezione.Attivo(genere);
 }
 
 bool ElementiFoglio::InVista(Genere genere, int i) const
@@ -104,7 +105,18 @@ void ElementiFoglio::Nasconde(Genere genere, int i)
 
 void ElementiFoglio::NascondeManiglia(Genere genere)
 {
-    ManigliaDi(genere).setVisible(false);
+    stato_.selezione.Lascia(genere);
+}
+
+void ElementiFoglio::SegueSelezione(Genere genere)
+{
+    const int i = stato_.selezione.Attivo(genere);
+    Maniglia &maniglia = ManigliaDi(genere);
+    maniglia.setVisible(i != 0);
+    if (i != 0) {
+        maniglia.ImpostaPuntatore(Qt::SizeAllCursor);
+        maniglia.Tag = QString::number(i);
+    }
 }
 
 void ElementiFoglio::MandaDavanti(Controllo &controllo)
@@ -156,10 +168,9 @@ void ElementiFoglio::PrimoPiano(Genere genere)
 
 void ElementiFoglio::CampineriTranne(int i)
 {
-    Maniglia &S1 = ManigliaDi(Genere::Campo);
-    if (i == 0 || Selezionato(Genere::Campo) != i) {
-        S1.setVisible(false);
-        S1.ImpostaPuntatore(Qt::ArrowCursor);
+    if (i == 0 || stato_.selezione.Attivo(Genere::Campo) != i) {
+        stato_.selezione.Lascia(Genere::Campo);
+        ManigliaDi(Genere::Campo).ImpostaPuntatore(Qt::ArrowCursor);
     }
     if (campoAcceso_ != 0 && campoAcceso_ != i) {
         Etichetta &campo = EtichettaDi(Genere::Campo, campoAcceso_);
@@ -180,11 +191,8 @@ void ElementiFoglio::Accende(int i)
 
 void ElementiFoglio::Seleziona(Genere genere, int i)
 {
-    Elemento(genere, i);
-    Maniglia &maniglia = ManigliaDi(genere);
-    maniglia.setVisible(true);
-    maniglia.ImpostaPuntatore(Qt::SizeAllCursor);
-    maniglia.Tag = QString::number(i);
+    Elemento(genere, i); // only one that has a control
+    stato_.selezione.Sceglie({genere, i});
     Posiziona(genere, i);
 }
 
@@ -203,7 +211,7 @@ void ElementiFoglio::AncoraManiglia(Genere genere, int i)
 void ElementiFoglio::RiancoraManiglie()
 {
     for (const Genere genere : Generi) {
-        if (const int i = Selezionato(genere); i != 0) {
+        if (const int i = stato_.selezione.Attivo(genere); i != 0) {
             AncoraManiglia(genere, i);
         }
     }
@@ -212,7 +220,7 @@ void ElementiFoglio::RiancoraManiglie()
 void ElementiFoglio::RinominaManiglie()
 {
     for (const Genere genere : Generi) {
-        if (const int i = Selezionato(genere); i != 0) {
+        if (const int i = stato_.selezione.Attivo(genere); i != 0) {
             ScriveSuggerimentoManiglia(genere, i);
         }
     }

@@ -48,7 +48,6 @@ public:
 
     ControlloElemento &Elemento(Genere genere, int i) const;
     Maniglia &ManigliaDi(Genere genere) const;
-    /// Number of the element whose handle is visible; 0 when none.
     int Selezionato(Genere genere) const;
     /// Puts the handle on the corner of the element's control.
     void AncoraManiglia(Genere genere, int i);
@@ -81,6 +80,8 @@ private:
     void CaricaImmagine(int i);
     QRectF PostoDa(Genere genere, int i) const;
     double Area(Genere genere, int i) const;
+    /// The handle of the kind shows, ready to move, while an element is active.
+    void SegueSelezione(Genere genere);
     void ScriveSuggerimentoManiglia(Genere genere, int i);
     void MandaDavanti(Controllo &controllo);
     Etichetta &EtichettaDi(Genere genere, int i) const;

@@ -220,9 +220,7 @@ void Frm1::MostraPuntatore(QPointF punto)
 void Frm1::MostraElemento(Genere genere, int i)
 {
     const Modello &modello = stato_.Aperto();
-    static constexpr const char16_t *Nomi[] = {u"Campo ", u"Cornice ", u"Immagine "};
-    QString testo = QString::fromUtf16(Nomi[static_cast<int>(genere)]) +
-                    modello.Nome(genere, i).left(NomeLeggibile);
+    QString testo = NomeDi(genere) + u' ' + modello.Nome(genere, i).left(NomeLeggibile);
     const auto aggiunge = [&testo](const QString &etichetta, double millimetri) {
         testo += QStringLiteral("   ") + etichetta + u' ' + Decimi(millimetri);
     };

@@ -110,7 +110,7 @@ void tst_Documento::UnElementoAggiuntoSeNeVa()
     int n = 0;
     {
         Passo passo(banco.documento, QStringLiteral("aggiunge"));
-        n = passo.AggiungeCampo(12.4, 20);
+        n = passo.Aggiunge(Genere::Campo, {12.4, 20}, {}).indice;
     }
     QCOMPARE(n, 4);
     QCOMPARE(banco.Aperto().Campi[n].X, 12.0);
@@ -251,7 +251,7 @@ void tst_Documento::IlCentunesimoElementoFallisceConIlContatoreAlzato()
     Banco banco(100);
     try {
         Passo passo(banco.documento, QStringLiteral("aggiunge"));
-        passo.AggiungeCampo(10, 10);
+        passo.Aggiunge(Genere::Campo, {10, 10}, {});
         QFAIL("the table has no slot 101");
     } catch (const ErroreSistema &errore) {
         QCOMPARE(errore.numero, ErroreSistema::Indice);

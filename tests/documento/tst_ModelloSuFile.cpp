@@ -1,0 +1,288 @@
+#include "documento/Documento.h"
+#include "documento/ModelloSuFile.h"
+#include "documento/Passo.h"
+#include "model/FileModello.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+/// Answers as it is told to, and keeps what it was asked.
+class Risponditore final : public ModelloSuFile::Interlocutore
+{
+public:
+    void Avvisa(const QString &testo) override { Avvisi.append(testo); }
+    Risposta RiprendeLavoro(const CopiaRecupero::Trovata &lavoro) override
+    {
+        Offerti.append(lavoro.modello.Tipo);
+        return Riprende;
+    }
+    bool SostituisceFileCambiato() override
+    {
+        ++ChiestoDiSostituire;
+        return Sostituisce;
+    }
+
+    Risposta Riprende = Risposta::No;
+    bool Sostituisce = false;
+    QStringList Avvisi;
+    QStringList Offerti;
+    int ChiestoDiSostituire = 0;
+};
+
+/// A folder of models with one in it, and a folder for the safety copies.
+struct Banco
+{
+    Banco()
+    {
+        Modello modello;
+        modello.Tipo = QStringLiteral("fattura");
+        FileModello::Salva(modello, Percorso());
+    }
+
+    QString Cartella() const { return Archivio.path() + u'/'; }
+    QString Percorso() const { return Cartella() + QStringLiteral("Prova.Mod"); }
+    QString TipoSuDisco() const
+    {
+        Modello modello;
+        FileModello::Carica(modello, Percorso());
+        return modello.Tipo;
+    }
+    QString CartellaCopie() const { return Archivio.filePath(QStringLiteral("copie")); }
+    qsizetype Copie() const
+    {
+        return QDir(CartellaCopie()).entryList({QStringLiteral("*.recupero")}, QDir::Files).size();
+    }
+
+    QTemporaryDir Archivio;
+};
+
+/// One opening of that model.
+struct Apertura
+{
+    explicit Apertura(const Banco &banco, const QString &nome = QStringLiteral("Prova.Mod"))
+        : File(documento, banco.Cartella(), nome, banco.CartellaCopie(), Utente)
+    {
+    }
+
+    void ScriveTipo(const QString &tipo)
+    {
+        Passo passo(documento, QStringLiteral("tipo"));
+        passo.ImpostaTipo(tipo);
+    }
+
+    Documento documento;
+    Risponditore Utente;
+    ModelloSuFile File;
+};
+
+/// What a program that dies leaves: a model modified and not saved.
+void LasciaLavoro(const Banco &banco, const QString &tipo)
+{
+    Apertura morta(banco);
+    QVERIFY(morta.File.Apre());
+    morta.ScriveTipo(tipo);
+    QCOMPARE(banco.Copie(), 1);
+}
+
+} // namespace
+
+/// The file of the open model, without any window.
+class tst_ModelloSuFile : public QObject
+{
+    Q_OBJECT
+private slots:
+    void ApreESalva();
+    void IlNomeNonGuardaLeMaiuscole();
+    void UnFileCheNonCeSiDice();
+    void OgniModificaConclusaVaNellaCopia();
+    void ChiudendoLaCopiaSeNeVa();
+    void IlLavoroRimastoSiRiprende();
+    void IlLavoroRifiutatoRestaFinoAlSalvataggio();
+    void AnnullandoNonSiApre();
+    void UnFileCambiatoSiSostituisceSoloConIlConsenso();
+    void LaCopiaMancataSiDiceUnaVolta();
+    void UnSalvataggioFallitoNominaIlFile();
+    void Elimina();
+};
+
+void tst_ModelloSuFile::ApreESalva()
+{
+    const Banco banco;
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    QCOMPARE(apertura.documento.Aperto().Tipo, QStringLiteral("fattura"));
+    QCOMPARE(apertura.documento.Aperto().NomeFile, QStringLiteral("Prova.Mod"));
+    QVERIFY(!apertura.documento.Variato());
+    apertura.ScriveTipo(QStringLiteral("bolla"));
+    QVERIFY(apertura.documento.Variato());
+    QVERIFY(apertura.File.Salva());
+    QVERIFY(!apertura.documento.Variato());
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("bolla"));
+    QCOMPARE(banco.Copie(), 0);
+    QCOMPARE(apertura.Utente.Avvisi, QStringList());
+}
+
+void tst_ModelloSuFile::IlNomeNonGuardaLeMaiuscole()
+{
+    const Banco banco;
+    Apertura apertura(banco, QStringLiteral("PROVA.mod"));
+    QVERIFY(apertura.File.Apre());
+    apertura.ScriveTipo(QStringLiteral("bolla"));
+    QVERIFY(apertura.File.Salva());
+    QCOMPARE(QDir(banco.Cartella()).entryList({QStringLiteral("*.mod")}, QDir::Files),
+             QStringList{QStringLiteral("Prova.Mod")});
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("bolla"));
+}
+
+void tst_ModelloSuFile::UnFileCheNonCeSiDice()
+{
+    const Banco banco;
+    Apertura apertura(banco, QStringLiteral("Manca.Mod"));
+    QVERIFY(!apertura.File.Apre());
+    QCOMPARE(apertura.Utente.Avvisi.size(), 1);
+    QVERIFY(apertura.Utente.Avvisi.constFirst().startsWith(
+        QStringLiteral("impossibile leggere file Manca.Mod\n53\n")));
+}
+
+void tst_ModelloSuFile::OgniModificaConclusaVaNellaCopia()
+{
+    const Banco banco;
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    QCOMPARE(banco.Copie(), 0);
+    apertura.ScriveTipo(QStringLiteral("uno"));
+    QCOMPARE(banco.Copie(), 1);
+    apertura.documento.Annulla();
+    QCOMPARE(banco.Copie(), 1);
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("fattura"));
+}
+
+void tst_ModelloSuFile::ChiudendoLaCopiaSeNeVa()
+{
+    const Banco banco;
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    apertura.ScriveTipo(QStringLiteral("uno"));
+    apertura.File.Chiude();
+    QCOMPARE(banco.Copie(), 0);
+}
+
+void tst_ModelloSuFile::IlLavoroRimastoSiRiprende()
+{
+    const Banco banco;
+    LasciaLavoro(banco, QStringLiteral("lavoro"));
+    Apertura apertura(banco);
+    apertura.Utente.Riprende = ModelloSuFile::Interlocutore::Risposta::Si;
+    QVERIFY(apertura.File.Apre());
+    QCOMPARE(apertura.Utente.Offerti, QStringList{QStringLiteral("lavoro")});
+    QCOMPARE(apertura.documento.Aperto().Tipo, QStringLiteral("lavoro"));
+    QCOMPARE(apertura.documento.Aperto().NomeFile, QStringLiteral("Prova.Mod"));
+    QVERIFY(apertura.documento.Variato());
+    QCOMPARE(banco.Copie(), 1); // this opening's own
+    QVERIFY(apertura.File.Salva());
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("lavoro"));
+    QCOMPARE(banco.Copie(), 0);
+}
+
+void tst_ModelloSuFile::IlLavoroRifiutatoRestaFinoAlSalvataggio()
+{
+    const Banco banco;
+    LasciaLavoro(banco, QStringLiteral("lavoro"));
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    QCOMPARE(apertura.documento.Aperto().Tipo, QStringLiteral("fattura"));
+    QVERIFY(!apertura.documento.Variato());
+    QCOMPARE(banco.Copie(), 1);
+    QVERIFY(apertura.File.Salva());
+    QCOMPARE(banco.Copie(), 0);
+}
+
+void tst_ModelloSuFile::AnnullandoNonSiApre()
+{
+    const Banco banco;
+    LasciaLavoro(banco, QStringLiteral("lavoro"));
+    Apertura apertura(banco);
+    apertura.Utente.Riprende = ModelloSuFile::Interlocutore::Risposta::Annulla;
+    QVERIFY(!apertura.File.Apre());
+    QCOMPARE(banco.Copie(), 1);
+}
+
+void tst_ModelloSuFile::UnFileCambiatoSiSostituisceSoloConIlConsenso()
+{
+    const Banco banco;
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    Modello altrui;
+    altrui.Tipo = QStringLiteral("altrui");
+    FileModello::Salva(altrui, banco.Percorso());
+    apertura.ScriveTipo(QStringLiteral("mio"));
+    QVERIFY(!apertura.File.Salva());
+    QCOMPARE(apertura.Utente.ChiestoDiSostituire, 1);
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("altrui"));
+    QVERIFY(apertura.documento.Variato());
+    apertura.Utente.Sostituisce = true;
+    QVERIFY(apertura.File.Salva());
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("mio"));
+    QVERIFY(apertura.File.Salva());
+    QCOMPARE(apertura.Utente.ChiestoDiSostituire, 2); // what we wrote is nobody else's
+}
+
+void tst_ModelloSuFile::LaCopiaMancataSiDiceUnaVolta()
+{
+    const Banco banco;
+    QFile ostacolo(banco.CartellaCopie()); // a file where the folder should be
+    QVERIFY(ostacolo.open(QIODevice::WriteOnly));
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    apertura.ScriveTipo(QStringLiteral("uno"));
+    apertura.ScriveTipo(QStringLiteral("due"));
+    QCOMPARE(apertura.Utente.Avvisi.size(), 1);
+    QVERIFY(apertura.Utente.Avvisi.constFirst().startsWith(
+        QStringLiteral("copia di recupero non scritta: ")));
+    QVERIFY(ostacolo.remove());
+    apertura.ScriveTipo(QStringLiteral("tre"));
+    QCOMPARE(banco.Copie(), 1);
+    QVERIFY(QDir(banco.CartellaCopie()).removeRecursively());
+    QVERIFY(ostacolo.open(QIODevice::WriteOnly));
+    apertura.ScriveTipo(QStringLiteral("quattro"));
+    QCOMPARE(apertura.Utente.Avvisi.size(), 2); // it had worked again
+}
+
+void tst_ModelloSuFile::UnSalvataggioFallitoNominaIlFile()
+{
+    const Banco banco;
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    apertura.ScriveTipo(QStringLiteral("mio"));
+    QVERIFY(QFile::setPermissions(banco.Percorso(), QFile::ReadOwner));
+    try {
+        apertura.File.Salva();
+        QFAIL("a file that nobody may write has been written");
+    } catch (const ErroreSistema &errore) {
+        QCOMPARE(errore.numero, ErroreSistema::AccessoFile);
+        QVERIFY(errore.descrizione.endsWith(QStringLiteral("\nsalvataggio del file Prova.Mod")));
+    }
+    QVERIFY(apertura.documento.Variato());
+    QCOMPARE(banco.TipoSuDisco(), QStringLiteral("fattura"));
+}
+
+void tst_ModelloSuFile::Elimina()
+{
+    const Banco banco;
+    Apertura apertura(banco);
+    QVERIFY(apertura.File.Apre());
+    apertura.ScriveTipo(QStringLiteral("uno"));
+    apertura.File.Elimina();
+    QVERIFY(!QFile::exists(banco.Percorso()));
+    QCOMPARE(banco.Copie(), 0);
+    QVERIFY(!apertura.documento.Variato());
+}
+
+QTEST_GUILESS_MAIN(tst_ModelloSuFile)
+#include "tst_ModelloSuFile.moc"
