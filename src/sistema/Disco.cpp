@@ -1,5 +1,7 @@
 #include "sistema/Disco.h"
 
+#include "sistema/SuDisco.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -13,11 +15,6 @@
 #include <filesystem>
 
 namespace {
-
-Disco::Sincronizzazione sincronizza = nullptr;
-Disco::SincronizzazioneCartella sincronizzaCartella = nullptr;
-Disco::Proprieta tieneProprieta = nullptr;
-Disco::Scambio scambia = nullptr;
 
 // Names of temporary files are nobody else's, so sweeping cannot hit a user's own copy, and do not
 // contain the final name, which may already be as long as the file system allows.
@@ -92,10 +89,8 @@ std::error_code Causa(const QString &cartella)
 
 void SincronizzaNomi(const QString &cartella)
 {
-    if (sincronizzaCartella != nullptr) {
-        if (const std::error_code codice = sincronizzaCartella(cartella)) {
-            Fallisce(codice);
-        }
+    if (const std::error_code codice = SuDisco::SincronizzaCartella(cartella)) {
+        Fallisce(codice);
     }
 }
 
@@ -132,10 +127,8 @@ void Scrive(QFile &file, const QByteArray &byte)
         !file.resize(byte.size())) {
         Fallisce(Causa(QFileInfo(file).path()));
     }
-    if (sincronizza != nullptr) {
-        if (const std::error_code codice = sincronizza(file.handle())) {
-            Fallisce(codice);
-        }
+    if (const std::error_code codice = SuDisco::Sincronizza(file.handle())) {
+        Fallisce(codice);
     }
 }
 
@@ -176,9 +169,8 @@ public:
             return Causa(bersaglio_.path());
         }
         if (bersaglio_.exists() && chi == Per::ChiPoteva) {
-            tieneTutto_ =
-                tieneProprieta == nullptr || tieneProprieta(file_.handle(), bersaglio_.filePath());
-            if (tieneProprieta == nullptr || !tieneTutto_) {
+            tieneTutto_ = SuDisco::TieneProprieta(file_.handle(), bersaglio_.filePath());
+            if (!tieneTutto_) {
                 // File systems without permissions refuse this, and have none to keep.
                 file_.setPermissions(bersaglio_.permissions());
             }
@@ -204,13 +196,8 @@ public:
     std::error_code PrendeIlPosto()
     {
         file_.close();
-        std::error_code codice;
-        if (scambia != nullptr) {
-            codice = scambia(file_.fileName(), bersaglio_.filePath());
-        } else {
-            std::filesystem::rename(QFileInfo(file_).filesystemFilePath(),
-                                    bersaglio_.filesystemFilePath(), codice);
-        }
+        const std::error_code codice =
+            SuDisco::PrendeIlPosto(file_.fileName(), bersaglio_.filePath());
         creato_ = bool(codice);
         return codice;
     }
@@ -385,22 +372,6 @@ void Disco::CreaCartellaPrivata(const QString &cartella)
     } else if (!QFileInfo(cartella).isDir()) { // nor has another program just made it
         throw ErroreSistema(ErroreSistema::AccessoFile);
     }
-}
-
-void Disco::UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella cartella)
-{
-    sincronizza = file;
-    sincronizzaCartella = cartella;
-}
-
-void Disco::UsaProprieta(Proprieta proprieta)
-{
-    tieneProprieta = proprieta;
-}
-
-void Disco::UsaScambio(Scambio scambio)
-{
-    scambia = scambio;
 }
 
 int Disco::NumeroErrore(const std::error_code &codice)

@@ -2,6 +2,7 @@
 
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
+#include "support/guasti/GuastiDisco.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -20,7 +21,7 @@ class tst_Disco : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { cartella_.reset(); }
 
     void LeggeIByte_data();
     void LeggeIByte();
@@ -61,6 +62,7 @@ private slots:
     void NumeroErrore();
 
 private:
+    QString CartellaVera() const { return QFileInfo(cartella_->path()).canonicalFilePath(); }
     QString In(const QString &nome) const { return cartella_->filePath(nome); }
     QString File() const { return In(QStringLiteral("Fattura.Mod")); }
 
@@ -80,42 +82,12 @@ int ModoDi(const QString &percorso)
     return lstat(QFile::encodeName(percorso).constData(), &stato) == 0 ? stato.st_mode & 07777 : -1;
 }
 
-int causaSincronia = 0;
-QByteArray vistiAllaSincronia;
-
-bool proprietaTenuta = false;
-QStringList chiestiAllaProprieta;
-int modoAllaProprieta = -1;
-
-bool ProprietaFinta(int descrittore, const QString &vecchio)
-{
-    struct stat stato
-    {
-    };
-    modoAllaProprieta = fstat(descrittore, &stato) == 0 ? stato.st_mode & 07777 : -1;
-    chiestiAllaProprieta.append(vecchio);
-    // As a change of owner may do.
-    return fchmod(descrittore, proprietaTenuta ? 0664 : 0400) == 0 && proprietaTenuta;
-}
-
-std::error_code SincroniaFinta(int)
-{
-    return {causaSincronia, std::generic_category()};
-}
-
 } // namespace
 
 void tst_Disco::init()
 {
     cartella_ = std::make_unique<QTemporaryDir>();
     QVERIFY(cartella_->isValid());
-}
-
-void tst_Disco::cleanup()
-{
-    Disco::UsaSincronizzazione(nullptr, nullptr);
-    Disco::UsaProprieta(nullptr);
-    cartella_.reset();
 }
 
 void tst_Disco::LeggeIByte_data()
@@ -363,8 +335,7 @@ void tst_Disco::SincronizzazioneFallita()
     QFETCH(int, causa);
     QFETCH(int, errore);
     ScriveFile(File(), Vecchi);
-    causaSincronia = causa;
-    Disco::UsaSincronizzazione(&SincroniaFinta, nullptr);
+    const GuastiDisco guasto(GuastiDisco::Chiamata::SincronizzaFile, causa);
     QCOMPARE(ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); }), errore);
     QCOMPARE(ByteDi(File()), errore == 0 ? Nuovi : Vecchi);
     QCOMPARE(NomiIn(cartella_->path()).size(), 1);
@@ -373,27 +344,24 @@ void tst_Disco::SincronizzazioneFallita()
 void tst_Disco::SincronizzaPrimaDiPrendereIlPosto()
 {
     // What is forced onto the medium are all the new bytes, while the old file still stands.
-    static QString percorso;
-    percorso = File();
     ScriveFile(File(), Vecchi);
-    static QByteArray vistiPoi;
-    Disco::UsaSincronizzazione(
-        [](int descrittore) -> std::error_code {
-            const QString via = QStringLiteral("/proc/self/fd/%1").arg(descrittore);
-            if (ByteDi(via) == Nuovi) {
-                vistiAllaSincronia = ByteDi(percorso);
-            }
-            return {};
-        },
-        [](const QString &cartella) -> std::error_code {
-            // The name comes after them, once it stands for the new file.
-            if (cartella == QFileInfo(percorso).path()) {
-                vistiPoi = ByteDi(percorso);
-            }
-            return {};
-        });
+    QByteArray vistiPrima;
+    QByteArray vistiPoi;
+    const GuastiDisco deiByte(GuastiDisco::Chiamata::SincronizzaFile, [&](int descrittore) {
+        if (ByteDi(GuastiDisco::Percorso(descrittore)) == Nuovi) {
+            vistiPrima = ByteDi(File());
+        }
+        return 0;
+    });
+    const GuastiDisco delNome(GuastiDisco::Chiamata::SincronizzaCartella, [&](int descrittore) {
+        // The name comes after them, once it stands for the new file.
+        if (GuastiDisco::Percorso(descrittore) == CartellaVera()) {
+            vistiPoi = ByteDi(File());
+        }
+        return 0;
+    });
     Disco::Sostituisce(File(), Nuovi);
-    QCOMPARE(vistiAllaSincronia, Vecchi);
+    QCOMPARE(vistiPrima, Vecchi);
     QCOMPARE(vistiPoi, Nuovi);
     QCOMPARE(ByteDi(File()), Nuovi);
 }
@@ -402,9 +370,7 @@ void tst_Disco::CartellaNonSincronizzata()
 {
     // The new file stands already, and is no half of one.
     ScriveFile(File(), Vecchi);
-    Disco::UsaSincronizzazione(nullptr, [](const QString &) -> std::error_code {
-        return {EIO, std::generic_category()};
-    });
+    const GuastiDisco guasto(GuastiDisco::Chiamata::SincronizzaCartella, EIO);
     QCOMPARE(ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); }), 57);
     QCOMPARE(ByteDi(File()), Nuovi);
     QCOMPARE(NomiIn(cartella_->path()).size(), 1);
@@ -412,17 +378,16 @@ void tst_Disco::CartellaNonSincronizzata()
 
 void tst_Disco::CreaCartellaPrivata()
 {
-    static QStringList sincronizzate;
-    sincronizzate.clear();
-    Disco::UsaSincronizzazione(nullptr, [](const QString &cartella) -> std::error_code {
-        sincronizzate.append(cartella);
-        return {};
+    QStringList sincronizzate;
+    const GuastiDisco nomi(GuastiDisco::Chiamata::SincronizzaCartella, [&](int descrittore) {
+        sincronizzate.append(GuastiDisco::Percorso(descrittore));
+        return 0;
     });
     const QString nuova = In(QStringLiteral("una/due"));
     Disco::CreaCartellaPrivata(nuova);
     QCOMPARE(ModoDi(nuova), 0700);
     QVERIFY2(ModoDi(In(QStringLiteral("una"))) != 0700, "those above are as others make them");
-    QCOMPARE(sincronizzate, QStringList{In(QStringLiteral("una"))});
+    QCOMPARE(sincronizzate, QStringList{CartellaVera() + QStringLiteral("/una")});
 
     // One that is there stays as its owner made it.
     QCOMPARE(chmod(QFile::encodeName(nuova).constData(), 0750), 0);
@@ -469,26 +434,41 @@ void tst_Disco::ProprietaPrimaDeiPermessi_data()
 void tst_Disco::ProprietaPrimaDeiPermessi()
 {
     QFETCH(bool, tenuta);
-    proprietaTenuta = tenuta;
-    chiestiAllaProprieta.clear();
-    Disco::UsaProprieta(&ProprietaFinta);
-    const QString vero = In(QStringLiteral("Vero.Mod"));
+    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("vera")));
+    const QString vero = In(QStringLiteral("vera/Vero.Mod"));
     ScriveFile(vero, Vecchi);
     QCOMPARE(chmod(QFile::encodeName(vero).constData(), 0664), 0);
     QVERIFY(QFile::link(vero, File()));
+    QStringList cartelle;
+    int modo = -1;
+    int permessi = 0;
+    const GuastiDisco delProprietario(GuastiDisco::Chiamata::CambiaProprietario, [&](int nuovo) {
+        cartelle.append(QFileInfo(GuastiDisco::Percorso(nuovo)).path());
+        modo = ModoDi(GuastiDisco::Percorso(nuovo));
+        // As a change of owner may do.
+        return fchmod(nuovo, 0400) == 0 ? 0 : errno;
+    });
+    const GuastiDisco deiPermessi(GuastiDisco::Chiamata::CambiaModo,
+                                  [&](int) { return ++permessi == 1 && !tenuta ? EPERM : 0; });
     Disco::Sostituisce(File(), Nuovi);
-    QCOMPARE(chiestiAllaProprieta, QStringList{vero});
-    QCOMPARE(modoAllaProprieta, 0600);
+    QCOMPARE(cartelle, QStringList{CartellaVera() + QStringLiteral("/vera")});
+    QCOMPARE(modo, 0600);
+    QCOMPARE(permessi, tenuta ? 1 : 2);
     QCOMPARE(ModoDi(vero), 0664);
     QCOMPARE(ByteDi(vero), Nuovi);
 }
 
 void tst_Disco::ProprietaDiUnFileNuovo()
 {
-    chiestiAllaProprieta.clear();
-    Disco::UsaProprieta(&ProprietaFinta);
+    int chieste = 0;
+    const auto conta = [&chieste](int) {
+        ++chieste;
+        return 0;
+    };
+    const GuastiDisco delProprietario(GuastiDisco::Chiamata::CambiaProprietario, conta);
+    const GuastiDisco deiPermessi(GuastiDisco::Chiamata::CambiaModo, conta);
     Disco::Sostituisce(File(), Nuovi);
-    QVERIFY2(chiestiAllaProprieta.isEmpty(), "there is no file whose owner could be kept");
+    QVERIFY2(chieste == 0, "there is no file whose owner could be kept");
     QCOMPARE(ByteDi(File()), Nuovi);
 }
 
