@@ -1,7 +1,7 @@
 #include "grafica/LettoreImmagine.h"
 
 #include "base/ErroreSistema.h"
-#include "base/Misure.h"
+#include "base/Unita.h"
 #include "grafica/Immagini.h"
 #include "grafica/Opacita.h"
 #include "grafica/PerditaDiColore.h"
@@ -72,8 +72,8 @@ QSizeF LettoreImmagine::Millimetri() const
 {
     const QSizeF stato = intestazione_.PuntiPerPollice;
     const QSizeF punti = ruotata_ ? stato.transposed() : stato;
-    return {Pixel().width() * Misure::MillimetriPerPollice / punti.width(),
-            Pixel().height() * Misure::MillimetriPerPollice / punti.height()};
+    return {Pixel().width() * Unita::MillimetriPerPollice / punti.width(),
+            Pixel().height() * Unita::MillimetriPerPollice / punti.height()};
 }
 
 QImage LettoreImmagine::Decodifica(const QSize &minimo)
