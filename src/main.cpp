@@ -2,7 +2,6 @@
 #include "Plakera.h"
 #include "finestre/Finestre.h"
 #include "finestre/ScalaSchermo.h"
-#include "sistema/Disco.h"
 #include "sistema/SenzaFinestre.h"
 #include "sistema/SuDisco.h"
 
@@ -53,9 +52,6 @@ int main(int argc, char *argv[])
         return 1;
     }
     const std::unique_ptr<QApplication> applicazione = Applicazione(argc, argv);
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
-    Disco::UsaProprieta(&SuDisco::TieneProprieta);
-    Disco::UsaScambio(&SuDisco::PrendeIlPosto);
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));
     ImpostaLingua();

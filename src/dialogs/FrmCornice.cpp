@@ -133,13 +133,13 @@ void FrmCornice::ControllaLarghezza() const
     }
 }
 
-FrmCornice::Misure FrmCornice::AdattaAllaScritta(const Carattere &carattere)
+FrmCornice::MisuraEtichetta FrmCornice::AdattaAllaScritta(const Carattere &carattere)
 {
     constexpr double Margine = 1; // mm
     const QSizeF scritta = MisuraTesto(Caselle().Testo(ui_->Testo), carattere.Font,
                                        carattere.Dimensione, carattere.Grassetto != Falso);
-    const Misure misure{Numeri::PariPiuVicino(scritta.width() + Margine),
-                        Numeri::PariPiuVicino(scritta.height() + Margine)};
+    const MisuraEtichetta misure{Numeri::PariPiuVicino(scritta.width() + Margine),
+                                 Numeri::PariPiuVicino(scritta.height() + Margine)};
     Caselle().Mostra(ui_->Largh, misure.Larghezza);
     Caselle().Mostra(ui_->Alt, misure.Altezza);
     return misure;
@@ -163,7 +163,7 @@ void FrmCornice::Confema_Click()
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
         const bool etichetta = ui_->OptEtichetta->isChecked();
-        Misure misure{};
+        MisuraEtichetta misure{};
         if (!etichetta) {
             misure.Larghezza = Doppio(ui_->Largh);
             misure.Altezza = Doppio(ui_->Alt);

@@ -22,7 +22,7 @@ public:
     void Carica(int k);
 
 private:
-    struct Misure
+    struct MisuraEtichetta
     {
         double Larghezza; ///< mm
         double Altezza;   ///< mm
@@ -48,7 +48,7 @@ private:
     /// Changes the record of every frame, as one step of that text.
     void SuTutte(const QString &testo, const std::function<void(Cornice &)> &cambia);
     /// Size of a label, from its text: the boxes then show it.
-    Misure AdattaAllaScritta(const Carattere &carattere);
+    MisuraEtichetta AdattaAllaScritta(const Carattere &carattere);
 
     std::unique_ptr<Ui::FrmCornice> ui_;
 };

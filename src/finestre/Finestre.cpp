@@ -1,6 +1,6 @@
 #include "finestre/Finestre.h"
 
-#include "base/Misure.h"
+#include "base/Unita.h"
 #include "finestre/FiltroAnsi.h"
 
 #include <QApplication>
@@ -107,7 +107,7 @@ void ImpostaLingua()
 
 double PixelPerMillimetro(const QWidget *finestra)
 {
-    return SchermoDi(finestra)->logicalDotsPerInch() / Misure::MillimetriPerPollice;
+    return SchermoDi(finestra)->logicalDotsPerInch() / Unita::MillimetriPerPollice;
 }
 
 PuntatoreOccupato::PuntatoreOccupato()

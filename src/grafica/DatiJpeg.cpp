@@ -229,7 +229,7 @@ private:
             for (int y = 0; y < unitaInColonna_; ++y) {
                 for (int x = 0; x < unitaInRiga_; ++x) {
                     unUnita();
-                    Unita(s, bit, x, y);
+                    LeggeUnita(s, bit, x, y);
                 }
             }
         }
@@ -240,7 +240,7 @@ private:
         return bit.Posto();
     }
 
-    void Unita(const Scansione &s, Bit &bit, int x, int y)
+    void LeggeUnita(const Scansione &s, Bit &bit, int x, int y)
     {
         for (Componente *c : s.Componenti) {
             for (int v = 0; v < c->Verticali; ++v) {

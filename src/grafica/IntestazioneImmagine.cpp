@@ -1,6 +1,6 @@
 #include "grafica/IntestazioneImmagine.h"
 
-#include "base/Misure.h"
+#include "base/Unita.h"
 #include "grafica/DatiGif.h"
 #include "grafica/DatiJpeg.h"
 #include "grafica/MarcatoriJpeg.h"
@@ -103,7 +103,7 @@ void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
         esito.FineDati = esito.FineRighe - riempitivo;
     }
     if (!corta) {
-        const double perMetro = Misure::MillimetriPerPollice / 1000;
+        const double perMetro = Unita::MillimetriPerPollice / 1000;
         Imposta(esito.PuntiPerPollice, Piccolo<qint32>(testa, 38) * perMetro,
                 Piccolo<qint32>(testa, 42) * perMetro);
     }
@@ -158,7 +158,7 @@ void LeggeExif(const QByteArray &segmento, QSizeF &puntiPerPollice)
             verticali = RazionaleExif(tiff, lungo(voce + 8), intel);
             break;
         case UnitaRisoluzione:
-            perPollice = corto(voce + 8) == Centimetri ? Misure::MillimetriPerPollice / 10 : 1;
+            perPollice = corto(voce + 8) == Centimetri ? Unita::MillimetriPerPollice / 10 : 1;
             break;
         default:
             break;
@@ -174,7 +174,7 @@ bool LeggeJfif(const QByteArray &segmento, QSizeF &puntiPerPollice)
         return false;
     }
     const int unita = quint8(segmento.at(7));
-    const double perPollice = unita == 1 ? 1 : unita == 2 ? Misure::MillimetriPerPollice / 10 : 0;
+    const double perPollice = unita == 1 ? 1 : unita == 2 ? Unita::MillimetriPerPollice / 10 : 0;
     return Imposta(puntiPerPollice, Grande<quint16>(segmento, 8) * perPollice,
                    Grande<quint16>(segmento, 10) * perPollice);
 }

@@ -1,6 +1,6 @@
 #include "grafica/Testo.h"
 
-#include "base/Misure.h"
+#include "base/Unita.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -122,7 +122,7 @@ QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool
     // becomes too small to matter.
     constexpr int PixelDiRiferimento = 1000;
     const QFontMetricsF metrica(CarattereDiTesto(font, grassetto, PixelDiRiferimento));
-    const double scala = PuntiDiTesto(punti) * Misure::MillimetriPerPunto / PixelDiRiferimento;
+    const double scala = PuntiDiTesto(punti) * Unita::MillimetriPerPunto / PixelDiRiferimento;
     return QSizeF(metrica.horizontalAdvance(testo), metrica.height()) * scala;
 }
 

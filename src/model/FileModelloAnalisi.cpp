@@ -12,10 +12,10 @@ using namespace FileModello;
 
 /// The lines of a file, one after the other. A line ends at CR, and an LF that follows is skipped;
 /// an LF elsewhere belongs to the line.
-class Lettore
+class LettoreRighe
 {
 public:
-    explicit Lettore(QByteArrayView byte)
+    explicit LettoreRighe(QByteArrayView byte)
         : resto_(byte)
     {
     }
@@ -63,7 +63,7 @@ private:
     QByteArrayView resto_;
 };
 
-qint16 LeggeVisualizza(Lettore &lettore)
+qint16 LeggeVisualizza(LettoreRighe &lettore)
 {
     constexpr qint16 UltimoValore = 2;
     const qint16 valore = lettore.Intero();
@@ -73,7 +73,7 @@ qint16 LeggeVisualizza(Lettore &lettore)
     return valore;
 }
 
-void LeggeTestata(Lettore &lettore, Modello &modello)
+void LeggeTestata(LettoreRighe &lettore, Modello &modello)
 {
     ImmagineSfondo &sfondo = modello.Sfondo;
     ParametriRighe &righe = modello.Righe;
@@ -91,7 +91,7 @@ void LeggeTestata(Lettore &lettore, Modello &modello)
     lettore.Salta(RigheLibere - 1);
 }
 
-void LeggeCampi(Lettore &lettore, Modello &modello)
+void LeggeCampi(LettoreRighe &lettore, Modello &modello)
 {
     for (;;) {
         lettore.Riga();
@@ -106,7 +106,7 @@ void LeggeCampi(Lettore &lettore, Modello &modello)
     }
 }
 
-void LeggeCornici(Lettore &lettore, Modello &modello)
+void LeggeCornici(LettoreRighe &lettore, Modello &modello)
 {
     while (!lettore.Fine() && lettore.Riga() != FineCornici) {
         Cornice &cornice = modello.Cornici[++modello.NumCornici];
@@ -118,7 +118,7 @@ void LeggeCornici(Lettore &lettore, Modello &modello)
     }
 }
 
-void LeggeImmagini(Lettore &lettore, Modello &modello)
+void LeggeImmagini(LettoreRighe &lettore, Modello &modello)
 {
     while (!lettore.Fine() && lettore.Riga() != FineImmagini) {
         Immagine &immagine = modello.Immagini[++modello.NumImmagini];
@@ -135,7 +135,7 @@ void FileModello::Analizza(const QByteArray &byte, Modello &modello)
     modello.NumCampi = 0;
     modello.NumCornici = 0;
     modello.NumImmagini = 0;
-    Lettore lettore(byte);
+    LettoreRighe lettore(byte);
     LeggeTestata(lettore, modello);
     LeggeCampi(lettore, modello);
     LeggeCornici(lettore, modello);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Misure.h"
+#include "base/Unita.h"
 
 #include <QMargins>
 #include <QRect>
@@ -15,7 +15,7 @@ public:
     static constexpr double LarghezzaCarta = 240; ///< mm of paper, every model's sheet
     static constexpr double AltezzaCarta = 350;   ///< mm of paper
     /// Height of the editor's strip across the top of the screen, its frame included: 3000 twips.
-    static constexpr double AltezzaEditor = 3000 * Misure::MillimetriPerTwip;
+    static constexpr double AltezzaEditor = 3000 * Unita::MillimetriPerTwip;
     static constexpr double SpessoreRighello = 6.5;
     static constexpr double ZoomMinimo = 1;
     static constexpr double ZoomMassimo = 3;

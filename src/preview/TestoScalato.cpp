@@ -1,6 +1,6 @@
 #include "preview/TestoScalato.h"
 
-#include "base/Misure.h"
+#include "base/Unita.h"
 #include "grafica/Testo.h"
 #include "preview/Tratti.h"
 
@@ -23,7 +23,7 @@ constexpr double PuntiMassimi = 3000;
 
 double Scala(double punti)
 {
-    return TestoScalato::PuntiMostrabili(punti) * Misure::MillimetriPerPunto / PixelRiferimento;
+    return TestoScalato::PuntiMostrabili(punti) * Unita::MillimetriPerPunto / PixelRiferimento;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "print/Pagina.h"
 
 #include "base/ErroreSistema.h"
-#include "base/Misure.h"
+#include "base/Unita.h"
 #include "grafica/Testo.h"
 #include "print/Sovrapposizione.h"
 #include "sistema/Memoria.h"
@@ -47,7 +47,7 @@ Pagina::Pagina(Destinazione &destinazione)
         throw destinazione.Rifiuto();
     }
     risoluzione_ = dispositivo_.logicalDpiX();
-    pixelPerMillimetro_ = risoluzione_ / Misure::MillimetriPerPollice;
+    pixelPerMillimetro_ = risoluzione_ / Unita::MillimetriPerPollice;
     area_ = QRectF(0, 0, InPixel(Larghezza()), InPixel(Altezza()));
     // The printer engines put their origin at a whole point near the corner, up to 0.18 mm off.
     const QPageLayout foglio = dispositivo_.pageLayout();
@@ -65,7 +65,7 @@ Pagina::~Pagina()
 
 QSize Pagina::PixelPer(const QSizeF &millimetri)
 {
-    return (millimetri * (PuntiImmagine / Misure::MillimetriPerPollice))
+    return (millimetri * (PuntiImmagine / Unita::MillimetriPerPollice))
         .boundedTo(QSizeF(1e6, 1e6))
         .expandedTo(QSizeF(1, 1))
         .toSize();
@@ -93,7 +93,7 @@ void Pagina::MisuraFont()
 {
     font_ = CarattereDiTesto(famiglia_, grassetto_, UnitaPerPunto * int(PuntiDiTesto(punti_)));
     const QFontMetricsF misure(font_, &dispositivo_);
-    const double millimetri = Misure::MillimetriPerPollice / UnitaPerPollice;
+    const double millimetri = Unita::MillimetriPerPollice / UnitaPerPollice;
     ascendente_ = misure.ascent() * millimetri;
     interlinea_ = misure.lineSpacing() * millimetri;
     misurato_ = true;

@@ -67,22 +67,21 @@ void StampaProva::StampaCampo(int i, bool StampaNome)
 void StampaProva::StampaCornice(int i)
 {
     const Cornice &cornice = modello_.Cornici[i];
-    const Etichetta etichetta{cornice.Testo, cornice.Font, cornice.Dimensione,
-                              cornice.Grassetto != Falso, Tavolozza::RgbONero(cornice.ColoreTesto)};
-    Linea(cornice.X, cornice.Y, cornice.X + cornice.Larghezza, cornice.Y + cornice.Altezza,
-          etichetta, Tavolozza::RgbONero(cornice.ColoreCornice), cornice.TipoBordo(),
-          cornice.SpessoreBordo());
+    const Scritta scritta{cornice.Testo, cornice.Font, cornice.Dimensione,
+                          cornice.Grassetto != Falso, Tavolozza::RgbONero(cornice.ColoreTesto)};
+    Linea(cornice.X, cornice.Y, cornice.X + cornice.Larghezza, cornice.Y + cornice.Altezza, scritta,
+          Tavolozza::RgbONero(cornice.ColoreCornice), cornice.TipoBordo(), cornice.SpessoreBordo());
 }
 
-void StampaProva::Linea(double x1, double y1, double x2, double y2, const Etichetta &etichetta,
-                        QRgb P, Cornice::Bordatura tipo, double spessore)
+void StampaProva::Linea(double x1, double y1, double x2, double y2, const Scritta &scritta, QRgb P,
+                        Cornice::Bordatura tipo, double spessore)
 {
-    if (!etichetta.Testo.isEmpty()) {
+    if (!scritta.Testo.isEmpty()) {
         const QRgb prima = pagina_.Colore();
-        pagina_.Font(etichetta.Font, etichetta.Dimensione, etichetta.Grassetto);
-        pagina_.Colore(etichetta.Colore);
+        pagina_.Font(scritta.Font, scritta.Dimensione, scritta.Grassetto);
+        pagina_.Colore(scritta.Colore);
         pagina_.Posizione(x1 + Cornice::RientroScritta, y1 + Cornice::DiscesaScritta);
-        pagina_.Stampa(etichetta.Testo);
+        pagina_.Stampa(scritta.Testo);
         pagina_.Colore(prima);
     }
     if (tipo == Cornice::Bordatura::Rettangolo) {

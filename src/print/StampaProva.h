@@ -28,7 +28,7 @@ public:
     void StampaImmagine(int i);
 
     /// A caption, with the font and colour that it is set in.
-    struct Etichetta
+    struct Scritta
     {
         QString Testo; ///< empty: no caption
         QString Font;
@@ -38,7 +38,7 @@ public:
     };
     /// One frame between two corners, mm: its caption, then its border of the kind tipo (1 box, 2
     /// top line, else none), bars filled with the swatch P, spessore mm thick.
-    void Linea(double x1, double y1, double x2, double y2, const Etichetta &etichetta, QRgb P,
+    void Linea(double x1, double y1, double x2, double y2, const Scritta &scritta, QRgb P,
                Cornice::Bordatura tipo, double spessore);
 
     /// Paints the picture file NomeFile (full path) at whole millimetres; without both sizes over

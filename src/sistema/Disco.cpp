@@ -1,11 +1,11 @@
 #include "sistema/Disco.h"
 
-#include <QDateTime>
+#include "sistema/FileTemporaneo.h"
+#include "sistema/SulSupporto.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
-#include <QStorageInfo>
 
 #include <algorithm>
 #include <array>
@@ -13,91 +13,6 @@
 #include <filesystem>
 
 namespace {
-
-Disco::Sincronizzazione sincronizza = nullptr;
-Disco::SincronizzazioneCartella sincronizzaCartella = nullptr;
-Disco::Proprieta tieneProprieta = nullptr;
-Disco::Scambio scambia = nullptr;
-
-// Names of temporary files are nobody else's, so sweeping cannot hit a user's own copy, and do not
-// contain the final name, which may already be as long as the file system allows.
-constexpr QLatin1String Prefisso(".plakera-");
-constexpr QLatin1String Suffisso(".tmp");
-constexpr int CifreCasuali = 16;
-
-// A replacement takes milliseconds, on a slow network share some seconds: what is older by this
-// much belongs to no living program.
-constexpr qint64 SecondiDiVita = 600;
-
-QString NomeTemporaneo()
-{
-    const quint64 caso = QRandomGenerator::system()->generate64();
-    return Prefisso + QString::number(caso, 16).rightJustified(CifreCasuali, u'0') + Suffisso;
-}
-
-bool Temporaneo(const QString &nome)
-{
-    if (nome.size() != Prefisso.size() + CifreCasuali + Suffisso.size() ||
-        !nome.startsWith(Prefisso) || !nome.endsWith(Suffisso)) {
-        return false;
-    }
-    const QStringView caso = QStringView(nome).mid(Prefisso.size(), CifreCasuali);
-    return std::all_of(caso.begin(), caso.end(), [](QChar c) {
-        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f');
-    });
-}
-
-// Age is measured against a file just written into the same folder, hence by one and the same
-// clock, even on a server whose clock differs from ours.
-void SpazzaResti(const QDir &cartella, const QDateTime &adesso)
-{
-    const QStringList nomi = cartella.entryList({Prefisso + u'*' + Suffisso},
-                                                QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QString &nome : nomi) {
-        const QFileInfo resto(cartella.filePath(nome));
-        if (Temporaneo(nome) && resto.lastModified().secsTo(adesso) >= SecondiDiVita) {
-            // One that cannot be removed harms nobody; the next call tries again.
-            QFile::remove(resto.filePath());
-        }
-    }
-}
-
-/// Why the operation just tried on a file in the folder failed.
-std::error_code Causa(const QString &cartella)
-{
-    if (errno != 0) {
-        return {errno, std::generic_category()};
-    }
-    // Where Qt does not go through the C library, what can be seen must tell.
-    const QFileInfo posto(cartella);
-    if (!posto.exists()) {
-        return std::make_error_code(std::errc::no_such_file_or_directory);
-    }
-    if (!posto.isWritable()) {
-        return std::make_error_code(std::errc::permission_denied);
-    }
-    if (QStorageInfo(cartella).bytesAvailable() == 0) {
-        return std::make_error_code(std::errc::no_space_on_device);
-    }
-    return std::make_error_code(std::errc::io_error);
-}
-
-[[noreturn]] void Fallisce(const std::error_code &codice)
-{
-    // Replacing may create the file, so what is not there can only be its folder.
-    const int numero = Disco::NumeroErrore(codice);
-    throw ErroreSistema(numero == ErroreSistema::FileNonTrovato ? ErroreSistema::PercorsoNonTrovato
-                                                                : numero);
-}
-
-void SincronizzaNomi(const QString &cartella)
-{
-    if (sincronizzaCartella != nullptr) {
-        if (const std::error_code codice = sincronizzaCartella(cartella)) {
-            Fallisce(codice);
-        }
-    }
-}
 
 /// The file that the path stands for, behind any symbolic links; it need not exist.
 QFileInfo Bersaglio(const QString &percorso)
@@ -124,104 +39,6 @@ QFileInfo Bersaglio(const QString &percorso)
     return file;
 }
 
-/// Writes through to the medium.
-void Scrive(QFile &file, const QByteArray &byte)
-{
-    errno = 0;
-    if (file.write(byte) != byte.size() || file.error() != QFileDevice::NoError ||
-        !file.resize(byte.size())) {
-        Fallisce(Causa(QFileInfo(file).path()));
-    }
-    if (sincronizza != nullptr) {
-        if (const std::error_code codice = sincronizza(file.handle())) {
-            Fallisce(codice);
-        }
-    }
-}
-
-/// The new bytes on their way: a file beside the final one, removed unless it took its place.
-class FileTemporaneo
-{
-public:
-    explicit FileTemporaneo(const QFileInfo &bersaglio)
-        : bersaglio_(bersaglio)
-        , file_(bersaglio.dir().filePath(NomeTemporaneo()))
-    {
-    }
-    FileTemporaneo(const FileTemporaneo &) = delete;
-    FileTemporaneo &operator=(const FileTemporaneo &) = delete;
-    ~FileTemporaneo()
-    {
-        if (creato_) {
-            file_.remove();
-        }
-    }
-
-    /// Who may read the new file.
-    enum class Per {
-        ChiPoteva, ///< those who could read the old one; of a new one those that the system lets
-        Utente     ///< the user alone
-    };
-
-    std::error_code Apre(Per chi)
-    {
-        // Unbuffered: a failing write is seen where it happens, not when a buffer is flushed.
-        constexpr auto modo = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
-        errno = 0;
-        // Until it carries the old file's permissions, nobody else may look into the new one.
-        creato_ = bersaglio_.exists() || chi == Per::Utente
-                      ? file_.open(modo, QFile::ReadOwner | QFile::WriteOwner)
-                      : file_.open(modo);
-        if (!creato_) {
-            return Causa(bersaglio_.path());
-        }
-        if (bersaglio_.exists() && chi == Per::ChiPoteva) {
-            tieneTutto_ =
-                tieneProprieta == nullptr || tieneProprieta(file_.handle(), bersaglio_.filePath());
-            if (tieneProprieta == nullptr || !tieneTutto_) {
-                // File systems without permissions refuse this, and have none to keep.
-                file_.setPermissions(bersaglio_.permissions());
-            }
-        }
-        return {};
-    }
-
-    /// After Apre: the new file has everything that the old one has.
-    bool TieneTutto() const { return tieneTutto_; }
-
-    void Scrive(const QByteArray &byte) { ::Scrive(file_, byte); }
-
-    /// Closes the file and gives it out of hand; its path.
-    QString Lascia()
-    {
-        file_.close();
-        creato_ = false;
-        return file_.fileName();
-    }
-
-    QDateTime Nascita() const { return file_.fileTime(QFileDevice::FileModificationTime); }
-
-    std::error_code PrendeIlPosto()
-    {
-        file_.close();
-        std::error_code codice;
-        if (scambia != nullptr) {
-            codice = scambia(file_.fileName(), bersaglio_.filePath());
-        } else {
-            std::filesystem::rename(QFileInfo(file_).filesystemFilePath(),
-                                    bersaglio_.filesystemFilePath(), codice);
-        }
-        creato_ = bool(codice);
-        return codice;
-    }
-
-private:
-    QFileInfo bersaglio_;
-    QFile file_;
-    bool creato_ = false;
-    bool tieneTutto_ = true;
-};
-
 void Apre(QFile &file)
 {
     const QFileInfo info(file);
@@ -231,8 +48,8 @@ void Apre(QFile &file)
     }
     errno = 0;
     if (!file.open(QIODevice::ReadOnly)) {
-        const int numero =
-            info.exists() ? ErroreSistema::AccessoFile : Disco::NumeroErrore(Causa(info.path()));
+        const int numero = info.exists() ? ErroreSistema::AccessoFile
+                                         : Disco::NumeroErrore(SulSupporto::Causa(info.path()));
         const bool senzaCartella = numero == ErroreSistema::FileNonTrovato && !info.dir().exists();
         throw ErroreSistema(senzaCartella ? ErroreSistema::PercorsoNonTrovato : numero);
     }
@@ -276,21 +93,21 @@ bool MetteIlNuovo(const QFileInfo &bersaglio, const QByteArray &byte, FileTempor
         if (puoRiscrivere && SoloSulPosto(codice)) {
             return false;
         }
-        Fallisce(codice);
+        SulSupporto::Fallisce(codice);
     }
     if (puoRiscrivere && !nuovo.TieneTutto()) {
         return false;
     }
     // Before writing, for they may be what fills the disk.
-    SpazzaResti(bersaglio.dir(), nuovo.Nascita());
+    nuovo.SpazzaResti();
     nuovo.Scrive(byte);
     if (const std::error_code codice = nuovo.PrendeIlPosto()) {
         if (puoRiscrivere && SoloSulPosto(codice)) {
             return false;
         }
-        Fallisce(codice);
+        SulSupporto::Fallisce(codice);
     }
-    SincronizzaNomi(bersaglio.path());
+    SulSupporto::SincronizzaNomi(bersaglio.path());
     return true;
 }
 
@@ -299,7 +116,7 @@ void RimetteIVecchi(QFile &file, const QByteArray &vecchi, const ErroreSistema &
     try {
         file.unsetError();
         file.seek(0);
-        Scrive(file, vecchi);
+        SulSupporto::Scrive(file, vecchi);
     } catch (const ErroreSistema &) {
         throw Disco::FileIncompleto(
             causa.numero, causa.descrizione + QStringLiteral("; il file è rimasto incompleto"));
@@ -311,12 +128,12 @@ void Riscrive(const QFileInfo &bersaglio, const QByteArray &byte)
     QFile file(bersaglio.filePath());
     errno = 0;
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
-        Fallisce(Causa(bersaglio.path()));
+        SulSupporto::Fallisce(SulSupporto::Causa(bersaglio.path()));
     }
     const QByteArray vecchi = Intero(file, file.readAll());
     try {
         file.seek(0);
-        Scrive(file, byte);
+        SulSupporto::Scrive(file, byte);
     } catch (const ErroreSistema &errore) {
         RimetteIVecchi(file, vecchi, errore);
         throw;
@@ -362,7 +179,7 @@ Disco::Appoggio::Appoggio(const QString &percorso)
 {
     FileTemporaneo vuoto(Bersaglio(percorso));
     if (const std::error_code codice = vuoto.Apre(FileTemporaneo::Per::Utente)) {
-        Fallisce(codice);
+        SulSupporto::Fallisce(codice);
     }
     percorso_ = vuoto.Lascia();
 }
@@ -381,26 +198,10 @@ void Disco::CreaCartellaPrivata(const QString &cartella)
     }
     const QString sopra = info.path();
     if (QDir().mkpath(sopra) && QDir().mkdir(cartella, SoloMia)) {
-        SincronizzaNomi(sopra);
+        SulSupporto::SincronizzaNomi(sopra);
     } else if (!QFileInfo(cartella).isDir()) { // nor has another program just made it
         throw ErroreSistema(ErroreSistema::AccessoFile);
     }
-}
-
-void Disco::UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella cartella)
-{
-    sincronizza = file;
-    sincronizzaCartella = cartella;
-}
-
-void Disco::UsaProprieta(Proprieta proprieta)
-{
-    tieneProprieta = proprieta;
-}
-
-void Disco::UsaScambio(Scambio scambio)
-{
-    scambia = scambio;
 }
 
 int Disco::NumeroErrore(const std::error_code &codice)

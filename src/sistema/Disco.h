@@ -75,29 +75,6 @@ private:
 /// throws when a new one's name cannot be forced onto the medium.
 void CreaCartellaPrivata(const QString &cartella);
 
-/// Forces the bytes of an open file (a C descriptor) onto the medium; an empty code when done.
-using Sincronizzazione = std::error_code (*)(int descrittore);
-/// The same for the names in a folder.
-using SincronizzazioneCartella = std::error_code (*)(const QString &cartella);
-
-/// Qt offers no such calls that report their failure, so the program hands in its system's own at
-/// start. Without them (nullptr), files are replaced atomically all the same, but a power cut soon
-/// after may lose the new bytes.
-void UsaSincronizzazione(Sincronizzazione file, SincronizzazioneCartella cartella);
-
-/// Gives an open file (a C descriptor) the owner, group, permissions and attributes of the file of
-/// that path, as far as the system lets the user; true when it has them all.
-using Proprieta = bool (*)(int descrittore, const QString &vecchio);
-
-/// Qt offers no such call either. Without one, a replaced file belongs to whoever replaced it.
-void UsaProprieta(Proprieta proprieta);
-
-/// Moves a new file into the place of another, which may be there or not.
-using Scambio = std::error_code (*)(const QString &nuovo, const QString &vecchio);
-
-/// For a system where the plain renaming does not keep what the old file had.
-void UsaScambio(Scambio scambio);
-
 /// The number of a failed operation on a file: 53, 57, 61, 70 or 75.
 int NumeroErrore(const std::error_code &codice);
 

@@ -1,16 +1,13 @@
+#include "CopieDiProva.h"
+
 #include "base/ErroreSistema.h"
-#include "documento/CopiaRecupero.h"
 #include "documento/CopieRimaste.h"
 #include "documento/FileCopia.h"
-#include "model/FileModello.h"
 #include "support/Errori.h"
-#include "support/FileDiProva.h"
-#include "support/ModelloDiProva.h"
 #include "support/Permessi.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 
@@ -24,11 +21,11 @@ const QLocale Punto = QLocale::c();
 } // namespace
 
 /// The files of the safety copies.
-class tst_CopiaRecupero : public QObject
+class tst_CopiaRecupero : public QObject, private CopieDiProva
 {
     Q_OBJECT
 private slots:
-    void init();
+    void init() { NuovoModello(); }
     void NienteDaCercare();
     void RilettaComeScritta();
     void DecimaliIntatti();
@@ -38,16 +35,8 @@ private slots:
     void CartellaSoloDelProprietario();
     void CartellaImpossibile();
     void DiscoPienoLasciaLaPrecedente();
-    void VannoViaSoloLeOfferte();
-    void LaRipresaVaViaQuandoLaNuovaLaTiene();
     void EliminatiDaAltriSiRiscrivono();
-    void DiUnProgrammaVivo();
-    void NessunNomeTornaIndietro();
-    void LucchettiDiMorti();
-    void DiUnMortoADiscoPieno();
-    void UgualeAlFileVaVia();
     void NonLeggibileSiDice();
-    void NonEliminabileSiRiprova();
     void ByteDiUnSalvataggioFallito();
     void ByteFallitiCheSiVedonoPiuTardi();
     void SoltantoPerLUtente();
@@ -57,39 +46,7 @@ private slots:
     void DanneggiataSiDice();
     void DiUnaVersionePrima();
     void SenzaCartellaPersonale();
-    void RimasteSenzaModello_data();
-    void RimasteSenzaModello();
-
-private:
-    QString Cartella() const { return dir_->filePath(QStringLiteral("stato/plakera")); }
-    QString Percorso() const { return dir_->filePath(QStringLiteral("Prova.Mod")); }
-    CopiaRecupero Aperta() const
-    {
-        CopiaRecupero copia(Cartella(), Percorso());
-        copia.Parte(ByteDi(Percorso()));
-        return copia;
-    }
-    /// Files of copies, whole or not; a lock that a killed program left is none.
-    QStringList Copie() const
-    {
-        return NomiIn(Cartella()).filter(QRegularExpression(QStringLiteral("\\.recupero$")));
-    }
-    /// Left behind by a program that has ended.
-    void Lascia(double x)
-    {
-        Modello modello = ModelloDiProva(2);
-        modello.Campi[1].X = x;
-        Aperta().Scrive(modello);
-    }
-
-    std::optional<QTemporaryDir> dir_;
 };
-
-void tst_CopiaRecupero::init()
-{
-    dir_.emplace();
-    FileModello::Salva(ModelloDiProva(2), Percorso(), Punto);
-}
 
 void tst_CopiaRecupero::NienteDaCercare()
 {
@@ -203,45 +160,6 @@ void tst_CopiaRecupero::DiscoPienoLasciaLaPrecedente()
     QCOMPARE(Copie().size(), 1);
 }
 
-void tst_CopiaRecupero::VannoViaSoloLeOfferte()
-{
-    Lascia(50);
-    const QString offerta = Aperta().Cerca().constFirst().file;
-    Lascia(60);
-    CopiaRecupero copia = Aperta();
-    const auto trovate = copia.Cerca();
-    QCOMPARE(trovate.size(), 2);
-    const QString guasta =
-        QString(offerta).replace(QStringLiteral(".rec"), QStringLiteral("9.rec"));
-    ScriveFile(guasta, "non e' una copia");
-    copia.SegnaOfferta(trovate[trovate[0].file == offerta ? 0 : 1]);
-    copia.Scrive(ModelloDiProva(2));
-    QCOMPARE(Copie().size(), 4);
-    copia.EliminaOfferte();
-    QVERIFY(!QFileInfo::exists(offerta));
-    QVERIFY(QFileInfo::exists(guasta));
-    QCOMPARE(NomiIn(Cartella()), Copie());
-    QCOMPARE(Copie().size(), 2);
-    QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 60.0);
-}
-
-void tst_CopiaRecupero::LaRipresaVaViaQuandoLaNuovaLaTiene()
-{
-    Lascia(50);
-    CopiaRecupero copia = Aperta();
-    const auto trovata = copia.Cerca().constFirst();
-    copia.Riprende(trovata);
-    QVERIFY(QFileInfo::exists(trovata.file));
-    {
-        const LimiteFile niente(0);
-        QCOMPARE(ErroreDi([&] { copia.Scrive(trovata.modello); }), 61);
-    }
-    QVERIFY(QFileInfo::exists(trovata.file));
-    copia.Scrive(trovata.modello);
-    QVERIFY(!QFileInfo::exists(trovata.file));
-    QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 50.0);
-}
-
 void tst_CopiaRecupero::EliminatiDaAltriSiRiscrivono()
 {
     // Somebody tidies the state folder while the model is open.
@@ -250,86 +168,6 @@ void tst_CopiaRecupero::EliminatiDaAltriSiRiscrivono()
     QVERIFY(QDir(Cartella()).removeRecursively());
     copia.Scrive(ModelloDiProva(2));
     QCOMPARE(Aperta().Cerca().size(), 1);
-}
-
-void tst_CopiaRecupero::DiUnProgrammaVivo()
-{
-    CopiaRecupero prima = Aperta();
-    {
-        CopiaRecupero viva = Aperta();
-        viva.Scrive(ModelloDiProva(2));
-        const auto trovate = prima.Cerca();
-        QCOMPARE(trovate.size(), 1);
-        QVERIFY(trovate[0].inUso);
-    }
-    QVERIFY2(!prima.Cerca().constFirst().inUso, "its program has ended");
-    prima.SegnaOfferta(prima.Cerca().constFirst());
-    prima.EliminaOfferte();
-    QVERIFY(Copie().isEmpty());
-    QVERIFY2(NomiIn(Cartella()).isEmpty(), "no lock stays behind");
-}
-
-void tst_CopiaRecupero::NessunNomeTornaIndietro()
-{
-    // While the one is asked about a copy, another takes it up, saves, edits on and dies.
-    Lascia(50);
-    CopiaRecupero prima = Aperta();
-    const auto offerta = prima.Cerca().constFirst();
-    prima.SegnaOfferta(offerta);
-    QVERIFY(QFile::remove(offerta.file));
-    Lascia(60);
-    prima.Riprende(offerta);
-    prima.Scrive(offerta.modello);
-    QVERIFY2(Copie().size() == 2, "the copy just written stands beside the other's");
-    prima.EliminaOfferte();
-    QCOMPARE(Copie().size(), 1);
-    QCOMPARE(Aperta().Cerca().constFirst().modello.Campi[1].X, 60.0);
-}
-
-void tst_CopiaRecupero::LucchettiDiMorti()
-{
-    // Of programs killed before their first copy, of one whose copy is damaged, of one alive.
-    Lascia(50);
-    CopiaRecupero viva = Aperta();
-    viva.Scrive(ModelloDiProva(2));
-    const QString radice = Copie().constFirst().section(u'-', 0, 0);
-    const QString guasta = Cartella() + u'/' + radice + QStringLiteral("-9.recupero");
-    ScriveFile(guasta, "non e' una copia");
-    for (const char *nome : {"-7.recupero.lock", "-8.recupero.lock", "-9.recupero.lock"}) {
-        ScriveFile(Cartella() + u'/' + radice + QLatin1String(nome), LucchettoDiUnMorto());
-    }
-    QCOMPARE(Aperta().Cerca().size(), 2);
-    QCOMPARE(Copie().size(), 3);
-    QVERIFY2(NomiIn(Cartella()).size() == 4, "one lock, of the living");
-}
-
-void tst_CopiaRecupero::DiUnMortoADiscoPieno()
-{
-    Lascia(50);
-    const QString file = Aperta().Cerca().constFirst().file;
-    ScriveFile(file + QStringLiteral(".lock"), LucchettoDiUnMorto());
-    QList<CopiaRecupero::Trovata> trovate;
-    {
-        const LimiteFile niente(0);
-        trovate = Aperta().Cerca();
-    }
-    QCOMPARE(trovate.size(), 1);
-    QVERIFY2(!trovate[0].inUso, "a full disk makes nobody alive");
-}
-
-void tst_CopiaRecupero::UgualeAlFileVaVia()
-{
-    const Modello letto = ModelloDiProva(2);
-    Lascia(50);
-    Aperta().Scrive(letto); // as after a save whose program died before removing its copy
-    const CopiaRecupero copia = Aperta();
-    int superate = 0;
-    for (const auto &trovata : copia.Cerca()) {
-        superate += copia.EliminaSuperata(trovata, letto) ? 1 : 0;
-    }
-    QCOMPARE(superate, 1);
-    QCOMPARE(Copie().size(), 1);
-    QCOMPARE(copia.Cerca().constFirst().modello.Campi[1].X, 50.0);
 }
 
 void tst_CopiaRecupero::NonLeggibileSiDice()
@@ -356,26 +194,6 @@ void tst_CopiaRecupero::NonLeggibileSiDice()
     QCOMPARE(detti, QStringList{file + QStringLiteral(" 75")});
     // Neither does it hide the other.
     QCOMPARE(trovate, qsizetype(1));
-}
-
-void tst_CopiaRecupero::NonEliminabileSiRiprova()
-{
-    Lascia(50);
-    CopiaRecupero copia = Aperta();
-    copia.SegnaOfferta(copia.Cerca().constFirst());
-    copia.Scrive(ModelloDiProva(2));
-    QVERIFY(QFile::setPermissions(dir_->path(), Permessi::PerTutti));
-    QVERIFY(QFile::setPermissions(Cartella(), Permessi::SolaLettura));
-    {
-        const UtenteComune utente;
-        copia.EliminaOfferte();
-    }
-    QCOMPARE(Copie().size(), 2);
-    QVERIFY(QFile::setPermissions(Cartella(), Permessi::PerTutti));
-    copia.Scrive(ModelloDiProva(2));
-    QVERIFY2(Copie().size() == 2, "the copy that stayed is written on");
-    copia.EliminaOfferte();
-    QVERIFY(Copie().isEmpty());
 }
 
 void tst_CopiaRecupero::ByteDiUnSalvataggioFallito()
@@ -538,50 +356,6 @@ void tst_CopiaRecupero::SenzaCartellaPersonale()
     QCOMPARE(ErroreDi([&] { copia.Scrive(ModelloDiProva(2)); }), 76);
     QVERIFY(CopieRimaste::Cerca(QString()).rimaste.isEmpty());
     QCOMPARE(NomiIn(QDir::currentPath()), qui);
-}
-
-void tst_CopiaRecupero::RimasteSenzaModello_data()
-{
-    using Azione = std::function<void(const QString &)>;
-    QTest::addColumn<Azione>("azione");
-    QTest::addColumn<bool>("rimasta");
-    QTest::addColumn<bool>("modelloCe");
-    const auto niente = [](const QString &) {};
-    QTest::newRow("model as it was") << Azione(niente) << false << true;
-    QTest::newRow("model gone") << Azione([](const QString &file) { QVERIFY(QFile::remove(file)); })
-                                << true << false;
-    QTest::newRow("model renamed") << Azione([](const QString &file) {
-        QVERIFY(QFile::rename(file, file + QStringLiteral(".Mod")));
-    }) << true << false;
-    QTest::newRow("model cut short")
-        << Azione([](const QString &file) { ScriveFile(file, "x\r\n"); }) << true << true;
-    QTest::newRow("folder in its place")
-        << Azione([](const QString &file) { QVERIFY(QFile::remove(file) && QDir().mkdir(file)); })
-        << true << true;
-}
-
-void tst_CopiaRecupero::RimasteSenzaModello()
-{
-    using Azione = std::function<void(const QString &)>;
-    QFETCH(Azione, azione);
-    QFETCH(bool, rimasta);
-    QFETCH(bool, modelloCe);
-    Lascia(50);
-    azione(Percorso());
-    const auto trovate = CopieRimaste::Cerca(Cartella());
-    QVERIFY(trovate.nonLette.isEmpty());
-    QCOMPARE(trovate.rimaste.size(), rimasta ? 1 : 0);
-    if (rimasta) {
-        QCOMPARE(trovate.rimaste[0].modelloCe, modelloCe);
-        QCOMPARE(trovate.rimaste[0].percorso, QFileInfo(Percorso()).absoluteFilePath());
-        QCOMPARE(trovate.rimaste[0].modello.NomeFile, QStringLiteral("Prova.Mod"));
-        QCOMPARE(trovate.rimaste[0].modello.Campi[1].X, 50.0);
-    }
-    // What its program is still at waits.
-    CopiaRecupero viva(Cartella(), Percorso());
-    viva.Parte(std::nullopt);
-    viva.Scrive(ModelloDiProva(1));
-    QCOMPARE(CopieRimaste::Cerca(Cartella()).rimaste.size(), rimasta ? 1 : 0);
 }
 
 QTEST_GUILESS_MAIN(tst_CopiaRecupero)

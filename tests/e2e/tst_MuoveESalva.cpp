@@ -1,24 +1,15 @@
-#include "Misure.h"
 #include "RigheFile.h"
 #include "Scrivania.h"
 #include "support/CodaDiStampa.h"
 #include "support/LettorePdf.h"
+#include "support/Rettangoli.h"
 
 #include <QRegularExpression>
 #include <QTest>
 
-#include <cmath>
-
 namespace {
 
 const QString Fattura = QStringLiteral("Fattura_Rossi");
-
-bool Vicini(const QRectF &a, const QRectF &b)
-{
-    constexpr double Scarto = 0.1; // mm
-    return std::abs(a.left() - b.left()) <= Scarto && std::abs(a.right() - b.right()) <= Scarto &&
-           std::abs(a.top() - b.top()) <= Scarto && std::abs(a.bottom() - b.bottom()) <= Scarto;
-}
 
 } // namespace
 
@@ -123,7 +114,8 @@ void tst_MuoveESalva::unaGiornataDiLavoro()
              qPrintable(foglio.Testi().join(u' ')));
     // What the queue printed, from the corner that the printer can reach.
     const auto inCoda = [&](const QRectF &zona) {
-        return coda1.Inchiostro(zona.translated(AngoloStampabile)).translated(-AngoloStampabile);
+        constexpr QPointF Angolo = CodaDiStampa::AngoloStampabile;
+        return coda1.Inchiostro(zona.translated(Angolo)).translated(-Angolo);
     };
     const auto stessoPosto = [&](const QRectF &zona) {
         return !inCoda(zona).isEmpty() && Vicini(inCoda(zona), foglio.Inchiostro(zona));
@@ -131,7 +123,7 @@ void tst_MuoveESalva::unaGiornataDiLavoro()
     QVERIFY(stessoPosto(parola));
     QVERIFY(stessoPosto({5, 3, 72, 27})); // the logo
     const QRectF lato = inCoda({86, 58, 4, 2});
-    QVERIFY2(std::abs(lato.left() - 88) <= 0.1 && std::abs(lato.width() - 0.3) <= 0.1, Testo(lato));
+    QVERIFY2(Vicini(lato.left(), 88) && Vicini(lato.width(), 0.3), Testo(lato));
     QVERIFY(inCoda({95, 58, 5, 2}).isEmpty());  // where the side stood
     QVERIFY(inCoda({10, 80, 30, 2}).isEmpty()); // where the field stood
 

@@ -1,5 +1,5 @@
-#include "Misure.h"
 #include "Scrivania.h"
+#include "support/Rettangoli.h"
 
 #include <QDir>
 #include <QTest>

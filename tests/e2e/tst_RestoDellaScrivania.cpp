@@ -1,13 +1,11 @@
-#include "Misure.h"
 #include "RigheFile.h"
 #include "Scrivania.h"
 #include "support/CodaDiStampa.h"
 #include "support/LettorePdf.h"
+#include "support/Rettangoli.h"
 
 #include <QDir>
 #include <QTest>
-
-#include <cmath>
 
 namespace {
 
@@ -187,25 +185,22 @@ void tst_RestoDellaScrivania::grigliaMillimetrata()
     const LettorePdf foglio = Scrivania::UnicoFoglio(coda);
     QCOMPARE(foglio.Pagine(), 1);
     const auto inchiostro = [&](const QRectF &zona) {
-        return foglio.Inchiostro(zona.translated(AngoloStampabile)).translated(-AngoloStampabile);
+        constexpr QPointF Angolo = CodaDiStampa::AngoloStampabile;
+        return foglio.Inchiostro(zona.translated(Angolo)).translated(-Angolo);
     };
-    constexpr double Scarto = 0.1; // mm
     for (int x = 20; x <= 180; x += 10) {
         const QRectF linea = inchiostro({x - 2.0, 32, 4, 4});
-        QVERIFY2(std::abs(linea.center().x() - x) <= Scarto, Testo(linea));
+        QVERIFY2(Vicini(linea.center().x(), x), Testo(linea));
     }
     for (int y = 20; y <= 270; y += 10) {
         const QRectF linea = inchiostro({32, y - 2.0, 4, 4});
-        QVERIFY2(std::abs(linea.center().y() - y) <= Scarto, Testo(linea));
+        QVERIFY2(Vicini(linea.center().y(), y), Testo(linea));
     }
     // Numbered ticks are 3 mm long, the others 2; their line's own thickness comes on top.
     const QRectF centimetro = inchiostro({99.5, 0.3, 1, 2.6});
-    QVERIFY2(std::abs(centimetro.center().x() - 100) <= Scarto && centimetro.height() > 2.5,
-             Testo(centimetro));
+    QVERIFY2(Vicini(centimetro.center().x(), 100) && centimetro.height() > 2.5, Testo(centimetro));
     const QRectF mezzo = inchiostro({104.5, 0.3, 1, 2.6});
-    QVERIFY2(std::abs(mezzo.center().x() - 105) <= Scarto &&
-                 std::abs(mezzo.bottom() - 2) <= 2 * Scarto,
-             Testo(mezzo));
+    QVERIFY2(Vicini(mezzo.center().x(), 105) && Vicini(mezzo.bottom(), 2, 0.2), Testo(mezzo));
 }
 
 void tst_RestoDellaScrivania::manuale()

@@ -1,8 +1,8 @@
-#include "Misure.h"
 #include "RigheFile.h"
 #include "Scrivania.h"
 #include "support/CodaDiStampa.h"
 #include "support/LettorePdf.h"
+#include "support/Rettangoli.h"
 
 #include <QTest>
 

@@ -4,14 +4,13 @@
 #include "editor/Form2.h"
 #include "model/FileModello.h"
 #include "preview/Frm1.h"
-#include "sistema/Disco.h"
-#include "sistema/SuDisco.h"
 #include "support/ArchivioDiProva.h"
 #include "support/DocumentoDiProva.h"
 #include "support/FileDiProva.h"
 #include "support/Finestre.h"
 #include "support/Permessi.h"
 #include "support/Robot.h"
+#include "support/guasti/GuastiDisco.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -24,6 +23,7 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 
@@ -62,8 +62,6 @@ void ModificaEMuore(ArchivioDiProva &prova, double x)
 /// The child process: edits without end, and says the number of each finished edit.
 int ModificaSenzaFine(const QString &cartella, const QString &nome)
 {
-    // As the program does, so that a kill may also fall between writing and renaming.
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     StatoProgramma stato;
     stato.CartellaModelli = cartella;
     stato.NomeFile = nome;
@@ -639,13 +637,12 @@ void tst_Recupero::SalvatoNonostanteLErroreNonChiede()
     EditorAperto prova(1);
     Form2 &editor = prova.Editor();
     Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 60; });
-    Disco::UsaSincronizzazione(nullptr, [](const QString &) -> std::error_code {
-        return {EIO, std::generic_category()};
-    });
     Robot robot;
     robot.Si().Ok();
-    Preme(editor, "Salva");
-    Disco::UsaSincronizzazione(nullptr, nullptr);
+    {
+        const GuastiDisco guasto(GuastiDisco::Chiamata::SincronizzaCartella, EIO);
+        Preme(editor, "Salva");
+    }
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constLast(), QStringLiteral("errore 57 Errore di I/O della periferica\n"
                                                        "salvataggio del file Prova.Mod"));

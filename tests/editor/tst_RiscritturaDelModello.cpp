@@ -1,8 +1,8 @@
 #include "EditoreDiProva.h"
 #include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
-#include "sistema/Disco.h"
 #include "support/FileDiProva.h"
+#include "support/guasti/GuastiDisco.h"
 
 #include "support/DocumentoDiProva.h"
 
@@ -21,8 +21,6 @@ class tst_RiscritturaDelModello : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { Disco::UsaSincronizzazione(nullptr, nullptr); }
-
     void ConDueNomi();
     void InUnaCartellaNonScrivibile();
     void RestatoIncompletoSiDice();
@@ -48,14 +46,14 @@ QStringList Copie(const ArchivioDiProva &prova)
         .entryList({QStringLiteral("*.recupero")}, QDir::Files);
 }
 
-QString ModelloGuasto;
-
-/// The medium refuses what is forced onto it of the one file.
-std::error_code SincroniaFallita(int descrittore)
+/// Saves while the medium refuses what is forced onto it of the one file.
+void SalvaSulGuasto(Form2 &editor, const QString &file)
 {
-    const QFileInfo via(QStringLiteral("/proc/self/fd/%1").arg(descrittore));
-    return via.symLinkTarget() == ModelloGuasto ? std::error_code(EIO, std::generic_category())
-                                                : std::error_code();
+    const QString modello = QFileInfo(file).canonicalFilePath();
+    const GuastiDisco guasto(GuastiDisco::Chiamata::SincronizzaFile, [&](int descrittore) {
+        return GuastiDisco::Percorso(descrittore) == modello ? EIO : 0;
+    });
+    Preme(editor, "Salva");
 }
 
 } // namespace
@@ -107,12 +105,9 @@ void tst_RiscritturaDelModello::RestatoIncompletoSiDice()
     EditorAperto prova(2);
     AltroNome(prova);
     Modifica(prova.Stato(), [](Modello &modello) { modello.Campi[1].X = 60; });
-    ModelloGuasto = QFileInfo(prova.Percorso()).canonicalFilePath();
-    Disco::UsaSincronizzazione(&SincroniaFallita, nullptr);
     Robot robot;
     robot.Si().Ok();
-    Preme(prova.Editor(), "Salva");
-    Disco::UsaSincronizzazione(nullptr, nullptr);
+    SalvaSulGuasto(prova.Editor(), prova.Percorso());
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi().constLast(),
              QStringLiteral("errore 57 Errore di I/O della periferica; il file è rimasto "
@@ -139,11 +134,8 @@ void tst_RiscritturaDelModello::IncompletoSiChiudeSenzaPerdere()
     auto editor = std::make_unique<Form2>(prova.Stato());
     QVERIFY(editor->Form_Load());
     Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 60; });
-    ModelloGuasto = QFileInfo(prova.Percorso()).canonicalFilePath();
-    Disco::UsaSincronizzazione(&SincroniaFallita, nullptr);
     robot.Si().Ok();
-    Preme(*editor, "Salva");
-    Disco::UsaSincronizzazione(nullptr, nullptr);
+    SalvaSulGuasto(*editor, prova.Percorso());
     ScriveFile(prova.Percorso(), prova.ByteDelFile().chopped(10));
 
     const auto chiude = [&] {

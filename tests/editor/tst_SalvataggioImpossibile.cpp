@@ -1,13 +1,15 @@
 #include "EditoreDiProva.h"
 #include "model/FileModello.h"
-#include "sistema/Disco.h"
 #include "support/FileDiProva.h"
+#include "support/guasti/GuastiDisco.h"
 
 #include "support/DocumentoDiProva.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTest>
+
+#include <cerrno>
 
 #include <sys/stat.h>
 
@@ -73,12 +75,7 @@ std::shared_ptr<void> CartellaAlPostoDelFile(const ArchivioDiProva &archivio)
 template <int Causa>
 std::shared_ptr<void> SincroniaFallita(const ArchivioDiProva &)
 {
-    Disco::UsaSincronizzazione(
-        [](int) -> std::error_code {
-            return {Causa, std::generic_category()};
-        },
-        nullptr);
-    return {nullptr, [](void *) { Disco::UsaSincronizzazione(nullptr, nullptr); }};
+    return std::make_shared<GuastiDisco>(GuastiDisco::Chiamata::SincronizzaFile, Causa);
 }
 
 } // namespace

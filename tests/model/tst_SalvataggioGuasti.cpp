@@ -1,6 +1,4 @@
 #include "model/FileModello.h"
-#include "sistema/Disco.h"
-#include "sistema/SuDisco.h"
 
 #include "support/FileDiProva.h"
 #include "support/ModelloDiProva.h"
@@ -264,7 +262,6 @@ void tst_SalvataggioGuasti::MilleUccisioni()
     const QByteArray vecchi = Byte(ElementiVecchi);
     const QByteArray nuovi = Byte(ElementiNuovi);
     ScriveFile(File(), vecchi);
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
 
     // However slow machine and build are, and however their speed changes meanwhile, about half of
     // the kills shall come before a child's first save is done and half after: the wait follows
@@ -306,7 +303,6 @@ void tst_SalvataggioGuasti::MilleUccisioni()
     InvecchiaResti(cartella_->path());
     FileModello::Salva(ModelloDiProva(ElementiNuovi), File(), QLocale::c());
     QCOMPARE(NomiIn(cartella_->path()).size(), 1);
-    Disco::UsaSincronizzazione(nullptr, nullptr);
 }
 
 QTEST_GUILESS_MAIN(tst_SalvataggioGuasti)

@@ -6,6 +6,7 @@
 #include "print/Stampanti.h"
 #include "support/ImmaginiDiProva.h"
 #include "support/LettorePdf.h"
+#include "support/Rettangoli.h"
 
 #include <QDir>
 #include <QPageSize>
@@ -86,27 +87,3 @@ public:
 private:
     QTemporaryDir dir_;
 };
-
-/// Within the tenth of a millimetre that the printed sheet is held to.
-inline bool Vicini(double a, double b, double scarto = 0.1)
-{
-    return qAbs(a - b) <= scarto;
-}
-
-inline bool Vicini(const QRectF &a, const QRectF &b, double scarto = 0.1)
-{
-    return Vicini(a.left(), b.left(), scarto) && Vicini(a.top(), b.top(), scarto) &&
-           Vicini(a.right(), b.right(), scarto) && Vicini(a.bottom(), b.bottom(), scarto);
-}
-
-inline const char *Testo(const QRectF &r)
-{
-    static QByteArray testo;
-    testo = QStringLiteral("%1 %2 - %3 %4")
-                .arg(r.left())
-                .arg(r.top())
-                .arg(r.right())
-                .arg(r.bottom())
-                .toUtf8();
-    return testo.constData();
-}

@@ -1,26 +1,18 @@
-#include "sistema/Disco.h"
+#include "CartellaDiProva.h"
 
+#include "sistema/Disco.h"
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
-#include <QTemporaryDir>
-#include <QTest>
-
 #include <cerrno>
-#include <memory>
 
-#include <sys/stat.h>
-
-class tst_Disco : public QObject
+class tst_Disco : public QObject, private CartellaDiProva
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { NuovaCartella(); }
+    void cleanup() { TogliCartella(); }
 
     void LeggeIByte_data();
     void LeggeIByte();
@@ -36,87 +28,14 @@ private slots:
     void SegueICollegamenti_data();
     void SegueICollegamenti();
     void CollegamentoInCerchio();
-    void NomeLungoQuantoPuoEssere();
     void NonSostituisce_data();
     void NonSostituisce();
     void FileDiSolaLettura();
     void CartellaDiSolaLettura();
-    void LimiteDiDimensione_data();
-    void LimiteDiDimensione();
-    void SincronizzazioneFallita_data();
-    void SincronizzazioneFallita();
-    void SincronizzaPrimaDiPrendereIlPosto();
-    void CartellaNonSincronizzata();
-    void CreaCartellaPrivata();
-    void NonCreaCartella_data();
-    void NonCreaCartella();
-    void ProprietaPrimaDeiPermessi_data();
-    void ProprietaPrimaDeiPermessi();
-    void ProprietaDiUnFileNuovo();
-
-    void SpazzaIResti_data();
-    void SpazzaIResti();
 
     void NumeroErrore_data();
     void NumeroErrore();
-
-private:
-    QString In(const QString &nome) const { return cartella_->filePath(nome); }
-    QString File() const { return In(QStringLiteral("Fattura.Mod")); }
-
-    std::unique_ptr<QTemporaryDir> cartella_;
 };
-
-namespace {
-
-const QByteArray Vecchi("i vecchi byte");
-const QByteArray Nuovi(9000, 'n');
-
-int ModoDi(const QString &percorso)
-{
-    struct stat stato
-    {
-    };
-    return lstat(QFile::encodeName(percorso).constData(), &stato) == 0 ? stato.st_mode & 07777 : -1;
-}
-
-int causaSincronia = 0;
-QByteArray vistiAllaSincronia;
-
-bool proprietaTenuta = false;
-QStringList chiestiAllaProprieta;
-int modoAllaProprieta = -1;
-
-bool ProprietaFinta(int descrittore, const QString &vecchio)
-{
-    struct stat stato
-    {
-    };
-    modoAllaProprieta = fstat(descrittore, &stato) == 0 ? stato.st_mode & 07777 : -1;
-    chiestiAllaProprieta.append(vecchio);
-    // As a change of owner may do.
-    return fchmod(descrittore, proprietaTenuta ? 0664 : 0400) == 0 && proprietaTenuta;
-}
-
-std::error_code SincroniaFinta(int)
-{
-    return {causaSincronia, std::generic_category()};
-}
-
-} // namespace
-
-void tst_Disco::init()
-{
-    cartella_ = std::make_unique<QTemporaryDir>();
-    QVERIFY(cartella_->isValid());
-}
-
-void tst_Disco::cleanup()
-{
-    Disco::UsaSincronizzazione(nullptr, nullptr);
-    Disco::UsaProprieta(nullptr);
-    cartella_.reset();
-}
 
 void tst_Disco::LeggeIByte_data()
 {
@@ -257,17 +176,6 @@ void tst_Disco::CollegamentoInCerchio()
     QCOMPARE(NomiIn(cartella_->path()).size(), 2);
 }
 
-void tst_Disco::NomeLungoQuantoPuoEssere()
-{
-    const QString lungo = In(QString(251, u'n') + QLatin1String(".Mod"));
-    Disco::Sostituisce(lungo, Vecchi);
-    Disco::Sostituisce(lungo, Nuovi);
-    QCOMPARE(ByteDi(lungo), Nuovi);
-    const QString troppo = In(QString(252, u'n') + QLatin1String(".Mod"));
-    QCOMPARE(ErroreDi([&] { Disco::Sostituisce(troppo, Nuovi); }), 75);
-    QCOMPARE(NomiIn(cartella_->path()).size(), 1);
-}
-
 void tst_Disco::NonSostituisce_data()
 {
     QTest::addColumn<QString>("nome");
@@ -320,209 +228,6 @@ void tst_Disco::CartellaDiSolaLettura()
     QCOMPARE(ByteDi(File()), Vecchi);
     QCOMPARE(NomiIn(cartella_->path()).size(), 1);
     QCOMPARE(chmod(QFile::encodeName(cartella_->path()).constData(), 0755), 0);
-}
-
-void tst_Disco::LimiteDiDimensione_data()
-{
-    QTest::addColumn<qint64>("limite");
-    QTest::addColumn<int>("errore");
-
-    QTest::newRow("0 byte") << qint64(0) << 61;
-    QTest::newRow("4096 byte") << qint64(4096) << 61;
-    QTest::newRow("un byte in meno") << qint64(Nuovi.size() - 1) << 61;
-    QTest::newRow("quanto basta") << qint64(Nuovi.size()) << 0;
-}
-
-void tst_Disco::LimiteDiDimensione()
-{
-    QFETCH(qint64, limite);
-    QFETCH(int, errore);
-    ScriveFile(File(), Vecchi);
-    int trovato = -1;
-    {
-        const LimiteFile limiteFile(limite);
-        trovato = ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); });
-    }
-    QCOMPARE(trovato, errore);
-    QCOMPARE(ByteDi(File()), errore == 0 ? Nuovi : Vecchi);
-    QCOMPARE(NomiIn(cartella_->path()).size(), 1);
-}
-
-void tst_Disco::SincronizzazioneFallita_data()
-{
-    QTest::addColumn<int>("causa");
-    QTest::addColumn<int>("errore");
-
-    QTest::newRow("disco pieno") << ENOSPC << 61;
-    QTest::newRow("guasto") << EIO << 57;
-    QTest::newRow("nessuno") << 0 << 0;
-}
-
-void tst_Disco::SincronizzazioneFallita()
-{
-    QFETCH(int, causa);
-    QFETCH(int, errore);
-    ScriveFile(File(), Vecchi);
-    causaSincronia = causa;
-    Disco::UsaSincronizzazione(&SincroniaFinta, nullptr);
-    QCOMPARE(ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); }), errore);
-    QCOMPARE(ByteDi(File()), errore == 0 ? Nuovi : Vecchi);
-    QCOMPARE(NomiIn(cartella_->path()).size(), 1);
-}
-
-void tst_Disco::SincronizzaPrimaDiPrendereIlPosto()
-{
-    // What is forced onto the medium are all the new bytes, while the old file still stands.
-    static QString percorso;
-    percorso = File();
-    ScriveFile(File(), Vecchi);
-    static QByteArray vistiPoi;
-    Disco::UsaSincronizzazione(
-        [](int descrittore) -> std::error_code {
-            const QString via = QStringLiteral("/proc/self/fd/%1").arg(descrittore);
-            if (ByteDi(via) == Nuovi) {
-                vistiAllaSincronia = ByteDi(percorso);
-            }
-            return {};
-        },
-        [](const QString &cartella) -> std::error_code {
-            // The name comes after them, once it stands for the new file.
-            if (cartella == QFileInfo(percorso).path()) {
-                vistiPoi = ByteDi(percorso);
-            }
-            return {};
-        });
-    Disco::Sostituisce(File(), Nuovi);
-    QCOMPARE(vistiAllaSincronia, Vecchi);
-    QCOMPARE(vistiPoi, Nuovi);
-    QCOMPARE(ByteDi(File()), Nuovi);
-}
-
-void tst_Disco::CartellaNonSincronizzata()
-{
-    // The new file stands already, and is no half of one.
-    ScriveFile(File(), Vecchi);
-    Disco::UsaSincronizzazione(nullptr, [](const QString &) -> std::error_code {
-        return {EIO, std::generic_category()};
-    });
-    QCOMPARE(ErroreDi([&] { Disco::Sostituisce(File(), Nuovi); }), 57);
-    QCOMPARE(ByteDi(File()), Nuovi);
-    QCOMPARE(NomiIn(cartella_->path()).size(), 1);
-}
-
-void tst_Disco::CreaCartellaPrivata()
-{
-    static QStringList sincronizzate;
-    sincronizzate.clear();
-    Disco::UsaSincronizzazione(nullptr, [](const QString &cartella) -> std::error_code {
-        sincronizzate.append(cartella);
-        return {};
-    });
-    const QString nuova = In(QStringLiteral("una/due"));
-    Disco::CreaCartellaPrivata(nuova);
-    QCOMPARE(ModoDi(nuova), 0700);
-    QVERIFY2(ModoDi(In(QStringLiteral("una"))) != 0700, "those above are as others make them");
-    QCOMPARE(sincronizzate, QStringList{In(QStringLiteral("una"))});
-
-    // One that is there stays as its owner made it.
-    QCOMPARE(chmod(QFile::encodeName(nuova).constData(), 0750), 0);
-    Disco::CreaCartellaPrivata(nuova);
-    QCOMPARE(ModoDi(nuova), 0750);
-    QCOMPARE(sincronizzate.size(), 1);
-}
-
-void tst_Disco::NonCreaCartella_data()
-{
-    QTest::addColumn<QString>("nome");
-
-    QTest::newRow("file al suo posto") << QStringLiteral("file");
-    QTest::newRow("file sopra di lei") << QStringLiteral("file/nuova");
-    QTest::newRow("senza permesso") << QStringLiteral("chiusa/nuova");
-}
-
-void tst_Disco::NonCreaCartella()
-{
-    QFETCH(QString, nome);
-    ScriveFile(In(QStringLiteral("file")), Vecchi);
-    QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("chiusa")));
-    const QByteArray chiusa = QFile::encodeName(In(QStringLiteral("chiusa")));
-    QCOMPARE(chmod(QFile::encodeName(cartella_->path()).constData(), 0755), 0);
-    QCOMPARE(chmod(chiusa.constData(), 0555), 0);
-    int errore = -1;
-    {
-        const UtenteComune utente;
-        errore = ErroreDi([&] { Disco::CreaCartellaPrivata(In(nome)); });
-    }
-    QCOMPARE(errore, 75);
-    QCOMPARE(ByteDi(In(QStringLiteral("file"))), Vecchi);
-    QCOMPARE(chmod(chiusa.constData(), 0755), 0);
-}
-
-void tst_Disco::ProprietaPrimaDeiPermessi_data()
-{
-    QTest::addColumn<bool>("tenuta");
-
-    QTest::newRow("tenuta") << true;
-    QTest::newRow("rifiutata, e si salva lo stesso") << false;
-}
-
-void tst_Disco::ProprietaPrimaDeiPermessi()
-{
-    QFETCH(bool, tenuta);
-    proprietaTenuta = tenuta;
-    chiestiAllaProprieta.clear();
-    Disco::UsaProprieta(&ProprietaFinta);
-    const QString vero = In(QStringLiteral("Vero.Mod"));
-    ScriveFile(vero, Vecchi);
-    QCOMPARE(chmod(QFile::encodeName(vero).constData(), 0664), 0);
-    QVERIFY(QFile::link(vero, File()));
-    Disco::Sostituisce(File(), Nuovi);
-    QCOMPARE(chiestiAllaProprieta, QStringList{vero});
-    QCOMPARE(modoAllaProprieta, 0600);
-    QCOMPARE(ModoDi(vero), 0664);
-    QCOMPARE(ByteDi(vero), Nuovi);
-}
-
-void tst_Disco::ProprietaDiUnFileNuovo()
-{
-    chiestiAllaProprieta.clear();
-    Disco::UsaProprieta(&ProprietaFinta);
-    Disco::Sostituisce(File(), Nuovi);
-    QVERIFY2(chiestiAllaProprieta.isEmpty(), "there is no file whose owner could be kept");
-    QCOMPARE(ByteDi(File()), Nuovi);
-}
-
-void tst_Disco::SpazzaIResti_data()
-{
-    QTest::addColumn<QString>("nome");
-    QTest::addColumn<int>("minuti");
-    QTest::addColumn<bool>("resta");
-
-    const QString nostro = QStringLiteral(".plakera-0123456789abcdef.tmp");
-    QTest::newRow("resto di un programma ucciso") << nostro << 11 << false;
-    QTest::newRow("resto di ieri") << nostro << 24 * 60 << false;
-    QTest::newRow("di un programma che sta scrivendo") << nostro << 0 << true;
-    QTest::newRow("di un programma su una rete lenta") << nostro << 9 << true;
-    QTest::newRow("copia dell'utente") << QStringLiteral("Fattura.Mod.backup") << 60 << true;
-    QTest::newRow("nome piu' corto") << QStringLiteral(".plakera-0123.tmp") << 60 << true;
-    QTest::newRow("nome non esadecimale")
-        << QStringLiteral(".plakera-0123456789abcdeg.tmp") << 60 << true;
-    QTest::newRow("altra fine") << QStringLiteral(".plakera-0123456789abcdef.Mod") << 60 << true;
-}
-
-void tst_Disco::SpazzaIResti()
-{
-    QFETCH(QString, nome);
-    QFETCH(int, minuti);
-    QFETCH(bool, resta);
-    ScriveFile(File(), Vecchi);
-    ScriveFile(In(nome), QByteArray());
-    Invecchia(In(nome), 60 * minuti);
-
-    Disco::Sostituisce(File(), Nuovi);
-
-    QCOMPARE(QFile::exists(In(nome)), resta);
-    QCOMPARE(ByteDi(File()), Nuovi);
 }
 
 void tst_Disco::NumeroErrore_data()

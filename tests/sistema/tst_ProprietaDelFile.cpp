@@ -1,5 +1,4 @@
 #include "sistema/Disco.h"
-#include "sistema/SuDisco.h"
 
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
@@ -25,7 +24,7 @@ class tst_ProprietaDelFile : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { cartella_.reset(); }
 
     void AccessoEAttributi();
     void NienteDiQuelCheDaLaCartella();
@@ -107,15 +106,6 @@ void tst_ProprietaDelFile::init()
     QCOMPARE(chmod(QFile::encodeName(cartella_->path()).constData(), 0777), 0);
     ScriveFile(File(), Vecchi);
     riscritture = 0;
-    Disco::UsaProprieta(&SuDisco::TieneProprieta);
-    Disco::UsaScambio(&SuDisco::PrendeIlPosto);
-}
-
-void tst_ProprietaDelFile::cleanup()
-{
-    Disco::UsaProprieta(nullptr);
-    Disco::UsaScambio(nullptr);
-    cartella_.reset();
 }
 
 QByteArray tst_ProprietaDelFile::Attributo(const char *nome) const

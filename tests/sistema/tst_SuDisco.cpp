@@ -24,7 +24,7 @@ class tst_SuDisco : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { cartella_.reset(); }
 
     void ProprietarioEGruppo_data();
     void ProprietarioEGruppo();
@@ -92,13 +92,6 @@ void tst_SuDisco::init()
     cartella_ = std::make_unique<QTemporaryDir>();
     QVERIFY(cartella_->isValid());
     QCOMPARE(chmod(QFile::encodeName(cartella_->path()).constData(), 0777), 0);
-    Disco::UsaProprieta(&SuDisco::TieneProprieta);
-}
-
-void tst_SuDisco::cleanup()
-{
-    Disco::UsaProprieta(nullptr);
-    cartella_.reset();
 }
 
 void tst_SuDisco::CreaFile(uid_t proprietario, gid_t gruppo, mode_t modo) const
@@ -215,14 +208,12 @@ void tst_SuDisco::SincronizzaUnaCartellaNonLeggibile()
     const QString buca = cartella_->filePath(QStringLiteral("buca"));
     QVERIFY(QDir().mkdir(buca));
     QCOMPARE(chmod(QFile::encodeName(buca).constData(), 0333), 0);
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
     int errore = -1;
     {
         const UtenteComune utente;
         errore =
             ErroreDi([&] { Disco::Sostituisce(buca + QStringLiteral("/Fattura.Mod"), Nuovi); });
     }
-    Disco::UsaSincronizzazione(nullptr, nullptr);
     QCOMPARE(errore, 0);
     QCOMPARE(ByteDi(buca + QStringLiteral("/Fattura.Mod")), Nuovi);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/Unita.h"
+
+#include <QPointF>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -20,6 +23,9 @@ public:
         double Destra = 12;
         double Sotto = 14;
     };
+    /// From the sheet's corner to the first point that a queue with these margins reaches, mm.
+    static constexpr QPointF AngoloStampabile{12 * Unita::MillimetriPerPunto,
+                                              14 * Unita::MillimetriPerPunto};
 
     /// True when the server and the PDF printer are installed at all.
     static bool Installata();

@@ -2,7 +2,6 @@
 #include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
 #include "sistema/Disco.h"
-#include "sistema/SuDisco.h"
 
 #include "support/ModelloDiProva.h"
 
@@ -32,9 +31,6 @@ int main(int argc, char *argv[])
     if (argc != 3 && argc != 4) {
         return 1;
     }
-    Disco::UsaSincronizzazione(&SuDisco::Sincronizza, &SuDisco::SincronizzaCartella);
-    Disco::UsaProprieta(&SuDisco::TieneProprieta);
-    Disco::UsaScambio(&SuDisco::PrendeIlPosto);
     QLocale::setDefault(QLocale::c());
     const QString file = QFile::decodeName(argv[1]);
     const Modello modello = ModelloDiProva(QByteArray(argv[2]).toInt());
