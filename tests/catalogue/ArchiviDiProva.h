@@ -13,41 +13,15 @@
 
 #include <memory>
 
-/// The start window over a data folder of its own, with the archive "Contabilita".
-class ArchiviDiProva
+/// The start window, whose lists are worked with the mouse.
+struct FinestraIniziale
 {
-public:
-    ArchiviDiProva()
-    {
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(cartella_.path()));
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(cartella_.path()));
-        Crea(QStringLiteral("Contabilita"));
-    }
-
-    QString Dati() const
-    {
-        return QDir::toNativeSeparators(cartella_.filePath(QStringLiteral("dati")));
-    }
-    /// A full path below the data folder.
-    QString In(const QString &nome) const
-    {
-        return Dati() + QDir::separator() + QDir::toNativeSeparators(nome);
-    }
-    /// A full path in the models folder of "Contabilita".
-    QString Ini(const QString &nome = QString()) const
-    {
-        return In(QStringLiteral("Contabilita/ini/") + nome);
-    }
-    void Crea(const QString &archivio) const
-    {
-        QVERIFY(QDir().mkpath(In(archivio + QStringLiteral("/ini"))));
-    }
-
-    /// Loads the window, which must succeed without a message, and shows it.
-    void Carica()
+    /// Loads the window, which must succeed without a message, and shows it. dati: the data folder;
+    /// empty for the one that the settings name.
+    void Carica(const QString &dati)
     {
         const Robot robot;
-        QVERIFY(Finestra.Form_Load(Dati()));
+        QVERIFY(Finestra.Form_Load(dati));
         QVERIFY(robot.Soddisfatto());
         Mostra();
     }
@@ -85,10 +59,42 @@ public:
                           Lista(lista)->visualItemRect(trovate.first()).center());
     }
 
-private:
-    QTemporaryDir cartella_;
-
-public:
     StatoProgramma Stato;
     SelezioneArchivifrm Finestra{Stato};
+};
+
+/// The start window over a data folder of its own, with the archive "Contabilita".
+class ArchiviDiProva : public FinestraIniziale
+{
+public:
+    ArchiviDiProva()
+    {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(cartella_.path()));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(cartella_.path()));
+        Crea(QStringLiteral("Contabilita"));
+    }
+
+    QString Dati() const
+    {
+        return QDir::toNativeSeparators(cartella_.filePath(QStringLiteral("dati")));
+    }
+    /// A full path below the data folder.
+    QString In(const QString &nome) const
+    {
+        return Dati() + QDir::separator() + QDir::toNativeSeparators(nome);
+    }
+    /// A full path in the models folder of "Contabilita".
+    QString Ini(const QString &nome = QString()) const
+    {
+        return In(QStringLiteral("Contabilita/ini/") + nome);
+    }
+    void Crea(const QString &archivio) const
+    {
+        QVERIFY(QDir().mkpath(In(archivio + QStringLiteral("/ini"))));
+    }
+
+    void Carica() { FinestraIniziale::Carica(Dati()); }
+
+private:
+    QTemporaryDir cartella_;
 };

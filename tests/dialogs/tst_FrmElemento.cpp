@@ -1,114 +1,13 @@
 // What the property dialogs of the three kinds have in common for whoever uses them.
 
-#include "dialogs/FrmCampo.h"
-#include "dialogs/FrmCornice.h"
-#include "dialogs/FrmImmagine.h"
+#include "dialogs/DialogoDiProva.h"
 #include "dialogs/Mnemonici.h"
-#include "finestre/DialogoScorrevole.h"
-#include "support/Controlli.h"
-#include "support/DocumentoDiProva.h"
-#include "support/Robot.h"
+#include "finestre/Finestre.h"
+#include "support/Errori.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QScrollArea>
-#include <QTemporaryDir>
-
-#include <memory>
+#include <QPushButton>
 
 using namespace Controlli;
-
-namespace {
-
-constexpr double PiuLungo = -1.23456789012345e+105; // than any box of a dialog
-
-/// A model with an element of each kind, and the dialog of one of them as the editor opens it.
-struct Prova
-{
-    explicit Prova(Genere genere, qint16 dimensione = 11, bool scorre = false)
-    {
-        stato.CartellaModelli = cartella.path() + u'/';
-        stato.ElencoFont = {QStringLiteral("Arial"), QStringLiteral("Courier New")};
-        Cambia(stato, [dimensione](Modello &modello) {
-            modello.AggiungeCampo(PiuLungo, PiuLungo);
-            modello.AggiungeCornice(PiuLungo, PiuLungo, 5, 7);
-            modello.AggiungeImmagine(PiuLungo, PiuLungo);
-            modello.Campi[1].Dimensione = dimensione;
-            modello.Cornici[1].Dimensione = dimensione;
-            modello.Immagini[1].Nome = QStringLiteral("logo.bmp");
-        });
-        Crea(genere);
-        if (scorre) {
-            constexpr int OltreLoSchermo = 3000;
-            Trova<QWidget>(*dialogo, "Nome")->setMinimumWidth(OltreLoSchermo);
-        }
-        AdattaAlloSchermo(*dialogo);
-        dialogo->setModal(false); // the robot looks for modal boxes only
-        dialogo->show();
-        QVERIFY(QTest::qWaitForWindowExposed(dialogo.get()));
-        dialogo->activateWindow();
-    }
-
-    void Crea(Genere genere)
-    {
-        switch (genere) {
-        case Genere::Campo: {
-            auto campo = std::make_unique<FrmCampo>(stato);
-            campo->RiempieComboImpostazioni();
-            campo->Carica(1);
-            Sceglie(*campo, stato.Aperto().Campi[1].Dimensione);
-            campo->Maschere()->setCurrentIndex(60);
-            dialogo = std::move(campo);
-            break;
-        }
-        case Genere::Cornice: {
-            auto cornice = std::make_unique<FrmCornice>(stato);
-            cornice->RiempieComboImpostazioni();
-            cornice->Carica(1);
-            Sceglie(*cornice, stato.Aperto().Cornici[1].Dimensione);
-            dialogo = std::move(cornice);
-            break;
-        }
-        case Genere::Immagine: {
-            auto immagine = std::make_unique<FrmImmagine>(stato);
-            immagine->Carica(1);
-            dialogo = std::move(immagine);
-            break;
-        }
-        }
-    }
-
-    static void Sceglie(FrmCarattere &dialogo, qint16 dimensione)
-    {
-        dialogo.Font()->setCurrentIndex(1);
-        dialogo.Dimensioni()->setCurrentIndex(
-            dialogo.Dimensioni()->findText(QString::number(dimensione).rightJustified(2)));
-    }
-
-    QTemporaryDir cartella;
-    StatoProgramma stato;
-    std::unique_ptr<FrmElemento> dialogo;
-    Robot robot;
-};
-
-void Generi_data()
-{
-    QTest::addColumn<Genere>("genere");
-    QTest::newRow("campo") << Genere::Campo;
-    QTest::newRow("cornice") << Genere::Cornice;
-    QTest::newRow("immagine") << Genere::Immagine;
-}
-
-/// Narrow enough to cut its text, a box shows the beginning of it.
-bool MostraLInizio(QLineEdit &casella)
-{
-    casella.setFixedWidth(60);
-    casella.grab(); // painting scrolls the text to the cursor
-    return casella.fontMetrics().horizontalAdvance(casella.text()) > casella.width() &&
-           casella.cursorPositionAt({2, casella.height() / 2}) == 0;
-}
-
-} // namespace
 
 class tst_FrmElemento : public QObject
 {
@@ -116,192 +15,422 @@ class tst_FrmElemento : public QObject
 private slots:
     void init() { QLocale::setDefault(QLocale::c()); }
 
-    void UnTastoAllAperturaNonRinomina_data() { Generi_data(); }
-    void UnTastoAllAperturaNonRinomina();
-    void ScorrevoleSiApreNellaStessaCasella_data() { Generi_data(); }
-    void ScorrevoleSiApreNellaStessaCasella();
-    void LaRotellaSugliElenchiChiusiNonCambiaNulla_data() { Generi_data(); }
-    void LaRotellaSugliElenchiChiusiNonCambiaNulla();
-    void DimensioneFuoriElenco_data();
-    void DimensioneFuoriElenco();
-    void GliElenchiSiApronoSuVentiRighe_data();
-    void GliElenchiSiApronoSuVentiRighe();
-    void INumeriLunghiMostranoLInizio_data() { Generi_data(); }
-    void INumeriLunghiMostranoLInizio();
-    void EntrandoDaTastieraSiVedeLInizio_data() { Generi_data(); }
-    void EntrandoDaTastieraSiVedeLInizio();
-    void UnRifiutoMostraLInizio_data() { Generi_data(); }
-    void UnRifiutoMostraLInizio();
-    void IMnemoniciSonoLettere_data() { Generi_data(); }
-    void IMnemoniciSonoLettere();
+    void MnemoniciUnici_data() { RighePerGenere(); }
+    void MnemoniciUnici();
+    void OgniControlloHaLArgomentoDellaGuida_data() { RighePerGenere(); }
+    void OgniControlloHaLArgomentoDellaGuida();
+    void StaInUnoSchermoPiccolo_data() { RighePerGenere(); }
+    void StaInUnoSchermoPiccolo();
+    void CaricaUnIndiceFuoriTabellaEErrore9_data() { RighePerGenere(); }
+    void CaricaUnIndiceFuoriTabellaEErrore9();
+    void Numero_data();
+    void Numero();
+    void SoloCaratteriDelCodice_data() { RighePerGenere(); }
+    void SoloCaratteriDelCodice();
+
+    void LElencoSegueLaConfermaPoiSiChiude_data() { RighePerGenere(); }
+    void LElencoSegueLaConfermaPoiSiChiude();
+    void InvioConferma_data();
+    void InvioConferma();
+    void InvioSuUnBottoneLoPreme_data() { RighePerGenere(); }
+    void InvioSuUnBottoneLoPreme();
+    void EscChiudeSenzaScrivere_data() { InvioConferma_data(); }
+    void EscChiudeSenzaScrivere();
+    void AprireEConfermareNonCambiaNulla_data() { RighePerGenere(); }
+    void AprireEConfermareNonCambiaNulla();
+    void ConfermaIlProprioNome_data() { RighePerGenere(); }
+    void ConfermaIlProprioNome();
+    void NomeDiUnAltro_data();
+    void NomeDiUnAltro();
+    void NomeVuotoRifiutato_data();
+    void NomeVuotoRifiutato();
+    void TestoCheNonENumero_data();
+    void TestoCheNonENumero();
+    void NumeriConLaVirgolaDellaLocale_data() { RighePerGenere(); }
+    void NumeriConLaVirgolaDellaLocale();
+    void IndiceFuoriTabellaAllaConferma_data() { RighePerGenere(); }
+    void IndiceFuoriTabellaAllaConferma();
+    void ConfermaCon101Elementi_data() { RighePerGenere(); }
+    void ConfermaCon101Elementi();
+
+    void EliminaConNo_data() { Domande(); }
+    void EliminaConNo();
+    void EliminaConSi_data() { Domande(); }
+    void EliminaConSi();
+
+private:
+    static void Domande();
 };
 
-void tst_FrmElemento::UnTastoAllAperturaNonRinomina()
+void tst_FrmElemento::MnemoniciUnici()
 {
     QFETCH(Genere, genere);
-    Prova p(genere);
-    const QString nome = Testo(*p.dialogo, "Nome");
-    QWidget *primo = p.dialogo->focusWidget();
-    QCOMPARE(primo,
-             Trova<QWidget>(*p.dialogo, genere == Genere::Immagine ? "Descrizione" : "Testo"));
-    QTest::keyClick(primo, Qt::Key_X);
-    QCOMPARE(Testo(*p.dialogo, "Nome"), nome);
+    const DialogoAperto p(genere);
+    QCOMPARE(MnemoniciRipetuti(*p.dialogo, genere == Genere::Immagine ? 9 : 15), QStringList());
 }
 
-void tst_FrmElemento::ScorrevoleSiApreNellaStessaCasella()
+void tst_FrmElemento::OgniControlloHaLArgomentoDellaGuida()
 {
     QFETCH(Genere, genere);
-    const Prova p(genere, 11, true);
-    QVERIFY(p.dialogo->findChild<QScrollArea *>() != nullptr);
-    const QString nome = Testo(*p.dialogo, "Nome");
-    auto *primo = qobject_cast<QLineEdit *>(p.dialogo->focusWidget());
-    QCOMPARE(primo,
-             Trova<QLineEdit>(*p.dialogo, genere == Genere::Immagine ? "Descrizione" : "Testo"));
-    QCOMPARE(primo->selectedText(), primo->text());
-    QCOMPARE(primo->cursorPosition(), 0);
-    QTest::keyClick(primo, Qt::Key_X);
-    QCOMPARE(primo->text(), QStringLiteral("x"));
-    QCOMPARE(Testo(*p.dialogo, "Nome"), nome);
-}
-
-void tst_FrmElemento::LaRotellaSugliElenchiChiusiNonCambiaNulla()
-{
-    QFETCH(Genere, genere);
-    Prova p(genere);
-    const QList<QComboBox *> elenchi = p.dialogo->findChildren<QComboBox *>();
-    QCOMPARE(elenchi.size(), genere == Genere::Campo ? 3 : genere == Genere::Cornice ? 2 : 0);
-    for (QComboBox *elenco : elenchi) {
-        const int scelto = elenco->currentIndex();
-        QVERIFY(scelto > 0);
-        elenco->setFocus();
-        QVERIFY2(!GiraRotella(elenco, 1), "the window below may scroll");
-        QVERIFY(!GiraRotella(elenco, -1));
-        QCOMPARE(elenco->currentIndex(), scelto);
+    const DialogoAperto p(genere);
+    for (const QWidget *controllo : p.dialogo->findChildren<QWidget *>()) {
+        QCOMPARE(ArgomentoDi(controllo), ArgomentoGuida);
     }
 }
 
-void tst_FrmElemento::DimensioneFuoriElenco_data()
-{
-    QTest::addColumn<Genere>("genere");
-    QTest::addColumn<qint16>("dimensione");
-    QTest::newRow("campo grande") << Genere::Campo << qint16(60);
-    QTest::newRow("cornice grande") << Genere::Cornice << qint16(41);
-    QTest::newRow("campo piccolo") << Genere::Campo << qint16(5);
-    QTest::newRow("cornice senza dimensione") << Genere::Cornice << qint16(0);
-}
-
-void tst_FrmElemento::DimensioneFuoriElenco()
+void tst_FrmElemento::StaInUnoSchermoPiccolo()
 {
     QFETCH(Genere, genere);
-    QFETCH(qint16, dimensione);
-    Prova p(genere, dimensione);
-    const Modello prima = p.stato.Aperto();
-    const QString messaggio =
-        QStringLiteral("Dim.: l'elemento ha %1, che non è nell'elenco; sceglierne una da 6 a 40")
-            .arg(dimensione);
-    p.robot.Ok().Ok();
-    Preme(*p.dialogo, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
-    Preme(*p.dialogo, "Command2"); // the font of all elements
-    QCOMPARE(p.robot.Testi(), QStringList(2, messaggio));
-    QVERIFY(p.stato.Aperto() == prima && p.dialogo->isVisible());
-    auto *elenco = Trova<QComboBox>(*p.dialogo, "ComboDim");
-    QCOMPARE(p.dialogo->focusWidget(), elenco);
-    elenco->setCurrentText(QStringLiteral("40"));
-    Preme(*p.dialogo, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
+    const DialogoAperto p(genere);
+    // 1366x768 without the strip of the editor, the title bar and the borders.
+    QVERIFY2(p.dialogo->sizeHint().width() <= 1300, "too wide");
+    QVERIFY2(p.dialogo->sizeHint().height() <= 500, "too high");
+    for (const QPushButton *bottone : p.dialogo->findChildren<QPushButton *>()) {
+        QVERIFY2(bottone->width() >= bottone->minimumSizeHint().width(),
+                 qPrintable(bottone->objectName()));
+    }
+}
+
+void tst_FrmElemento::CaricaUnIndiceFuoriTabellaEErrore9()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    for (const int indice : {101, -1}) {
+        QCOMPARE(ErroreDi([&] { p.Carica(indice); }), ErroreSistema::Indice);
+    }
+    QCOMPARE(Testo(*p.dialogo, "Nome"), QStringLiteral("Elemento2"));
+}
+
+void tst_FrmElemento::Numero_data()
+{
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<bool>("valido");
+    QTest::newRow("400") << QStringLiteral("400") << true;
+    QTest::newRow("negativo") << QStringLiteral("-5000") << true;
+    QTest::newRow("decimali") << QStringLiteral("12.5") << true;
+    QTest::newRow("401") << QStringLiteral("401") << false;
+    QTest::newRow("400.1") << QStringLiteral("400.1") << false;
+    QTest::newRow("lettere") << QStringLiteral("abc") << false;
+    QTest::newRow("vuoto") << QString() << false;
+}
+
+void tst_FrmElemento::Numero()
+{
+    QFETCH(QString, testo);
+    QFETCH(bool, valido);
+    QLineEdit casella(testo);
+    QCOMPARE(FrmElemento::Numero(&casella), valido);
+    QCOMPARE(casella.text(), valido ? testo : QStringLiteral("0"));
+}
+
+void tst_FrmElemento::SoloCaratteriDelCodice()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    Digita(*p.dialogo, "Descrizione", QStringLiteral("prezzo € \u4E2D\u6587 più"));
+    QCOMPARE(Testo(*p.dialogo, "Descrizione"), QStringLiteral("prezzo €  più"));
+}
+
+void tst_FrmElemento::LElencoSegueLaConfermaPoiSiChiude()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    Digita(*p.dialogo, "Nome", QStringLiteral("Iva"));
+    p.Conferma();
+    QCOMPARE(p.Secondo().Nome, QStringLiteral("Iva"));
+    p.VerificaConcluso(QStringLiteral("Iva"));
+    QCOMPARE(p.dialogo->result(), int(QDialog::Accepted));
+    QVERIFY(p.robot.Soddisfatto());
+}
+
+void tst_FrmElemento::InvioConferma_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::addColumn<QByteArray>("casella");
+    for (const char *casella : {"Nome", "X"}) {
+        QTest::addRow("campo, %s", casella) << Genere::Campo << QByteArray(casella);
+        QTest::addRow("cornice, %s", casella) << Genere::Cornice << QByteArray(casella);
+        QTest::addRow("immagine, %s", casella) << Genere::Immagine << QByteArray(casella);
+    }
+}
+
+void tst_FrmElemento::InvioConferma()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QByteArray, casella);
+    DialogoAperto p(genere);
+    Digita(*p.dialogo, "Nome", QStringLiteral("Iva"));
+    Digita(*p.dialogo, "X", QStringLiteral("7"));
+    QTest::keyClick(Trova<QLineEdit>(*p.dialogo, casella), Qt::Key_Return);
+    QCOMPARE(p.Secondo().Nome, QStringLiteral("Iva"));
+    QCOMPARE(p.Secondo().X, 7.0);
     QVERIFY(!p.dialogo->isVisible());
 }
 
-void tst_FrmElemento::GliElenchiSiApronoSuVentiRighe_data()
+void tst_FrmElemento::InvioSuUnBottoneLoPreme()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    p.robot.No();
+    auto *elimina = Trova<QPushButton>(*p.dialogo, BottoneElimina(genere));
+    elimina->setFocus();
+    QTest::keyClick(elimina, Qt::Key_Return);
+    QCOMPARE(p.robot.Testi().size(), 1);
+    QVERIFY(p.robot.Testi().constFirst().startsWith(QStringLiteral("Elimino ")));
+    Trova<QLineEdit>(*p.dialogo, "X")->setFocus();
+    QTest::keyClick(p.dialogo->focusWidget(), Qt::Key_Return);
+    QVERIFY(!p.dialogo->isVisible());
+    QVERIFY(p.robot.Soddisfatto());
+}
+
+void tst_FrmElemento::EscChiudeSenzaScrivere()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QByteArray, casella);
+    DialogoAperto p(genere);
+    const Modello prima = p.stato.Aperto();
+    Digita(*p.dialogo, "Nome", QStringLiteral("Iva"));
+    Digita(*p.dialogo, "X", QStringLiteral("7"));
+    QTest::keyClick(Trova<QLineEdit>(*p.dialogo, casella), Qt::Key_Escape);
+    QVERIFY(!p.dialogo->isVisible());
+    QVERIFY(p.stato.Aperto() == prima);
+    QVERIFY(p.chiamante->Ignaro());
+    p.Apre(2);
+    QCOMPARE(Testo(*p.dialogo, "Nome"), QStringLiteral("Elemento2"));
+    QCOMPARE(Testo(*p.dialogo, "X"), QStringLiteral("20"));
+}
+
+void tst_FrmElemento::AprireEConfermareNonCambiaNulla()
+{
+    QFETCH(Genere, genere);
+    const QString nome = QStringLiteral("nome\tcon \x01 e\nriga.jpg");
+    for (const QLocale &locale : {QLocale::c(), QLocale(QStringLiteral("it_IT"))}) {
+        QLocale::setDefault(locale);
+        DialogoDiProva p(genere);
+        Cambia(p.stato, [&nome](Modello &modello) {
+            modello.Campi[2] = Campo{{nome, 1.0 / 3, 1e300 / 7, QStringLiteral(" a\u00A0 ")},
+                                     QString(40000, u'è'),
+                                     QString(40001, u'$'),
+                                     QStringLiteral("Arial"),
+                                     11,
+                                     Falso,
+                                     QStringLiteral("\x7F\u0081 x")};
+            Cornice &cornice = modello.Cornici[2];
+            cornice.Nome = nome;
+            cornice.Testo = QString(40000, u'è');
+            cornice.X = 1.0 / 3;
+            cornice.Y = -1e-20;
+            cornice.Larghezza = 20.0 / 3;
+            cornice.Altezza = -1;
+            cornice.Bordo = 1.1 + 1e-14 / 3;
+            modello.Immagini[2] = Immagine{
+                {nome, 1.0 / 3, -2.0 / 3, QString(40000, u'è')}, 1e300 / 7, 20.0 / 3, 1.0 / 7};
+        });
+        const Modello prima = p.stato.Aperto();
+        p.Apre(2);
+        p.Conferma();
+        QVERIFY(!p.dialogo->isVisible());
+        QVERIFY(p.stato.Aperto() == prima);
+    }
+}
+
+void tst_FrmElemento::ConfermaIlProprioNome()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    Digita(*p.dialogo, "Nome", QStringLiteral("ELEMENTO2"));
+    p.Conferma();
+    QCOMPARE(p.Secondo().Nome, QStringLiteral("ELEMENTO2"));
+}
+
+void tst_FrmElemento::NomeDiUnAltro_data()
 {
     QTest::addColumn<Genere>("genere");
-    QTest::addColumn<QByteArray>("nome");
-    QTest::addColumn<int>("voci");
-    QTest::newRow("campo, maschere") << Genere::Campo << QByteArray("ComboMask") << 128;
-    QTest::newRow("campo, font") << Genere::Campo << QByteArray("ComboFont") << 60;
-    QTest::newRow("campo, dimensioni") << Genere::Campo << QByteArray("ComboDim") << 35;
-    QTest::newRow("cornice, font") << Genere::Cornice << QByteArray("ComboFont") << 60;
-    QTest::newRow("cornice, dimensioni") << Genere::Cornice << QByteArray("ComboDim") << 35;
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<QString>("messaggio");
+    const auto righe = [](const char *riga, Genere genere, const char *messaggio) {
+        QTest::addRow("%s, uguale", riga)
+            << genere << QStringLiteral("Elemento3") << QString::fromUtf8(messaggio);
+        QTest::addRow("%s, maiuscole diverse", riga)
+            << genere << QStringLiteral("eLEMENTO1") << QString::fromUtf8(messaggio);
+    };
+    righe("campo", Genere::Campo, "nome già esistente");
+    righe("cornice", Genere::Cornice, "nome già esistente");
+    righe("immagine", Genere::Immagine, "immagine già esistente");
 }
 
-void tst_FrmElemento::GliElenchiSiApronoSuVentiRighe()
+void tst_FrmElemento::NomeDiUnAltro()
 {
     QFETCH(Genere, genere);
-    QFETCH(QByteArray, nome);
-    QFETCH(int, voci);
-    Prova p(genere);
-    auto *elenco = Trova<QComboBox>(*p.dialogo, nome.constData());
-    while (elenco->count() < voci) {
-        elenco->addItem(QStringLiteral("Font %1").arg(elenco->count()));
-    }
-    QCOMPARE(elenco->count(), voci);
-    elenco->showPopup();
-    QTRY_VERIFY(elenco->view()->isVisible());
-    const double righe =
-        double(elenco->view()->viewport()->height()) / elenco->view()->sizeHintForRow(0);
-    QVERIFY2(righe > 10 && righe <= 20.5, qPrintable(QString::number(righe)));
-    elenco->hidePopup();
-}
-
-void tst_FrmElemento::INumeriLunghiMostranoLInizio()
-{
-    QFETCH(Genere, genere);
-    const Prova p(genere);
-    int lunghi = 0;
-    for (auto *casella : p.dialogo->findChildren<QLineEdit *>()) {
-        if (!casella->text().contains(u'E')) {
-            continue;
-        }
-        ++lunghi;
-        QVERIFY(MostraLInizio(*casella));
-    }
-    QVERIFY(lunghi >= 2);
-}
-
-void tst_FrmElemento::EntrandoDaTastieraSiVedeLInizio()
-{
-    QFETCH(Genere, genere);
-    const Prova p(genere);
-    QVERIFY(QTest::qWaitForWindowActive(p.dialogo.get()));
-    auto *prima = Trova<QLineEdit>(*p.dialogo, "Nome");
-    for (const char *nome : {"X", "Y"}) {
-        auto *casella = Trova<QLineEdit>(*p.dialogo, nome);
-        prima->setFocus();
-        for (int k = 0; !casella->hasFocus() && k < 40; ++k) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        QVERIFY2(casella->hasFocus(), nome);
-        QCOMPARE(casella->selectedText(), casella->text());
-        QVERIFY2(MostraLInizio(*casella), nome);
-    }
-}
-
-void tst_FrmElemento::UnRifiutoMostraLInizio()
-{
-    QFETCH(Genere, genere);
-    Prova p(genere);
-    auto *casella = Trova<QLineEdit>(*p.dialogo, "Y");
-    casella->setText(QStringLiteral("1234567890123456789 millimetri"));
+    QFETCH(QString, nome);
+    QFETCH(QString, messaggio);
+    DialogoAperto p(genere);
+    const Modello prima = p.stato.Aperto();
     p.robot.Ok();
-    Preme(*p.dialogo, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
-    QVERIFY(p.robot.Soddisfatto());
-    QCOMPARE(p.dialogo->focusWidget(), casella);
-    QCOMPARE(casella->selectedText(), casella->text());
-    QVERIFY(MostraLInizio(*casella));
+    Digita(*p.dialogo, "Nome", nome);
+    Digita(*p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
+    p.Conferma();
+    QCOMPARE(p.robot.Testi(), QStringList({messaggio}));
+    QVERIFY(p.Intatto(prima));
+    QVERIFY(p.chiamante->Ignaro());
+    QCOMPARE(Testo(*p.dialogo, "Nome"), nome);
 }
 
-void tst_FrmElemento::IMnemoniciSonoLettere()
+void tst_FrmElemento::NomeVuotoRifiutato_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::newRow("campo") << Genere::Campo;
+    QTest::newRow("cornice") << Genere::Cornice;
+}
+
+void tst_FrmElemento::NomeVuotoRifiutato()
 {
     QFETCH(Genere, genere);
-    const Prova p(genere);
-    int mnemonici = 0;
-    for (const QString &testo : Didascalie(*p.dialogo)) {
-        const QString tasto = QKeySequence::mnemonic(testo).toString();
-        if (!tasto.isEmpty()) {
-            ++mnemonici;
-            QVERIFY2(tasto.back().isLetter(), qPrintable(testo));
-        }
+    DialogoAperto p(genere);
+    const Modello prima = p.stato.Aperto();
+    p.robot.Ok();
+    Digita(*p.dialogo, "Nome", QString());
+    Digita(*p.dialogo, "X", QStringLiteral("abc")); // looked at only afterwards
+    p.Conferma();
+    QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: non può essere vuoto")}));
+    QVERIFY(p.Intatto(prima));
+}
+
+void tst_FrmElemento::TestoCheNonENumero_data()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::addColumn<QByteArray>("casella");
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<QString>("messaggio");
+    const auto riga = [](const char *nome, Genere genere, const char *casella, const char *testo,
+                         const char *messaggio) {
+        QTest::newRow(nome) << genere << QByteArray(casella) << QString::fromUtf8(testo)
+                            << QString::fromUtf8(messaggio);
+    };
+    riga("lettere", Genere::Campo, "X", "abc", "Posizione X: «abc» non è un numero");
+    riga("vuoto", Genere::Campo, "Y", "", "Posizione Y: manca il numero");
+    riga("misto", Genere::Campo, "Y", "12mm", "Posizione Y: «12mm» non è un numero");
+    riga("virgola in una locale col punto", Genere::Campo, "X", "1,5",
+         "Posizione X: «1,5» non è un numero");
+    riga("infinito", Genere::Campo, "X", "1e999", "Posizione X: «1e999» non è un numero");
+    const QList<std::pair<const char *, Genere>> conMisure{{"cornice", Genere::Cornice},
+                                                           {"immagine", Genere::Immagine}};
+    for (const auto &[nome, genere] : conMisure) {
+        const auto unoX = [&](const char *casella, const char *messaggio) {
+            riga(QByteArray(nome) + ", " + casella, genere, casella, "1x", messaggio);
+        };
+        unoX("X", "Posizione X: «1x» non è un numero");
+        unoX("Y", "Posizione Y: «1x» non è un numero");
+        unoX("Largh", "Larghezza: «1x» non è un numero");
+        unoX("Alt", "Altezza: «1x» non è un numero");
     }
-    QVERIFY(mnemonici >= 9);
+    riga("immagine, Bordo", Genere::Immagine, "Bordo", "1x", "Bordo: «1x» non è un numero");
+}
+
+void tst_FrmElemento::TestoCheNonENumero()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QByteArray, casella);
+    QFETCH(QString, testo);
+    QFETCH(QString, messaggio);
+    DialogoAperto p(genere);
+    const Modello prima = p.stato.Aperto();
+    p.robot.Ok();
+    Digita(*p.dialogo, "Nome", QStringLiteral("Iva"));
+    Digita(*p.dialogo, "Descrizione", QStringLiteral("cambiata"));
+    Digita(*p.dialogo, casella, testo);
+    p.Conferma();
+    QCOMPARE(p.robot.Testi(), QStringList({messaggio}));
+    QVERIFY(p.Intatto(prima));
+    QCOMPARE(p.dialogo->focusWidget(), Trova<QWidget>(*p.dialogo, casella));
+}
+
+void tst_FrmElemento::NumeriConLaVirgolaDellaLocale()
+{
+    QFETCH(Genere, genere);
+    QLocale::setDefault(QLocale(QStringLiteral("it_IT")));
+    DialogoDiProva p(genere);
+    Lascia(p.stato, {genere, 2}, {12.5, 40, 20, 10});
+    p.Apre(2);
+    QCOMPARE(Testo(*p.dialogo, "X"), QStringLiteral("12,5"));
+    Digita(*p.dialogo, "X", QStringLiteral("7,25"));
+    Digita(*p.dialogo, "Y", QStringLiteral("8.75"));
+    p.Conferma();
+    // An image may stand anywhere, the others on whole millimetres.
+    const QPointF atteso = genere == Genere::Immagine ? QPointF(7.25, 8.75) : QPointF(7, 9);
+    QCOMPARE(QPointF(p.Secondo().X, p.Secondo().Y), atteso);
+}
+
+void tst_FrmElemento::IndiceFuoriTabellaAllaConferma()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    const Modello prima = p.stato.Aperto();
+    p.robot.Ok().Ok();
+    Trova<QLineEdit>(*p.dialogo, "Num")->setText(QStringLiteral("101"));
+    Digita(*p.dialogo, "Nome", QStringLiteral("Iva"));
+    p.Conferma();
+    p.Elimina();
+    QCOMPARE(p.robot.Testi().size(), 2);
+    for (const QString &testo : p.robot.Testi()) {
+        QVERIFY2(testo.startsWith(QStringLiteral("errore 9 ")), qPrintable(testo));
+    }
+    QVERIFY(p.Intatto(prima));
+    QVERIFY(p.chiamante->Ignaro());
+}
+
+void tst_FrmElemento::ConfermaCon101Elementi()
+{
+    QFETCH(Genere, genere);
+    DialogoAperto p(genere);
+    Cambia(p.stato, [](Modello &modello) {
+        modello.NumCampi = modello.NumCornici = modello.NumImmagini = 101;
+    });
+    Digita(*p.dialogo, "Nome", QStringLiteral("Iva"));
+    Digita(*p.dialogo, "X", QStringLiteral("7"));
+    p.Conferma();
+    QVERIFY(p.robot.Soddisfatto());
+    QVERIFY(!p.dialogo->isVisible());
+    QCOMPARE(p.Secondo().Nome, QStringLiteral("Iva"));
+    QCOMPARE(p.Secondo().X, 7.0);
+}
+
+void tst_FrmElemento::Domande()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::addColumn<QString>("domanda");
+    QTest::newRow("campo") << Genere::Campo << QStringLiteral("Elimino il campo Elemento2");
+    QTest::newRow("cornice") << Genere::Cornice << QStringLiteral("Elimino Cornice Elemento2");
+    QTest::newRow("immagine") << Genere::Immagine << QStringLiteral("Elimino Immagine Elemento2");
+}
+
+void tst_FrmElemento::EliminaConNo()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QString, domanda);
+    DialogoAperto p(genere);
+    const Modello prima = p.stato.Aperto();
+    p.robot.No();
+    Digita(*p.dialogo, "Nome", QStringLiteral("altro"));
+    p.Elimina();
+    QCOMPARE(p.robot.Testi(), QStringList({domanda}));
+    QCOMPARE(p.robot.Predefiniti(), QStringList({QStringLiteral("&No")}));
+    QVERIFY(p.Intatto(prima));
+    QVERIFY(p.chiamante->Ignaro());
+}
+
+void tst_FrmElemento::EliminaConSi()
+{
+    QFETCH(Genere, genere);
+    QFETCH(QString, domanda);
+    DialogoAperto p(genere);
+    Modello atteso = p.stato.Aperto();
+    atteso.Di({genere, 2}).Nome.clear();
+    p.robot.Si();
+    p.Elimina();
+    QCOMPARE(p.robot.Testi(), QStringList({domanda}));
+    QVERIFY(p.stato.Aperto() == atteso);
+    p.VerificaConcluso(QStringLiteral(" ELIMINATO: Elemento2"));
 }
 
 QTEST_MAIN(tst_FrmElemento)

@@ -51,6 +51,15 @@ inline QString Testo(const QWidget &finestra, const char *nome)
     return Trova<QLineEdit>(finestra, nome)->text();
 }
 
+/// Whether a box too narrow for its text shows the beginning of it.
+inline bool MostraLInizio(QLineEdit &casella)
+{
+    casella.setFixedWidth(60);
+    casella.grab(); // painting scrolls the text to the cursor
+    return casella.fontMetrics().horizontalAdvance(casella.text()) > casella.width() &&
+           casella.cursorPositionAt({2, casella.height() / 2}) == 0;
+}
+
 /// Turns the wheel over a control; true when the control takes it for itself.
 inline bool GiraRotella(QWidget *controllo, int scatti)
 {
