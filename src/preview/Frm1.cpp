@@ -92,11 +92,11 @@ void Frm1::CollegaSegnali()
     Collega(parti_->ScrollX, &QScrollBar::valueChanged, this, &Frm1::ScrollX_Change);
     Collega(parti_->ScrollY, &QScrollBar::valueChanged, this, &Frm1::ScrollY_Change);
     Collega(&stato_.documento, &Documento::Cambiato, this, &Frm1::SegueDocumento);
-    connect(mani_.get(), &ManiSulFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
-    connect(mani_.get(), &ManiSulFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
-    connect(mani_.get(), &ManiSulFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
-    Collega(mani_.get(), &ManiSulFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
-    Collega(mani_.get(), &ManiSulFoglio::ElementoInMano, this, &Frm1::MostraElemento);
+    connect(mani_.get(), &AvvisiFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
+    connect(mani_.get(), &AvvisiFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
+    connect(mani_.get(), &AvvisiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
+    Collega(mani_.get(), &AvvisiFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
+    Collega(mani_.get(), &AvvisiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
 }
 
 void Frm1::Form_Resize()
