@@ -5,11 +5,11 @@
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "model/Numeri.h"
-#include "preview/Anteprima.h"
 #include "preview/ElementiFoglio.h"
-#include "preview/Foglio.h"
 #include "preview/ManiSulFoglio.h"
+#include "preview/PartiAnteprima.h"
 #include "preview/Righelli.h"
+#include "preview/VistaFoglio.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -78,7 +78,7 @@ Frm1::~Frm1() = default;
 
 void Frm1::Form_Load()
 {
-    parti_ = std::make_unique<Anteprima>(this, stato_);
+    parti_ = std::make_unique<PartiAnteprima>(this, stato_);
     ImpostaHelp(this);
     elementi_ = std::make_unique<ElementiFoglio>(stato_, parti_->geometria, parti_->scena);
     mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
@@ -248,14 +248,14 @@ void Frm1::NascondiElemento(Genere genere, int i)
     elementi_->Nasconde(genere, i);
 }
 
-void Frm1::NascondiMarcatori()
+void Frm1::NascondiManiglie()
 {
     for (const Genere genere : Generi) {
-        NascondiMarcatore(genere);
+        NascondiManiglia(genere);
     }
 }
 
-void Frm1::NascondiMarcatore(Genere genere)
+void Frm1::NascondiManiglia(Genere genere)
 {
     elementi_->NascondeManiglia(genere);
 }
@@ -282,7 +282,7 @@ void Frm1::MostraModello()
             }
         }
     }
-    NascondiMarcatori();
+    NascondiManiglie();
     PrimoPianoImmagini();
     PrimoPianoCornici();
     PrimoPianoCampi();

@@ -6,7 +6,7 @@
 
 class AvvisiFoglio;
 class ElementiFoglio;
-class Foglio;
+class VistaFoglio;
 class GeometriaAnteprima;
 class MiraFoglio;
 struct EventoMouse;
@@ -18,7 +18,7 @@ struct ContestoGesto
     StatoProgramma &stato;
     const GeometriaAnteprima &geometria;
     ElementiFoglio &elementi;
-    Foglio &foglio;
+    VistaFoglio &foglio;
     const MiraFoglio &mira;
     AvvisiFoglio &avvisi;
 };

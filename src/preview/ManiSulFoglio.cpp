@@ -8,7 +8,7 @@
 #include <utility>
 
 ManiSulFoglio::ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
-                             ElementiFoglio &elementi, Foglio &foglio)
+                             ElementiFoglio &elementi, VistaFoglio &foglio)
     : mira_(stato, geometria, elementi)
     , contesto_{stato, geometria, elementi, foglio, mira_, *this}
 {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "preview/AvvisiFoglio.h"
-#include "preview/Foglio.h"
 #include "preview/Gesto.h"
 #include "preview/MiraFoglio.h"
+#include "preview/VistaFoglio.h"
 
 #include <memory>
 
@@ -17,7 +17,7 @@ class ManiSulFoglio : public AvvisiFoglio, public AscoltaMouse
     Q_OBJECT
 public:
     ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
-                  ElementiFoglio &elementi, Foglio &foglio);
+                  ElementiFoglio &elementi, VistaFoglio &foglio);
     ~ManiSulFoglio() override;
 
     /// One drag step of element i by the pointer offset (x, y) inside its handle, mm of screen.

@@ -2,7 +2,7 @@
 
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
-#include "preview/Foglio.h"
+#include "preview/VistaFoglio.h"
 
 PuntamentoFoglio::PuntamentoFoglio(const ContestoGesto &contesto, const Bersaglio &bersaglio,
                                    Qt::MouseButton bottone)

@@ -3,8 +3,8 @@
 #include "documento/StatoProgramma.h"
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
-#include "preview/Foglio.h"
 #include "preview/GeometriaAnteprima.h"
+#include "preview/VistaFoglio.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,8 +4,8 @@
 #include "model/Numeri.h"
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
-#include "preview/Foglio.h"
 #include "preview/GeometriaAnteprima.h"
+#include "preview/VistaFoglio.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>

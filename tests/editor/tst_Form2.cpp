@@ -76,8 +76,8 @@ private slots:
     void EliminaTutteLeCornici();
     void EliminaTutteSenzaCornici();
     void EliminaTutteNo();
-    void CambioPaginaNascondeIMarcatori();
-    void FuocoSulComboNascondeIlMarcatore();
+    void CambioPaginaNascondeLeManiglie();
+    void FuocoSulComboNascondeLaManiglia();
     void LAnteprimaGuidaComboEPagina();
     void ElementiAssentiNonSiVedono();
     void NuovoCampoDavantiATutti();
@@ -732,7 +732,7 @@ void tst_Form2::EliminaTutteNo()
     QVERIFY(!editor.Variato());
 }
 
-void tst_Form2::CambioPaginaNascondeIMarcatori()
+void tst_Form2::CambioPaginaNascondeLeManiglie()
 {
     EditorAperto prova(2);
     Form2 &editor = prova.Editor();
@@ -741,12 +741,12 @@ void tst_Form2::CambioPaginaNascondeIMarcatori()
     editor.Anteprima()->SelezionaImmagine(1);
     QVERIFY(Controllo(editor, QStringLiteral("S2"))->isVisible());
     Trova<QTabWidget>(editor, "SSTab1")->setCurrentIndex(4);
-    for (const char *marcatore : {"S1", "S2", "S3"}) {
-        QVERIFY(!Controllo(editor, QString::fromLatin1(marcatore))->isVisible());
+    for (const char *maniglia : {"S1", "S2", "S3"}) {
+        QVERIFY(!Controllo(editor, QString::fromLatin1(maniglia))->isVisible());
     }
 }
 
-void tst_Form2::FuocoSulComboNascondeIlMarcatore()
+void tst_Form2::FuocoSulComboNascondeLaManiglia()
 {
     EditorAperto prova(2);
     Form2 &editor = prova.Editor();
