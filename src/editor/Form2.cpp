@@ -206,7 +206,7 @@ void Form2::SSTab1_Click()
 
 void Form2::PPPP()
 {
-    anteprima_->NascondiMarcatori();
+    anteprima_->NascondiManiglie();
     anteprima_->PrimoPianoImmagini();
     anteprima_->PrimoPianoCornici();
     anteprima_->PrimoPianoCampi();
@@ -277,17 +277,17 @@ void Form2::Command4_Click()
 
 void Form2::ComboCampi_GotFocus()
 {
-    anteprima_->NascondiMarcatore(Genere::Campo);
+    anteprima_->NascondiManiglia(Genere::Campo);
 }
 
 void Form2::ComboCornici_GotFocus()
 {
-    anteprima_->NascondiMarcatore(Genere::Cornice);
+    anteprima_->NascondiManiglia(Genere::Cornice);
 }
 
 void Form2::ComboImmagini_GotFocus()
 {
-    anteprima_->NascondiMarcatore(Genere::Immagine);
+    anteprima_->NascondiManiglia(Genere::Immagine);
 }
 
 void Form2::Modifica(Genere genere)
@@ -304,7 +304,7 @@ void Form2::MostraPaginaDi(Genere genere)
         return;
     }
     ui_->SSTab1->setCurrentWidget(&Pagina(genere));
-    // Changing the page hides the markers; the element that the user has in hand keeps its own.
+    // Changing the page hides the handles; the element that the user has in hand keeps its own.
     if (const int indice = Pagina(genere).Indice(); indice > 0) {
         anteprima_->Seleziona(genere, indice);
     }

@@ -75,7 +75,7 @@ public:
     void ComboImmagini_GotFocus();
     void Image1_Click();
     void SSTab1_Click();
-    /// Hides the selection markers and restacks images, frames and fields by area.
+    /// Hides the handles and restacks images, frames and fields by area.
     void PPPP();
 
 signals:

@@ -71,7 +71,7 @@ void Form2::Command7_Click()
         }
     }
     stato_.documento.DimenticaStoria();
-    anteprima_->NascondiMarcatori();
+    anteprima_->NascondiManiglie();
     Chiude();
 }
 

@@ -67,11 +67,6 @@ Maniglia &ElementiFoglio::ManigliaDi(Genere genere) const
     return *maniglie_.at(Posto(genere));
 }
 
-int ElementiFoglio::Selezionato(Genere genere) const
-{
-    return stato_.selezione.Attivo(genere);
-}
-
 bool ElementiFoglio::InVista(Genere genere, int i) const
 {
     const ControlloElemento *controllo = elementi_.at(Posto(genere))[i];

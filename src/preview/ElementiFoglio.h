@@ -48,7 +48,6 @@ public:
 
     ControlloElemento &Elemento(Genere genere, int i) const;
     Maniglia &ManigliaDi(Genere genere) const;
-    int Selezionato(Genere genere) const;
     /// Puts the handle on the corner of the element's control.
     void AncoraManiglia(Genere genere, int i);
     /// After everything was placed again: handles in sight go back to their own elements.

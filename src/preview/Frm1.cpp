@@ -5,11 +5,11 @@
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "model/Numeri.h"
-#include "preview/Anteprima.h"
 #include "preview/ElementiFoglio.h"
-#include "preview/Foglio.h"
 #include "preview/ManiSulFoglio.h"
+#include "preview/PartiAnteprima.h"
 #include "preview/Righelli.h"
+#include "preview/VistaFoglio.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -78,7 +78,7 @@ Frm1::~Frm1() = default;
 
 void Frm1::Form_Load()
 {
-    parti_ = std::make_unique<Anteprima>(this, stato_);
+    parti_ = std::make_unique<PartiAnteprima>(this, stato_);
     ImpostaHelp(this);
     elementi_ = std::make_unique<ElementiFoglio>(stato_, parti_->geometria, parti_->scena);
     mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
@@ -92,11 +92,11 @@ void Frm1::CollegaSegnali()
     Collega(parti_->ScrollX, &QScrollBar::valueChanged, this, &Frm1::ScrollX_Change);
     Collega(parti_->ScrollY, &QScrollBar::valueChanged, this, &Frm1::ScrollY_Change);
     Collega(&stato_.documento, &Documento::Cambiato, this, &Frm1::SegueDocumento);
-    connect(mani_.get(), &ManiSulFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
-    connect(mani_.get(), &ManiSulFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
-    connect(mani_.get(), &ManiSulFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
-    Collega(mani_.get(), &ManiSulFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
-    Collega(mani_.get(), &ManiSulFoglio::ElementoInMano, this, &Frm1::MostraElemento);
+    connect(mani_.get(), &AvvisiFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
+    connect(mani_.get(), &AvvisiFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
+    connect(mani_.get(), &AvvisiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
+    Collega(mani_.get(), &AvvisiFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
+    Collega(mani_.get(), &AvvisiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
 }
 
 void Frm1::Form_Resize()
@@ -246,14 +246,14 @@ void Frm1::NascondiElemento(Genere genere, int i)
     elementi_->Nasconde(genere, i);
 }
 
-void Frm1::NascondiMarcatori()
+void Frm1::NascondiManiglie()
 {
     for (const Genere genere : Generi) {
-        NascondiMarcatore(genere);
+        NascondiManiglia(genere);
     }
 }
 
-void Frm1::NascondiMarcatore(Genere genere)
+void Frm1::NascondiManiglia(Genere genere)
 {
     elementi_->NascondeManiglia(genere);
 }
@@ -280,7 +280,7 @@ void Frm1::MostraModello()
             }
         }
     }
-    NascondiMarcatori();
+    NascondiManiglie();
     PrimoPianoImmagini();
     PrimoPianoCornici();
     PrimoPianoCampi();

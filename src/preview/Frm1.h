@@ -14,7 +14,7 @@
 
 struct StatoProgramma;
 class Cambiamento;
-struct Anteprima;
+struct PartiAnteprima;
 class ElementiFoglio;
 class ManiSulFoglio;
 
@@ -39,8 +39,8 @@ public:
     void CreaElemento(Genere genere, int i);
     /// Hides the control of element i and the handle of its kind.
     void NascondiElemento(Genere genere, int i);
-    void NascondiMarcatori();
-    void NascondiMarcatore(Genere genere);
+    void NascondiManiglie();
+    void NascondiManiglia(Genere genere);
 
     /// Copies look and texts of element i from the model to its control.
     void Impostazioni(Genere genere, int i);
@@ -165,7 +165,7 @@ private:
     void MostraElemento(Genere genere, int i);
 
     StatoProgramma &stato_;
-    std::unique_ptr<Anteprima> parti_;
+    std::unique_ptr<PartiAnteprima> parti_;
     std::unique_ptr<ElementiFoglio> elementi_;
     std::unique_ptr<ManiSulFoglio> mani_;
     QPointF giroRuota_; // fractions of a mm that the wheel has turned and nothing has scrolled yet

@@ -77,8 +77,8 @@ private slots:
     void NumeroTroppoGrandeDellaScansioneDettoUnaVolta();
     void NumeroTroppoGrandeDettoAllaSpinta();
     void ColoriFuoriDallaTavolozzaSonoNeri();
-    void IlFuocoNascondeIlMarcatoreDelGenere_data();
-    void IlFuocoNascondeIlMarcatoreDelGenere();
+    void IlFuocoNascondeLaManigliaDelGenere_data();
+    void IlFuocoNascondeLaManigliaDelGenere();
     void GliElenchiSiApronoSuVentiRighe_data();
     void GliElenchiSiApronoSuVentiRighe();
 };
@@ -363,7 +363,7 @@ void tst_CaselleEditor::ColoriFuoriDallaTavolozzaSonoNeri()
     prova.Archivio.Stato().documento.Salvato();
 }
 
-void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere_data()
+void tst_CaselleEditor::IlFuocoNascondeLaManigliaDelGenere_data()
 {
     QTest::addColumn<QByteArray>("combo");
     QTest::addColumn<int>("pagina");
@@ -373,7 +373,7 @@ void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere_data()
     QTest::newRow("ComboImmagini") << QByteArray("ComboImmagini") << 3 << QStringLiteral("S3");
 }
 
-void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere()
+void tst_CaselleEditor::IlFuocoNascondeLaManigliaDelGenere()
 {
     QFETCH(QByteArray, combo);
     QFETCH(int, pagina);
@@ -390,9 +390,9 @@ void tst_CaselleEditor::IlFuocoNascondeIlMarcatoreDelGenere()
         anteprima.Seleziona(genere, 1);
     }
     Trova<QComboBox>(*prova.Editor, combo.constData())->setFocus();
-    for (const QString &marcatore :
+    for (const QString &maniglia :
          {QStringLiteral("S1"), QStringLiteral("S2"), QStringLiteral("S3")}) {
-        QCOMPARE(ElementoAnteprima(anteprima, marcatore)->isVisible(), marcatore != nascosto);
+        QCOMPARE(ElementoAnteprima(anteprima, maniglia)->isVisible(), maniglia != nascosto);
     }
 }
 

@@ -80,9 +80,9 @@ private slots:
     void DialogoDentroLoSchermo_data();
     void DialogoDentroLoSchermo();
     void IndiceZeroNonApre();
-    void FontSuTutteLeCorniciTieneIlMarcatore();
+    void FontSuTutteLeCorniciTieneLaManiglia();
     void SenzaArialNellElenco();
-    void CambioPaginaDallAnteprimaTieneIlMarcatore();
+    void CambioPaginaDallAnteprimaTieneLaManiglia();
 };
 
 void tst_Form2Dialoghi::IlCampoRiempieIlDialogo()
@@ -341,7 +341,7 @@ void tst_Form2Dialoghi::IndiceZeroNonApre()
     QVERIFY(robot.Testi().isEmpty());
 }
 
-void tst_Form2Dialoghi::FontSuTutteLeCorniciTieneIlMarcatore()
+void tst_Form2Dialoghi::FontSuTutteLeCorniciTieneLaManiglia()
 {
     EditorDiProva e;
     e.editor->Anteprima()->SelezionaCornice(1);
@@ -370,7 +370,7 @@ void tst_Form2Dialoghi::SenzaArialNellElenco()
     QCOMPARE(e.Aperto().Campi[2].Font, QStringLiteral("Arial"));
 }
 
-void tst_Form2Dialoghi::CambioPaginaDallAnteprimaTieneIlMarcatore()
+void tst_Form2Dialoghi::CambioPaginaDallAnteprimaTieneLaManiglia()
 {
     EditorDiProva e;
     Frm1 &anteprima = *e.editor->Anteprima();

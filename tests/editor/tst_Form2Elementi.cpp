@@ -26,8 +26,8 @@ private slots:
     void DopoIlCentunesimoSiSalvanoICento();
     void VoceEliminataNonSiApre();
     void SeparatoreNonApreNulla();
-    void CambioPaginaNascondeIMarcatori();
-    void FuocoSulComboNascondeIlMarcatore();
+    void CambioPaginaNascondeLeManiglie();
+    void FuocoSulComboNascondeLaManiglia();
     void LAnteprimaGuidaComboEPagina();
     void NuovoCampoDavantiATutti();
     void CambioPaginaRiordina();
@@ -185,7 +185,7 @@ void tst_Form2Elementi::SeparatoreNonApreNulla()
     QVERIFY(robot.Testi().isEmpty());
 }
 
-void tst_Form2Elementi::CambioPaginaNascondeIMarcatori()
+void tst_Form2Elementi::CambioPaginaNascondeLeManiglie()
 {
     EditorAperto prova(2);
     Form2 &editor = prova.Editor();
@@ -194,12 +194,12 @@ void tst_Form2Elementi::CambioPaginaNascondeIMarcatori()
     editor.Anteprima()->SelezionaImmagine(1);
     QVERIFY(Controllo(editor, QStringLiteral("S2"))->isVisible());
     Trova<QTabWidget>(editor, "SSTab1")->setCurrentIndex(4);
-    for (const char *marcatore : {"S1", "S2", "S3"}) {
-        QVERIFY(!Controllo(editor, QString::fromLatin1(marcatore))->isVisible());
+    for (const char *maniglia : {"S1", "S2", "S3"}) {
+        QVERIFY(!Controllo(editor, QString::fromLatin1(maniglia))->isVisible());
     }
 }
 
-void tst_Form2Elementi::FuocoSulComboNascondeIlMarcatore()
+void tst_Form2Elementi::FuocoSulComboNascondeLaManiglia()
 {
     EditorAperto prova(2);
     Form2 &editor = prova.Editor();

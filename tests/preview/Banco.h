@@ -179,8 +179,8 @@ public:
     QTemporaryDir cartella;
     StatoProgramma stato;
     const Modello &modello = stato.Aperto();
-    std::unique_ptr<Frm1> frm;
     QStringList segnali; ///< "ElementoPuntato 0 3", "Variato" ... in their order
+    std::unique_ptr<Frm1> frm;
 
 private:
     template <typename Azione>

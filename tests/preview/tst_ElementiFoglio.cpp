@@ -599,7 +599,7 @@ void tst_ElementiFoglio::SelezioneMostraLaManiglia()
     QCOMPARE(banco.S(1)->Posto().topLeft(), QPointF(10, 20));
     QVERIFY(!banco.S(2)->isVisible());
     QCOMPARE(banco.segnali, QStringList());
-    banco.frm->NascondiMarcatori();
+    banco.frm->NascondiManiglie();
     QVERIFY(!banco.S(1)->isVisible());
 }
 

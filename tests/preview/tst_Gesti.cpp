@@ -125,6 +125,8 @@ private slots:
     void MousePerduto();
     void MousePerdutoRidimensionando();
     void MousePerdutoNonEClick();
+    void MousePerdutoNelMezzoDiUnPasso_data() { RigheDiGenere(); }
+    void MousePerdutoNelMezzoDiUnPasso();
     // Properties by the handle
     void TastoDestroSullaManiglia_data() { RigheDiGenere(); }
     void TastoDestroSullaManiglia();
@@ -367,6 +369,25 @@ void tst_Gesti::MousePerdutoNonEClick()
     banco.Preme({75, 60});
     banco.frm->hide();
     QCOMPARE(banco.segnali, QStringList());
+}
+
+void tst_Gesti::MousePerdutoNelMezzoDiUnPasso()
+{
+    QFETCH(const Genere, genere);
+    Banco banco;
+    const QPointF punto = SullaManiglia(banco, genere);
+    banco.Preme(punto);
+    // As when a message opens over the sheet while the drag step is being shown.
+    QObject::connect(
+        &banco.stato.documento, &Documento::Cambiato, banco.frm.get(), [&] { banco.frm->hide(); },
+        Qt::SingleShotConnection);
+    banco.Muove(punto + QPointF(20, 10));
+    QVERIFY(X(banco, genere) > 75);
+    QVERIFY(!Guide(banco));
+    QCOMPARE(Volte(banco, "ModificaConclusa"), 1);
+    banco.stato.documento.Annulla();
+    QCOMPARE(X(banco, genere), 60.0);
+    QVERIFY(!banco.stato.documento.PuoAnnullare());
 }
 
 void tst_Gesti::TastoDestroSullaManiglia()

@@ -789,7 +789,7 @@ void tst_ManiSulFoglio::SoloLaSelezionataSiRidimensiona()
     banco.frm->SelezionaCornice(2);
     banco.Trascina({89.5, 50}, {110, 50});
     QCOMPARE(banco.modello.Cornici[1].Larghezza, 60.0);
-    banco.frm->NascondiMarcatori();
+    banco.frm->NascondiManiglie();
     banco.Trascina({149.5, 50}, {170, 50});
     QCOMPARE(banco.modello.Cornici[2].Larghezza, 30.0);
 }

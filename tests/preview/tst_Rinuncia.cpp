@@ -118,6 +118,7 @@ private slots:
     void EscapeColFuocoNelloZoom();
     void DopoEscapeIlBottoneTenutoNonMuoveNiente_data() { RigheDiGenere(); }
     void DopoEscapeIlBottoneTenutoNonMuoveNiente();
+    void DopoEscapeUnAltroBottoneNonTrascina();
     void DopoEscapeSiTrascinaAncora();
     void DopoEscapeDueVolteNonApreLeProprieta();
     void EscapeLasciaLeModificheDiPrima();
@@ -222,6 +223,26 @@ void tst_Rinuncia::DopoEscapeIlBottoneTenutoNonMuoveNiente()
     banco.Muove(Maniglia1());
     banco.Muove(dove + QPointF(10, 10));
     banco.Rilascia(dove + QPointF(10, 10));
+    QCOMPARE(banco.modello, prima);
+    QVERIFY(!banco.stato.documento.Variato());
+}
+
+void tst_Rinuncia::DopoEscapeUnAltroBottoneNonTrascina()
+{
+    Banco banco;
+    Prepara(banco, Genere::Cornice);
+    const Modello prima = banco.modello;
+    Afferra(banco, Maniglia1(), {20, 15});
+    PremeEscape(banco);
+    // The left button is still held: its gesture was given up, and the middle one has none to
+    // begin.
+    banco.Muove(Maniglia1());
+    banco.Preme(Maniglia1(), Qt::MiddleButton);
+    banco.Muove({100, 90});
+    QVERIFY(!Guide(banco));
+    banco.Rilascia({100, 90}, Qt::MiddleButton);
+    banco.Rilascia({100, 90});
+    QVERIFY(!Guide(banco));
     QCOMPARE(banco.modello, prima);
     QVERIFY(!banco.stato.documento.Variato());
 }

@@ -39,12 +39,12 @@ public:
 
 /// The sheet `P1`: a view of the whole scene, one scene unit to the millimetre of screen. It never
 /// scrolls by itself; the window moves it.
-class Foglio : public QGraphicsView
+class VistaFoglio : public QGraphicsView
 {
     Q_OBJECT
 public:
-    Foglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria, const StatoProgramma &stato,
-           QWidget *padre);
+    VistaFoglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria,
+                const StatoProgramma &stato, QWidget *padre);
 
     /// ascolta must outlive the events; null: the mouse does nothing.
     void ImpostaAscolto(AscoltaMouse *ascolta) { ascolta_ = ascolta; }

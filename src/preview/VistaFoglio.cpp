@@ -1,4 +1,4 @@
-#include "preview/Foglio.h"
+#include "preview/VistaFoglio.h"
 
 #include "documento/StatoProgramma.h"
 #include "finestre/Guardia.h"
@@ -31,8 +31,8 @@ QString PerSuggerimento(const QString &testo)
 
 } // namespace
 
-Foglio::Foglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria,
-               const StatoProgramma &stato, QWidget *padre)
+VistaFoglio::VistaFoglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria,
+                         const StatoProgramma &stato, QWidget *padre)
     : QGraphicsView(scena, padre)
     , geometria_(geometria)
     , stato_(stato)
@@ -54,38 +54,38 @@ Foglio::Foglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria,
     setSceneRect(0, 0, (pixel.width() - 1) / scala, (pixel.height() - 1) / scala);
 }
 
-void Foglio::ImpostaPuntatore(Qt::CursorShape puntatore)
+void VistaFoglio::ImpostaPuntatore(Qt::CursorShape puntatore)
 {
     if (viewport()->cursor().shape() != puntatore) {
         viewport()->setCursor(puntatore);
     }
 }
 
-void Foglio::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
+void VistaFoglio::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
 {
     viewport()->update();
     sfondo_.Imposta(percorso, millimetri, geometria_.PixelPerMillimetro() * devicePixelRatioF());
 }
 
-void Foglio::PulisceSfondo()
+void VistaFoglio::PulisceSfondo()
 {
     sfondo_.Pulisce();
     viewport()->update();
 }
 
-void Foglio::DimenticaSfondo()
+void VistaFoglio::DimenticaSfondo()
 {
     sfondo_.Dimentica();
     viewport()->update();
 }
 
-void Foglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
+void VistaFoglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
 {
     penna->fillRect(rettangolo, backgroundBrush());
     sfondo_.Dipinge(*penna, rettangolo, stato_.zoom);
 }
 
-bool Foglio::viewportEvent(QEvent *evento)
+bool VistaFoglio::viewportEvent(QEvent *evento)
 {
     switch (evento->type()) {
     case QEvent::ToolTip: {
@@ -105,7 +105,7 @@ bool Foglio::viewportEvent(QEvent *evento)
     return QGraphicsView::viewportEvent(evento);
 }
 
-bool Foglio::eventFilter(QObject *oggetto, QEvent *evento)
+bool VistaFoglio::eventFilter(QObject *oggetto, QEvent *evento)
 {
     switch (evento->type()) {
     case QEvent::MouseButtonPress:
@@ -123,7 +123,7 @@ bool Foglio::eventFilter(QObject *oggetto, QEvent *evento)
     return QGraphicsView::eventFilter(oggetto, evento);
 }
 
-void Foglio::Interrompe()
+void VistaFoglio::Interrompe()
 {
     QCoreApplication::instance()->removeEventFilter(this);
     if (ascolta_ != nullptr) {
@@ -131,7 +131,7 @@ void Foglio::Interrompe()
     }
 }
 
-void Foglio::MostraSuggerimento(const QPoint &locale, const QPoint &schermo)
+void VistaFoglio::MostraSuggerimento(const QPoint &locale, const QPoint &schermo)
 {
     const Spiegazione spiegazione =
         ascolta_ == nullptr ? Spiegazione{} : ascolta_->Suggerimento(geometria_.Millimetri(locale));
@@ -140,7 +140,7 @@ void Foglio::MostraSuggerimento(const QPoint &locale, const QPoint &schermo)
     QToolTip::showText(schermo, PerSuggerimento(spiegazione.testo), viewport(), posto);
 }
 
-void Foglio::Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const EventoMouse &))
+void VistaFoglio::Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const EventoMouse &))
 {
     evento->accept();
     if (ascolta_ == nullptr) {
@@ -151,18 +151,18 @@ void Foglio::Avvisa(QMouseEvent *evento, void (AscoltaMouse::*azione)(const Even
     Guardia(this, [&] { (ascolta_->*azione)(mouse); });
 }
 
-void Foglio::mousePressEvent(QMouseEvent *evento)
+void VistaFoglio::mousePressEvent(QMouseEvent *evento)
 {
     QCoreApplication::instance()->installEventFilter(this);
     Avvisa(evento, &AscoltaMouse::Preme);
 }
 
-void Foglio::mouseMoveEvent(QMouseEvent *evento)
+void VistaFoglio::mouseMoveEvent(QMouseEvent *evento)
 {
     Avvisa(evento, &AscoltaMouse::Muove);
 }
 
-void Foglio::mouseReleaseEvent(QMouseEvent *evento)
+void VistaFoglio::mouseReleaseEvent(QMouseEvent *evento)
 {
     if (evento->buttons() == Qt::NoButton) {
         QCoreApplication::instance()->removeEventFilter(this);
@@ -170,13 +170,13 @@ void Foglio::mouseReleaseEvent(QMouseEvent *evento)
     Avvisa(evento, &AscoltaMouse::Rilascia);
 }
 
-void Foglio::mouseDoubleClickEvent(QMouseEvent *evento)
+void VistaFoglio::mouseDoubleClickEvent(QMouseEvent *evento)
 {
     QCoreApplication::instance()->installEventFilter(this);
     Avvisa(evento, &AscoltaMouse::PremeDueVolte);
 }
 
-void Foglio::wheelEvent(QWheelEvent *evento)
+void VistaFoglio::wheelEvent(QWheelEvent *evento)
 {
     evento->ignore(); // the window scrolls
 }

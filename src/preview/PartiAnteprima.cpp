@@ -1,9 +1,9 @@
-#include "preview/Anteprima.h"
+#include "preview/PartiAnteprima.h"
 
 #include "documento/StatoProgramma.h"
 #include "finestre/Finestre.h"
-#include "preview/Foglio.h"
 #include "preview/Righelli.h"
+#include "preview/VistaFoglio.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -38,7 +38,7 @@ QLineEdit *CreaCasella(QWidget *finestra, const QString &nome, const QString &de
 
 } // namespace
 
-Anteprima::Anteprima(QWidget *finestra, const StatoProgramma &stato)
+PartiAnteprima::PartiAnteprima(QWidget *finestra, const StatoProgramma &stato)
     : geometria(::PixelPerMillimetro(finestra), stato.zoom)
 {
     CreaFoglio(finestra, stato);
@@ -46,9 +46,9 @@ Anteprima::Anteprima(QWidget *finestra, const StatoProgramma &stato)
     CreaStriscia(finestra);
 }
 
-Anteprima::~Anteprima() = default;
+PartiAnteprima::~PartiAnteprima() = default;
 
-void Anteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
+void PartiAnteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
 {
     const QSize pixel = geometria.PixelFoglio();
     const int spessore = geometria.Pixel(GeometriaAnteprima::SpessoreRighello);
@@ -61,7 +61,7 @@ void Anteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
     AreaFoglio = CreaArea(finestra, QStringLiteral("AreaFoglio"));
     AreaFoglio->setBackgroundRole(QPalette::Mid);
     AreaFoglio->setAutoFillBackground(true);
-    P1 = new Foglio(&scena, geometria, stato, AreaFoglio);
+    P1 = new VistaFoglio(&scena, geometria, stato, AreaFoglio);
     P1->setObjectName(QStringLiteral("P1"));
     P1->setAccessibleName(QStringLiteral("foglio"));
     P1->setGeometry(QRect(QPoint(0, 0), pixel));
@@ -78,7 +78,7 @@ void Anteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
     RighelloY->setGeometry(0, P1Top0, spessore, pixel.height());
 }
 
-void Anteprima::CreaScorrimento(QWidget *finestra)
+void PartiAnteprima::CreaScorrimento(QWidget *finestra)
 {
     ScrollX = new QScrollBar(Qt::Horizontal, finestra);
     ScrollX->setObjectName(QStringLiteral("ScrollX"));
@@ -92,7 +92,7 @@ void Anteprima::CreaScorrimento(QWidget *finestra)
     }
 }
 
-void Anteprima::CreaStriscia(QWidget *finestra)
+void PartiAnteprima::CreaStriscia(QWidget *finestra)
 {
     Text1 = new QLabel(finestra);
     Text1->setObjectName(QStringLiteral("Text1"));
@@ -119,7 +119,7 @@ void Anteprima::CreaStriscia(QWidget *finestra)
     LL->setAlignment(Qt::AlignCenter);
 }
 
-void Anteprima::Dispone(QSize interna)
+void PartiAnteprima::Dispone(QSize interna)
 {
     const auto d = GeometriaAnteprima::Dispone(geometria.Millimetri(interna.width()),
                                                geometria.Millimetri(interna.height()));
@@ -143,19 +143,19 @@ void Anteprima::Dispone(QSize interna)
     ScrollY->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.height()) - PassoFreccia));
 }
 
-QSizeF Anteprima::VistaInMillimetri() const
+QSizeF PartiAnteprima::VistaInMillimetri() const
 {
     return {geometria.Millimetri(AreaFoglio->width()), geometria.Millimetri(AreaFoglio->height())};
 }
 
-void Anteprima::ScorreX()
+void PartiAnteprima::ScorreX()
 {
     const int sinistra = P1Left0 - geometria.Pixel(ScrollX->value());
     P1->move(sinistra, P1->y());
     RighelloX->move(sinistra, RighelloX->y());
 }
 
-void Anteprima::ScorreY()
+void PartiAnteprima::ScorreY()
 {
     const int alto = P1Top0 - geometria.Pixel(ScrollY->value());
     P1->move(P1->x(), alto);

@@ -4,7 +4,7 @@
 
 #include <QGraphicsScene>
 
-class Foglio;
+class VistaFoglio;
 class QLabel;
 class QLineEdit;
 class QScrollBar;
@@ -14,10 +14,10 @@ struct StatoProgramma;
 
 /// The controls of the preview window, named as the system names them, and where they stand. The
 /// layout is computed in millimetres of screen, so it is built here and not in a form.
-struct Anteprima
+struct PartiAnteprima
 {
-    Anteprima(QWidget *finestra, const StatoProgramma &stato);
-    ~Anteprima();
+    PartiAnteprima(QWidget *finestra, const StatoProgramma &stato);
+    ~PartiAnteprima();
 
     /// Places everything for the window's inner size and clips the sheet and the rulers to it.
     void Dispone(QSize interna);
@@ -32,7 +32,7 @@ struct Anteprima
     QWidget *AreaFoglio;
     QWidget *AreaRighelloX;
     QWidget *AreaRighelloY;
-    Foglio *P1;
+    VistaFoglio *P1;
     RighelloFoglio *RighelloX;
     RighelloFoglio *RighelloY;
     QScrollBar *ScrollX;

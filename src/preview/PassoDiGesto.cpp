@@ -1,0 +1,36 @@
+#include "preview/PassoDiGesto.h"
+
+#include "documento/StatoProgramma.h"
+
+#include <cmath>
+
+PassoDiGesto::PassoDiGesto(StatoProgramma &stato, Chiave chiave, QLatin1String verbo)
+    : stato_(stato)
+    , chiave_(chiave)
+    , verbo_(verbo)
+{
+}
+
+Passo &PassoDiGesto::Iniziato()
+{
+    if (!passo_) {
+        passo_ = std::make_unique<Passo>(
+            stato_.documento, verbo_ + u' ' + stato_.Aperto().Nome(chiave_.genere, chiave_.indice));
+        passo_->SoloSeCambia();
+    }
+    return *passo_;
+}
+
+void PassoDiGesto::Rinuncia()
+{
+    if (passo_) {
+        passo_->Rinuncia();
+        passo_.reset();
+    }
+}
+
+double Riportato(double millimetri, double prima)
+{
+    constexpr double Inezia = 1e-6;
+    return std::abs(millimetri - prima) < Inezia ? prima : millimetri;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "preview/Gesto.h"
+#include "preview/PassoDiGesto.h"
+
+/// Dragging an element by its handle. A second press of a double click waits for the release: as
+/// long as the pointer stays there nothing is dragged, and the release then asks for the
+/// properties.
+class Trascinamento : public Gesto
+{
+public:
+    /// secondaPressione: where the handle was pressed for the second time, mm of screen. Throws
+    /// ErroreSistema 9 for an element outside the table.
+    Trascinamento(const ContestoGesto &contesto, Chiave chiave,
+                  std::optional<QPointF> secondaPressione = {});
+
+    /// One drag step by the pointer offset (x, y) inside the handle, mm of screen. Nothing unless
+    /// the left button is held and the handle is ready to move.
+    void Sposta(Qt::MouseButtons bottoni, double x, double y);
+
+    void Muove(const EventoMouse &evento) override;
+    void Conclude(std::optional<QPointF> rilascio) override;
+    bool Rinuncia() override;
+    bool HaTrascinato() const override { return trascinato_; }
+
+private:
+    bool FermoDopoDueVolte(QPointF punto);
+    void AggiornaPuntatore();
+
+    ContestoGesto contesto_;
+    Chiave chiave_;
+    QPointF postoPrima_; // of the element at the press, mm of the sheet
+    std::optional<QPointF> secondaPressione_;
+    bool trascinato_ = false;
+    PassoDiGesto passo_;
+};
