@@ -1,26 +1,22 @@
-#include "print/FoglioDiProva.h"
-#include "support/CodaDiStampa.h"
+#include "ProvaInCoda.h"
+#include "base/Unita.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <optional>
-
-using namespace ImmaginiDiProva;
+using Unita::MillimetriPerPunto;
 
 namespace {
 
-constexpr double MillimetriPerPunto = 25.4 / 72;
 constexpr CodaDiStampa::Bordi Bordi{10.3, 7.6, 20.9, 30.2};
 
-const QString Prova = QStringLiteral("Prova");
 const QString Istanza = QStringLiteral("Prova/istanza");
 
 } // namespace
 
 /// The test print on a real print queue for which the user has settings of their own, measured on
 /// the sheet that comes out of it.
-class tst_ImpostazioniDiStampa : public QObject
+class tst_ImpostazioniDiStampa : public QObject, private ProvaInCoda
 {
     Q_OBJECT
 
@@ -34,27 +30,13 @@ private slots:
     void orizzontale();
 
 private:
-    /// Prints and gives the only sheet back.
-    LettorePdf Stampa(FoglioDiProva &foglio);
-
     QTemporaryDir casa_;
-    std::optional<CodaDiStampa> coda_;
 };
 
 void tst_ImpostazioniDiStampa::initTestCase()
 {
-    if (!CodaDiStampa::Installata()) {
-        QSKIP("CUPS and its PDF printer (packages cups, printer-driver-cups-pdf) are missing");
-    }
-    try {
-        coda_.emplace();
-    } catch (const std::exception &errore) {
-        QFAIL(errore.what());
-    }
-    qputenv("CUPS_SERVER", coda_->Server().toUtf8());
+    AvviaServer();
     qputenv("HOME", QFile::encodeName(casa_.path()));
-    qunsetenv("LPDEST");
-    qunsetenv("PRINTER");
 }
 
 void tst_ImpostazioniDiStampa::init()
@@ -62,18 +44,6 @@ void tst_ImpostazioniDiStampa::init()
     QFile::remove(casa_.filePath(QStringLiteral(".cups/lpoptions")));
     coda_->Aggiunge(Prova, Bordi);
     coda_->Predefinita(Prova);
-}
-
-LettorePdf tst_ImpostazioniDiStampa::Stampa(FoglioDiProva &foglio)
-{
-    const auto stampante = Stampanti::Predefinita();
-    StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
-                  [&](const QString &testo) { foglio.Avvisi.append(testo); });
-    const QStringList fogli = coda_->Fogli();
-    if (fogli.size() != 1) {
-        qFatal("%d sheets instead of one", int(fogli.size()));
-    }
-    return LettorePdf(fogli.first());
 }
 
 void tst_ImpostazioniDiStampa::istanzaPredefinita()

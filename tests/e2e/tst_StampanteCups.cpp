@@ -1,43 +1,27 @@
-#include "print/FoglioDiProva.h"
-#include "support/CodaDiStampa.h"
-#include "support/Errori.h"
+#include "ProvaInCoda.h"
+#include "base/Unita.h"
 
-#include <QElapsedTimer>
 #include <QTest>
-#include <QThread>
-#include <QTimer>
 
 #include <cmath>
-#include <functional>
-#include <optional>
 
 using namespace ImmaginiDiProva;
+using Unita::MillimetriPerPunto;
 
 namespace {
 
-constexpr double MillimetriPerPunto = 25.4 / 72;
-
-const QString Prova = QStringLiteral("Prova");
 const QString Stretta = QStringLiteral("Stretta");
 const QString Particolare = QStringLiteral("Particolare");
-
-/// What the user is told when a queue does not take the sheet.
-QString NonAccettata(const QString &coda, const QString &motivo)
-{
-    return QStringLiteral("errore 482 La stampante \"%1\" non ha accettato la stampa: %2\n"
-                          "Il foglio non uscirà.")
-        .arg(coda, motivo);
-}
 
 } // namespace
 
 /// The test print on a real print queue, measured on the sheet that comes out of it.
-class tst_StampanteCups : public QObject
+class tst_StampanteCups : public QObject, private ProvaInCoda
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { AvviaServer(); }
     void init();
     void areaStampabile_data();
     void areaStampabile();
@@ -53,45 +37,7 @@ private slots:
     void immagineMancante();
     void retino();
     void nomeDelLavoro();
-    void senzaPredefinita();
-    void svanitaPrimaDiStampare();
-    void svanitaMentreStampa();
-    void codaCheRifiuta();
-    void codaCheRifiutaMentreStampa();
-    void quotaEsaurita();
-    void stampaVietata();
-    void spoolPieno();
-    void cartellaTemporaneaMancante();
-    void serverBloccato_data();
-    void serverBloccato();
-    void serverLento();
-    void serverMorto();
-
-private:
-    /// Prints and gives the only sheet back.
-    LettorePdf Stampa(FoglioDiProva &foglio);
-    LettorePdf UnicoFoglio();
-    /// What the user is told when the page cannot be printed; mentre runs while it is being
-    /// painted.
-    QString ErroreStampando(const std::function<void()> &mentre = [] {});
-
-    std::optional<CodaDiStampa> coda_;
 };
-
-void tst_StampanteCups::initTestCase()
-{
-    if (!CodaDiStampa::Installata()) {
-        QSKIP("CUPS and its PDF printer (packages cups, printer-driver-cups-pdf) are missing");
-    }
-    try {
-        coda_.emplace();
-    } catch (const std::exception &errore) {
-        QFAIL(errore.what());
-    }
-    qputenv("CUPS_SERVER", coda_->Server().toUtf8());
-    qunsetenv("LPDEST");
-    qunsetenv("PRINTER");
-}
 
 void tst_StampanteCups::init()
 {
@@ -100,37 +46,6 @@ void tst_StampanteCups::init()
         coda_->Aggiunge(Stretta, {10.3, 7.6, 20.9, 30.2});
         coda_->Predefinita(Prova);
     }
-}
-
-LettorePdf tst_StampanteCups::UnicoFoglio()
-{
-    const QStringList fogli = coda_->Fogli();
-    if (fogli.size() != 1) {
-        qFatal("%d sheets instead of one", int(fogli.size()));
-    }
-    return LettorePdf(fogli.first());
-}
-
-LettorePdf tst_StampanteCups::Stampa(FoglioDiProva &foglio)
-{
-    const auto stampante = Stampanti::Predefinita();
-    StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
-                  [&](const QString &testo) { foglio.Avvisi.append(testo); });
-    return UnicoFoglio();
-}
-
-QString tst_StampanteCups::ErroreStampando(const std::function<void()> &mentre)
-{
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("a"), 500, 10);
-    try {
-        const auto stampante = Stampanti::Predefinita();
-        StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
-                      [&](const QString &) { mentre(); });
-    } catch (const ErroreSistema &errore) {
-        return errore.Messaggio();
-    }
-    return {};
 }
 
 void tst_StampanteCups::areaStampabile_data()
@@ -159,7 +74,7 @@ void tst_StampanteCups::foglioNormale_data()
 {
     QTest::addColumn<QString>("coda");
     QTest::addColumn<QPointF>("angolo");
-    QTest::newRow("whole points") << Prova << QPointF(12, 14) * MillimetriPerPunto;
+    QTest::newRow("whole points") << Prova << CodaDiStampa::AngoloStampabile;
     QTest::newRow("fractions of a point") << Stretta << QPointF(10.3, 7.6) * MillimetriPerPunto;
 }
 
@@ -268,7 +183,7 @@ void tst_StampanteCups::grigliaSulFoglioDellaStampante()
     const auto stampante = Stampanti::Predefinita();
     StampaRetino(*stampante);
     const LettorePdf pdf = UnicoFoglio();
-    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    constexpr QPointF angolo = CodaDiStampa::AngoloStampabile;
     // The last numbered ticks of both rulers stand at their millimetres.
     const double x = std::floor((millimetri.width() - 24 * MillimetriPerPunto - 6) / 10) * 10;
     const double y = std::floor((millimetri.height() - 28 * MillimetriPerPunto - 6) / 10) * 10;
@@ -311,7 +226,7 @@ void tst_StampanteCups::impostazioniCheRidurrebbero()
     FoglioDiProva foglio;
     foglio.ConCornice({20, 30, 100, 100}, 1.5);
     const LettorePdf pdf = Stampa(foglio);
-    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    constexpr QPointF angolo = CodaDiStampa::AngoloStampabile;
     const QRectF quadro = pdf.Inchiostro().translated(-angolo);
     QVERIFY2(Vicini(quadro, QRectF(20, 30, 100.5, 100.5)), Testo(quadro));
     coda_->Toglie(Particolare);
@@ -324,7 +239,7 @@ void tst_StampanteCups::modelloPiuGrandeDelFoglio()
     foglio.ConCornice({100, 160, 240, 350}, 1); // goes far beyond A4
     foglio.ConCampo(QStringLiteral("A"), QStringLiteral("fuori"), 235, 340);
     const LettorePdf pdf = Stampa(foglio);
-    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    constexpr QPointF angolo = CodaDiStampa::AngoloStampabile;
     const QRectF quadro =
         pdf.Inchiostro(QRectF(angolo + QPointF(45, 45), QSizeF(110, 110))).translated(-angolo);
     QVERIFY2(Vicini(quadro, QRectF(50, 50, 100.3, 100.3)), Testo(quadro));
@@ -344,7 +259,7 @@ void tst_StampanteCups::immagineMancante()
     QCOMPARE(foglio.Avvisi.size(), 1);
     QVERIFY(foglio.Avvisi.first().startsWith(QLatin1String("StampaImmagine: ")));
     QVERIFY(foglio.Avvisi.first().contains(QLatin1String("ERRORE 53")));
-    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    constexpr QPointF angolo = CodaDiStampa::AngoloStampabile;
     QVERIFY(!pdf.Inchiostro(QRectF(angolo + QPointF(10, 10), QSizeF(20, 5))).isEmpty());
     QCOMPARE(pdf.Colore(60, 40), qRgb(0, 0, 0));
 }
@@ -354,7 +269,7 @@ void tst_StampanteCups::retino()
     const auto stampante = Stampanti::Predefinita();
     StampaRetino(*stampante);
     const LettorePdf pdf = UnicoFoglio();
-    const QPointF angolo = QPointF(12, 14) * MillimetriPerPunto;
+    constexpr QPointF angolo = CodaDiStampa::AngoloStampabile;
     // The grid lines at 20 and at 180 mm, and the numbered tick at 100 mm.
     for (const double x : {20.0, 180.0}) {
         const QRectF linea =
@@ -373,171 +288,6 @@ void tst_StampanteCups::nomeDelLavoro()
     const auto stampante = Stampanti::Predefinita();
     StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false, [](const QString &) {});
     QVERIFY(coda_->Fogli().value(0).contains(QLatin1String("Fattura")));
-}
-
-void tst_StampanteCups::senzaPredefinita()
-{
-    coda_->Toglie(Prova);
-    coda_->Toglie(Stretta);
-    QCOMPARE(ErroreDi([] { Stampanti::Predefinita(); }), int(ErroreSistema::Stampante));
-    // The program goes on, and finds the printer when there is one again.
-    coda_->Aggiunge(Prova, {});
-    QCOMPARE(ErroreDi([] { Stampanti::Predefinita(); }), int(ErroreSistema::Stampante));
-    coda_->Predefinita(Prova);
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("ancora"), 10, 10);
-    QVERIFY(!Stampa(foglio).Inchiostro().isEmpty());
-}
-
-void tst_StampanteCups::svanitaPrimaDiStampare()
-{
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("a"), 500, 10);
-    const auto stampante = Stampanti::Predefinita();
-    coda_->Toglie(Prova);
-    QCOMPARE(ErroreDi([&] {
-                 StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
-                               [&](const QString &testo) { foglio.Avvisi.append(testo); });
-             }),
-             int(ErroreSistema::Stampante));
-    QVERIFY(foglio.Avvisi.isEmpty());
-    QVERIFY(coda_->Fogli().isEmpty());
-}
-
-void tst_StampanteCups::svanitaMentreStampa()
-{
-    QCOMPARE(ErroreStampando([this] { coda_->Toglie(Prova); }),
-             NonAccettata(Prova, QStringLiteral("la coda non esiste più.")));
-    QVERIFY(coda_->Fogli().isEmpty());
-}
-
-void tst_StampanteCups::codaCheRifiuta()
-{
-    coda_->Rifiuta(Prova);
-    const QString errore = ErroreStampando([] { QFAIL("painted for a queue that takes nothing"); });
-    QCOMPARE(errore, NonAccettata(Prova, QStringLiteral("la coda rifiuta nuovi lavori.")));
-    QVERIFY(coda_->Fogli().isEmpty());
-}
-
-void tst_StampanteCups::codaCheRifiutaMentreStampa()
-{
-    const QString errore = ErroreStampando([this] { coda_->Rifiuta(Prova); });
-    QCOMPARE(errore, NonAccettata(Prova, QStringLiteral("la coda rifiuta nuovi lavori.")));
-    QVERIFY(coda_->Fogli().isEmpty());
-}
-
-void tst_StampanteCups::quotaEsaurita()
-{
-    coda_->Aggiunge(Particolare, {},
-                    {QStringLiteral("job-quota-period=3600"), QStringLiteral("job-k-limit=1")});
-    coda_->Predefinita(Particolare);
-    QCOMPARE(ErroreStampando(), QString());
-    QCOMPARE(coda_->Fogli().size(), 1);
-    QCOMPARE(
-        ErroreStampando(),
-        NonAccettata(Particolare, QStringLiteral("la quota di stampa è esaurita, o i lavori in "
-                                                 "attesa sono troppi.")));
-    QVERIFY(coda_->Fogli().isEmpty());
-    coda_->Toglie(Particolare);
-}
-
-void tst_StampanteCups::stampaVietata()
-{
-    coda_->Vieta(Prova, QStringLiteral("root"));
-    const QString errore = ErroreStampando();
-    coda_->Vieta(Prova, QStringLiteral("none"));
-    QCOMPARE(errore,
-             NonAccettata(Prova, QStringLiteral("a questo utente la coda non è permessa.")));
-    QVERIFY(coda_->Fogli().isEmpty());
-}
-
-void tst_StampanteCups::spoolPieno()
-{
-    if (!coda_->RiempieSpool()) {
-        QSKIP("this system lets no small disk be mounted");
-    }
-    const QString errore = ErroreStampando();
-    coda_->SvuotaSpool();
-    QCOMPARE(errore,
-             NonAccettata(Prova, QStringLiteral("lo spazio per i lavori di stampa (spool) è "
-                                                "esaurito, o il foglio vi occuperebbe più "
-                                                "del permesso.")));
-    QVERIFY(coda_->Fogli().isEmpty()); // and no job without a document holds the queue up
-    QCOMPARE(ErroreStampando(), QString());
-    QCOMPARE(coda_->Fogli().size(), 1);
-}
-
-void tst_StampanteCups::cartellaTemporaneaMancante()
-{
-    const QByteArray prima = qgetenv("TMPDIR");
-    qputenv("TMPDIR", "/cartella/che/non/esiste");
-    const QString errore = ErroreStampando();
-    prima.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", prima);
-    QCOMPARE(errore, QString());
-    QCOMPARE(coda_->Fogli().size(), 1);
-}
-
-void tst_StampanteCups::serverBloccato_data()
-{
-    QTest::addColumn<bool>("primaDiStampare");
-    QTest::newRow("before the print") << true;
-    QTest::newRow("while the page is painted") << false;
-}
-
-void tst_StampanteCups::serverBloccato()
-{
-    QFETCH(bool, primaDiStampare);
-    QElapsedTimer tempo;
-    tempo.start();
-    if (primaDiStampare) {
-        coda_->SiBlocca();
-    }
-    const QString errore = ErroreStampando([&] { coda_->SiBlocca(); });
-    const qint64 attesa = tempo.elapsed();
-    coda_->Riprende();
-    QCOMPARE(errore, QStringLiteral("errore 482 Il sistema di stampa non risponde") +
-                         (primaDiStampare
-                              ? QStringLiteral(".\nControllare la stampante e ripetere; nulla è "
-                                               "stato stampato.")
-                              : QStringLiteral(": non si sa se il foglio uscirà.\nControllare la "
-                                               "stampante e ripetere.")));
-    constexpr qint64 AlMassimo = 10'000;
-    QVERIFY2(attesa < AlMassimo, qPrintable(QString::number(attesa)));
-    coda_->Fogli();
-    QCOMPARE(ErroreStampando(), QString()); // and it serves again
-    QCOMPARE(coda_->Fogli().size(), 1);
-}
-
-void tst_StampanteCups::serverLento()
-{
-    constexpr int Lentezza = 5000; // ms
-    QThread altrove;               // this one waits for the printer
-    QObject sveglia;
-    sveglia.moveToThread(&altrove);
-    altrove.start();
-    const QString errore = ErroreStampando([&] {
-        coda_->SiBlocca();
-        QMetaObject::invokeMethod(
-            &sveglia, [&] { QTimer::singleShot(Lentezza, &sveglia, [&] { coda_->Riprende(); }); });
-    });
-    altrove.quit();
-    altrove.wait();
-    coda_->Riprende();
-    QCOMPARE(errore, QString());
-    QCOMPARE(coda_->Fogli().size(), 1);
-}
-
-void tst_StampanteCups::serverMorto()
-{
-    FoglioDiProva foglio;
-    const auto stampante = Stampanti::Predefinita();
-    coda_.reset();
-    QCOMPARE(ErroreDi([&] {
-                 StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false,
-                               [](const QString &) {});
-             }),
-             int(ErroreSistema::Stampante));
-    QCOMPARE(ErroreDi([] { Stampanti::Predefinita(); }), int(ErroreSistema::Stampante));
 }
 
 QTEST_MAIN(tst_StampanteCups)

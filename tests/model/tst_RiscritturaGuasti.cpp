@@ -1,3 +1,4 @@
+#include "SalvaConGuasti.h"
 #include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
 #include "sistema/Disco.h"
@@ -7,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -39,14 +39,8 @@ private slots:
     void QuelCheIlFileNuovoNonPuoAvere();
 
 private:
-    struct Esito
-    {
-        bool finito = false; ///< by itself
-        int stato = -1;
-        bool guasto = false;
-    };
-    Esito Salva(const QByteArray &chiamata, int n, int causa,
-                const QByteArrayList &modi = {}) const;
+    EsitoDelSalvataggio Salva(const QByteArray &chiamata, int n, int causa,
+                              const QByteArrayList &modi = {}) const;
     static void Chiamate();
     void ComePrima() const;
     /// The newest work that an opening finds in a safety copy: what it would save.
@@ -100,32 +94,11 @@ void tst_RiscritturaGuasti::ComePrima() const
              0);
 }
 
-tst_RiscritturaGuasti::Esito tst_RiscritturaGuasti::Salva(const QByteArray &chiamata, int n,
-                                                          int causa,
-                                                          const QByteArrayList &modi) const
+EsitoDelSalvataggio tst_RiscritturaGuasti::Salva(const QByteArray &chiamata, int n, int causa,
+                                                 const QByteArrayList &modi) const
 {
-    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
-    const auto pone = [&](const char *nome, const QString &valore) {
-        ambiente.insert(QString::fromLatin1(nome), valore);
-    };
-    pone("LD_PRELOAD", QStringLiteral(LIBRERIA_GUASTI));
-    // A checking build wants its own library first, which only costs it a few checks here.
-    pone("ASAN_OPTIONS", QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
-    pone("GUASTI_CARTELLA", Archivio());
-    pone("GUASTI_CHIAMATA", QString::fromLatin1(chiamata));
-    pone("GUASTI_N", QString::number(n));
-    pone("GUASTI_ERRNO", QString::number(causa));
-    for (const QByteArray &modo : modi) {
-        pone(modo.constData(), QStringLiteral("1"));
-    }
-    QProcess figlio;
-    figlio.setProcessEnvironment(ambiente);
-    figlio.start(QStringLiteral(SALVA_MODELLO), {File(), QString::number(ElementiNuovi), Stato()});
-    if (!figlio.waitForFinished()) {
-        return {};
-    }
-    return {figlio.exitStatus() == QProcess::NormalExit, figlio.exitCode(),
-            figlio.readAllStandardError().contains("GUASTO")};
+    return SalvaConGuasti({Archivio(), chiamata, n, causa, modi},
+                          {File(), QString::number(ElementiNuovi), Stato()});
 }
 
 QByteArray tst_RiscritturaGuasti::Ripresa(bool *interrotta) const
@@ -203,7 +176,7 @@ void tst_RiscritturaGuasti::UnaChiamataFallita()
     QFETCH(bool, meta);
     const QByteArrayList modi = meta ? QByteArrayList{"GUASTI_META"} : QByteArrayList();
     int n = 1;
-    Esito esito = Salva(chiamata, n, causa, modi);
+    EsitoDelSalvataggio esito = Salva(chiamata, n, causa, modi);
     for (; esito.guasto; esito = Salva(chiamata, ++n, causa, modi)) {
         QVERIFY(esito.finito);
         // The first opening is the reading before the work.
@@ -227,7 +200,7 @@ void tst_RiscritturaGuasti::TutteLeSeguentiFallite()
     modi.append(meta ? QByteArrayList{"GUASTI_META"} : QByteArrayList());
     int n = 1;
     int incompleti = 0;
-    Esito esito = Salva(chiamata, n, EIO, modi);
+    EsitoDelSalvataggio esito = Salva(chiamata, n, EIO, modi);
     for (; esito.guasto; esito = Salva(chiamata, ++n, EIO, modi)) {
         QVERIFY(esito.finito && esito.stato != 0);
         VerificaNienteDiPerso(QByteArray::number(n));
@@ -248,7 +221,7 @@ void tst_RiscritturaGuasti::UccisoAOgniChiamata()
     QByteArrayList modi{"GUASTI_UCCIDE"};
     modi.append(meta ? QByteArrayList{"GUASTI_META"} : QByteArrayList());
     int n = 1;
-    Esito esito = Salva(chiamata, n, 0, modi);
+    EsitoDelSalvataggio esito = Salva(chiamata, n, 0, modi);
     for (; esito.guasto; esito = Salva(chiamata, ++n, 0, modi)) {
         QVERIFY(!esito.finito);
         VerificaNienteDiPerso(QByteArray::number(n));
@@ -263,7 +236,7 @@ void tst_RiscritturaGuasti::SenzaCopiaNonSiRiscrive()
 {
     // A folder that cannot be made: the safety copy has no place.
     ScriveFile(Stato(), "un file");
-    const Esito esito = Salva("nessuna", 1, 0);
+    const EsitoDelSalvataggio esito = Salva("nessuna", 1, 0);
     QCOMPARE(esito.stato, 75);
     QCOMPARE(ByteDi(File()), Vecchi());
     QVERIFY(QFile::remove(Stato()));
@@ -295,8 +268,9 @@ void tst_RiscritturaGuasti::QuelCheIlFileNuovoNonPuoAvere()
     };
     QCOMPARE(stat(nome.constData(), &prima), 0);
     // The first opening is the reading before the work.
-    const Esito esito = chiamata == "open" ? Salva(chiamata, 2, causa)
-                                           : Salva(chiamata, 1, causa, {"GUASTI_SEMPRE"});
+    const EsitoDelSalvataggio esito = chiamata == "open"
+                                          ? Salva(chiamata, 2, causa)
+                                          : Salva(chiamata, 1, causa, {"GUASTI_SEMPRE"});
     QVERIFY(esito.guasto);
     QCOMPARE(esito.stato, 0);
     struct stat dopo

@@ -1,3 +1,4 @@
+#include "SalvaConGuasti.h"
 #include "model/FileModello.h"
 
 #include "support/FileDiProva.h"
@@ -5,7 +6,6 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QSet>
 #include <QTemporaryDir>
@@ -35,12 +35,7 @@ private slots:
     void MilleUccisioni();
 
 private:
-    struct Esito
-    {
-        int stato = -1;
-        bool guasto = false;
-    };
-    Esito Salva(const QByteArray &chiamata, int n, int causa, bool meta) const;
+    EsitoDelSalvataggio Salva(const QByteArray &chiamata, int n, int causa, bool meta) const;
     QString File() const { return cartella_->filePath(QStringLiteral("Fattura.Mod")); }
 
     std::unique_ptr<QTemporaryDir> cartella_;
@@ -156,30 +151,13 @@ void tst_SalvataggioGuasti::init()
     QVERIFY(cartella_->isValid());
 }
 
-tst_SalvataggioGuasti::Esito tst_SalvataggioGuasti::Salva(const QByteArray &chiamata, int n,
-                                                          int causa, bool meta) const
+EsitoDelSalvataggio tst_SalvataggioGuasti::Salva(const QByteArray &chiamata, int n, int causa,
+                                                 bool meta) const
 {
-    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
-    const auto pone = [&](const char *nome, const QString &valore) {
-        ambiente.insert(QString::fromLatin1(nome), valore);
-    };
-    pone("LD_PRELOAD", QStringLiteral(LIBRERIA_GUASTI));
-    // A checking build wants its own library first, which only costs it a few checks here.
-    pone("ASAN_OPTIONS", QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
-    pone("GUASTI_CARTELLA", cartella_->path());
-    pone("GUASTI_CHIAMATA", QString::fromLatin1(chiamata));
-    pone("GUASTI_N", QString::number(n));
-    pone("GUASTI_ERRNO", QString::number(causa));
-    if (meta) {
-        pone("GUASTI_META", QStringLiteral("1"));
-    }
-    QProcess figlio;
-    figlio.setProcessEnvironment(ambiente);
-    figlio.start(QStringLiteral(SALVA_MODELLO), {File(), QString::number(ElementiNuovi)});
-    if (!figlio.waitForFinished() || figlio.exitStatus() != QProcess::NormalExit) {
-        return {};
-    }
-    return {figlio.exitCode(), figlio.readAllStandardError().contains("GUASTO")};
+    const QByteArrayList modi = meta ? QByteArrayList{"GUASTI_META"} : QByteArrayList();
+    const EsitoDelSalvataggio esito = SalvaConGuasti({cartella_->path(), chiamata, n, causa, modi},
+                                                     {File(), QString::number(ElementiNuovi)});
+    return esito.finito ? esito : EsitoDelSalvataggio();
 }
 
 void tst_SalvataggioGuasti::OgniChiamataFallita_data()
@@ -230,7 +208,7 @@ void tst_SalvataggioGuasti::OgniChiamataFallita()
 
     int n = 1;
     int colFileNuovo = 0;
-    Esito esito = Salva(chiamata, n, causa, meta);
+    EsitoDelSalvataggio esito = Salva(chiamata, n, causa, meta);
     for (; esito.guasto; esito = Salva(chiamata, ++n, causa, meta)) {
         if (QFile::exists(File()) && ByteDi(File()) == Byte(ElementiNuovi)) {
             // Only forcing the folder onto the medium comes after the new file has its place; a

@@ -87,3 +87,10 @@ public:
 private:
     QTemporaryDir dir_;
 };
+
+/// The sizes that one A4 page has place for, mm; none overlaps another.
+inline QList<QRectF> SeiPosti()
+{
+    return {{2, 2, 100, 141},  {104, 2, 90, 127},  {2, 150, 80, 113},
+            {84, 150, 60, 85}, {146, 150, 40, 57}, {146, 210, 20, 28}};
+}

@@ -1,14 +1,10 @@
 #include "FoglioDiProva.h"
 
-#include "grafica/Testo.h"
 #include "model/Tavolozza.h"
 #include "print/Pagina.h"
 #include "support/Errori.h"
 #include "support/Tempi.h"
 
-#include <QFontDatabase>
-#include <QPainterPath>
-#include <QRawFont>
 #include <QTest>
 
 #include <limits>
@@ -16,29 +12,6 @@
 using namespace ImmaginiDiProva;
 
 namespace {
-
-constexpr double MillimetriPerPunto = 25.4 / 72;
-
-/// The face that stands for a family, measured in its own design units, apart from all printing.
-QRawFont Disegno(const QString &famiglia, bool grassetto)
-{
-    QFont font(famiglia);
-    font.setBold(grassetto);
-    font.setPixelSize(1000);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return QRawFont::fromFont(font);
-}
-
-double LarghezzaDisegnata(const QString &testo, const QString &famiglia, double punti,
-                          bool grassetto)
-{
-    const QRawFont font = Disegno(famiglia, grassetto);
-    double unita = 0;
-    for (const QPointF &passo : font.advancesForGlyphIndexes(font.glyphIndexesForString(testo))) {
-        unita += passo.x();
-    }
-    return unita / 1000 * punti * MillimetriPerPunto;
-}
 
 bool Nera(QRgb colore)
 {
@@ -52,12 +25,6 @@ class tst_StampaProva : public QObject
     Q_OBJECT
 
 private slots:
-    void campoInMillimetri_data();
-    void campoInMillimetri();
-    void lunghezzaGiusta_data();
-    void lunghezzaGiusta();
-    void fontMancanteComeArial();
-    void grassetto();
     void nomiInvece();
     void mascheraNo_data();
     void mascheraNo();
@@ -69,130 +36,15 @@ private slots:
     void bordi_data();
     void bordi();
     void bordoColorato();
-    void etichetta();
     void coloreTornaNero();
-    void immagine();
-    void immagineSenzaMisura();
-    void immagineMillimetriInteri();
-    void diagnosi_data();
-    void diagnosi();
-    void diagnosiTesto();
-    void diagnosiConMisureZero();
-    void immagineFuoriDallaCartella();
-    void immagineSenzaRiguardoAlleMaiuscole();
     void unSoloFoglio();
     void tabellaOltreIlLimite();
     void valoriAssurdi_data();
     void valoriAssurdi();
-    void fontSconosciuto();
-    void senzaFontODimensione_data();
-    void senzaFontODimensione();
     void stampanteCheRifiuta();
     void discoPieno();
     void ordineDeiMessaggi();
 };
-
-void tst_StampaProva::campoInMillimetri_data()
-{
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
-    QTest::addColumn<int>("punti");
-    QTest::newRow("origin") << 0.0 << 0.0 << 11;
-    QTest::newRow("middle") << 100.0 << 150.0 << 11;
-    QTest::newRow("fractions") << 33.37 << 41.91 << 8;
-    QTest::newRow("large") << 20.0 << 250.0 << 36;
-    QTest::newRow("small") << 190.5 << 280.25 << 6;
-}
-
-void tst_StampaProva::campoInMillimetri()
-{
-    QFETCH(double, x);
-    QFETCH(double, y);
-    QFETCH(int, punti);
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("HHH"), x, y, punti);
-    const LettorePdf pdf = foglio.Stampa();
-
-    const QRectF inchiostro = pdf.Inchiostro();
-    const QRawFont disegno = Disegno(QStringLiteral("Arial"), false);
-    const double mm = punti * MillimetriPerPunto;
-    const QRectF lettera =
-        disegno.pathForGlyph(disegno.glyphIndexesForString(QStringLiteral("H")).first())
-            .boundingRect();
-    QVERIFY2(Vicini(inchiostro.left(), x + lettera.left() / 1000 * mm), Testo(inchiostro));
-    // The top of the line is at y: the foot of the letters stands one ascent below it.
-    QVERIFY2(Vicini(inchiostro.bottom(), y + disegno.ascent() / 1000 * mm), Testo(inchiostro));
-    QVERIFY2(Vicini(inchiostro.height(), lettera.height() / 1000 * mm), Testo(inchiostro));
-    QVERIFY2(Vicini(pdf.Parola1(QStringLiteral("HHH")).left(), x), Testo(inchiostro));
-}
-
-void tst_StampaProva::lunghezzaGiusta_data()
-{
-    QTest::addColumn<QString>("famiglia");
-    QTest::addColumn<int>("punti");
-    QTest::addColumn<bool>("grassetto");
-    for (const char *famiglia : {"Arial", "Times New Roman", "Courier New", "DejaVu Sans"}) {
-        for (const int punti : {7, 11, 12}) {
-            for (const bool grassetto : {false, true}) {
-                QTest::addRow("%s %d%s", famiglia, punti, grassetto ? " bold" : "")
-                    << QString::fromLatin1(famiglia) << punti << grassetto;
-            }
-        }
-    }
-}
-
-void tst_StampaProva::lunghezzaGiusta()
-{
-    QFETCH(QString, famiglia);
-    QFETCH(int, punti);
-    QFETCH(bool, grassetto);
-    FoglioDiProva foglio;
-    const QString testo = QStringLiteral("0123456789").repeated(6);
-    Campo &campo = foglio.ConCampo(QStringLiteral("A"), testo, 10, 20, punti);
-    campo.Font = famiglia;
-    campo.Grassetto = grassetto ? Vero : Falso;
-    const QRectF parola = foglio.Stampa().Parola1(testo);
-    const double larghezza = LarghezzaDisegnata(testo, famiglia, punti, grassetto);
-    QVERIFY2(Vicini(parola.width(), larghezza),
-             qPrintable(QStringLiteral("%1 instead of %2").arg(parola.width()).arg(larghezza)));
-}
-
-void tst_StampaProva::fontMancanteComeArial()
-{
-    const QString testo = QStringLiteral("SpettabileDitta");
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), testo, 10, 20).Font = QStringLiteral("Mai Esistito");
-    foglio.ConCampo(QStringLiteral("B"), testo, 10, 40).Font = QStringLiteral("Serif");
-    foglio.ConCampo(QStringLiteral("C"), testo, 10, 60);
-    // The dialogs do not offer it either, though the system would set something for it.
-    const QString taciuto = QStringLiteral("Times");
-    if (QFontDatabase::hasFamily(taciuto)) {
-        QSKIP("here it is a font like any other");
-    }
-    foglio.ConCampo(QStringLiteral("D"), testo, 10, 80).Font = taciuto;
-    const LettorePdf pdf = foglio.Stampa();
-    QCOMPARE(pdf.Caratteri().size(), 1); // one face for all four
-    QCOMPARE(pdf.Parole().size(), 4);
-    const double larghezza = LarghezzaDisegnata(testo, QStringLiteral("Arial"), 11, false);
-    for (const auto &parola : pdf.Parole()) {
-        QVERIFY(Vicini(parola.Millimetri.width(), larghezza));
-    }
-}
-
-void tst_StampaProva::grassetto()
-{
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("chiaro"), 10, 10);
-    foglio.ConCampo(QStringLiteral("B"), QStringLiteral("scuro"), 10, 20).Grassetto = Vero;
-    const LettorePdf pdf = foglio.Stampa();
-    QStringList nomi;
-    for (const auto &carattere : pdf.Caratteri()) {
-        QVERIFY(carattere.Incorporato);
-        nomi.append(carattere.Nome);
-    }
-    QCOMPARE(nomi.size(), 2);
-    QCOMPARE(nomi.filter(QStringLiteral("Bold")).size(), 1);
-}
 
 void tst_StampaProva::nomiInvece()
 {
@@ -371,23 +223,6 @@ void tst_StampaProva::bordoColorato()
     QVERIFY(Nera(pdf.Colore(30, 210.5)));
 }
 
-void tst_StampaProva::etichetta()
-{
-    FoglioDiProva foglio;
-    Cornice &cornice = foglio.ConCornice({40, 60, 50, 20}, 0);
-    cornice.Testo = QStringLiteral("Importo");
-    cornice.ColoreTesto = 12;
-    cornice.Dimensione = 14;
-    cornice.Grassetto = Vero;
-    const LettorePdf pdf = foglio.Stampa();
-    const QRectF parola = pdf.Parola1(QStringLiteral("Importo"));
-    QVERIFY2(Vicini(parola.left(), 41) && Vicini(parola.top(), 60.4), Testo(parola));
-    QVERIFY(Vicini(parola.width(), LarghezzaDisegnata(cornice.Testo, cornice.Font, 14, true)));
-    QVERIFY(pdf.Inchiostro(parola, [](QRgb c) { return c == qRgb(255, 0, 0); }).width() > 10);
-    QCOMPARE(pdf.Caratteri().size(), 1);
-    QVERIFY(pdf.Caratteri().first().Nome.contains(QLatin1String("Bold")));
-}
-
 void tst_StampaProva::coloreTornaNero()
 {
     FoglioDiProva foglio;
@@ -406,128 +241,6 @@ void tst_StampaProva::coloreTornaNero()
     QVERIFY(Nera(pdf.Colore(10.15, 20)));
     const QRectF parola = pdf.Parola1(QStringLiteral("dopo"));
     QVERIFY(!pdf.Inchiostro(parola, Nera).isEmpty());
-}
-
-void tst_StampaProva::immagine()
-{
-    FoglioDiProva foglio;
-    foglio.ConImmagine(QStringLiteral("logo.bmp"),
-                       InFormato(Tinta({30, 20}, qRgb(10, 200, 90)), "bmp"), {25, 35, 60, 40});
-    const LettorePdf pdf = foglio.Stampa();
-    const QRectF inchiostro = pdf.Inchiostro();
-    QVERIFY2(Vicini(inchiostro, QRectF(25, 35, 60, 40)), Testo(inchiostro));
-    QCOMPARE(pdf.Colore(55, 55), qRgb(10, 200, 90));
-    QCOMPARE(pdf.Immagini(), 1);
-}
-
-void tst_StampaProva::immagineSenzaMisura()
-{
-    FoglioDiProva foglio;
-    foglio.Margini = QMarginsF(5, 6, 7, 8);
-    const QByteArray byte = InFormato(Tinta({30, 20}, qRgb(10, 200, 90)), "bmp");
-    foglio.ConImmagine(QStringLiteral("foglio.bmp"), byte, {0, 0, 0, 0});
-    const QRectF inchiostro = foglio.Stampa().Inchiostro();
-    QVERIFY2(Vicini(inchiostro, QRectF(5, 6, 198, 283)), Testo(inchiostro));
-
-    FoglioDiProva quasi; // both sizes round to 0
-    quasi.ConImmagine(QStringLiteral("foglio.bmp"), byte, {0, 0, 0.5, 0.4});
-    QVERIFY(Vicini(quasi.Stampa().Inchiostro(), QRectF(0, 0, 210, 297)));
-}
-
-void tst_StampaProva::immagineMillimetriInteri()
-{
-    FoglioDiProva foglio;
-    const QByteArray byte = InFormato(Tinta({3, 3}, 0), "bmp");
-    foglio.ConImmagine(QStringLiteral("a.bmp"), byte, {10.5, 10.5, 10, 10});
-    foglio.ConImmagine(QStringLiteral("b.bmp"), byte, {111.5, 11.5, 10.5, 11.5});
-    foglio.ConImmagine(QStringLiteral("c.bmp"), byte, {10.51, 100.49, 9.51, 9.49});
-    const LettorePdf pdf = foglio.Stampa();
-    const QRectF a = pdf.Inchiostro({0, 0, 60, 60});
-    const QRectF b = pdf.Inchiostro({100, 0, 60, 60});
-    const QRectF c = pdf.Inchiostro({0, 90, 60, 60});
-    QVERIFY2(Vicini(a, QRectF(10, 10, 10, 10)), Testo(a));
-    QVERIFY2(Vicini(b, QRectF(112, 12, 10, 12)), Testo(b));
-    QVERIFY2(Vicini(c, QRectF(11, 100, 10, 9)), Testo(c));
-}
-
-void tst_StampaProva::diagnosi_data()
-{
-    QTest::addColumn<QByteArray>("byte");
-    QTest::addColumn<QRectF>("posto");
-    QTest::addColumn<int>("errore");
-    const QByteArray buona = InFormato(Tinta({9, 9}, 0), "bmp");
-    QTest::newRow("missing file") << QByteArray() << QRectF(1, 2, 3, 4) << 53;
-    QTest::newRow("unreadable file") << QByteArray("non un'immagine") << QRectF(1, 2, 3, 4) << 481;
-    QTest::newRow("cut file") << buona.left(100) << QRectF(1, 2, 3, 4) << 481;
-    QTest::newRow("negative width") << buona << QRectF(1, 2, -3, 4) << 5;
-    QTest::newRow("negative height") << buona << QRectF(1, 2, 3, -4) << 5;
-    QTest::newRow("no width") << buona << QRectF(1, 2, 0, 4) << 5;
-    QTest::newRow("no height") << buona << QRectF(1, 2, 3, 0) << 5;
-    QTest::newRow("x beyond 16 bits") << buona << QRectF(1e6, 2, 3, 4) << 6;
-    QTest::newRow("height beyond 16 bits") << buona << QRectF(1, 2, 3, 1e300) << 6;
-}
-
-void tst_StampaProva::diagnosi()
-{
-    QFETCH(QByteArray, byte);
-    QFETCH(QRectF, posto);
-    QFETCH(int, errore);
-    FoglioDiProva foglio;
-    foglio.ConImmagine(QStringLiteral("guasta.bmp"), byte, posto);
-    foglio.ConImmagine(QStringLiteral("sana.bmp"), InFormato(Tinta({9, 9}, 0), "bmp"),
-                       {100, 100, 10, 10});
-    const QRectF inchiostro = foglio.Stampa().Inchiostro();
-    QVERIFY2(Vicini(inchiostro, QRectF(100, 100, 10, 10)), "the next picture is printed");
-    QCOMPARE(foglio.Avvisi.size(), 1);
-    QVERIFY2(foglio.Avvisi.first().contains(QStringLiteral("ERRORE %1 ").arg(errore)),
-             qPrintable(foglio.Avvisi.first()));
-}
-
-void tst_StampaProva::diagnosiTesto()
-{
-    FoglioDiProva foglio;
-    foglio.ConImmagine(QStringLiteral("manca.jpg"), {}, {10.5, 21.5, 30.4, 44.6});
-    foglio.Stampa();
-    QCOMPARE(foglio.Avvisi, QStringList{QStringLiteral("StampaImmagine:  pos. mm. x,y=10,22\n"
-                                                       " area stampabile Width,Height = 210, 297\n"
-                                                       " xtar=30, 45\n"
-                                                       "ERRORE 53 %1\n%2")
-                                            .arg(DescrizioneErrore(53),
-                                                 foglio.Cartella() + QStringLiteral("manca.jpg"))});
-}
-
-void tst_StampaProva::diagnosiConMisureZero()
-{
-    FoglioDiProva foglio;
-    foglio.ConImmagine(QStringLiteral("manca.jpg"), {}, {10, 20, 0, 0});
-    foglio.Stampa();
-    QCOMPARE(foglio.Avvisi.size(), 1);
-    QVERIFY2(foglio.Avvisi.first().contains(QStringLiteral(" xtar=210, 297\n")),
-             qPrintable(foglio.Avvisi.first()));
-}
-
-void tst_StampaProva::immagineFuoriDallaCartella()
-{
-    FoglioDiProva foglio;
-    QTemporaryDir altrove;
-    const QString percorso = altrove.filePath(QStringLiteral("altrui.bmp"));
-    Scrive(percorso, InFormato(Tinta({9, 9}, 0), "bmp"));
-    const QString relativo = QDir(foglio.Cartella()).relativeFilePath(percorso);
-    foglio.ConImmagine(relativo, {}, {10, 10, 10, 10});
-    foglio.ConImmagine(QString(relativo).replace(u'/', u'\\'), {}, {10, 10, 10, 10});
-    foglio.ConImmagine(percorso, {}, {10, 10, 10, 10});
-    foglio.ConImmagine(QStringLiteral(".."), {}, {10, 10, 10, 10});
-    QVERIFY(foglio.Stampa().Inchiostro().isEmpty());
-    QCOMPARE(foglio.Avvisi.size(), 4);
-}
-
-void tst_StampaProva::immagineSenzaRiguardoAlleMaiuscole()
-{
-    FoglioDiProva foglio;
-    Scrive(foglio.Cartella() + QStringLiteral("LOGO.BMP"), InFormato(Tinta({9, 9}, 0), "bmp"));
-    foglio.ConImmagine(QStringLiteral("Logo.bmp"), {}, {10, 10, 10, 10});
-    QVERIFY(Vicini(foglio.Stampa().Inchiostro(), QRectF(10, 10, 10, 10)));
-    QVERIFY(foglio.Avvisi.isEmpty());
 }
 
 void tst_StampaProva::unSoloFoglio()
@@ -595,50 +308,6 @@ void tst_StampaProva::valoriAssurdi()
     StampaModello(foglio.Aperto, foglio.Cartella(), *stampante, false, [](const QString &) {});
     QVERIFY2(tempo.Entro(5000), qPrintable(QString::number(tempo.MilliSecondi())));
     QVERIFY(LettorePdf(foglio.Pdf()).Testi().contains(QStringLiteral("ultimo")));
-}
-
-void tst_StampaProva::fontSconosciuto()
-{
-    FoglioDiProva foglio;
-    foglio.ConCampo(QStringLiteral("A"), QStringLiteral("prova"), 10, 10).Font =
-        QStringLiteral("Carattere Che Non Esiste");
-    foglio.ConCampo(QStringLiteral("B"), QStringLiteral("prova2"), 10, 20).Font.clear();
-    const LettorePdf pdf = foglio.Stampa();
-    QVERIFY(pdf.Testi().contains(QStringLiteral("prova")));
-    QVERIFY(pdf.Testi().contains(QStringLiteral("prova2")));
-    for (const auto &carattere : pdf.Caratteri()) {
-        QVERIFY2(carattere.Nome.contains(QLatin1String("Sans")), qPrintable(carattere.Nome));
-    }
-}
-
-void tst_StampaProva::senzaFontODimensione_data()
-{
-    QTest::addColumn<QString>("font");
-    QTest::addColumn<int>("dimensione");
-    QTest::newRow("no font") << QString() << 8;
-    QTest::newRow("size 0") << QStringLiteral("Arial") << 0;
-    QTest::newRow("size -5") << QStringLiteral("Arial") << -5;
-    QTest::newRow("neither") << QString() << 0;
-}
-
-void tst_StampaProva::senzaFontODimensione()
-{
-    QFETCH(QString, font);
-    QFETCH(int, dimensione);
-    FoglioDiProva foglio;
-    const QString testo = QStringLiteral("0123456789").repeated(4);
-    foglio.ConCampo(QStringLiteral("A"), testo, 10, 10, dimensione).Font = font;
-    const QString scritta = QStringLiteral("9876543210").repeated(4);
-    Cornice &cornice = foglio.ConCornice({10, 30, 80, 10}, 0);
-    cornice.Testo = scritta;
-    cornice.Font = font;
-    cornice.Dimensione = qint16(dimensione);
-    const LettorePdf pdf = foglio.Stampa();
-    // As wide as what measuring, and with it the preview, says.
-    const double larghezza = MisuraTesto(testo, font, dimensione, false).width();
-    QVERIFY(Vicini(larghezza, LarghezzaDisegnata(testo, QStringLiteral("Arial"), 8, false)));
-    QVERIFY(Vicini(pdf.Parola1(testo).width(), larghezza));
-    QVERIFY(Vicini(pdf.Parola1(scritta).width(), larghezza));
 }
 
 void tst_StampaProva::stampanteCheRifiuta()

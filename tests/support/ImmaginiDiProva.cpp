@@ -123,18 +123,14 @@ QList<ImmaginiDiProva::Bomba> ImmaginiDiProva::Bombe()
 {
     QList<Bomba> bombe;
     const QByteArray bmp = InFormato(Tinta({8, 8}, 0), "bmp");
-    QByteArray enorme = bmp;
-    enorme.replace(18, 8, QByteArray("\0\0\1\0\0\0\1\0", 8));
-    bombe.append({"bmp of 65536 x 65536", enorme});
-    QByteArray grande = bmp;
-    grande.replace(18, 8, QByteArray("\x10\x27\0\0\x10\x27\0\0", 8));
-    bombe.append({"bmp of 10000 x 10000", grande});
-    QByteArray negativa = bmp;
-    negativa.replace(18, 8, QByteArray("\x10\x27\0\0\xF0\xD8\xFF\xFF", 8));
-    bombe.append({"bmp of 10000 x -10000", negativa});
-    QByteArray minima = bmp;
-    minima.replace(18, 8, QByteArray("\xFF\xFF\xFF\x7F\0\0\0\x80", 8));
-    bombe.append({"bmp of the largest and smallest number", minima});
+    // Width and height stand together.
+    const auto conMisure = [&](const char *nome, const char *misure) {
+        bombe.append({nome, QByteArray(bmp).replace(18, 8, QByteArray(misure, 8))});
+    };
+    conMisure("bmp of 65536 x 65536", "\0\0\1\0\0\0\1\0");
+    conMisure("bmp of 10000 x 10000", "\x10\x27\0\0\x10\x27\0\0");
+    conMisure("bmp of 10000 x -10000", "\x10\x27\0\0\xF0\xD8\xFF\xFF");
+    conMisure("bmp of the largest and smallest number", "\xFF\xFF\xFF\x7F\0\0\0\x80");
 
     QByteArray gif = GifTrasparente();
     gif.replace(6, 4, "\xFF\xFF\xFF\xFF");

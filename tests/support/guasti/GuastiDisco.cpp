@@ -43,7 +43,7 @@ GuastiDisco::Chiamata Sincronia(int descrittore)
                : GuastiDisco::Chiamata::SincronizzaFile;
 }
 
-/// The system's own, which any checker of the build may still have put something before.
+/// What stands behind the test's own: the C library's, or a sanitizer's that leads there.
 template <typename Funzione>
 Funzione Vera(const char *nome)
 {
