@@ -8,7 +8,9 @@
 #include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -16,6 +18,8 @@
 #include <QWindow>
 
 #include <memory>
+
+Q_DECLARE_METATYPE(Genere)
 
 /// mm of screen of one device-independent pixel.
 inline constexpr double MillimetriPerPixel = 25.4 / 96;
@@ -51,39 +55,47 @@ public:
     int Campo(const QString &nome, double x, double y, const QString &testo = QStringLiteral("abc"))
     {
         return Aggiunge([&](Passo &passo) {
-            const int i = passo.AggiungeCampo(x, y);
-            ::Campo campo = modello.Campi[i];
-            campo.Nome = nome;
-            campo.Testo = testo;
-            passo.Scrive(i, campo);
-            return i;
+            return Completa(passo, passo.AggiungeCampo(x, y), modello.Campi, [&](::Campo &campo) {
+                campo.Nome = nome;
+                campo.Testo = testo;
+            });
         });
     }
 
     int Cornice(double x, double y, double larghezza, double altezza, double bordo = 1)
     {
         return Aggiunge([&](Passo &passo) {
-            const int i = passo.AggiungeCornice(x, y, QTime(0, 5, 7));
-            ::Cornice cornice = modello.Cornici[i];
-            cornice.Larghezza = larghezza;
-            cornice.Altezza = altezza;
-            cornice.Bordo = bordo;
-            passo.Scrive(i, cornice);
-            return i;
+            return Completa(passo, passo.AggiungeCornice(x, y, QTime(0, 5, 7)), modello.Cornici,
+                            [&](::Cornice &cornice) {
+                                Misura(cornice, larghezza, altezza);
+                                cornice.Bordo = bordo;
+                            });
         });
     }
 
     int Immagine(double x, double y, double larghezza, double altezza, const QString &file = {})
     {
         return Aggiunge([&](Passo &passo) {
-            const int i = passo.AggiungeImmagine(x, y);
-            ::Immagine immagine = modello.Immagini[i];
-            immagine.Nome = file;
-            immagine.Larghezza = larghezza;
-            immagine.Altezza = altezza;
-            passo.Scrive(i, immagine);
-            return i;
+            return Completa(passo, passo.AggiungeImmagine(x, y), modello.Immagini,
+                            [&](::Immagine &immagine) {
+                                Misura(immagine, larghezza, altezza);
+                                immagine.Nome = file;
+                            });
         });
+    }
+
+    /// An element of the kind; a frame or image is 30 x 20 mm.
+    int Crea(Genere genere, QPointF angolo)
+    {
+        switch (genere) {
+        case Genere::Campo:
+            return Campo(QStringLiteral("uno"), angolo.x(), angolo.y());
+        case Genere::Cornice:
+            return Cornice(angolo.x(), angolo.y(), 30, 20);
+        case Genere::Immagine:
+            break;
+        }
+        return Immagine(angolo.x(), angolo.y(), 30, 20);
     }
 
     /// Changes records and row area before the test begins: no sign is noted, nothing is modified.
@@ -122,6 +134,18 @@ public:
     }
     Maniglia *S(int k) const { return Controllo_<Maniglia>(QStringLiteral("S%1").arg(k)); }
 
+    /// Number of the element whose handle S1, S2 or S3 is in sight; 0: none.
+    int InMano(int k) const { return S(k)->isVisible() ? S(k)->Tag.toInt() : 0; }
+    bool GuideInVista() const
+    {
+        return Controllo_<LineaGuida>(QStringLiteral("LineXX"))->isVisible() ||
+               Controllo_<LineaGuida>(QStringLiteral("LineYY"))->isVisible();
+    }
+    int Volte(const char *segnale) const
+    {
+        return static_cast<int>(segnali.count(QString::fromLatin1(segnale)));
+    }
+
     QWidget *Vista() const { return Trova<QGraphicsView>(*frm, "P1")->viewport(); }
 
     /// The middle of the pixel nearest to the point: what the mouse can really hit.
@@ -147,6 +171,16 @@ public:
     {
         Muove(punto);
         QTest::mouseDClick(frm->windowHandle(), Qt::LeftButton, {}, Locale(punto));
+    }
+    /// A mouse event of the left button straight to the sheet: QTest keeps its own presses apart
+    /// from double clicks.
+    void Manda(QEvent::Type tipo, QPointF punto, Qt::MouseButtons tenuti) const
+    {
+        const QPoint pixel = Pixel(punto);
+        const Qt::MouseButton bottone = tipo == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent evento(tipo, pixel, Vista()->mapToGlobal(pixel), bottone, tenuti,
+                           Qt::NoModifier);
+        QApplication::sendEvent(Vista(), &evento);
     }
     /// Press at da, move through a few points to a, release there.
     void Trascina(QPointF da, QPointF a)
@@ -198,6 +232,22 @@ private:
         return i;
     }
 
+    template <typename Elementi, typename Azione>
+    static int Completa(Passo &passo, int i, const Elementi &elementi, Azione &&azione)
+    {
+        auto elemento = elementi[i];
+        azione(elemento);
+        passo.Scrive(i, elemento);
+        return i;
+    }
+
+    template <typename Riquadro>
+    static void Misura(Riquadro &riquadro, double larghezza, double altezza)
+    {
+        riquadro.Larghezza = larghezza;
+        riquadro.Altezza = altezza;
+    }
+
     void Annota(const QString &segnale)
     {
         if (!muto_) {
@@ -240,3 +290,30 @@ private:
 
     bool muto_ = false;
 };
+
+inline void RigheDiZoom()
+{
+    QTest::addColumn<double>("zoom");
+    for (const double zoom : {1.0, 1.7, 2.5, 3.0}) {
+        QTest::addRow("zoom %g", zoom) << zoom;
+    }
+}
+
+inline void RigheDiGenere()
+{
+    QTest::addColumn<Genere>("genere");
+    QTest::newRow("campo") << Genere::Campo;
+    QTest::newRow("cornice") << Genere::Cornice;
+    QTest::newRow("immagine") << Genere::Immagine;
+}
+
+/// A row field whose handle is in sight, with the pointer on the handle.
+inline QPointF SullaManigliaDiRiga(Banco &banco)
+{
+    banco.Cambia([](Modello &modello) { modello.Righe.yInizio = 40; });
+    banco.Campo(QStringLiteral("R_Descr"), 60, 40);
+    banco.Muove({63, 42});
+    banco.Muove({61, 41});
+    banco.segnali.clear();
+    return {61, 41};
+}

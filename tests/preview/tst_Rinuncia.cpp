@@ -1,36 +1,12 @@
 #include "preview/Banco.h"
 
 #include <QApplication>
-#include <QMouseEvent>
-
-Q_DECLARE_METATYPE(Genere)
 
 namespace {
 
 // Of the element, mm. Only the second lies on a whole pixel, at any of the scales below.
 const QPointF Angolo(60, 50);
 const QPointF SulPixel(127, 127);
-
-int Elemento(Banco &banco, Genere genere, QPointF angolo)
-{
-    switch (genere) {
-    case Genere::Campo:
-        return banco.Campo(QStringLiteral("uno"), angolo.x(), angolo.y());
-    case Genere::Cornice:
-        return banco.Cornice(angolo.x(), angolo.y(), 30, 20);
-    case Genere::Immagine:
-        break;
-    }
-    return banco.Immagine(angolo.x(), angolo.y(), 30, 20);
-}
-
-void RigheDiGenere()
-{
-    QTest::addColumn<Genere>("genere");
-    QTest::newRow("campo") << Genere::Campo;
-    QTest::newRow("cornice") << Genere::Cornice;
-    QTest::newRow("immagine") << Genere::Immagine;
-}
 
 void RigheRidimensionabili()
 {
@@ -59,7 +35,7 @@ ControlloElemento *Controllo1(const Banco &banco, Genere genere)
 /// An element alone on the sheet, selected.
 void Prepara(Banco &banco, Genere genere, QPointF angolo = Angolo)
 {
-    banco.frm->Seleziona(genere, Elemento(banco, genere, angolo));
+    banco.frm->Seleziona(genere, banco.Crea(genere, angolo));
     banco.segnali.clear();
 }
 
@@ -89,20 +65,44 @@ void PremeEscape(const Banco &banco)
     QTest::keyClick(banco.frm->windowHandle(), Qt::Key_Escape);
 }
 
-/// A mouse event straight to the sheet: QTest keeps its own presses apart from double clicks.
-void Manda(const Banco &banco, QEvent::Type tipo, QPointF punto, Qt::MouseButtons tenuti)
+/// A gesture under way on an element alone on the sheet, to be given up.
+struct Rinunciato
 {
-    const QPoint pixel = banco.Pixel(punto);
-    QMouseEvent evento(tipo, pixel, banco.Vista()->mapToGlobal(pixel), Qt::LeftButton, tenuti,
-                       Qt::NoModifier);
-    QApplication::sendEvent(banco.Vista(), &evento);
-}
+    Rinunciato(Genere quale, QPointF presa, QPointF scarto)
+        : genere(quale)
+    {
+        Prepara(banco, genere);
+        prima = banco.modello;
+        posto = Controllo1(banco, genere)->Posto();
+        dove = Afferra(banco, presa, scarto);
+    }
 
-bool Guide(const Banco &banco)
-{
-    return banco.Controllo_<LineaGuida>(QStringLiteral("LineXX"))->isVisible() ||
-           banco.Controllo_<LineaGuida>(QStringLiteral("LineYY"))->isVisible();
-}
+    void VerificaCambiato() const
+    {
+        QVERIFY(!(banco.modello == prima));
+        QVERIFY(banco.stato.documento.Variato());
+    }
+    void VerificaComePrima() const
+    {
+        QCOMPARE(banco.modello, prima);
+        QVERIFY(!banco.stato.documento.Variato());
+        QCOMPARE(Controllo1(banco, genere)->Posto(), posto);
+    }
+    /// The release came, and found nothing to conclude.
+    void VerificaNienteDaAnnullare() const
+    {
+        VerificaComePrima();
+        QVERIFY(!banco.stato.documento.PuoAnnullare());
+        // Nothing for the safety copy to keep.
+        QVERIFY(!banco.segnali.contains(QStringLiteral("ModificaConclusa")));
+    }
+
+    Genere genere;
+    Banco banco;
+    Modello prima;
+    QRectF posto; ///< of the control, mm of screen
+    QPointF dove; ///< where the pointer has got to
+};
 
 } // namespace
 
@@ -140,53 +140,30 @@ private slots:
 void tst_Rinuncia::EscapeTrascinando()
 {
     QFETCH(Genere, genere);
-    Banco banco;
-    Prepara(banco, genere);
-    const Modello prima = banco.modello;
-    const QRectF posto = Controllo1(banco, genere)->Posto();
-
-    Afferra(banco, Maniglia1(), {20, 15});
-    QVERIFY(!(banco.modello == prima));
-    QVERIFY(banco.stato.documento.Variato());
-    QVERIFY(Guide(banco));
-    PremeEscape(banco);
-
-    QCOMPARE(banco.modello, prima);
-    QVERIFY(!banco.stato.documento.Variato());
-    QVERIFY(!banco.stato.documento.PuoAnnullare());
-    QCOMPARE(Controllo1(banco, genere)->Posto(), posto);
-    QCOMPARE(banco.S(static_cast<int>(Posto(genere)) + 1)->Posto().topLeft(), posto.topLeft());
-    QVERIFY(!Guide(banco));
-    banco.Rilascia(Maniglia1() + QPointF(20, 15));
-    QCOMPARE(banco.modello, prima);
-    QVERIFY(!banco.stato.documento.Variato());
-    QVERIFY(!banco.stato.documento.PuoAnnullare());
-    // Nothing for the safety copy to keep.
-    QVERIFY(!banco.segnali.contains(QStringLiteral("ModificaConclusa")));
+    Rinunciato prova(genere, Maniglia1(), {20, 15});
+    prova.VerificaCambiato();
+    QVERIFY(prova.banco.GuideInVista());
+    PremeEscape(prova.banco);
+    prova.VerificaComePrima();
+    QVERIFY(!prova.banco.stato.documento.PuoAnnullare());
+    QCOMPARE(prova.banco.S(static_cast<int>(Posto(genere)) + 1)->Posto().topLeft(),
+             prova.posto.topLeft());
+    QVERIFY(!prova.banco.GuideInVista());
+    prova.banco.Rilascia(prova.dove);
+    prova.VerificaNienteDaAnnullare();
 }
 
 void tst_Rinuncia::EscapeRidimensionando()
 {
     QFETCH(Genere, genere);
-    Banco banco;
-    Prepara(banco, genere);
-    const Modello prima = banco.modello;
-    const QRectF posto = Controllo1(banco, genere)->Posto();
-
-    const QPointF dove = Afferra(banco, BordoDestro(), {12, 0});
-    QVERIFY(!(banco.modello == prima));
-    QVERIFY(Controllo1(banco, genere)->Posto().width() > 41);
-    PremeEscape(banco);
-
-    QCOMPARE(banco.modello, prima);
-    QVERIFY(!banco.stato.documento.Variato());
-    QCOMPARE(Controllo1(banco, genere)->Posto(), posto);
-    banco.Muove(dove + QPointF(5, 0));
-    banco.Rilascia(dove + QPointF(5, 0));
-    QCOMPARE(banco.modello, prima);
-    QVERIFY(!banco.stato.documento.Variato());
-    QVERIFY(!banco.stato.documento.PuoAnnullare());
-    QVERIFY(!banco.segnali.contains(QStringLiteral("ModificaConclusa")));
+    Rinunciato prova(genere, BordoDestro(), {12, 0});
+    prova.VerificaCambiato();
+    QVERIFY(Controllo1(prova.banco, genere)->Posto().width() > 41);
+    PremeEscape(prova.banco);
+    prova.VerificaComePrima();
+    prova.banco.Muove(prova.dove + QPointF(5, 0));
+    prova.banco.Rilascia(prova.dove + QPointF(5, 0));
+    prova.VerificaNienteDaAnnullare();
 }
 
 void tst_Rinuncia::EscapeTieneIlVariatoDiPrima()
@@ -239,10 +216,10 @@ void tst_Rinuncia::DopoEscapeUnAltroBottoneNonTrascina()
     banco.Muove(Maniglia1());
     banco.Preme(Maniglia1(), Qt::MiddleButton);
     banco.Muove({100, 90});
-    QVERIFY(!Guide(banco));
+    QVERIFY(!banco.GuideInVista());
     banco.Rilascia({100, 90}, Qt::MiddleButton);
     banco.Rilascia({100, 90});
-    QVERIFY(!Guide(banco));
+    QVERIFY(!banco.GuideInVista());
     QCOMPARE(banco.modello, prima);
     QVERIFY(!banco.stato.documento.Variato());
 }
@@ -272,8 +249,8 @@ void tst_Rinuncia::DopoEscapeDueVolteNonApreLeProprieta()
     PremeEscape(banco);
     banco.Rilascia(dove);
     // The next press follows at once: to the window system a double click, to the user a new drag.
-    Manda(banco, QEvent::MouseButtonDblClick, Maniglia1(), Qt::LeftButton);
-    Manda(banco, QEvent::MouseButtonRelease, Maniglia1(), Qt::NoButton);
+    banco.Manda(QEvent::MouseButtonDblClick, Maniglia1(), Qt::LeftButton);
+    banco.Manda(QEvent::MouseButtonRelease, Maniglia1(), Qt::NoButton);
     QVERIFY(!banco.segnali.contains(QStringLiteral("RichiestaProprieta 1 1")));
 }
 
