@@ -52,10 +52,10 @@ private:
 
     MiraFoglio mira_;
     ContestoGesto contesto_;
-    /// Of the button that is held; null: none. Shared with its own move, which may bring its end:
-    /// a message box takes the mouse.
+    /// The one under way; null: none. Shared with its own move, which may bring its end: a message
+    /// box takes the mouse.
     std::shared_ptr<Gesto> gesto_;
-    Bersaglio preso_;                        ///< what it was pressed on
-    Qt::MouseButton bottone_ = Qt::NoButton; ///< the button
-    bool precedenteHaTrascinato_ = false;    ///< the gesture before this one
+    Bersaglio preso_;                        ///< what its button was pressed on
+    Qt::MouseButton bottone_ = Qt::NoButton; ///< the button that holds it
+    bool precedenteHaTrascinato_ = false;    ///< of the gesture before
 };

@@ -4,8 +4,9 @@
 #include "preview/MiraFoglio.h"
 
 /// Pointing: a field is selected, a frame or image goes behind the others and shows what its edges
-/// offer, the bare sheet puts the fields out. A press changes nothing of that; its release on a
-/// frame or image restacks the kind, and is a click when it was the left button's.
+/// offer, over the bare sheet no field stays lit. With a button held it goes on so with what was
+/// pressed; the release on a frame or image restacks the kind, and is a click when it was the left
+/// button's.
 class PuntamentoFoglio : public Gesto
 {
 public:
