@@ -27,7 +27,7 @@ public:
                 [this, &documento, &dialogo](Genere genere, int n) {
                     scelta_ = n;
                     voce_ = documento.Voce({genere, n});
-                    ancoraAperto_ = dialogo.isVisible();
+                    inOrdine_ = cambiati_.contains(n) && dialogo.isVisible();
                 });
     }
 
@@ -39,8 +39,9 @@ public:
     int Scelta() const { return scelta_; }
     /// What that entry said by then.
     const QString &Voce() const { return voce_; }
-    /// Whether the dialog was open still by then.
-    bool AncoraAperto() const { return ancoraAperto_; }
+    /// Whether the element had been told of before its entry, and the entry before the dialog
+    /// closed.
+    bool InOrdine() const { return inOrdine_; }
     /// Whether nothing has been heard but that element n has moved.
     bool SoloRicollocato(int n) const
     {
@@ -54,5 +55,5 @@ private:
     QList<int> ricollocati_;
     int scelta_ = 0;
     QString voce_;
-    bool ancoraAperto_ = false;
+    bool inOrdine_ = false;
 };

@@ -110,7 +110,7 @@ struct DialogoDiProva
         QVERIFY(chiamante->Ricollocati().isEmpty());
         QCOMPARE(chiamante->Scelta(), 2);
         QCOMPARE(chiamante->Voce(), voce);
-        QVERIFY(chiamante->AncoraAperto());
+        QVERIFY(chiamante->InOrdine());
         QVERIFY(!dialogo->isVisible());
     }
 

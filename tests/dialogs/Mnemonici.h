@@ -1,11 +1,16 @@
 #pragma once
 
+#include "support/Controlli.h"
+
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMap>
 #include <QStringList>
+#include <QTest>
+
+#include <utility>
 
 /// The captions that a user sees in the window, in no particular order; labels of boxes, buttons
 /// and frames. Mnemonics are marked as in the form.
@@ -48,4 +53,24 @@ inline QStringList MnemoniciRipetuti(const QWidget &finestra, int minimo)
         }
     }
     return ripetuti;
+}
+
+/// Controls by name, with what each says.
+using Detti = QList<std::pair<const char *, const char *>>;
+
+/// Fails the test unless the buttons say this; mnemonics aside.
+inline void VerificaBottoni(const QWidget &finestra, const Detti &attesi)
+{
+    for (const auto &[nome, testo] : attesi) {
+        QCOMPARE(Controlli::Trova<QAbstractButton>(finestra, nome)->text().remove(u'&'),
+                 QString::fromUtf8(testo));
+    }
+}
+
+/// Fails the test unless the controls have these tool tips.
+inline void VerificaSuggerimenti(const QWidget &finestra, const Detti &attesi)
+{
+    for (const auto &[nome, testo] : attesi) {
+        QCOMPARE(Controlli::Trova<QWidget>(finestra, nome)->toolTip(), QString::fromUtf8(testo));
+    }
 }

@@ -104,29 +104,23 @@ void tst_FrmCampo::TitoloNomiETesti()
     const Prova p;
     QCOMPARE(p.dialogo.objectName(), QStringLiteral("FrmCampo"));
     QCOMPARE(p.dialogo.windowTitle(), QStringLiteral("Modifica impostazioni Campo"));
-    const auto didascalia = [&](const char *nome, const char *testo) {
-        QCOMPARE(Trova<QAbstractButton>(p.dialogo, nome)->text().remove(u'&'),
-                 QString::fromUtf8(testo));
-    };
-    didascalia("PEliminaCampo", "Elimina campo");
-    didascalia("Bold", "bold");
-    didascalia("Command2", "imposta questo font su tutti i campi");
-    didascalia("NonStampaCampo", "non stampare campo");
-    didascalia("PConfemaCampo", "Conferma impostazioni campo");
-    didascalia("PCambiaMaschera", "Cambia maschera");
-    didascalia("PMascheraDefault", "Ripristina maschera default");
-    const auto suggerimento = [&](const char *nome, const char *testo) {
-        QCOMPARE(Trova<QWidget>(p.dialogo, nome)->toolTip(), QString::fromUtf8(testo));
-    };
-    suggerimento("Testo", "scritta che compare sull'anteprima");
-    suggerimento("X", "coordinate in millimetri");
-    suggerimento("Y", "coordinate in millimetri");
-    suggerimento("ComboFont", "elenco fonts di caratteri disponibili");
-    suggerimento("ComboDim", "dimensione carattere");
-    suggerimento("Bold", "grassetto");
-    suggerimento("Command2", "sostituisce su tutti i campi il font");
-    suggerimento("PConfemaCampo", "click per aggiornare il font sull'anteprima");
-    suggerimento("ComboMask", "selezione maschera di stampa diversa da quella prefissata");
+    VerificaBottoni(p.dialogo, {{"PEliminaCampo", "Elimina campo"},
+                                {"Bold", "bold"},
+                                {"Command2", "imposta questo font su tutti i campi"},
+                                {"NonStampaCampo", "non stampare campo"},
+                                {"PConfemaCampo", "Conferma impostazioni campo"},
+                                {"PCambiaMaschera", "Cambia maschera"},
+                                {"PMascheraDefault", "Ripristina maschera default"}});
+    VerificaSuggerimenti(
+        p.dialogo, {{"Testo", "scritta che compare sull'anteprima"},
+                    {"X", "coordinate in millimetri"},
+                    {"Y", "coordinate in millimetri"},
+                    {"ComboFont", "elenco fonts di caratteri disponibili"},
+                    {"ComboDim", "dimensione carattere"},
+                    {"Bold", "grassetto"},
+                    {"Command2", "sostituisce su tutti i campi il font"},
+                    {"PConfemaCampo", "click per aggiornare il font sull'anteprima"},
+                    {"ComboMask", "selezione maschera di stampa diversa da quella prefissata"}});
 }
 
 void tst_FrmCampo::DidascalieDelleCaselle_data()

@@ -1,4 +1,5 @@
 #include "dialogs/DialogoCornice.h"
+#include "dialogs/Mnemonici.h"
 #include "grafica/Testo.h"
 #include "model/Tavolozza.h"
 
@@ -42,17 +43,14 @@ void tst_FrmCornice::TitoloNomiETesti()
     const DialogoCornice p;
     QCOMPARE(p.dialogo.objectName(), QStringLiteral("FrmCornice"));
     QCOMPARE(p.dialogo.windowTitle(), QStringLiteral("Modifica impostazioni Cornice / Etichetta"));
-    const auto didascalia = [&](const char *nome, const char *testo) {
-        QCOMPARE(Trova<QAbstractButton>(p.dialogo, nome)->text().remove(u'&'),
-                 QString::fromUtf8(testo));
-    };
-    didascalia("Command1", "imposta colore testo e colore cornice su tutte le cornici");
-    didascalia("Command2", "imposta questo font su tutte le cornici");
-    didascalia("Bold", "bold");
-    didascalia("Elimina", "Elimina cornice");
-    didascalia("Confema", "Conferma impostazioni cornice");
-    didascalia("OptEtichetta", "Etichetta");
-    didascalia("OptCornice", "Cornice");
+    VerificaBottoni(p.dialogo,
+                    {{"Command1", "imposta colore testo e colore cornice su tutte le cornici"},
+                     {"Command2", "imposta questo font su tutte le cornici"},
+                     {"Bold", "bold"},
+                     {"Elimina", "Elimina cornice"},
+                     {"Confema", "Conferma impostazioni cornice"},
+                     {"OptEtichetta", "Etichetta"},
+                     {"OptCornice", "Cornice"}});
     QCOMPARE(Trova<QGroupBox>(p.dialogo, "Frame2")->title(), QStringLiteral("Posizione"));
     QCOMPARE(Trova<QGroupBox>(p.dialogo, "Frame1")->title(),
              QStringLiteral("Font, dimensioni, colore "));
@@ -72,16 +70,13 @@ void tst_FrmCornice::TitoloNomiETesti()
                 "(default 3)");
     haEtichetta("Colore cornice: 0=nero 1=blu 2=azzurro 3=grigio 4=grigiochiaro 5=rosso 6=verde "
                 "7=giallo)");
-    const auto suggerimento = [&](const char *nome, const char *testo) {
-        QCOMPARE(Trova<QWidget>(p.dialogo, nome)->toolTip(), QString::fromUtf8(testo));
-    };
-    suggerimento("Testo", "scritta che compare sull'anteprima");
-    suggerimento("Confema", "click per aggiornare il font sull'anteprima");
-    suggerimento("X", "coordinate in millimetri");
-    suggerimento("Y", "coordinate in millimetri");
-    suggerimento("Bold", "grassetto");
-    suggerimento("ComboDim", "dimensione carattere");
-    suggerimento("ComboFont", "elenco fonts di caratteri disponibili");
+    VerificaSuggerimenti(p.dialogo, {{"Testo", "scritta che compare sull'anteprima"},
+                                     {"Confema", "click per aggiornare il font sull'anteprima"},
+                                     {"X", "coordinate in millimetri"},
+                                     {"Y", "coordinate in millimetri"},
+                                     {"Bold", "grassetto"},
+                                     {"ComboDim", "dimensione carattere"},
+                                     {"ComboFont", "elenco fonts di caratteri disponibili"}});
 }
 
 void tst_FrmCornice::CaricaLaCornice()

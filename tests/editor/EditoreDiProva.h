@@ -6,6 +6,7 @@
 #include "print/Stampanti.h"
 #include "support/ArchivioDiProva.h"
 #include "support/Finestre.h"
+#include "support/ImmaginiDiProva.h"
 #include "support/Robot.h"
 
 #include <QDialog>
@@ -48,6 +49,48 @@ public:
 private:
     std::unique_ptr<Form2> editor_;
 };
+
+/// An editor over a model that the test composes, not yet shown.
+class EditorSulModello
+{
+public:
+    template <typename Azione>
+    explicit EditorSulModello(Azione &&compone)
+    {
+        compone(prova);
+        prova.Scrive();
+        editor = std::make_unique<Form2>(prova.Stato());
+        caricato = editor->Form_Load();
+    }
+    ~EditorSulModello() { prova.Stato().documento.Salvato(); }
+    Q_DISABLE_COPY_MOVE(EditorSulModello)
+
+    const Modello &Aperto() const { return prova.Aperto(); }
+
+    ArchivioDiProva prova;
+    std::unique_ptr<Form2> editor;
+    bool caricato = false;
+};
+
+/// Colour of the preview's sheet at a point in mm of screen.
+inline QColor ColoreDelFoglio(const Form2 &editor, double x, double y)
+{
+    auto *foglio = Trova<QGraphicsView>(*editor.Anteprima(), "P1");
+    const QPixmap foto = foglio->grab();
+    const double scala = foglio->width() / 240.0;
+    return foto.toImage().pixelColor(qRound(x * scala), qRound(y * scala));
+}
+
+/// A red scan of so many mm, at 10 dots a millimetre, in the folder of the model.
+inline QString ScriveScansione(const ArchivioDiProva &archivio, int larghezza, int altezza)
+{
+    const QString file = archivio.Stato().CartellaModelli + QStringLiteral("scansione.bmp");
+    ImmaginiDiProva::Scrive(
+        file,
+        ImmaginiDiProva::InFormato(
+            ImmaginiDiProva::Tinta({larghezza * 10, altezza * 10}, qRgb(255, 0, 0)), "bmp", 254));
+    return file;
+}
 
 /// An editor opened on a model in a real archive, and what its user meets: boxes are answered by
 /// the robot handed in.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Postazione.h"
+#include "support/ModelloDiProva.h"
 
 /// Two ordinary fields and two row fields, two frames and a label, two pictures; nothing lies upon
 /// anything else.
@@ -11,12 +12,7 @@ inline void RiempieMisto(Postazione &posto)
     a.AggiungeCampo(QStringLiteral("Totale"), 120.4, 30.5);
     a.AggiungeCampo(QStringLiteral("R_Descr"), 10, 44);
     a.AggiungeCampo(QStringLiteral("R_Qta"), 90, 100);
-    Campo &totale = a.DaAprire().Campi[2];
-    totale.Testo = QStringLiteral("1.234,50");
-    totale.Maschera = QStringLiteral("###.###,###");
-    totale.MascheraDefault = totale.Maschera;
-    totale.Dimensione = 9;
-    totale.Grassetto = Vero;
+    DiventaImporto(a.DaAprire().Campi[2]);
     a.AggiungeCornice(QStringLiteral("Riquadro"), 30, 50, 40, 20);
     a.AggiungeCornice(QStringLiteral("Linea"), 100.5, 50.4, 30.5, 10);
     a.AggiungeCornice(QStringLiteral("Scritta"), 30, 80, 25, 6);

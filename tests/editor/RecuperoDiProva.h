@@ -36,3 +36,16 @@ inline void ModificaEMuore(ArchivioDiProva &prova, double x)
     QVERIFY(editor.Form_Load());
     SpostaCampo(stato, x);
 }
+
+/// A model with so many elements of each kind that was open when the program died, field 1 gone to
+/// x and not saved.
+class LavoroLasciato : public ArchivioDiProva
+{
+public:
+    explicit LavoroLasciato(int perGenere, double x = 50)
+    {
+        Riempie(perGenere);
+        Scrive();
+        ModificaEMuore(*this, x);
+    }
+};

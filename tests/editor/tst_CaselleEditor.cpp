@@ -4,8 +4,10 @@
 #include "model/FileModello.h"
 #include "support/ImmaginiDiProva.h"
 
-#include <QAbstractItemView>
 #include <QTabWidget>
+
+using Controlli::MostraLInizio;
+using Controlli::VerificaVentiRighe;
 
 namespace {
 
@@ -25,33 +27,17 @@ void AnnullaFinoA(QLineEdit &casella, const QString &testo)
     QCOMPARE(casella.text(), testo);
 }
 
-/// A red scan of so many mm, at 10 dots a millimetre, in the folder of the model.
-QString Scansione(const ArchivioDiProva &archivio, int larghezza, int altezza)
+/// Opens the editor over a red scan of 40 x 40 mm that is shown, its corner at (20, 150).
+void ApreSullaScansione(EditoreDiProva &prova)
 {
-    const QString file = archivio.Stato().CartellaModelli + QStringLiteral("scansione.bmp");
-    ImmaginiDiProva::Scrive(
-        file,
-        ImmaginiDiProva::InFormato(
-            ImmaginiDiProva::Tinta({larghezza * 10, altezza * 10}, qRgb(255, 0, 0)), "bmp", 254));
-    return file;
-}
-
-/// Colour of the sheet at a point in mm of screen.
-QColor Colore(const Form2 &editor, double x, double y)
-{
-    auto *foglio = Trova<QGraphicsView>(*editor.Anteprima(), "P1");
-    const QPixmap foto = foglio->grab();
-    const double scala = foglio->width() / 240.0;
-    return foto.toImage().pixelColor(qRound(x * scala), qRound(y * scala));
-}
-
-/// Whether a box too narrow for its text shows the beginning of it.
-bool MostraLInizio(QLineEdit &casella)
-{
-    casella.setFixedWidth(60);
-    casella.grab(); // painting scrolls the text to the cursor
-    return casella.fontMetrics().horizontalAdvance(casella.text()) > casella.width() &&
-           casella.cursorPositionAt({2, casella.height() / 2}) == 0;
+    prova.Archivio.DaAprire().Sfondo = {ScriveScansione(prova.Archivio, 40, 40),
+                                        QStringLiteral("40"),
+                                        QStringLiteral("40"),
+                                        QStringLiteral("20"),
+                                        QStringLiteral("150"),
+                                        1};
+    QVERIFY(prova.Apre());
+    QCOMPARE(ColoreDelFoglio(*prova.Editor, 30, 170), QColor(Qt::red));
 }
 
 } // namespace
@@ -148,24 +134,17 @@ void tst_CaselleEditor::TipoAnnullatoValeComeSiVede()
 void tst_CaselleEditor::SfondoAnnullatoDopoUnoZoomSiRidisegna()
 {
     EditoreDiProva prova;
-    prova.Archivio.DaAprire().Sfondo = {Scansione(prova.Archivio, 40, 40),
-                                        QStringLiteral("40"),
-                                        QStringLiteral("40"),
-                                        QStringLiteral("20"),
-                                        QStringLiteral("150"),
-                                        1};
-    QVERIFY(prova.Apre());
+    ApreSullaScansione(prova);
     auto *casella = Trova<QLineEdit>(*prova.Editor, "SfondoXPosImm");
-    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
     Scrive(*casella, QStringLiteral("100"));
     prova.Zoom(QStringLiteral("2")); // draws the scan where the half-finished text says
-    QCOMPARE(Colore(*prova.Editor, 60, 85), QColor(Qt::red));
+    QCOMPARE(ColoreDelFoglio(*prova.Editor, 60, 85), QColor(Qt::red));
     AnnullaFinoA(*casella, QStringLiteral("20"));
     QTest::keyClick(casella, Qt::Key_Return);
     prova.Foto();
     QCOMPARE(prova.Archivio.Aperto().Sfondo.XPos, QStringLiteral("20"));
-    QCOMPARE(Colore(*prova.Editor, 15, 85), QColor(Qt::red));
-    QCOMPARE(Colore(*prova.Editor, 60, 85), QColor(Qt::white));
+    QCOMPARE(ColoreDelFoglio(*prova.Editor, 15, 85), QColor(Qt::red));
+    QCOMPARE(ColoreDelFoglio(*prova.Editor, 60, 85), QColor(Qt::white));
     prova.Archivio.Stato().documento.Salvato();
 }
 
@@ -191,7 +170,7 @@ void tst_CaselleEditor::INumeriLunghiMostranoLInizio()
 void tst_CaselleEditor::LaMisuraCalcolataMostraLInizio()
 {
     EditoreDiProva prova;
-    prova.Archivio.DaAprire().Sfondo.File = Scansione(prova.Archivio, 40, 40);
+    prova.Archivio.DaAprire().Sfondo.File = ScriveScansione(prova.Archivio, 40, 40);
     prova.Archivio.DaAprire().Sfondo.Visualizza = 1;
     prova.Archivio.DaAprire().Sfondo.XPos = QStringLiteral("1.123456789012");
     QVERIFY(prova.Apre());
@@ -247,7 +226,7 @@ void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero()
 {
     QFETCH(QString, risposta);
     EditoreDiProva prova;
-    const ImmagineSfondo sfondo{Scansione(prova.Archivio, 40, 40),
+    const ImmagineSfondo sfondo{ScriveScansione(prova.Archivio, 40, 40),
                                 QStringLiteral("40"),
                                 QStringLiteral("40"),
                                 QStringLiteral("20"),
@@ -262,7 +241,7 @@ void tst_CaselleEditor::PercentualeTroppoGrandeRifiutataComeNumero()
     QCOMPARE(robot.Testi().value(1),
              QStringLiteral("Percentuale: «%1» è un numero troppo grande").arg(risposta));
     QCOMPARE(prova.Archivio.Aperto().Sfondo, sfondo);
-    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
+    QCOMPARE(ColoreDelFoglio(*prova.Editor, 30, 170), QColor(Qt::red));
     QVERIFY(!prova.Editor->Variato());
 }
 
@@ -287,14 +266,7 @@ void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta()
     QFETCH(QString, nome);
     QFETCH(QByteArray, freccia);
     EditoreDiProva prova;
-    prova.Archivio.DaAprire().Sfondo = {Scansione(prova.Archivio, 40, 40),
-                                        QStringLiteral("40"),
-                                        QStringLiteral("40"),
-                                        QStringLiteral("20"),
-                                        QStringLiteral("150"),
-                                        1};
-    QVERIFY(prova.Apre());
-    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::red));
+    ApreSullaScansione(prova);
     Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(5);
     auto *riga = Trova<QLineEdit>(*prova.Editor, casella.constData());
     const auto scrive = [riga](const QString &testo) {
@@ -311,7 +283,7 @@ void tst_CaselleEditor::NumeroTroppoGrandeDellaScansioneDettoUnaVolta()
     QCOMPARE(robot.Testi(),
              QStringList{nome + QStringLiteral(": «1e400» è un numero troppo grande")});
     QCOMPARE(riga->text(), QStringLiteral("1e400"));
-    QCOMPARE(Colore(*prova.Editor, 30, 170), QColor(Qt::white));
+    QCOMPARE(ColoreDelFoglio(*prova.Editor, 30, 170), QColor(Qt::white));
     scrive(QStringLiteral("30"));
     QVERIFY(robot.Soddisfatto());
     robot.Ok();
@@ -344,7 +316,7 @@ void tst_CaselleEditor::ColoriFuoriDallaTavolozzaSonoNeri()
     cornice.Bordo = 1.9;
     cornice.ColoreCornice = 4;
     QVERIFY(prova.Apre());
-    const auto rosso = [&] { return Colore(*prova.Editor, 70, 60); };
+    const auto rosso = [&] { return ColoreDelFoglio(*prova.Editor, 70, 60); };
     QVERIFY(rosso() != QColor(Qt::black));
     for (const char *testo : {"99", "-7", "32767"}) {
         Robot robot;
@@ -414,12 +386,7 @@ void tst_CaselleEditor::GliElenchiSiApronoSuVentiRighe()
     QVERIFY(prova.Apre());
     Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(pagina);
     auto *elenco = Trova<QComboBox>(*prova.Editor, combo.constData());
-    elenco->showPopup();
-    QTRY_VERIFY(elenco->view()->isVisible());
-    const double righe =
-        double(elenco->view()->viewport()->height()) / elenco->view()->sizeHintForRow(0);
-    QVERIFY2(righe > 10 && righe <= 20.5, qPrintable(QString::number(righe)));
-    elenco->hidePopup();
+    VerificaVentiRighe(*elenco);
 }
 
 QTEST_MAIN(tst_CaselleEditor)

@@ -1,5 +1,6 @@
 #include "Copione.h"
 #include "Modelli.h"
+#include "support/Generi.h"
 
 #include <QTest>
 
@@ -84,12 +85,12 @@ void tst_ComportamentoFoglio::Aprire()
         c.Dialogo([&](DialogoInScena &d) {
             d.Digita("X", "60");
             d.Digita("Y", "70");
-            d.Preme(genere == Genere::Campo ? "PConfemaCampo" : "Confema");
+            d.Preme(BottoneConferma(genere));
         });
         c.Passo("e conferma", [&] { p.Clicca(p.Mezzo(genere, 1), Qt::RightButton); });
         c.Dialogo([&](DialogoInScena &d) {
             c.Si();
-            d.Preme(genere == Genere::Campo ? "PEliminaCampo" : "Elimina");
+            d.Preme(BottoneElimina(genere));
         });
         c.Passo("ed elimina", [&] { p.CliccaDueVolte(p.Mezzo(genere, 1)); });
         c.Passo("dove stava non c'è più nulla", [&] { p.Clicca({64, 74}); });

@@ -14,6 +14,21 @@
 #include <QTest>
 #include <QtTest/qtestspontaneevent.h>
 
+namespace {
+
+/// A field that has gone to x mm in the open model, but not in its file.
+class CampoSpostato : public EditorAperto
+{
+public:
+    explicit CampoSpostato(double x)
+        : EditorAperto(1)
+    {
+        Modifica(Stato(), [x](Modello &modello) { modello.Campi[1].X = x; });
+    }
+};
+
+} // namespace
+
 class tst_Form2Chiusura : public QObject
 {
     Q_OBJECT
@@ -45,13 +60,9 @@ void tst_Form2Chiusura::SalvaChiedeSempre()
 
 void tst_Form2Chiusura::NoLasciaVariato()
 {
-    ArchivioDiProva prova;
-    prova.AggiungeCampo(QStringLiteral("Data"), 10, 10);
-    prova.Scrive();
+    CampoSpostato prova(99);
+    Form2 &editor = prova.Editor();
     const QByteArray prima = prova.ByteDelFile();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
-    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 99; });
     Robot robot;
     robot.No();
     Preme(editor, "Salva");
@@ -62,12 +73,8 @@ void tst_Form2Chiusura::NoLasciaVariato()
 
 void tst_Form2Chiusura::SiScriveEAzzeraVariato()
 {
-    ArchivioDiProva prova;
-    prova.AggiungeCampo(QStringLiteral("Data"), 10, 10);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
-    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 99; });
+    CampoSpostato prova(99);
+    Form2 &editor = prova.Editor();
     Robot robot;
     robot.Si();
     Preme(editor, "Salva");
@@ -108,13 +115,9 @@ void tst_Form2Chiusura::ChiusuraSenzaVariazioniNonChiede()
 
 void tst_Form2Chiusura::ChiusuraConVariazioniChiedeESalva()
 {
-    ArchivioDiProva prova;
-    prova.AggiungeCampo(QStringLiteral("Data"), 10, 10);
-    prova.Scrive();
-    Form2 editor(prova.Stato());
-    QVERIFY(editor.Form_Load());
+    CampoSpostato prova(55);
+    Form2 &editor = prova.Editor();
     editor.show();
-    Modifica(prova.Stato(), [&](Modello &modello) { modello.Campi[1].X = 55; });
     QVERIFY(editor.Variato());
     Robot robot;
     robot.Si();

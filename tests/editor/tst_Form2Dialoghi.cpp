@@ -1,11 +1,12 @@
+#include "EditoreDiProva.h"
 #include "dialogs/FrmCampo.h"
 #include "dialogs/FrmCornice.h"
 #include "editor/Form2.h"
 #include "preview/Frm1.h"
 #include "print/Stampanti.h"
-#include "support/ArchivioDiProva.h"
 #include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
+#include "support/ModelloDiProva.h"
 #include "support/Robot.h"
 
 #include <QCheckBox>
@@ -18,37 +19,25 @@
 namespace {
 
 /// The editor over a field, a frame and an image, two of the kind where that matters.
-class EditorDiProva
+class EditorDiProva : public EditorSulModello
 {
 public:
     EditorDiProva()
+        : EditorSulModello([](ArchivioDiProva &modello) {
+            modello.AggiungeCampo(QStringLiteral("Data"), 20, 30);
+            modello.AggiungeCampo(QStringLiteral("Totale"), 60, 30);
+            modello.AggiungeCornice(QStringLiteral("Riquadro"), 30, 40, 20, 10);
+            modello.AggiungeCornice(QStringLiteral("Scritta"), 30, 60, 20, 10);
+            modello.AggiungeImmagine(QStringLiteral("logo.bmp"), 40, 50, 20, 10);
+            DiventaImporto(modello.DaAprire().Campi[2]);
+        })
     {
-        prova.AggiungeCampo(QStringLiteral("Data"), 20, 30);
-        prova.AggiungeCampo(QStringLiteral("Totale"), 60, 30);
-        prova.AggiungeCornice(QStringLiteral("Riquadro"), 30, 40, 20, 10);
-        prova.AggiungeCornice(QStringLiteral("Scritta"), 30, 60, 20, 10);
-        prova.AggiungeImmagine(QStringLiteral("logo.bmp"), 40, 50, 20, 10);
-        Campo &totale = prova.DaAprire().Campi[2];
-        totale.Testo = QStringLiteral("1.234,50");
-        totale.Maschera = QStringLiteral("###.###,###");
-        totale.MascheraDefault = totale.Maschera;
-        totale.Dimensione = 9;
-        totale.Grassetto = Vero;
-        prova.Scrive();
-        editor = std::make_unique<Form2>(prova.Stato());
-        caricato = editor->Form_Load();
     }
-    ~EditorDiProva() { prova.Stato().documento.Salvato(); }
 
-    const Modello &Aperto() const { return prova.Aperto(); }
     QGraphicsObject *Controllo(const char *nome)
     {
         return ElementoAnteprima(*editor->Anteprima(), QString::fromLatin1(nome));
     }
-
-    ArchivioDiProva prova;
-    std::unique_ptr<Form2> editor;
-    bool caricato = false;
 };
 
 QString Testo(QDialog *dialogo, const char *nome)

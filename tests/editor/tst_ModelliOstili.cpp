@@ -1,5 +1,6 @@
 #include "OstiliDiProva.h"
 #include "support/FileDiProva.h"
+#include "support/Generi.h"
 #include "support/ImmaginiDiProva.h"
 
 #include <QFile>
@@ -147,7 +148,7 @@ void tst_ModelliOstili::DiecimilaCaratteriPerTesto()
         // The question names the element.
         robot.Agisce([&](QDialog *dialogo) {
             robot.Agisce(ChiudeSeSulloSchermo);
-            Preme(*dialogo, genere == Genere::Campo ? "PEliminaCampo" : "Elimina");
+            Preme(*dialogo, BottoneElimina(genere));
             dialogo->reject();
         });
         IN_UN_SECONDO(prova.ApreProprieta(genere, 1));

@@ -228,10 +228,7 @@ void tst_Recupero::CartellaImpossibile()
 
 void tst_Recupero::ViaDopoIlSalvataggio()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(1);
     Form2 editor(prova.Stato());
     Robot robot;
     robot.No().Si();

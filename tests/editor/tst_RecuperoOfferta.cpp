@@ -59,10 +59,7 @@ void tst_RecuperoOfferta::CadutaERipresa()
 
 void tst_RecuperoOfferta::CadutaDueVolte()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     {
         StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
@@ -110,10 +107,7 @@ void tst_RecuperoOfferta::Rifiutata()
 
 void tst_RecuperoOfferta::NonAncoraOffertaResta()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(1);
     {
         StatoProgramma stato = prova.AltroStato();
         Form2 editor(stato);
@@ -149,10 +143,7 @@ void tst_RecuperoOfferta::NonAncoraOffertaResta()
 
 void tst_RecuperoOfferta::RipresaSenzaPostoPerLaNuova()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(1);
     const QStringList copie = Copie(prova);
     {
         StatoProgramma stato = prova.AltroStato();
@@ -171,10 +162,7 @@ void tst_RecuperoOfferta::RipresaSenzaPostoPerLaNuova()
 
 void tst_RecuperoOfferta::Annullata()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     const QStringList copie = Copie(prova);
     Form2 editor(prova.Stato());
     Robot robot;
@@ -185,10 +173,7 @@ void tst_RecuperoOfferta::Annullata()
 
 void tst_RecuperoOfferta::FileCambiatoDaAllora()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     prova.DaAprire().Tipo = QStringLiteral("cambiato");
     prova.Scrive();
     Form2 editor(prova.Stato());
@@ -203,10 +188,7 @@ void tst_RecuperoOfferta::FileCambiatoDaAllora()
 
 void tst_RecuperoOfferta::FileSparito()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     QVERIFY(QFile::remove(prova.Percorso()));
     Form2 editor(prova.Stato());
     Robot robot;
@@ -224,10 +206,7 @@ void tst_RecuperoOfferta::FileSparito()
 
 void tst_RecuperoOfferta::UnAltroModelloNonLaRiceve()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     prova.Stato().NomeFile = QStringLiteral("Altra.Mod");
     prova.Scrive();
     Form2 editor(prova.Stato());
@@ -242,10 +221,7 @@ void tst_RecuperoOfferta::UnAltroModelloNonLaRiceve()
 
 void tst_RecuperoOfferta::UgualeAlFileNonSiOffre()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     // The save had come to its end, the removal of the copy had not.
     prova.DaAprire().Campi[1].X = 50;
     prova.Scrive();
@@ -260,10 +236,7 @@ void tst_RecuperoOfferta::UgualeAlFileNonSiOffre()
 
 void tst_RecuperoOfferta::NonLeggibileSiDice()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(2);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(2);
     const QString file = CopieDi(prova).Cerca().constFirst().file;
     const QString modelli = prova.Stato().CartellaModelli;
     QVERIFY(QFile::setPermissions(modelli + QStringLiteral("/../.."), Permessi::PerTutti));
@@ -283,10 +256,7 @@ void tst_RecuperoOfferta::NonLeggibileSiDice()
 
 void tst_RecuperoOfferta::FileCambiatoDaAltriDuranteLaDomanda()
 {
-    ArchivioDiProva prova;
-    prova.Riempie(1);
-    prova.Scrive();
-    ModificaEMuore(prova, 50);
+    LavoroLasciato prova(1);
     Modello altrui = prova.DaAprire();
     altrui.Tipo = QStringLiteral("di un altro");
     Form2 editor(prova.Stato());

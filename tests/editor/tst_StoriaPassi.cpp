@@ -1,4 +1,5 @@
 #include "StoriaDiProva.h"
+#include "support/Generi.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -117,7 +118,7 @@ void tst_StoriaPassi::UnaVisitaConfermata()
     robot.Agisce([genere](QDialog *d) {
         Controlli::Digita(*d, "X", QStringLiteral("77"));
         Controlli::Digita(*d, "Descrizione", QStringLiteral("altra"));
-        Preme(*d, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
+        Preme(*d, BottoneConferma(genere));
     });
     storia.ApreProprieta(genere, 1);
     QVERIFY(robot.Soddisfatto());

@@ -1,5 +1,6 @@
 #include "OstiliDiProva.h"
 #include "support/FileDiProva.h"
+#include "support/Generi.h"
 #include "support/ImmaginiDiProva.h"
 
 #include <cmath>
@@ -197,7 +198,7 @@ void tst_TestiOstili::TestiNelleCaselle()
                     campo->setText(testo);
                 }
             }
-            Preme(*dialogo, genere == Genere::Campo ? "PConfemaCampo" : "Confema");
+            Preme(*dialogo, BottoneConferma(genere));
             if (dialogo->isVisible()) {
                 dialogo->reject();
             }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QString>
 #include <QTest>
@@ -58,6 +60,17 @@ inline bool MostraLInizio(QLineEdit &casella)
     casella.grab(); // painting scrolls the text to the cursor
     return casella.fontMetrics().horizontalAdvance(casella.text()) > casella.width() &&
            casella.cursorPositionAt({2, casella.height() / 2}) == 0;
+}
+
+/// Opens a long list; fails the test unless it shows some 20 of its rows at most.
+inline void VerificaVentiRighe(QComboBox &elenco)
+{
+    elenco.showPopup();
+    QTRY_VERIFY(elenco.view()->isVisible());
+    const double righe =
+        double(elenco.view()->viewport()->height()) / elenco.view()->sizeHintForRow(0);
+    QVERIFY2(righe > 10 && righe <= 20.5, qPrintable(QString::number(righe)));
+    elenco.hidePopup();
 }
 
 /// Turns the wheel over a control; true when the control takes it for itself.

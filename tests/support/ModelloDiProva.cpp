@@ -80,3 +80,12 @@ Modello ModelloDiProva(int perGenere)
     modello.NumImmagini = static_cast<qint16>(perGenere);
     return modello;
 }
+
+void DiventaImporto(Campo &campo)
+{
+    campo.Testo = QStringLiteral("1.234,50");
+    campo.Maschera = QStringLiteral("###.###,###");
+    campo.MascheraDefault = campo.Maschera;
+    campo.Dimensione = 9;
+    campo.Grassetto = Vero;
+}

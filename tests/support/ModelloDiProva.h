@@ -7,3 +7,6 @@
 /// text fits the code page and every number 15 digits, so it equals itself after a save and a load
 /// under a decimal point.
 Modello ModelloDiProva(int perGenere);
+
+/// Makes the field an amount: text, masks, a size of its own, bold.
+void DiventaImporto(Campo &campo);
