@@ -348,7 +348,11 @@ void Frm1::PortaInVista(Chiave chiave)
 
 void Frm1::keyPressEvent(QKeyEvent *evento)
 {
-    if (evento->key() != Qt::Key_Escape || !mani_->Rinuncia()) {
+    bool rinunciato = false;
+    if (evento->key() == Qt::Key_Escape) {
+        Guardia(this, [&] { rinunciato = mani_->Rinuncia(); });
+    }
+    if (!rinunciato) {
         QWidget::keyPressEvent(evento);
     }
 }

@@ -54,33 +54,25 @@ public:
 
     int Campo(const QString &nome, double x, double y, const QString &testo = QStringLiteral("abc"))
     {
-        return Aggiunge([&](Passo &passo) {
-            return Completa(passo, passo.AggiungeCampo(x, y), modello.Campi, [&](::Campo &campo) {
-                campo.Nome = nome;
-                campo.Testo = testo;
-            });
+        return Aggiunge(Genere::Campo, {x, y}, modello.Campi, [&](::Campo &campo) {
+            campo.Nome = nome;
+            campo.Testo = testo;
         });
     }
 
     int Cornice(double x, double y, double larghezza, double altezza, double bordo = 1)
     {
-        return Aggiunge([&](Passo &passo) {
-            return Completa(passo, passo.AggiungeCornice(x, y, QTime(0, 5, 7)), modello.Cornici,
-                            [&](::Cornice &cornice) {
-                                Misura(cornice, larghezza, altezza);
-                                cornice.Bordo = bordo;
-                            });
+        return Aggiunge(Genere::Cornice, {x, y}, modello.Cornici, [&](::Cornice &cornice) {
+            Misura(cornice, larghezza, altezza);
+            cornice.Bordo = bordo;
         });
     }
 
     int Immagine(double x, double y, double larghezza, double altezza, const QString &file = {})
     {
-        return Aggiunge([&](Passo &passo) {
-            return Completa(passo, passo.AggiungeImmagine(x, y), modello.Immagini,
-                            [&](::Immagine &immagine) {
-                                Misura(immagine, larghezza, altezza);
-                                immagine.Nome = file;
-                            });
+        return Aggiunge(Genere::Immagine, {x, y}, modello.Immagini, [&](::Immagine &immagine) {
+            Misura(immagine, larghezza, altezza);
+            immagine.Nome = file;
         });
     }
 
@@ -217,27 +209,21 @@ public:
     std::unique_ptr<Frm1> frm;
 
 private:
-    template <typename Azione>
-    int Aggiunge(Azione &&azione)
+    template <typename Elementi, typename Azione>
+    int Aggiunge(Genere genere, QPointF posto, const Elementi &elementi, Azione &&completa)
     {
         muto_ = true;
         int i = 0;
         {
             Passo passo(stato.documento, {});
-            i = azione(passo);
+            i = passo.Aggiunge(genere, posto, QTime(0, 5, 7)).indice;
+            auto elemento = elementi[i];
+            completa(elemento);
+            passo.Scrive(i, elemento);
         }
         stato.documento.DimenticaStoria();
         stato.documento.Salvato();
         muto_ = false;
-        return i;
-    }
-
-    template <typename Elementi, typename Azione>
-    static int Completa(Passo &passo, int i, const Elementi &elementi, Azione &&azione)
-    {
-        auto elemento = elementi[i];
-        azione(elemento);
-        passo.Scrive(i, elemento);
         return i;
     }
 
