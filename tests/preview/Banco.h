@@ -94,7 +94,7 @@ public:
     template <typename Azione>
     void Cambia(Azione &&azione)
     {
-        Aggiunge([&](Passo &) {
+        Prepara([&](Passo &) {
             Modifica(stato, azione);
             return 0;
         });
@@ -103,7 +103,7 @@ public:
     /// Puts an element where a drag leaves it: not rounded before it is placed the next time.
     void Lascia(Chiave chiave, QPointF posto)
     {
-        Aggiunge([&](Passo &passo) {
+        Prepara([&](Passo &passo) {
             passo.Trascina(chiave, posto);
             return 0;
         });
@@ -209,22 +209,32 @@ public:
     std::unique_ptr<Frm1> frm;
 
 private:
-    template <typename Elementi, typename Azione>
-    int Aggiunge(Genere genere, QPointF posto, const Elementi &elementi, Azione &&completa)
+    /// A change that a test begins with: nobody is told, and there is nothing to undo.
+    template <typename Azione>
+    int Prepara(Azione &&azione)
     {
         muto_ = true;
         int i = 0;
         {
             Passo passo(stato.documento, {});
-            i = passo.Aggiunge(genere, posto, QTime(0, 5, 7)).indice;
-            auto elemento = elementi[i];
-            completa(elemento);
-            passo.Scrive(i, elemento);
+            i = azione(passo);
         }
         stato.documento.DimenticaStoria();
         stato.documento.Salvato();
         muto_ = false;
         return i;
+    }
+
+    template <typename Elementi, typename Azione>
+    int Aggiunge(Genere genere, QPointF posto, const Elementi &elementi, Azione &&completa)
+    {
+        return Prepara([&](Passo &passo) {
+            const int i = passo.Aggiunge(genere, posto, QTime(0, 5, 7)).indice;
+            auto elemento = elementi[i];
+            completa(elemento);
+            passo.Scrive(i, elemento);
+            return i;
+        });
     }
 
     template <typename Riquadro>
