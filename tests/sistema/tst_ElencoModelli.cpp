@@ -35,5 +35,5 @@ void tst_ElencoModelli::Nomi()
     QTEST(ElencoModelli::Nomi(file), "nomi");
 }
 
-QTEST_MAIN(tst_ElencoModelli)
+QTEST_GUILESS_MAIN(tst_ElencoModelli)
 #include "tst_ElencoModelli.moc"

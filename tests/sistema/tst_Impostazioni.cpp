@@ -107,5 +107,5 @@ void tst_Impostazioni::NonScriveNulla()
     QVERIFY(QDir(cartella_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
 }
 
-QTEST_MAIN(tst_Impostazioni)
+QTEST_GUILESS_MAIN(tst_Impostazioni)
 #include "tst_Impostazioni.moc"

@@ -452,5 +452,5 @@ void tst_Percorsi::Elimina_cartellaSenzaDiritti()
     QVERIFY(QFile::exists(In(QStringLiteral("c/a.Mod"))));
 }
 
-QTEST_MAIN(tst_Percorsi)
+QTEST_GUILESS_MAIN(tst_Percorsi)
 #include "tst_Percorsi.moc"

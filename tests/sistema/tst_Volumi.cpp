@@ -57,5 +57,5 @@ void tst_Volumi::Volumi_diQuestaMacchina()
     QVERIFY(QFileInfo(volumi.first()).isRoot());
 }
 
-QTEST_MAIN(tst_Volumi)
+QTEST_GUILESS_MAIN(tst_Volumi)
 #include "tst_Volumi.moc"
