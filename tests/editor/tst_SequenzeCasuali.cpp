@@ -37,28 +37,43 @@ QString Esegue(unsigned seme)
                                   .arg(sequenza.Diario().join(u'\n'), guasto);
 }
 
+int DaAmbiente(const char *nome, int altrimenti)
+{
+    bool numero = false;
+    const int valore = qEnvironmentVariableIntValue(nome, &numero);
+    return numero ? valore : altrimenti;
+}
+
+qint64 Durata() // ms; 0: that of the sequences asked for
+{
+    return 1000LL * DaAmbiente("PLAKERA_SEQUENZE_SECONDI", 0);
+}
+
 } // namespace
 
 /// Random work on random models through the real windows, which is then taken back to the beginning
-/// and done again. The seeds begin with 1, or with
-/// PLAKERA_SEME; PLAKERA_SEQUENZE says how many sequences, PLAKERA_SEQUENZE_SECONDI for how long.
+/// and done again. The seeds begin with 1, or with PLAKERA_SEME; PLAKERA_SEQUENZE says how many
+/// sequences, PLAKERA_SEQUENZE_SECONDI for how long.
 class tst_SequenzeCasuali : public QObject
 {
     Q_OBJECT
+public:
+    /// Qt stops a test function after five minutes unless told otherwise.
+    static void initMain()
+    {
+        constexpr qint64 Oltre = 300'000; // ms
+        qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(Durata() + Oltre));
+    }
+
 private slots:
     void LavoroQualsiasi();
 };
 
 void tst_SequenzeCasuali::LavoroQualsiasi()
 {
-    const auto daAmbiente = [](const char *nome, int altrimenti) {
-        bool numero = false;
-        const int valore = qEnvironmentVariableIntValue(nome, &numero);
-        return numero ? valore : altrimenti;
-    };
-    const int quante = daAmbiente("PLAKERA_SEQUENZE", SequenzeSolite);
-    const qint64 millisecondi = 1000LL * daAmbiente("PLAKERA_SEQUENZE_SECONDI", 0);
-    const int primo = daAmbiente("PLAKERA_SEME", 1);
+    const int quante = DaAmbiente("PLAKERA_SEQUENZE", SequenzeSolite);
+    const qint64 millisecondi = Durata();
+    const int primo = DaAmbiente("PLAKERA_SEME", 1);
     QElapsedTimer orologio;
     orologio.start();
     int fatte = 0;
