@@ -137,3 +137,10 @@ void ModelloSuFile::Elimina()
     // Asking about unsaved work would bring the deleted file back.
     documento_.Salvato();
 }
+
+void ModelloSuFile::Chiude()
+{
+    // A box that loses the focus of a closing window would bring the copy back.
+    documento_.disconnect(this);
+    copia_.Chiude();
+}

@@ -50,8 +50,8 @@ public:
     /// Removes the file for good; nothing is left to save then. Throws ErroreSistema.
     void Elimina();
 
-    /// What has not been saved is given up.
-    void Chiude() { copia_.Chiude(); }
+    /// What has not been saved is given up; no later edit of the document concerns it.
+    void Chiude();
 
 private:
     enum class Recupero { Nessuno, Ripreso, Annullato };

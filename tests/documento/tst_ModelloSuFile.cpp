@@ -171,6 +171,8 @@ void tst_ModelloSuFile::ChiudendoLaCopiaSeNeVa()
     apertura.ScriveTipo(QStringLiteral("uno"));
     apertura.File.Chiude();
     QCOMPARE(banco.Copie(), 0);
+    apertura.ScriveTipo(QStringLiteral("due"));
+    QCOMPARE(banco.Copie(), 0);
 }
 
 void tst_ModelloSuFile::IlLavoroRimastoSiRiprende()
