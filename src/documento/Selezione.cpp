@@ -2,6 +2,8 @@
 
 #include "documento/Documento.h"
 
+#include <utility>
+
 Selezione::Selezione(const Documento &documento)
     : documento_(documento)
 {
@@ -23,8 +25,44 @@ void Selezione::Lascia(Genere genere)
     }
 }
 
-void Selezione::Segue()
+void Selezione::ImpostaScelti(const QList<Chiave> &chiavi)
 {
+    QList<Chiave> scelti;
+    for (const Chiave &chiave : chiavi) {
+        documento_.Aperto().Di(chiave); // checks the number
+        if (!scelti.contains(chiave)) {
+            scelti.append(chiave);
+        }
+    }
+    if (scelti != scelti_) {
+        scelti_ = std::move(scelti);
+        emit SceltiCambiati();
+    }
+}
+
+void Selezione::AggiungeScelti(const QList<Chiave> &chiavi)
+{
+    ImpostaScelti(scelti_ + chiavi);
+}
+
+void Selezione::AlternaScelto(Chiave chiave)
+{
+    QList<Chiave> scelti = scelti_;
+    if (!scelti.removeOne(chiave)) {
+        scelti.append(chiave);
+    }
+    ImpostaScelti(scelti);
+}
+
+void Selezione::Segue(const Cambiamento &cambiamento)
+{
+    if (cambiamento.origine == Cambiamento::Origine::Gesto) {
+        return; // it moves what is there
+    }
+    const bool altroModello = cambiamento.origine == Cambiamento::Origine::Apertura;
+    QList<Chiave> rimasti = scelti_;
+    rimasti.removeIf([&](Chiave chiave) { return altroModello || !documento_.InVista(chiave); });
+    ImpostaScelti(rimasti);
     for (const Genere genere : Generi) {
         if (const int i = Attivo(genere); i != 0 && !documento_.InVista({genere, i})) {
             Lascia(genere);

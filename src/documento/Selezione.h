@@ -2,14 +2,18 @@
 
 #include "model/Modello.h"
 
+#include <QList>
 #include <QObject>
 
 #include <array>
 
+class Cambiamento;
 class Documento;
 
-/// Per kind the active element of the open model: the one on which the sheet's handle stands. It is
-/// no part of the history; what leaves the sheet is not active any more.
+/// What is selected in the open model. Per kind the active element: the one on which the sheet's
+/// handle stands. Beside them the chosen set, of any kinds, on which the commands for several
+/// elements work: pointing never alters it. Neither is part of the history; what leaves the sheet
+/// is neither active nor chosen any more.
 class Selezione : public QObject
 {
     Q_OBJECT
@@ -25,12 +29,26 @@ public:
     /// No element of the kind is active.
     void Lascia(Genere genere);
 
+    /// The chosen elements, each once, in the order in which they were chosen.
+    const QList<Chiave> &Scelti() const { return scelti_; }
+    bool EScelto(Chiave chiave) const { return scelti_.contains(chiave); }
+    /// The elements as the chosen set, the last one chosen last; a repeated one counts where it
+    /// stands first. Throws ErroreSistema 9, and changes nothing, for a number outside the table.
+    void ImpostaScelti(const QList<Chiave> &chiavi);
+    /// Puts the elements that are not there yet at the end of the set. Throws as ImpostaScelti.
+    void AggiungeScelti(const QList<Chiave> &chiavi);
+    /// Takes the element out of the set, or puts it at its end. Throws as ImpostaScelti.
+    void AlternaScelto(Chiave chiave);
+    void SvuotaScelti() { ImpostaScelti({}); }
+
 signals:
     void Cambiata(Genere genere);
+    void SceltiCambiati();
 
 private:
-    void Segue();
+    void Segue(const Cambiamento &cambiamento);
 
     const Documento &documento_;
     std::array<int, Generi.size()> attivi_{};
+    QList<Chiave> scelti_;
 };

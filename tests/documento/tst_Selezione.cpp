@@ -35,7 +35,7 @@ struct Banco
 
 } // namespace
 
-/// Which element of each kind is active.
+/// Which element of each kind is active, and which are chosen.
 class tst_Selezione : public QObject
 {
     Q_OBJECT
@@ -46,6 +46,11 @@ private slots:
     void UnElementoEliminatoNonEPiuAttivo();
     void UnAggiuntaAnnullataNonEPiuAttiva();
     void NonFaParteDellaStoria();
+    void GliSceltiTengonoLOrdine();
+    void GliSceltiDiDueGeneriStannoInsieme();
+    void FuoriDallaTabellaNonSiSceglieInsieme();
+    void CioCheLasciaIlFoglioNonEPiuScelto();
+    void UnAltroModelloNonHaScelti();
 };
 
 void tst_Selezione::OgniGenereHaIlSuo()
@@ -115,6 +120,80 @@ void tst_Selezione::NonFaParteDellaStoria()
     banco.stato.selezione.Sceglie({Genere::Campo, 1});
     QVERIFY(!banco.stato.documento.PuoAnnullare());
     QVERIFY(!banco.stato.documento.Variato());
+}
+
+void tst_Selezione::GliSceltiTengonoLOrdine()
+{
+    Banco banco;
+    Selezione &selezione = banco.stato.selezione;
+    const QSignalSpy cambiati(&selezione, &Selezione::SceltiCambiati);
+    const Chiave primo{Genere::Campo, 1};
+    const Chiave secondo{Genere::Campo, 2};
+    const Chiave terzo{Genere::Campo, 3};
+    selezione.ImpostaScelti({terzo, primo, terzo});
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{terzo, primo}));
+    selezione.AggiungeScelti({secondo, terzo});
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{terzo, primo, secondo}));
+    selezione.AlternaScelto(primo);
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{terzo, secondo}));
+    QVERIFY(!selezione.EScelto(primo));
+    selezione.AlternaScelto(primo);
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{terzo, secondo, primo}));
+    QCOMPARE(cambiati.size(), 4);
+    selezione.AggiungeScelti({primo});
+    QCOMPARE(cambiati.size(), 4); // nothing has changed
+    selezione.SvuotaScelti();
+    QVERIFY(selezione.Scelti().isEmpty());
+}
+
+void tst_Selezione::GliSceltiDiDueGeneriStannoInsieme()
+{
+    Banco banco;
+    Selezione &selezione = banco.stato.selezione;
+    selezione.Sceglie({Genere::Campo, 3});
+    selezione.ImpostaScelti({{Genere::Campo, 1}, {Genere::Cornice, 1}, {Genere::Immagine, 1}});
+    QVERIFY(selezione.EScelto({Genere::Cornice, 1}));
+    QVERIFY(!selezione.EScelto({Genere::Cornice, 2}));
+    QCOMPARE(banco.Attivi(), (QList<int>{3, 0, 0})); // the handles stay where they are
+}
+
+void tst_Selezione::FuoriDallaTabellaNonSiSceglieInsieme()
+{
+    Banco banco;
+    Selezione &selezione = banco.stato.selezione;
+    const QList<Chiave> scelti{{Genere::Campo, 1}};
+    selezione.ImpostaScelti(scelti);
+    try {
+        selezione.AggiungeScelti({{Genere::Campo, 2}, {Genere::Campo, 101}});
+        QFAIL("the table has no slot 101");
+    } catch (const ErroreSistema &errore) {
+        QCOMPARE(errore.numero, ErroreSistema::Indice);
+    }
+    QCOMPARE(selezione.Scelti(), scelti);
+}
+
+void tst_Selezione::CioCheLasciaIlFoglioNonEPiuScelto()
+{
+    Banco banco;
+    Selezione &selezione = banco.stato.selezione;
+    selezione.ImpostaScelti({{Genere::Cornice, 1}, {Genere::Campo, 2}});
+    Passo(banco.stato.documento, QStringLiteral("elimina")).Elimina({Genere::Cornice, 1});
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{{Genere::Campo, 2}}));
+    banco.stato.documento.Annulla();
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{{Genere::Campo, 2}}));
+    const Chiave nuovo = Passo(banco.stato.documento, QStringLiteral("aggiunge"))
+                             .Aggiunge(Genere::Campo, {5, 5}, {});
+    selezione.AggiungeScelti({nuovo});
+    banco.stato.documento.Annulla();
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{{Genere::Campo, 2}}));
+}
+
+void tst_Selezione::UnAltroModelloNonHaScelti()
+{
+    Banco banco;
+    banco.stato.selezione.ImpostaScelti({{Genere::Campo, 2}});
+    banco.stato.documento.Prende(banco.stato.Aperto(), false);
+    QVERIFY(banco.stato.selezione.Scelti().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_Selezione)
