@@ -4,27 +4,10 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include <functional>
-
 namespace {
 
 constexpr QColor Azzurro(0x1f, 0x6f, 0xb5);
 constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
-
-/// What disegna draws in a square of side 1, as large as asked and as fine as the screen. Drawn
-/// rather than set in a font, so that it looks the same on every machine.
-QPixmap Disegnata(int lato, const std::function<void(QPainter &)> &disegna)
-{
-    const double scala = qGuiApp->devicePixelRatio();
-    QPixmap icona(QSize(lato, lato) * scala);
-    icona.setDevicePixelRatio(scala);
-    icona.fill(Qt::transparent);
-    QPainter pittore(&icona);
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.scale(lato, lato);
-    disegna(pittore);
-    return icona;
-}
 
 QPen Tratto(const QColor &colore)
 {
@@ -54,9 +37,23 @@ QPainterPath FrecciaIndietro()
 
 } // namespace
 
+QPixmap DisegnaIcona(int lato, const std::function<void(QPainter &)> &disegna)
+{
+    // Drawn rather than set in a font, so that it looks the same on every machine.
+    const double scala = qGuiApp->devicePixelRatio();
+    QPixmap icona(QSize(lato, lato) * scala);
+    icona.setDevicePixelRatio(scala);
+    icona.fill(Qt::transparent);
+    QPainter pittore(&icona);
+    pittore.setRenderHint(QPainter::Antialiasing);
+    pittore.scale(lato, lato);
+    disegna(pittore);
+    return icona;
+}
+
 QPixmap IconaGuida(int lato)
 {
-    return Disegnata(lato, [](QPainter &pittore) {
+    return DisegnaIcona(lato, [](QPainter &pittore) {
         pittore.setPen(Qt::NoPen);
         pittore.setBrush(Azzurro);
         pittore.drawEllipse(QRectF(0.04, 0.04, 0.92, 0.92));
@@ -68,13 +65,13 @@ QPixmap IconaGuida(int lato)
 
 QPixmap IconaAnnulla(int lato)
 {
-    return Disegnata(
+    return DisegnaIcona(
         lato, [](QPainter &pittore) { pittore.strokePath(FrecciaIndietro(), Tratto(BluScuro)); });
 }
 
 QPixmap IconaRipristina(int lato)
 {
-    return Disegnata(lato, [](QPainter &pittore) {
+    return DisegnaIcona(lato, [](QPainter &pittore) {
         pittore.translate(1, 0);
         pittore.scale(-1, 1);
         pittore.strokePath(FrecciaIndietro(), Tratto(BluScuro));

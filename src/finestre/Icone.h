@@ -2,6 +2,14 @@
 
 #include <QPixmap>
 
+#include <functional>
+
+class QPainter;
+
+/// What disegna draws in a square of side 1, lato device-independent pixels wide and high and as
+/// fine as the screen.
+QPixmap DisegnaIcona(int lato, const std::function<void(QPainter &)> &disegna);
+
 /// The help icon, a question mark in a disc, lato device-independent pixels wide and high.
 QPixmap IconaGuida(int lato);
 

@@ -2,6 +2,7 @@
 
 #include "base/ErroreSistema.h"
 #include "documento/StatoProgramma.h"
+#include "finestre/EtichettaAbbreviata.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "model/Numeri.h"
@@ -393,6 +394,18 @@ void Frm1::Righello()
     const GeometriaAnteprima &geometria = parti_->geometria;
     parti_->RighelloX->Mostra(CalcolaRighello(geometria.LarghezzaFoglio(), stato_.zoom));
     parti_->RighelloY->Mostra(CalcolaRighello(geometria.AltezzaFoglio(), stato_.zoom));
+}
+
+void Frm1::AggiungeComando(QAction *comando, GruppoComandi gruppo)
+{
+    addAction(comando);
+    parti_->Pulsanti->Aggiunge(comando, gruppo);
+    parti_->Dispone(size());
+}
+
+void Frm1::Avverte(const QString &testo)
+{
+    parti_->Text1->setText(testo);
 }
 
 int Frm1::ScorrimentoX() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Modello.h"
+#include "preview/PulsantiStriscia.h"
 
 #include <QList>
 #include <QPixmap>
@@ -13,6 +14,7 @@
 #include <memory>
 
 struct StatoProgramma;
+class QAction;
 class Cambiamento;
 struct PartiAnteprima;
 class ElementiFoglio;
@@ -105,6 +107,11 @@ public:
     void Campineri();
     /// Redraws both rulers for the current zoom.
     void Righello();
+    /// A command gets its button on the strip, at the end of the group, and its keys in this
+    /// window.
+    void AggiungeComando(QAction *comando, GruppoComandi gruppo);
+    /// The strip says it until an element is in hand again. Nothing that needs an answer.
+    void Avverte(const QString &testo);
     int ScorrimentoX() const; ///< value of ScrollX, mm of screen
     int ScorrimentoY() const; ///< value of ScrollY, mm of screen
     /// Size of the control of element i; a field's follows its text.

@@ -75,6 +75,7 @@ GeometriaAnteprima::Disposizione GeometriaAnteprima::Dispone(double larghezza, d
     d.PY = {QPointF(MisuraPX.width() + 1, H - MisuraPX.height()), MisuraPX};
     d.Label1 = {QPointF(d.PY.right() + 2, d.Text1.top()), MisuraLabel1};
     d.TextZoom = {QPointF(d.Label1.right(), d.Text1.top()), MisuraTextZoom};
+    d.FinePulsanti = d.LL.left() - 1;
     d.AreaFoglio = {SpessoreRighello, SpessoreRighello, d.ScrollY.left() - SpessoreRighello,
                     d.ScrollX.top() - SpessoreRighello};
     d.AreaRighelloX = {SpessoreRighello, 0, d.AreaFoglio.width(), SpessoreRighello};

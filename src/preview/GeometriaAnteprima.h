@@ -34,6 +34,7 @@ public:
         QRectF Label1;
         QRectF TextZoom;
         QRectF LL;
+        double FinePulsanti; ///< right end of the strip's buttons, left of LL
     };
 
     /// zoom: the scale at the moment of opening, which fixes the size of the sheet.

@@ -1,7 +1,9 @@
 #include "preview/PartiAnteprima.h"
 
 #include "documento/StatoProgramma.h"
+#include "finestre/EtichettaAbbreviata.h"
 #include "finestre/Finestre.h"
+#include "preview/PulsantiStriscia.h"
 #include "preview/Righelli.h"
 #include "preview/VistaFoglio.h"
 
@@ -94,7 +96,8 @@ void PartiAnteprima::CreaScorrimento(QWidget *finestra)
 
 void PartiAnteprima::CreaStriscia(QWidget *finestra)
 {
-    Text1 = new QLabel(finestra);
+    Text1 = new EtichettaAbbreviata(finestra);
+    Text1->ImpostaModo(Qt::ElideRight);
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setTextFormat(Qt::PlainText);
     PX = CreaCasella(finestra, QStringLiteral("PX"),
@@ -115,6 +118,8 @@ void PartiAnteprima::CreaStriscia(QWidget *finestra)
         carattere.setPointSizeF(parte == LL ? PuntiAngolo : PuntiStriscia);
         parte->setFont(carattere);
     }
+    Pulsanti = new PulsantiStriscia(finestra);
+    Pulsanti->setObjectName(QStringLiteral("Pulsanti"));
     LL->setFrame(false);
     LL->setAlignment(Qt::AlignCenter);
 }
@@ -137,10 +142,19 @@ void PartiAnteprima::Dispone(QSize interna)
     colloca(Label1, d.Label1);
     colloca(TextZoom, d.TextZoom);
     colloca(LL, d.LL);
-    // The strip's own text starts after the boxes that stand on it.
-    Text1->setContentsMargins(TextZoom->geometry().right() + geometria.Pixel(4), 0, 0, 0);
+    DisponePulsanti(geometria.Pixel(d.FinePulsanti));
     ScrollX->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.width()) - PassoFreccia));
     ScrollY->setPageStep(std::max(1, static_cast<int>(d.AreaFoglio.height()) - PassoFreccia));
+}
+
+void PartiAnteprima::DisponePulsanti(int fine)
+{
+    const int larghezza = Pulsanti->sizeHint().width();
+    Pulsanti->setGeometry(fine - larghezza, Text1->y(), larghezza, Text1->height());
+    // The strip's own text has the room between the boxes and the buttons that stand on it.
+    const int distanza = geometria.Pixel(4);
+    Text1->setContentsMargins(TextZoom->geometry().right() + distanza, 0,
+                              Text1->width() - Pulsanti->x() + distanza, 0);
 }
 
 QSizeF PartiAnteprima::VistaInMillimetri() const

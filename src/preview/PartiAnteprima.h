@@ -5,6 +5,8 @@
 #include <QGraphicsScene>
 
 class VistaFoglio;
+class EtichettaAbbreviata;
+class PulsantiStriscia;
 class QLabel;
 class QLineEdit;
 class QScrollBar;
@@ -37,7 +39,8 @@ struct PartiAnteprima
     RighelloFoglio *RighelloY;
     QScrollBar *ScrollX;
     QScrollBar *ScrollY;
-    QLabel *Text1; ///< the strip at the bottom; shows the place of the element in hand
+    EtichettaAbbreviata *Text1; ///< the strip at the bottom; shows the place of the element in hand
+    PulsantiStriscia *Pulsanti;
     QLineEdit *PX;
     QLineEdit *PY;
     QLabel *Label1;
@@ -47,6 +50,7 @@ struct PartiAnteprima
     int P1Top0;    ///< the same from the top
 
 private:
+    void DisponePulsanti(int fine);
     void CreaFoglio(QWidget *finestra, const StatoProgramma &stato);
     void CreaScorrimento(QWidget *finestra);
     void CreaStriscia(QWidget *finestra);

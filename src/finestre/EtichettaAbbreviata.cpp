@@ -1,26 +1,32 @@
-#include "finestre/EtichettaPercorso.h"
+#include "finestre/EtichettaAbbreviata.h"
 
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QToolTip>
 
-QSize EtichettaPercorso::sizeHint() const
+void EtichettaAbbreviata::ImpostaModo(Qt::TextElideMode modo)
+{
+    modo_ = modo;
+    update();
+}
+
+QSize EtichettaAbbreviata::sizeHint() const
 {
     return minimumSizeHint();
 }
 
-QSize EtichettaPercorso::minimumSizeHint() const
+QSize EtichettaAbbreviata::minimumSizeHint() const
 {
     return {0, QLabel::minimumSizeHint().height()};
 }
 
-QString EtichettaPercorso::Visibile() const
+QString EtichettaAbbreviata::Visibile() const
 {
-    return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+    return fontMetrics().elidedText(text(), modo_, contentsRect().width());
 }
 
-bool EtichettaPercorso::event(QEvent *evento)
+bool EtichettaAbbreviata::event(QEvent *evento)
 {
     if (evento->type() == QEvent::ToolTip && Visibile() != text()) {
         QToolTip::showText(static_cast<QHelpEvent *>(evento)->globalPos(), text(), this);
@@ -29,7 +35,7 @@ bool EtichettaPercorso::event(QEvent *evento)
     return QLabel::event(evento);
 }
 
-void EtichettaPercorso::paintEvent(QPaintEvent * /*evento*/)
+void EtichettaAbbreviata::paintEvent(QPaintEvent * /*evento*/)
 {
     QPainter pittore(this);
     style()->drawItemText(&pittore, contentsRect(), static_cast<int>(alignment()), palette(),
