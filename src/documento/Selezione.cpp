@@ -54,6 +54,15 @@ void Selezione::AlternaScelto(Chiave chiave)
     ImpostaScelti(scelti);
 }
 
+void Selezione::SceglieConClick(Chiave chiave, bool aggiunge)
+{
+    if (aggiunge) {
+        AlternaScelto(chiave);
+    } else {
+        ImpostaScelti({chiave});
+    }
+}
+
 void Selezione::Segue(const Cambiamento &cambiamento)
 {
     if (cambiamento.origine == Cambiamento::Origine::Gesto) {

@@ -39,6 +39,8 @@ public:
     void AggiungeScelti(const QList<Chiave> &chiavi);
     /// Takes the element out of the set, or puts it at its end. Throws as ImpostaScelti.
     void AlternaScelto(Chiave chiave);
+    /// As a click on the element does: it is chosen alone, or with aggiunge in or out of the set.
+    void SceglieConClick(Chiave chiave, bool aggiunge);
     void SvuotaScelti() { ImpostaScelti({}); }
 
 signals:
