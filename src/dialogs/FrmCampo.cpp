@@ -175,5 +175,5 @@ void FrmCampo::Command2_Click()
 
 void FrmCampo::PEliminaCampo_Click()
 {
-    ChiedeEliminazione(QStringLiteral("Elimino il campo "));
+    ChiedeEliminazione();
 }

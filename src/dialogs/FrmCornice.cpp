@@ -226,5 +226,5 @@ void FrmCornice::Command2_Click()
 
 void FrmCornice::Elimina_Click()
 {
-    ChiedeEliminazione(QStringLiteral("Elimino Cornice "));
+    ChiedeEliminazione();
 }

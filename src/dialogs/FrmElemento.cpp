@@ -7,6 +7,8 @@
 
 #include <QPalette>
 
+#include <array>
+
 namespace {
 
 QString NonNumero(const QWidget *controllo, const QString &testo)
@@ -159,10 +161,19 @@ void FrmElemento::Conclude(int n)
     accept();
 }
 
-void FrmElemento::ChiedeEliminazione(const QString &domanda)
+QString FrmElemento::DomandaElimina(Genere genere)
+{
+    static constexpr std::array<QLatin1String, Generi.size()> Domande{
+        QLatin1String("Elimino il campo "), QLatin1String("Elimino Cornice "),
+        QLatin1String("Elimino Immagine ")};
+    return Domande.at(::Posto(genere));
+}
+
+void FrmElemento::ChiedeEliminazione()
 {
     const int n = Indice();
-    if (Messaggi::Domanda(this, domanda + Aperto().Nome(genere_, n), Messaggi::Risposta::No)) {
+    if (Messaggi::Domanda(this, DomandaElimina(genere_) + Aperto().Nome(genere_, n),
+                          Messaggi::Risposta::No)) {
         EliminaElemento(n);
     }
 }

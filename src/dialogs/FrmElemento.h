@@ -21,6 +21,8 @@ public:
 
     /// What undo says of a change made in a dialog.
     static QString TestoModifica(const QString &nome);
+    /// The question before an element is deleted; its name follows.
+    static QString DomandaElimina(Genere genere);
 
 signals:
     /// Element n has been confirmed or deleted: the editor's list goes to it.
@@ -114,8 +116,8 @@ protected:
         }
         Conclude(n);
     }
-    /// Asks domanda, completed by the element's name; on Yes makes it absent and closes the dialog.
-    void ChiedeEliminazione(const QString &domanda);
+    /// Asks DomandaElimina with the name; on Yes makes it absent and closes the dialog.
+    void ChiedeEliminazione();
     /// Makes element n absent and closes the dialog, without asking.
     void EliminaElemento(int n);
 

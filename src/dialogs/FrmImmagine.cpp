@@ -249,5 +249,5 @@ void FrmImmagine::Confema_Click()
 
 void FrmImmagine::Elimina_Click()
 {
-    ChiedeEliminazione(QStringLiteral("Elimino Immagine "));
+    ChiedeEliminazione();
 }

@@ -3,6 +3,7 @@
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
+#include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
 #include "editor/DomandeSulModello.h"
 #include "editor/PaginaElementi.h"
@@ -60,6 +61,15 @@ PaginaElementi &Form2::Pagina(Genere genere) const
     return *pagineElementi_.at(Posto(genere));
 }
 
+std::optional<Genere> Form2::GenereInPagina() const
+{
+    const auto pagina =
+        std::find(pagineElementi_.begin(), pagineElementi_.end(), ui_->SSTab1->currentWidget());
+    return pagina == pagineElementi_.end() ? std::nullopt
+                                           : std::optional(Generi.at(static_cast<std::size_t>(
+                                                 std::distance(pagineElementi_.begin(), pagina))));
+}
+
 bool Form2::Form_Load()
 {
     stato_.zoom = 1;
@@ -84,6 +94,8 @@ bool Form2::Form_Load()
     CollegaAnteprima();
     storia_ = std::make_unique<ComandiStoria>(stato_.documento, ui_->Annulla, ui_->Ripristina,
                                               QList<QWidget *>{this, anteprima_.get()});
+    scelta_ = std::make_unique<ComandiScelta>(
+        stato_, *anteprima_, [this] { return GenereInPagina(); }, this);
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
     anteprima_->MostraModello();

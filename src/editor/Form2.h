@@ -7,7 +7,9 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
+class ComandiScelta;
 class ComandiStoria;
 class DomandeSulModello;
 class FrmCampo;
@@ -95,6 +97,8 @@ private:
     void CollegaAnteprima();
     void CollegaDialogo(FrmElemento &dialogo);
     PaginaElementi &Pagina(Genere genere) const;
+    /// The kind whose page shows; none on the others.
+    std::optional<Genere> GenereInPagina() const;
     void CreaPagine();
     void MostraVoci(Genere genere);
     void SegueDocumento(const Cambiamento &cambiamento);
@@ -124,6 +128,7 @@ private:
     PaginaSpostamento *spostamento_ = nullptr;
     PaginaSfondo *sfondo_ = nullptr;
     std::unique_ptr<ComandiStoria> storia_;
+    std::unique_ptr<ComandiScelta> scelta_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;
     bool chiude_ = false; ///< the question about unsaved work is open

@@ -40,6 +40,7 @@ void ElementiFoglio::ImpostaCampo(int i)
     C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Barrato()}, campo.Testo,
                     PuntiDiTesto(campo.Dimensione) / stato_.zoom, {0, 0});
     C1.Colloca(QRectF(C1.Posto().topLeft(), C1.MisuraTesto()));
+    contorni_.Segue({Genere::Campo, i}, C1.Posto());
     C1.ImpostaSuggerimento(QStringLiteral("campo ") + campo.Nome + QStringLiteral("  - ") +
                            campo.Descrizione + QStringLiteral(" -'") + RitornoCarrello +
                            QString::number(campo.Maschera.size()) + u' ' + campo.Maschera);
@@ -125,6 +126,8 @@ void ElementiFoglio::Posiziona(Genere genere, int i)
 
 void ElementiFoglio::Ricolloca(Genere genere, int i)
 {
-    Elemento(genere, i).Colloca(PostoDa(genere, i));
+    const QRectF posto = PostoDa(genere, i);
+    Elemento(genere, i).Colloca(posto);
+    contorni_.Segue({genere, i}, posto);
     AncoraManiglia(genere, i);
 }

@@ -30,6 +30,7 @@ ElementiFoglio::ElementiFoglio(StatoProgramma &stato, const GeometriaAnteprima &
     : stato_(stato)
     , geometria_(geometria)
     , scena_(scena)
+    , contorni_(scena, stato.selezione)
     , LineXX_(new LineaGuida(QStringLiteral("LineXX")))
     , LineYY_(new LineaGuida(QStringLiteral("LineYY")))
 {
@@ -46,6 +47,8 @@ ElementiFoglio::ElementiFoglio(StatoProgramma &stato, const GeometriaAnteprima &
         scena_.addItem(linea);
     }
     connect(&stato_.selezione, &Selezione::Cambiata, this, &ElementiFoglio::SegueSelezione);
+    connect(&stato_.selezione, &Selezione::SceltiCambiati, this, &ElementiFoglio::SegueScelti);
+    SegueScelti();
 }
 
 ControlloElemento &ElementiFoglio::Elemento(Genere genere, int i) const
@@ -112,6 +115,17 @@ void ElementiFoglio::SegueSelezione(Genere genere)
         maniglia.ImpostaPuntatore(Qt::SizeAllCursor);
         maniglia.Tag = QString::number(i);
     }
+}
+
+void ElementiFoglio::SegueScelti()
+{
+    contorni_.Mostra(
+        [this](Chiave chiave) { return Elemento(chiave.genere, chiave.indice).Posto(); });
+}
+
+void ElementiFoglio::Aggiunge(Controllo &controllo)
+{
+    scena_.addItem(&controllo);
 }
 
 void ElementiFoglio::MandaDavanti(Controllo &controllo)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Modello.h"
-#include "preview/Controlli.h"
+#include "preview/ContorniScelti.h"
 
 #include <QObject>
 
@@ -57,6 +57,11 @@ public:
     /// in hand takes its hint back from a field in hand, which writes onto the same handle.
     void RinominaManiglie();
 
+    /// Puts something of a gesture on the sheet. It stays its owner's.
+    void Aggiunge(Controllo &controllo);
+    /// The outline of a chosen element.
+    ContornoScelto *ContornoDi(Chiave chiave) const { return contorni_.Di(chiave); }
+
     void MostraGuide(QPointF angolo, const QColor &colore);
     void NascondeGuide();
 
@@ -81,6 +86,7 @@ private:
     double Area(Genere genere, int i) const;
     /// The handle of the kind shows, ready to move, while an element is active.
     void SegueSelezione(Genere genere);
+    void SegueScelti();
     void ScriveSuggerimentoManiglia(Genere genere, int i);
     void MandaDavanti(Controllo &controllo);
     Etichetta &EtichettaDi(Genere genere, int i) const;
@@ -89,6 +95,7 @@ private:
     const GeometriaAnteprima &geometria_;
     QGraphicsScene &scena_;
     std::array<Tabella<ControlloElemento *>, Generi.size()> elementi_;
+    ContorniScelti contorni_;
     QList<ControlloElemento *> creati_; // all of elementi_, for the hit test
     std::array<Maniglia *, Generi.size()> maniglie_{};
     LineaGuida *LineXX_ = nullptr;

@@ -10,6 +10,7 @@
 #include "preview/ManiSulFoglio.h"
 #include "preview/PartiAnteprima.h"
 #include "preview/Righelli.h"
+#include "preview/TastiFoglio.h"
 #include "preview/VistaFoglio.h"
 
 #include <QCloseEvent>
@@ -83,6 +84,7 @@ void Frm1::Form_Load()
     ImpostaHelp(this);
     elementi_ = std::make_unique<ElementiFoglio>(stato_, parti_->geometria, parti_->scena);
     mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
+    tasti_ = std::make_unique<TastiFoglio>(stato_, *this, *parti_);
     parti_->TextZoom->setText(Numeri::CstrX(stato_.zoom, {}));
     parti_->TextZoom->installEventFilter(this);
     Righello();
@@ -96,6 +98,8 @@ void Frm1::CollegaSegnali()
     connect(mani_.get(), &AvvisiFoglio::ElementoPuntato, this, &Frm1::ElementoPuntato);
     connect(mani_.get(), &AvvisiFoglio::PaginaRichiesta, this, &Frm1::PaginaRichiesta);
     connect(mani_.get(), &AvvisiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
+    connect(tasti_.get(), &TastiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
+    Collega(tasti_.get(), &TastiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
     Collega(mani_.get(), &AvvisiFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
     Collega(mani_.get(), &AvvisiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
 }
@@ -349,11 +353,17 @@ void Frm1::PortaInVista(Chiave chiave)
 
 void Frm1::keyPressEvent(QKeyEvent *evento)
 {
-    bool rinunciato = false;
+    bool preso = false;
     if (evento->key() == Qt::Key_Escape) {
-        Guardia(this, [&] { rinunciato = mani_->Rinuncia(); });
+        Guardia(this, [&] {
+            preso = mani_->Rinuncia();
+            if (!preso && !stato_.selezione.Scelti().isEmpty()) {
+                stato_.selezione.SvuotaScelti();
+                preso = true;
+            }
+        });
     }
-    if (!rinunciato) {
+    if (!preso) {
         QWidget::keyPressEvent(evento);
     }
 }
@@ -361,6 +371,11 @@ void Frm1::keyPressEvent(QKeyEvent *evento)
 void Frm1::Seleziona(Genere genere, int i)
 {
     elementi_->Seleziona(genere, i);
+}
+
+void Frm1::Sceglie(Chiave chiave)
+{
+    mani_->Sceglie(chiave);
 }
 
 void Frm1::PrimoPiano(Genere genere)

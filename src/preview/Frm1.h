@@ -19,6 +19,7 @@ class Cambiamento;
 struct PartiAnteprima;
 class ElementiFoglio;
 class ManiSulFoglio;
+class TastiFoglio;
 
 /// The preview window: the sheet at scale 1:zoom with its rulers, scroll bars and zoom box. It
 /// shows the open model, changes it under the mouse and tells the editor by signals; it keeps no
@@ -65,6 +66,9 @@ public:
     /// Scrolls until the element's corner can be seen.
     void PortaInVista(Chiave chiave);
 
+    /// As if the sheet had been clicked there, or a field pointed at: the editor's page and entry,
+    /// the handle, the strip.
+    void Sceglie(Chiave chiave);
     /// Shows the handle of the kind on element i, ready to drag it.
     void Seleziona(Genere genere, int i);
     void SelezionaCampo(int i) { Seleziona(Genere::Campo, i); }
@@ -155,7 +159,7 @@ protected:
     void showEvent(QShowEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
     void wheelEvent(QWheelEvent *evento) override;
-    /// Escape gives up the drag or resize under way.
+    /// Escape gives up the gesture under way; without one, nothing is chosen any more.
     void keyPressEvent(QKeyEvent *evento) override;
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
@@ -175,5 +179,6 @@ private:
     std::unique_ptr<PartiAnteprima> parti_;
     std::unique_ptr<ElementiFoglio> elementi_;
     std::unique_ptr<ManiSulFoglio> mani_;
+    std::unique_ptr<TastiFoglio> tasti_;
     QPointF giroRuota_; // fractions of a mm that the wheel has turned and nothing has scrolled yet
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Unita.h"
+#include "model/FoglioCarta.h"
 
 #include <QMargins>
 #include <QRect>
@@ -12,8 +13,8 @@
 class GeometriaAnteprima
 {
 public:
-    static constexpr double LarghezzaCarta = 240; ///< mm of paper, every model's sheet
-    static constexpr double AltezzaCarta = 350;   ///< mm of paper
+    static constexpr double LarghezzaCarta = FoglioCarta::Larghezza; ///< mm of paper
+    static constexpr double AltezzaCarta = FoglioCarta::Altezza;     ///< mm of paper
     /// Height of the editor's strip across the top of the screen, its frame included: 3000 twips.
     static constexpr double AltezzaEditor = 3000 * Unita::MillimetriPerTwip;
     static constexpr double SpessoreRighello = 6.5;

@@ -10,6 +10,7 @@ class VistaFoglio;
 class GeometriaAnteprima;
 class MiraFoglio;
 struct EventoMouse;
+class Passo;
 struct StatoProgramma;
 
 /// What the gestures on the sheet work on; all of it outlives them.

@@ -1,5 +1,6 @@
 #include "preview/ManiSulFoglio.h"
 
+#include "preview/BandaDiScelta.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/PuntamentoFoglio.h"
 #include "preview/Ridimensione.h"
@@ -18,6 +19,12 @@ ManiSulFoglio::ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &ge
 ManiSulFoglio::~ManiSulFoglio()
 {
     contesto_.foglio.ImpostaAscolto(nullptr);
+}
+
+void ManiSulFoglio::Sceglie(Chiave chiave)
+{
+    contesto_.elementi.Elemento(chiave.genere, chiave.indice); // only one that has a control
+    PuntamentoFoglio(contesto_, {Bersaglio::Cosa::Elemento, chiave}).Sceglie();
 }
 
 void ManiSulFoglio::Preme(const EventoMouse &evento)
@@ -67,18 +74,22 @@ std::shared_ptr<Gesto> ManiSulFoglio::GestoSu(const Bersaglio &bersaglio, const 
     if (evento.bottone == Qt::LeftButton) {
         const Chiave chiave = bersaglio.chiave;
         if (bersaglio.cosa == Bersaglio::Cosa::Maniglia) {
-            return std::make_shared<Trascinamento>(contesto_, chiave, secondaPressione);
+            return std::make_shared<Trascinamento>(contesto_, chiave, evento.tasti,
+                                                   secondaPressione);
+        }
+        if (bersaglio.cosa == Bersaglio::Cosa::Foglio) {
+            return std::make_shared<BandaDiScelta>(contesto_, evento);
         }
         if (bersaglio.cosa == Bersaglio::Cosa::Elemento && mira_.Ridimensionabile(chiave)) {
             // What is gripped is decided once: a press elsewhere never turns into a resize.
             const QPointF angolo = mira_.ControlloDi(bersaglio)->Posto().topLeft();
             const Presa presa = mira_.PresaDi(chiave, evento.punto - angolo);
             if (presa != Presa::Nessuna) {
-                return std::make_shared<Ridimensione>(contesto_, chiave, presa, evento.punto);
+                return std::make_shared<Ridimensione>(contesto_, chiave, presa, evento);
             }
         }
     }
-    return std::make_shared<PuntamentoFoglio>(contesto_, bersaglio, evento.bottone);
+    return std::make_shared<PuntamentoFoglio>(contesto_, bersaglio, evento);
 }
 
 void ManiSulFoglio::Muove(const EventoMouse &evento)

@@ -30,6 +30,9 @@ public:
     void RidimensionaCornice(int i, Qt::MouseButtons bottoni, double x, double y);
     void RidimensionaImmagine(int i, Qt::MouseButtons bottoni, double x, double y);
 
+    /// What a click on a frame or image does, and pointing at a field, wherever the mouse is.
+    void Sceglie(Chiave chiave);
+
     void Preme(const EventoMouse &evento) override;
     void Muove(const EventoMouse &evento) override;
     void Rilascia(const EventoMouse &evento) override;

@@ -3,6 +3,7 @@
 #include "documento/StatoProgramma.h"
 #include "finestre/EtichettaAbbreviata.h"
 #include "finestre/Finestre.h"
+#include "preview/CorniceFuoco.h"
 #include "preview/PulsantiStriscia.h"
 #include "preview/Righelli.h"
 #include "preview/VistaFoglio.h"
@@ -67,6 +68,7 @@ void PartiAnteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
     P1->setObjectName(QStringLiteral("P1"));
     P1->setAccessibleName(QStringLiteral("foglio"));
     P1->setGeometry(QRect(QPoint(0, 0), pixel));
+    Fuoco = new CorniceFuoco(P1, finestra);
     P1Left0 = P1->x();
     P1Top0 = P1->y();
 
@@ -90,7 +92,7 @@ void PartiAnteprima::CreaScorrimento(QWidget *finestra)
     ScrollY->setRange(0, geometria.MassimoScrollY());
     for (QScrollBar *barra : {ScrollX, ScrollY}) {
         barra->setSingleStep(PassoFreccia);
-        barra->setFocusPolicy(Qt::NoFocus);
+        barra->setFocusPolicy(Qt::TabFocus);
     }
 }
 
@@ -132,6 +134,7 @@ void PartiAnteprima::Dispone(QSize interna)
         controllo->setGeometry(geometria.Pixel(posto));
     };
     colloca(AreaFoglio, d.AreaFoglio);
+    colloca(Fuoco, d.AreaFoglio);
     colloca(AreaRighelloX, d.AreaRighelloX);
     colloca(AreaRighelloY, d.AreaRighelloY);
     colloca(ScrollX, d.ScrollX);

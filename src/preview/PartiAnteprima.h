@@ -5,6 +5,7 @@
 #include <QGraphicsScene>
 
 class VistaFoglio;
+class CorniceFuoco;
 class EtichettaAbbreviata;
 class PulsantiStriscia;
 class QLabel;
@@ -32,6 +33,7 @@ struct PartiAnteprima
     GeometriaAnteprima geometria;
     QGraphicsScene scena;
     QWidget *AreaFoglio;
+    CorniceFuoco *Fuoco; ///< around AreaFoglio
     QWidget *AreaRighelloX;
     QWidget *AreaRighelloY;
     VistaFoglio *P1;

@@ -1,14 +1,16 @@
 #include "preview/PuntamentoFoglio.h"
 
+#include "documento/StatoProgramma.h"
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/VistaFoglio.h"
 
 PuntamentoFoglio::PuntamentoFoglio(const ContestoGesto &contesto, const Bersaglio &bersaglio,
-                                   Qt::MouseButton bottone)
+                                   const EventoMouse &pressione)
     : contesto_(contesto)
     , bersaglio_(bersaglio)
-    , bottone_(bottone)
+    , bottone_(pressione.bottone)
+    , tasti_(pressione.tasti)
 {
 }
 
@@ -72,14 +74,20 @@ void PuntamentoFoglio::ElementoSorvolato(QPointF punto)
 
 void PuntamentoFoglio::Conclude(std::optional<QPointF> rilascio)
 {
-    if (bersaglio_.cosa == Bersaglio::Cosa::Elemento && Puntato().genere != Genere::Campo) {
+    if (bersaglio_.cosa == Bersaglio::Cosa::Elemento) {
         const auto [genere, i] = Puntato();
         ControlloElemento &controllo = contesto_.elementi.Elemento(genere, i);
-        controllo.ImpostaPuntatore(Qt::ArrowCursor);
-        contesto_.elementi.PrimoPiano(genere);
-        if (bottone_ == Qt::LeftButton && rilascio &&
-            contesto_.elementi.Tocca(controllo, *rilascio)) {
-            Fa_Click();
+        const bool click = bottone_ == Qt::LeftButton && rilascio &&
+                           contesto_.elementi.Tocca(controllo, *rilascio);
+        if (genere != Genere::Campo) {
+            controllo.ImpostaPuntatore(Qt::ArrowCursor);
+            contesto_.elementi.PrimoPiano(genere);
+            if (click) {
+                Fa_Click();
+            }
+        }
+        if (click && EUnClick()) {
+            contesto_.stato.selezione.SceglieConClick(Puntato(), tasti_ & Qt::ControlModifier);
         }
     }
     AggiornaPuntatore();
@@ -97,6 +105,16 @@ void PuntamentoFoglio::Fa_Click()
     emit contesto_.avvisi.ElementoInMano(genere, i);
     if (genere == Genere::Immagine) {
         emit contesto_.avvisi.PaginaRichiesta(genere);
+    }
+}
+
+void PuntamentoFoglio::Sceglie()
+{
+    if (Puntato().genere == Genere::Campo) {
+        CampoPuntato();
+    } else {
+        contesto_.elementi.Campineri(); // no field stays lit beside it
+        Fa_Click();
     }
 }
 

@@ -29,8 +29,9 @@ double Limitato(double lato, double restante, double prima)
 
 } // namespace
 
-Ridimensione::Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa presa, QPointF punto)
-    : PuntamentoFoglio(contesto, {Bersaglio::Cosa::Elemento, chiave}, Qt::LeftButton)
+Ridimensione::Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa presa,
+                           const EventoMouse &pressione)
+    : PuntamentoFoglio(contesto, {Bersaglio::Cosa::Elemento, chiave}, pressione)
     , presa_(presa)
     , cartaPrima_(Carta())
     , passo_(contesto.stato, chiave, QLatin1String("ridimensiona"))
@@ -38,7 +39,7 @@ Ridimensione::Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa p
     ControlloElemento &controllo = contesto.elementi.Elemento(chiave.genere, chiave.indice);
     controllo.ImpostaPuntatore(Ridimensionamento::Puntatore(presa_));
     misura_ = controllo.Posto().size();
-    partenza_ = punto - controllo.Posto().topLeft();
+    partenza_ = pressione.punto - controllo.Posto().topLeft();
     scarto_ = QPointF(misura_.width(), misura_.height()) - partenza_;
 }
 

@@ -10,12 +10,16 @@
 class Ridimensione : public PuntamentoFoglio
 {
 public:
-    /// presa: the edges that it moves, at least one. punto: of the press, mm of screen.
-    Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa presa, QPointF punto);
+    /// presa: the edges that it moves, at least one. pressione: of the left button.
+    Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa presa,
+                 const EventoMouse &pressione);
 
     void Muove(const EventoMouse &evento) override;
     void Conclude(std::optional<QPointF> rilascio) override;
     bool Rinuncia() override;
+
+protected:
+    bool EUnClick() const override { return !avviata_; }
 
 private:
     void RidimensionaFino(QPointF dentro);

@@ -1,6 +1,8 @@
 #include "preview/Trascinamento.h"
 
+#include "documento/Disposizione.h"
 #include "documento/StatoProgramma.h"
+#include "model/FoglioCarta.h"
 #include "model/Numeri.h"
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
@@ -10,26 +12,18 @@
 #include <QGuiApplication>
 #include <QStyleHints>
 
-namespace {
-
-double NelFoglio(double posto, double misura, double foglio)
-{
-    const double dopoInizio = posto < 0 ? 0 : posto;
-    // The far edge has the last word: an element larger than the sheet ends flush with it.
-    return dopoInizio > foglio - misura ? foglio - misura : dopoInizio;
-}
-
-} // namespace
-
 Trascinamento::Trascinamento(const ContestoGesto &contesto, Chiave chiave,
-                             std::optional<QPointF> secondaPressione)
+                             Qt::KeyboardModifiers tasti, std::optional<QPointF> secondaPressione)
     : contesto_(contesto)
     , chiave_(chiave)
+    , tasti_(tasti)
+    , compagni_(contesto, chiave)
     , secondaPressione_(secondaPressione)
     , passo_(contesto.stato, chiave, QLatin1String("sposta"))
 {
     const Elemento &elemento = contesto_.stato.Aperto().Di(chiave_);
     postoPrima_ = {elemento.X, elemento.Y};
+    angoloPrima_ = contesto_.elementi.Elemento(chiave.genere, chiave.indice).Posto().topLeft();
 }
 
 void Trascinamento::Muove(const EventoMouse &evento)
@@ -69,8 +63,12 @@ void Trascinamento::Sposta(Qt::MouseButtons bottoni, double x, double y)
         y = Numeri::Ar(y);
     }
     const GeometriaAnteprima &geometria = contesto_.geometria;
-    const QPointF dopo(NelFoglio(prima.left() + x, prima.width(), geometria.LarghezzaFoglio()),
-                       NelFoglio(prima.top() + y, prima.height(), geometria.AltezzaFoglio()));
+    QPointF dopo(FoglioCarta::Dentro(prima.left() + x, prima.width(), geometria.LarghezzaFoglio()),
+                 FoglioCarta::Dentro(prima.top() + y, prima.height(), geometria.AltezzaFoglio()));
+    if (!compagni_.Vuoti()) {
+        dopo =
+            prima.topLeft() + compagni_.FinoAlBordo(prima.topLeft() - angoloPrima_, QPointF(x, y));
+    }
     contesto_.elementi.MostraGuide(dopo, maniglia.Sfondo());
     if (dopo == prima.topLeft()) {
         return;
@@ -85,13 +83,18 @@ void Trascinamento::Sposta(Qt::MouseButtons bottoni, double x, double y)
                    {Riportato(posto.x(), postoPrima_.x()), Riportato(posto.y(), postoPrima_.y())});
     trascinato_ = true;
     passo.Mostra();
+    if (!compagni_.Vuoti()) {
+        compagni_.Mostra(dopo - angoloPrima_);
+    }
     emit contesto_.avvisi.ElementoInMano(genere, chiave_.indice);
 }
 
 void Trascinamento::Conclude(std::optional<QPointF> rilascio)
 {
     contesto_.elementi.NascondeGuide();
-    if (chiave_.genere == Genere::Campo) {
+    if (!compagni_.Vuoti() && trascinato_) {
+        ConcludeInsieme();
+    } else if (chiave_.genere == Genere::Campo) {
         // Placing rounds to whole millimetres of paper and takes a row field back to yInizio.
         passo_.Iniziato().Colloca(chiave_);
         passo_.Conclude();
@@ -99,13 +102,44 @@ void Trascinamento::Conclude(std::optional<QPointF> rilascio)
     emit contesto_.avvisi.ElementoInMano(chiave_.genere, chiave_.indice);
     AggiornaPuntatore();
     passo_.Conclude(); // what the properties change is a step of its own
+    if (trascinato_ || rilascio) {
+        Sceglie();
+    }
     if (secondaPressione_ && rilascio) {
         emit contesto_.avvisi.RichiestaProprieta(chiave_.genere, chiave_.indice);
     }
 }
 
+void Trascinamento::ConcludeInsieme()
+{
+    Passo &passo = passo_.Iniziato();
+    passo.Nomina(QStringLiteral("sposta ") +
+                 NomeDi(contesto_.stato.Aperto(), contesto_.stato.selezione.Scelti()));
+    const Elemento &elemento = contesto_.stato.Aperto().Di(chiave_);
+    QPointF scarto = QPointF(elemento.X, elemento.Y) - postoPrima_;
+    if (compagni_.ConInteri()) {
+        // Rounded once for all of them, or they would not keep their distances.
+        scarto = {Numeri::Ar(scarto.x()), Numeri::Ar(scarto.y())};
+        passo.Trascina(chiave_, postoPrima_ + scarto);
+    }
+    passo.Colloca(chiave_);
+    compagni_.Ripristina();
+    compagni_.Conclude(passo, scarto);
+    passo_.Conclude();
+}
+
+void Trascinamento::Sceglie()
+{
+    Selezione &selezione = contesto_.stato.selezione;
+    const bool alterna = tasti_ & Qt::ControlModifier && !trascinato_;
+    if (alterna || !selezione.EScelto(chiave_)) {
+        selezione.SceglieConClick(chiave_, alterna);
+    }
+}
+
 bool Trascinamento::Rinuncia()
 {
+    compagni_.Ripristina();
     passo_.Rinuncia();
     contesto_.elementi.NascondeGuide();
     emit contesto_.avvisi.ElementoInMano(chiave_.genere, chiave_.indice);

@@ -43,7 +43,7 @@ VistaFoglio::VistaFoglio(QGraphicsScene *scena, const GeometriaAnteprima &geomet
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setViewportUpdateMode(MinimalViewportUpdate);
     setOptimizationFlags(DontAdjustForAntialiasing | DontSavePainterState);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setBackgroundBrush(Qt::white);
     const double scala = geometria.PixelPerMillimetro();
@@ -83,6 +83,24 @@ void VistaFoglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
 {
     penna->fillRect(rettangolo, backgroundBrush());
     sfondo_.Dipinge(*penna, rettangolo, stato_.zoom);
+}
+
+bool VistaFoglio::event(QEvent *evento)
+{
+    // Before the view itself: Tab would leave it, and arrows would scroll what must not scroll.
+    if (evento->type() == QEvent::KeyPress && tasti_ != nullptr) {
+        bool preso = false;
+        Guardia(this, [&] { preso = tasti_->Preme(*static_cast<QKeyEvent *>(evento)); });
+        if (preso) {
+            return true;
+        }
+    }
+    return QGraphicsView::event(evento);
+}
+
+void VistaFoglio::keyPressEvent(QKeyEvent *evento)
+{
+    evento->ignore(); // the window's; no element of the scene takes keys
 }
 
 bool VistaFoglio::viewportEvent(QEvent *evento)

@@ -37,6 +37,15 @@ public:
     virtual Spiegazione Suggerimento(QPointF punto) const = 0;
 };
 
+/// Who acts on the keys while the sheet has the focus. What it throws ends in a message box.
+class AscoltaTasti
+{
+public:
+    virtual ~AscoltaTasti() = default;
+    /// False when the key means nothing there: it goes on.
+    virtual bool Preme(const QKeyEvent &tasto) = 0;
+};
+
 /// The sheet `P1`: a view of the whole scene, one scene unit to the millimetre of screen. It never
 /// scrolls by itself; the window moves it.
 class VistaFoglio : public QGraphicsView
@@ -48,6 +57,8 @@ public:
 
     /// ascolta must outlive the events; null: the mouse does nothing.
     void ImpostaAscolto(AscoltaMouse *ascolta) { ascolta_ = ascolta; }
+    /// The same for the keys.
+    void ImpostaTasti(AscoltaTasti *tasti) { tasti_ = tasti; }
     void ImpostaPuntatore(Qt::CursorShape puntatore);
 
     /// As Sfondo::Imposta.
@@ -58,11 +69,13 @@ public:
 
 protected:
     void drawBackground(QPainter *penna, const QRectF &rettangolo) override;
+    bool event(QEvent *evento) override;
     bool viewportEvent(QEvent *evento) override;
     void mousePressEvent(QMouseEvent *evento) override;
     void mouseMoveEvent(QMouseEvent *evento) override;
     void mouseReleaseEvent(QMouseEvent *evento) override;
     void mouseDoubleClickEvent(QMouseEvent *evento) override;
+    void keyPressEvent(QKeyEvent *evento) override;
     void wheelEvent(QWheelEvent *evento) override;
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
@@ -74,5 +87,6 @@ private:
     const GeometriaAnteprima &geometria_;
     const StatoProgramma &stato_;
     AscoltaMouse *ascolta_ = nullptr;
+    AscoltaTasti *tasti_ = nullptr;
     Sfondo sfondo_;
 };

@@ -145,20 +145,24 @@ public:
     QPoint Pixel(QPointF punto) const { return (punto / MillimetriPerPixel).toPoint(); }
 
     void Muove(QPointF punto) { QTest::mouseMove(frm->windowHandle(), Locale(punto)); }
-    void Preme(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton)
+    void Preme(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton,
+               Qt::KeyboardModifiers tasti = {})
     {
-        QTest::mousePress(frm->windowHandle(), bottone, {}, Locale(punto));
+        QTest::mousePress(frm->windowHandle(), bottone, tasti, Locale(punto));
     }
-    void Rilascia(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton)
+    void Rilascia(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton,
+                  Qt::KeyboardModifiers tasti = {})
     {
-        QTest::mouseRelease(frm->windowHandle(), bottone, {}, Locale(punto));
+        QTest::mouseRelease(frm->windowHandle(), bottone, tasti, Locale(punto));
     }
-    void Clicca(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton)
+    void Clicca(QPointF punto, Qt::MouseButton bottone = Qt::LeftButton,
+                Qt::KeyboardModifiers tasti = {})
     {
         Muove(punto);
-        Preme(punto, bottone);
-        Rilascia(punto, bottone);
+        Preme(punto, bottone, tasti);
+        Rilascia(punto, bottone, tasti);
     }
+    void CliccaConCtrl(QPointF punto) { Clicca(punto, Qt::LeftButton, Qt::ControlModifier); }
     void CliccaDueVolte(QPointF punto)
     {
         Muove(punto);
@@ -175,13 +179,13 @@ public:
         QApplication::sendEvent(Vista(), &evento);
     }
     /// Press at da, move through a few points to a, release there.
-    void Trascina(QPointF da, QPointF a)
+    void Trascina(QPointF da, QPointF a, Qt::KeyboardModifiers tasti = {})
     {
         Muove(da);
-        Preme(da);
+        Preme(da, Qt::LeftButton, tasti);
         Muove(da + (a - da) / 3);
         Muove(a);
-        Rilascia(a);
+        Rilascia(a, Qt::LeftButton, tasti);
     }
     /// Drags the visible handle so that it ends under the pixel nearest to a.
     void TrascinaManiglia(int k, QPointF a)
