@@ -17,12 +17,15 @@ private slots:
     void Apertura();
     void PassoDiTrascinamento_data();
     void PassoDiTrascinamento();
+    void TrascinareTuttiGliScelti_data();
+    void TrascinareTuttiGliScelti();
     void RidipinteSoloLeParti();
     void CambioDiZoom();
     void PrimoPiano();
     void PuntareSulFoglio();
 
 private:
+    double PassoConScelti(const QList<Chiave> &scelti);
     void Riempie();
     void StendeScansione();
 
@@ -140,6 +143,51 @@ void bench_Anteprima::PassoDiTrascinamento()
     });
     banco_->Rilascia(presa);
     Riporta(QByteArray("drag step, ") + QTest::currentDataTag(), passo, 1);
+}
+
+double bench_Anteprima::PassoConScelti(const QList<Chiave> &scelti)
+{
+    constexpr int Campo = 45;
+    banco_->stato.selezione.ImpostaScelti(scelti);
+    banco_->frm->Seleziona(Genere::Campo, Campo);
+    const QPointF presa = banco_->S(1)->Posto().topLeft() + QPointF(1, 1);
+    banco_->Muove(presa);
+    banco_->Preme(presa);
+    banco_->Muove(presa + QPointF(5, 5)); // the picture of the others is made once
+    QCoreApplication::processEvents();
+    const double passo = MilliSecondi(Passi, [&](int k) {
+        banco_->Muove(presa + QPointF(5 + k % 20, 5 + k / 5));
+        QCoreApplication::processEvents();
+    });
+    QTest::keyClick(banco_->frm.get(), Qt::Key_Escape);
+    banco_->Rilascia(presa);
+    return passo;
+}
+
+void bench_Anteprima::TrascinareTuttiGliScelti_data()
+{
+    QTest::addColumn<bool>("scansione");
+    QTest::newRow("") << false;
+    QTest::newRow(" over a scan") << true;
+}
+
+void bench_Anteprima::TrascinareTuttiGliScelti()
+{
+    QFETCH(bool, scansione);
+    Riempie();
+    if (scansione) {
+        StendeScansione();
+    }
+    QList<Chiave> tutti;
+    for (const Genere genere : Generi) {
+        for (int i = 1; i <= PerGenere; ++i) {
+            tutti.append({genere, i});
+        }
+    }
+    const double uno = PassoConScelti({{Genere::Campo, 45}});
+    const double trecento = PassoConScelti(tutti);
+    Riporta(QByteArray("300 chosen dragged / one") + QTest::currentDataTag(), trecento / uno, 3,
+            "");
 }
 
 void bench_Anteprima::RidipinteSoloLeParti()
