@@ -35,7 +35,8 @@ constexpr qint64 ByteMassimi = 64'000'000;
 constexpr qint64 ByteCompressiMassimi = 40'000'000;
 /// Of all scans together, where there are several.
 constexpr qint64 PixelScansioniMassimi = 1'500'000'000;
-/// Where there are several scans the decoder keeps them all, and a printed page has no place for
+/// Where no single scan holds the picture the decoder keeps all of it until the last one, whether
+/// or not others follow and however much smaller it decodes it, and a printed page has no place for
 /// more: A3 at 600 dots per inch whose colours are stored half as fine each way is below it.
 constexpr qint64 CoefficientiMassimi = 128LL * 1024 * 1024;
 
@@ -224,6 +225,9 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
         }
         if (marcatore == MarcatoriJpeg::Sos) {
             esito.InizioDati = posto + 2 + lunghezza;
+            const QByteArray quanti = file.read(1);
+            esito.PiuScansioni =
+                esito.PiuScansioni || quanti.isEmpty() || quint8(quanti.at(0)) < esito.Componenti;
             return;
         }
         if (marcatore == MarcatoriJpeg::App0 && !daJfif) {
@@ -234,7 +238,8 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
             esito.Adobe = esito.Adobe || file.read(lunghezza - 2).startsWith("Adobe");
         } else if (MarcatoriJpeg::DiFormato(marcatore)) {
             LeggeFormato(posto, file.read(lunghezza - 2), esito);
-            esito.Progressiva = esito.Progressiva || marcatore == MarcatoriJpeg::SofProgressivo;
+            esito.PiuScansioni = esito.PiuScansioni || marcatore == MarcatoriJpeg::SofProgressivo ||
+                                 marcatore == MarcatoriJpeg::SofProgressivoAritmetico;
         }
         ++segmenti;
         posto += 2 + lunghezza;
@@ -255,8 +260,8 @@ bool JpegIntero(QByteArrayView file, const IntestazioneImmagine &intestazione)
             return false;
         }
     }
-    if (scansioni > 1 && (scansioni * pixel > PixelScansioniMassimi ||
-                          intestazione.Coefficienti > CoefficientiMassimi)) {
+    if ((scansioni > 1 && scansioni * pixel > PixelScansioniMassimi) ||
+        (intestazione.PiuScansioni && intestazione.Coefficienti > CoefficientiMassimi)) {
         return false;
     }
     return segmento.Marcatore == MarcatoriJpeg::Eoi || DatiJpeg::Completi(file);

@@ -29,7 +29,7 @@ struct IntestazioneImmagine
     int Componenti = 0;
     bool Adobe = false;         ///< the marker that tells how colours are stored is there
     bool ColoriRidotti = false; ///< some components have fewer pixels than others
-    bool Progressiva = false;   ///< its pixels come bit by bit, in several scans
+    bool PiuScansioni = false;  ///< no single scan holds its pixels, so the decoder keeps them all
     qint64 Coefficienti = 0;    ///< numbers that stand for the pixels of all components
 
     /// Reads the beginning of the file. Never fails: what cannot be read keeps its default.

@@ -68,7 +68,7 @@ private:
     void Arrotonda(QByteArray &byte, const QSize &intera) const;
     /// The largest factor to divide the stored size by that the decoder handles itself.
     int Fattore(const QSize &minimo) const;
-    /// Pixels that there is place for beside what the decoder keeps of a progressive picture.
+    /// Pixels that there is place for beside what the decoder keeps of a picture of several scans.
     qint64 Accanto() const;
 
     QFile file_;

@@ -130,7 +130,7 @@ void LettoreImmagine::Arrotonda(QByteArray &byte, const QSize &intera) const
 int LettoreImmagine::Fattore(const QSize &minimo) const
 {
     const qint64 massimi = std::min(Sostenibili(PixelDecodificati),
-                                    intestazione_.Progressiva ? Accanto() : PixelDecodificati);
+                                    intestazione_.PiuScansioni ? Accanto() : PixelDecodificati);
     const auto basta = [&](int fattore) {
         return pixel_.width() / fattore >= minimo.width() &&
                pixel_.height() / fattore >= minimo.height();

@@ -7,6 +7,7 @@ namespace MarcatoriJpeg {
 
 inline constexpr int Sof = 0xC0; ///< frame header: size and components
 inline constexpr int SofProgressivo = 0xC2;
+inline constexpr int SofProgressivoAritmetico = 0xCA;
 inline constexpr int SofUltimo = 0xCF;
 inline constexpr int Dht = 0xC4; ///< Huffman tables
 inline constexpr int Soi = 0xD8; ///< start of the file

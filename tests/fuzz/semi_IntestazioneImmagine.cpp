@@ -10,13 +10,18 @@ int main(int argc, char **argv)
         return 1;
     }
     const QDir cartella(QString::fromLocal8Bit(argv[1]));
-    QList<QByteArray> semi{ImmaginiDiProva::GifTrasparente(),
-                           ImmaginiDiProva::GifAnimata(),
-                           ImmaginiDiProva::JpegCmyk(),
-                           ImmaginiRare::GifCheSiSrotola(100),
-                           ImmaginiRare::BmpSmisurato(),
-                           ImmaginiRare::JpegDiSegmenti(40, '\xE1', true),
-                           ImmaginiRare::JpegDiScansioni({64, 64}, 3)};
+    QList<QByteArray> semi{
+        ImmaginiDiProva::GifTrasparente(),
+        ImmaginiDiProva::GifAnimata(),
+        ImmaginiDiProva::JpegCmyk(),
+        ImmaginiRare::GifCheSiSrotola(100),
+        ImmaginiRare::BmpSmisurato(),
+        ImmaginiRare::JpegDiSegmenti(40, '\xE1', true),
+        ImmaginiRare::JpegDiScansioni({64, 64}, 3),
+        ImmaginiRare::JpegDiUnaScansione({64, 64}, 3, 3, true),
+        ImmaginiRare::JpegDiUnaScansione({64, 64}, 3, 1, false),
+        ImmaginiRare::JpegDiUnaScansione({17000, 17000}, 3, 3, true).left(4096),
+        ImmaginiRare::JpegDiUnaScansione({17000, 17000}, 3, 1, false).left(4096)};
     for (const ImmaginiRare::Rara &rara : ImmaginiRare::Tutte()) {
         semi.append(rara.Byte);
     }

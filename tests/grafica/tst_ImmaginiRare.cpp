@@ -69,6 +69,8 @@ private slots:
     void BmpTagliatoNeiPixelRifiutato();
     void AlfaDatoRimane();
     void GifOltreIPixelMassimi();
+    void JpegOltreICoefficientiMassimi_data();
+    void JpegOltreICoefficientiMassimi();
     void MoltoPrimaDeiPixel();
     void EntroUnSecondo_data();
     void EntroUnSecondo();
@@ -194,6 +196,35 @@ void tst_ImmaginiRare::GifOltreIPixelMassimi()
     QVERIFY(troppoGrande(7746)); // 60,000,516 pixels
 }
 
+void tst_ImmaginiRare::JpegOltreICoefficientiMassimi_data()
+{
+    // Together with its place in the memory of a page, what the decoder keeps until the last scan.
+    QTest::addColumn<QByteArray>("byte");
+    QTest::addColumn<bool>("oltre");
+    QTest::newRow("progressivo") << JpegDiUnaScansione({8192, 16384}, 1, 1, true) << false;
+    QTest::newRow("progressivo, oltre") << JpegDiUnaScansione({8192, 16385}, 1, 1, true) << true;
+    QTest::newRow("di un componente su tre")
+        << JpegDiUnaScansione({6688, 6688}, 3, 1, false) << false;
+    QTest::newRow("di un componente su tre, oltre")
+        << JpegDiUnaScansione({6689, 6689}, 3, 1, false) << true;
+    QTest::newRow("di tre componenti su tre")
+        << JpegDiUnaScansione({8192, 8192}, 3, 3, false) << false;
+    QByteArray aritmetico = JpegDiUnaScansione({8192, 16385}, 1, 1, true);
+    QTest::newRow("progressivo di codici aritmetici, oltre")
+        << aritmetico.replace("\xFF\xC2", "\xFF\xCA") << true;
+}
+
+void tst_ImmaginiRare::JpegOltreICoefficientiMassimi()
+{
+    QFETCH(QByteArray, byte);
+    QFETCH(bool, oltre);
+    const QString percorso = Scrivi(byte);
+    QCOMPARE(ErroreDi([&] {
+                 Immagini::CaricaEntro(percorso, {600, 800});
+             }) == ErroreSistema::ImmagineNonValida,
+             oltre);
+}
+
 void tst_ImmaginiRare::MoltoPrimaDeiPixel()
 {
     // A telephone's picture carries another one in its head; nothing carries a hundred.
@@ -228,6 +259,12 @@ void tst_ImmaginiRare::EntroUnSecondo_data()
     QTest::newRow("64 scansioni di 18 megapixel") << JpegDiScansioni({4240, 4240}, 63);
     QTest::newRow("64 scansioni di 140 megapixel") << JpegDiScansioni({11832, 11832}, 63);
     QTest::newRow("10 scansioni di 140 megapixel") << JpegDiScansioni({11832, 11832}, 9);
+    QTest::newRow("289 megapixel a colori, una scansione progressiva")
+        << JpegDiUnaScansione({17000, 17000}, 3, 3, true);
+    QTest::newRow("289 megapixel a colori, scansione d'un solo componente")
+        << JpegDiUnaScansione({17000, 17000}, 3, 1, false);
+    QTest::newRow("135 megapixel, una scansione progressiva")
+        << JpegDiUnaScansione({11600, 11600}, 1, 1, true);
     const QByteArray gif = ImmaginiDiProva::GifTrasparente();
     QTest::newRow("GIF di commenti d'un byte") << gif.left(19) + QByteArray("\x21\xFE") +
                                                       QByteArray("\1a").repeated(2'500'000) +

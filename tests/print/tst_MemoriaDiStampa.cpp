@@ -20,8 +20,9 @@ namespace {
 constexpr double MiBMassimi = 300;
 constexpr const char *SoloStampa = "--stampa";
 
-/// What printing a model file needs at most of memory, in a process of its own; -1 when it fails.
-double MiBDiStampa(const QString &modello, const QString &pdf)
+/// What printing a model file needs at most of memory, in a process of its own; -1 when it fails or
+/// does not give so many messages.
+double MiBDiStampa(const QString &modello, const QString &pdf, int avvisi)
 {
     const QByteArray programma = QFile::encodeName(QCoreApplication::applicationFilePath());
     const QByteArray daStampare = QFile::encodeName(modello);
@@ -35,7 +36,7 @@ double MiBDiStampa(const QString &modello, const QString &pdf)
     int stato = 0;
     rusage uso{};
     wait4(figlio, &stato, 0, &uso);
-    return WIFEXITED(stato) && WEXITSTATUS(stato) == 0 ? double(uso.ru_maxrss) / 1024 : -1;
+    return WIFEXITED(stato) && WEXITSTATUS(stato) == avvisi ? double(uso.ru_maxrss) / 1024 : -1;
 }
 
 /// As many pixels as a bitmap may have.
@@ -81,17 +82,19 @@ private slots:
     void memoriaLimitata();
     void memoriaDellaPiuGrande_data();
     void memoriaDellaPiuGrande();
+    void memoriaDellaRifiutata_data();
+    void memoriaDellaRifiutata();
 
 private:
     /// Prints the model in a process of its own.
-    static void StampaEntroILimiti(const FoglioDiProva &foglio);
+    static void StampaEntroILimiti(const FoglioDiProva &foglio, int avvisi = 0);
 };
 
-void tst_MemoriaDiStampa::StampaEntroILimiti(const FoglioDiProva &foglio)
+void tst_MemoriaDiStampa::StampaEntroILimiti(const FoglioDiProva &foglio, int avvisi)
 {
     const QString modello = foglio.Cartella() + QStringLiteral("Prova.Mod");
     FileModello::Salva(foglio.Aperto, modello, QLocale::c());
-    const double mib = MiBDiStampa(modello, foglio.Pdf());
+    const double mib = MiBDiStampa(modello, foglio.Pdf(), avvisi);
     qInfo("%.0f MiB", mib);
     QVERIFY2(mib > 0 && mib <= MiBMassimi, qPrintable(QString::number(mib)));
     QCOMPARE(LettorePdf(foglio.Pdf()).Pagine(), 1);
@@ -141,6 +144,8 @@ void tst_MemoriaDiStampa::memoriaDellaPiuGrande_data()
         << ImmaginiRare::JpegA1200PuntiPerPollice() << qint64(0);
     QTest::newRow("progressive JPEG")
         << ImmaginiRare::JpegDiScansioni({11500, 11500}, 9) << qint64(0);
+    QTest::newRow("JPEG whose decoder keeps a component on its own")
+        << ImmaginiRare::JpegDiUnaScansione({6688, 6688}, 3, 1, false) << qint64(0);
     QTest::newRow("grey JPEG at 1200 dots per inch")
         << JpegABlocchi({9921, 14031}, 1, [](int, int x, int y) { return 30 + (x + y) % 190; })
         << qint64(0);
@@ -159,6 +164,28 @@ void tst_MemoriaDiStampa::memoriaDellaPiuGrande()
     // The rows are a hole in the file: black, but for the first row, which keeps the colours.
     QVERIFY(QFile::resize(foglio.Cartella() + QStringLiteral("grande.bmp"), testa.size() + byte));
     StampaEntroILimiti(foglio);
+}
+
+void tst_MemoriaDiStampa::memoriaDellaRifiutata_data()
+{
+    QTest::addColumn<QByteArray>("byte");
+    QTest::newRow("progressive JPEG of one scan, in colours")
+        << ImmaginiRare::JpegDiUnaScansione({17000, 17000}, 3, 3, true);
+    QTest::newRow("progressive JPEG of one scan, grey")
+        << ImmaginiRare::JpegDiUnaScansione({11600, 11600}, 1, 1, true);
+    QTest::newRow("JPEG whose scan lacks components")
+        << ImmaginiRare::JpegDiUnaScansione({17000, 17000}, 3, 1, false);
+}
+
+void tst_MemoriaDiStampa::memoriaDellaRifiutata()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer's own memory would be measured");
+#endif
+    QFETCH(QByteArray, byte);
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("grande.jpg"), byte, {0, 0, 210, 297});
+    StampaEntroILimiti(foglio, 1);
 }
 
 int main(int argc, char *argv[])

@@ -327,3 +327,14 @@ QByteArray ImmaginiRare::JpegDiScansioni(const QSize &pixel, int scansioni)
     return "\xFF\xD8" + TavoleJpeg() + Segmento(0xC4, corse) + FormatoJpeg(0xC2, pixel, 1) +
            ScansioneJpeg(1, 0, 0) + pari.Fine() + vuota.repeated(scansioni) + "\xFF\xD9";
 }
+
+QByteArray ImmaginiRare::JpegDiUnaScansione(const QSize &pixel, int componenti, int nellaScansione,
+                                            bool progressivo)
+{
+    // Nothing but the codes for "no change" (four bits) and "nothing else" (one), which are zeros.
+    const qint64 blocchi = qint64((pixel.width() + 7) / 8) * ((pixel.height() + 7) / 8);
+    const qint64 bit = blocchi * nellaScansione * (progressivo ? 4 : 5);
+    return "\xFF\xD8" + TavoleJpeg() + FormatoJpeg(progressivo ? 0xC2 : 0xC0, pixel, componenti) +
+           ScansioneJpeg(nellaScansione, 0, progressivo ? 0 : 63) +
+           QByteArray((bit + 7) / 8, '\0') + "\xFF\xD9";
+}

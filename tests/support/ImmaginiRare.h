@@ -42,5 +42,9 @@ QByteArray JpegDiSegmenti(int byte, char marcatore, bool inTesta, int dati = 0);
 QByteArray BmpSmisurato();
 /// A progressive JPEG of so many pixels with so many scans of next to nothing.
 QByteArray JpegDiScansioni(const QSize &pixel, int scansioni);
+/// A grey or coloured JPEG with one scan and no more, which holds only so many of its components,
+/// or (progressive) of all their pixels only the even part of each block.
+QByteArray JpegDiUnaScansione(const QSize &pixel, int componenti, int nellaScansione,
+                              bool progressivo);
 
 } // namespace ImmaginiRare
