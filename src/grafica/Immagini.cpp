@@ -19,6 +19,11 @@ constexpr qint64 PixelStampati = 36'000'000;
 
 } // namespace
 
+Immagini::TroppoGrande::TroppoGrande()
+    : ErroreSistema(ImmagineNonValida, QStringLiteral("Immagine troppo grande"))
+{
+}
+
 QSizeF Immagini::DimensioniNaturali(const QString &percorso)
 {
     return LettoreImmagine(percorso).Millimetri();

@@ -14,7 +14,7 @@ namespace Immagini {
 class TroppoGrande : public ErroreSistema
 {
 public:
-    using ErroreSistema::ErroreSistema;
+    TroppoGrande();
 };
 
 /// Natural size in mm, from the pixel size and the resolution that the file states (96 dpi when it

@@ -246,25 +246,27 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
     }
 }
 
-/// Walks the whole file. The data of a scan never hold FF followed by the number of a marker, so
-/// the end marker cannot be mistaken.
-bool JpegIntero(QByteArrayView file, const IntestazioneImmagine &intestazione)
+/// What a walk over the whole file finds. The data of a scan never hold FF followed by the number
+/// of a marker, so the end marker cannot be mistaken.
+struct Divisione
 {
-    const qint64 pixel = qint64(intestazione.Pixel.width()) * intestazione.Pixel.height();
+    int Scansioni = 0;
+    bool Smodata = false; ///< into more parts than any picture: not walked to the end
+    int Ultimo = 0;       ///< the marker that ended the walk; 0: none
+};
+
+Divisione Divide(QByteArrayView file)
+{
+    Divisione divisione;
     int segmenti = 0;
-    int scansioni = 0;
     MarcatoriJpeg::Segmento segmento;
-    for (qint64 posto = 2; MarcatoriJpeg::Prossimo(file, posto, segmento); posto = segmento.Fine) {
-        scansioni += segmento.Marcatore == MarcatoriJpeg::Sos ? 1 : 0;
-        if (++segmenti > SegmentiMassimi || scansioni > ScansioniMassime) {
-            return false;
-        }
+    for (qint64 posto = 2; !divisione.Smodata && MarcatoriJpeg::Prossimo(file, posto, segmento);
+         posto = segmento.Fine) {
+        divisione.Scansioni += segmento.Marcatore == MarcatoriJpeg::Sos ? 1 : 0;
+        divisione.Smodata = ++segmenti > SegmentiMassimi || divisione.Scansioni > ScansioniMassime;
     }
-    if ((scansioni > 1 && scansioni * pixel > PixelScansioniMassimi) ||
-        (intestazione.PiuScansioni && intestazione.Coefficienti > CoefficientiMassimi)) {
-        return false;
-    }
-    return segmento.Marcatore == MarcatoriJpeg::Eoi || DatiJpeg::Completi(file);
+    divisione.Ultimo = segmento.Marcatore;
+    return divisione;
 }
 
 } // namespace
@@ -293,7 +295,23 @@ bool IntestazioneImmagine::Intera(QByteArrayView file) const
     if (Formato == "gif") {
         return DatiGif::Interi(file);
     }
-    return Formato == "jpeg" && InizioDati > 0 && JpegIntero(file, *this);
+    if (Formato != "jpeg" || InizioDati <= 0) {
+        return false;
+    }
+    const Divisione divisione = Divide(file);
+    return !divisione.Smodata &&
+           (divisione.Ultimo == MarcatoriJpeg::Eoi || DatiJpeg::Completi(file));
+}
+
+bool IntestazioneImmagine::TroppeScansioni(QByteArrayView file) const
+{
+    if (Formato != "jpeg") {
+        return false;
+    }
+    const Divisione divisione = Divide(file);
+    const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
+    return !divisione.Smodata && divisione.Scansioni > 1 &&
+           divisione.Scansioni * pixel > PixelScansioniMassimi;
 }
 
 bool IntestazioneImmagine::TroppoGrande(qint64 byte) const
@@ -303,7 +321,8 @@ bool IntestazioneImmagine::TroppoGrande(qint64 byte) const
     const qint64 massimi = Formato == "jpeg" ? PixelJpegMassimi
                            : bmp             ? PixelMassimi
                                              : DatiGif::PixelMassimi;
-    return pixel > massimi || (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
+    return pixel > massimi || (PiuScansioni && Coefficienti > CoefficientiMassimi) ||
+           (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
            (!bmp && byte > ByteMassimi);
 }
 

@@ -42,9 +42,13 @@ struct IntestazioneImmagine
     /// What the decoder keeps in memory of a picture of several scans.
     qint64 ByteCoefficienti() const { return 2 * Coefficienti; }
 
-    /// True where a file of this length, or its pixels, are more than a second's work, however
-    /// honest the file is.
+    /// True where a file of this length, or its pixels, are more than a second's work or than the
+    /// memory of a printed page, however honest the file is.
     bool TroppoGrande(qint64 byte) const;
+
+    /// For a JPEG, the whole file given: true where all its scans together are more than a second's
+    /// work, however honest they are.
+    bool TroppeScansioni(QByteArrayView file) const;
 
     /// False for a file of this length that no program can have made in earnest: a few bytes that
     /// state huge dimensions only mean to eat the memory, and more work than a second holds is more

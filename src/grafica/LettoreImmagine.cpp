@@ -35,7 +35,7 @@ LettoreImmagine::LettoreImmagine(const QString &percorso)
     intestazione_ = IntestazioneImmagine::Legge(file_);
     // What Qt would do with a header that does not end is not to be waited for.
     if (intestazione_.InizioDati > 0 && intestazione_.TroppoGrande(file_.size())) {
-        throw Immagini::TroppoGrande(ErroreSistema::ImmagineNonValida);
+        throw Immagini::TroppoGrande();
     }
     if (intestazione_.InizioDati <= 0 || !intestazione_.Credibile(file_.size())) {
         NonValida();

@@ -1,5 +1,6 @@
 #include "grafica/LettoreImmagine.h"
 
+#include "grafica/Immagini.h"
 #include "grafica/Opacita.h"
 #include "grafica/PixelImmagine.h"
 #include "grafica/Rimpicciolimento.h"
@@ -97,6 +98,9 @@ QImage LettoreImmagine::DecodificaJpeg(const QSize &minimo)
     const QSize ridotta((pixel_.width() + fattore - 1) / fattore,
                         (pixel_.height() + fattore - 1) / fattore);
     QByteArray byte = Tutto();
+    if (intestazione_.TroppeScansioni(byte)) {
+        throw Immagini::TroppoGrande();
+    }
     if (PixelImmagine::Troppi(ridotta) || !intestazione_.Intera(byte)) {
         NonValida();
     }

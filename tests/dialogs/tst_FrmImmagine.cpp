@@ -1,6 +1,7 @@
 #include "dialogs/DialogoImmagine.h"
 #include "dialogs/FrmImmagine.h"
 #include "support/ImmaginiDiProva.h"
+#include "support/ImmaginiRare.h"
 
 #include <QDir>
 #include <QFile>
@@ -157,10 +158,12 @@ void tst_FrmImmagine::AprendoSiDiceSeNonSiLegge_data()
                             << QStringLiteral(
                                    "«aperta.bmp»: il file non si può leggere come immagine BMP, "
                                    "GIF o JPEG, non sarà mostrato né stampato");
-    QTest::newRow("troppo grande")
-        << enorme << 54 + 90'000'000 * pixel
-        << QStringLiteral("«aperta.bmp»: l'immagine è troppo grande per essere letta, non sarà "
-                          "mostrata né stampata");
+    const auto troppoGrande =
+        QStringLiteral("«aperta.bmp»: l'immagine è troppo grande per essere letta, non sarà "
+                       "mostrata né stampata");
+    QTest::newRow("troppo grande") << enorme << 54 + 90'000'000 * pixel << troppoGrande;
+    QTest::newRow("JPEG progressivo A4 a 1200 punti per pollice")
+        << ImmaginiRare::JpegDiScansioni({9921, 14031}, 9) << qint64(0) << troppoGrande;
 }
 
 void tst_FrmImmagine::AprendoSiDiceSeNonSiLegge()

@@ -37,6 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *dati, std::size_t qua
     PRETENDE(intestazione.PuntiPerPollice.height() >= 10);
     PRETENDE(intestazione.FineDati <= intestazione.FineRighe);
     intestazione.Credibile(byte.size());
+    PRETENDE(!intestazione.TroppeScansioni(byte) || intestazione.Formato == "jpeg");
     const bool intera = intestazione.Intera(byte);
     PRETENDE(!intera || intestazione.Formato == "gif" || intestazione.Formato == "jpeg");
     if (intera) {

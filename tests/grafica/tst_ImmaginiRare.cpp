@@ -54,6 +54,18 @@ QImage Fotografia(const QSize &pixel)
     return immagine;
 }
 
+/// True when the picture is refused for its size, and the message says so.
+bool DettaTroppoGrande(const QString &percorso)
+{
+    try {
+        Immagini::CaricaScalata(percorso, {600, 800});
+    } catch (const Immagini::TroppoGrande &errore) {
+        return errore.Messaggio() == QLatin1String("errore 481 Immagine troppo grande");
+    } catch (const ErroreSistema &) { // any other has been judged by its data
+    }
+    return false;
+}
+
 } // namespace
 
 class tst_ImmaginiRare : public QObject
@@ -69,6 +81,7 @@ private slots:
     void BmpTagliatoNeiPixelRifiutato();
     void AlfaDatoRimane();
     void GifOltreIPixelMassimi();
+    void JpegDiTroppeScansioni();
     void JpegOltreICoefficientiMassimi_data();
     void JpegOltreICoefficientiMassimi();
     void MoltoPrimaDeiPixel();
@@ -184,16 +197,18 @@ void tst_ImmaginiRare::GifOltreIPixelMassimi()
     const auto troppoGrande = [&](quint16 lato) {
         qToLittleEndian(lato, byte.data() + 6);
         qToLittleEndian(lato, byte.data() + 8);
-        try {
-            Immagini::CaricaScalata(Scrivi(byte + QByteArray(100'000, '\0')), {600, 800});
-        } catch (const Immagini::TroppoGrande &) {
-            return true;
-        } catch (const ErroreSistema &) { // any other has been judged by its data
-        }
-        return false;
+        return DettaTroppoGrande(Scrivi(byte + QByteArray(100'000, '\0')));
     };
     QVERIFY(!troppoGrande(7745));
     QVERIFY(troppoGrande(7746)); // 60,000,516 pixels
+}
+
+void tst_ImmaginiRare::JpegDiTroppeScansioni()
+{
+    QVERIFY(!DettaTroppoGrande(Scrivi(JpegDiScansioni({4800, 4800}, 63))));
+    QVERIFY(DettaTroppoGrande(Scrivi(JpegDiScansioni({4842, 4842}, 63)))); // 1,500,477,696 pixels
+    // More scans than any program writes: no picture in earnest.
+    QVERIFY(!DettaTroppoGrande(Scrivi(JpegDiScansioni({64, 64}, 64))));
 }
 
 void tst_ImmaginiRare::JpegOltreICoefficientiMassimi_data()
@@ -203,6 +218,8 @@ void tst_ImmaginiRare::JpegOltreICoefficientiMassimi_data()
     QTest::addColumn<bool>("oltre");
     QTest::newRow("progressivo") << JpegDiUnaScansione({8192, 16384}, 1, 1, true) << false;
     QTest::newRow("progressivo, oltre") << JpegDiUnaScansione({8192, 16385}, 1, 1, true) << true;
+    QTest::newRow("progressivo A4 a 1200 punti per pollice")
+        << JpegDiScansioni({9921, 14031}, 9) << true;
     QTest::newRow("di un componente su tre")
         << JpegDiUnaScansione({6688, 6688}, 3, 1, false) << false;
     QTest::newRow("di un componente su tre, oltre")
