@@ -28,9 +28,10 @@ constexpr qint64 TestaMassima = 8'000'000;
 constexpr int ScansioniMassime = 64;
 
 // What is decoded within a second. A3 at 600 dots per inch has 70 million pixels; only a JPEG can
-// be decoded reduced, so it may be larger: A3 at 1200.
+// be decoded reduced, so it may be larger: A3 at 1200, or A4 where it has to be decoded twice.
 constexpr qint64 PixelMassimi = 80'000'000;
 constexpr qint64 PixelJpegMassimi = 300'000'000;
+constexpr qint64 PixelInchiostriMassimi = PixelJpegMassimi / 2;
 constexpr qint64 ByteMassimi = 64'000'000;
 constexpr qint64 ByteCompressiMassimi = 40'000'000;
 /// Of all scans together, where there are several.
@@ -318,9 +319,10 @@ bool IntestazioneImmagine::TroppoGrande(qint64 byte) const
 {
     const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
     const bool bmp = Formato == "bmp";
-    const qint64 massimi = Formato == "jpeg" ? PixelJpegMassimi
-                           : bmp             ? PixelMassimi
-                                             : DatiGif::PixelMassimi;
+    const qint64 massimi = bmp                   ? PixelMassimi
+                           : Formato == "gif"    ? DatiGif::PixelMassimi
+                           : InchiostriDiritti() ? PixelInchiostriMassimi
+                                                 : PixelJpegMassimi;
     return pixel > massimi || (PiuScansioni && Coefficienti > CoefficientiMassimi) ||
            (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
            (!bmp && byte > ByteMassimi);

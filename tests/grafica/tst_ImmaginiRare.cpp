@@ -81,6 +81,7 @@ private slots:
     void BmpTagliatoNeiPixelRifiutato();
     void AlfaDatoRimane();
     void GifOltreIPixelMassimi();
+    void InchiostriDirittiOltreIPixelMassimi();
     void JpegDiTroppeScansioni();
     void JpegOltreICoefficientiMassimi_data();
     void JpegOltreICoefficientiMassimi();
@@ -203,6 +204,18 @@ void tst_ImmaginiRare::GifOltreIPixelMassimi()
     QVERIFY(troppoGrande(7746)); // 60,000,516 pixels
 }
 
+void tst_ImmaginiRare::InchiostriDirittiOltreIPixelMassimi()
+{
+    // Decoded twice, so half as many as of other JPEGs: an A4 at 1200 dots per inch still.
+    const QString percorso = Scrivi(JpegDiUnaScansione({12'247, 12'247}, 4, 4, false));
+    QVERIFY(!DettaTroppoGrande(percorso));
+    const TempoDiLavoro tempo;
+    QVERIFY(!Immagini::CaricaEntro(percorso, {4960, 7016}).Immagine.isNull());
+    QVERIFY2(tempo.Entro(Secondo), qPrintable(QString::number(tempo.MilliSecondi())));
+    QVERIFY(DettaTroppoGrande(Scrivi(JpegDiUnaScansione({12'248, 12'248}, 4, 4, false))));
+    QVERIFY(!DettaTroppoGrande(Scrivi(JpegDiUnaScansione({12'248, 12'248}, 3, 3, false))));
+}
+
 void tst_ImmaginiRare::JpegDiTroppeScansioni()
 {
     QVERIFY(!DettaTroppoGrande(Scrivi(JpegDiScansioni({4800, 4800}, 63))));
@@ -282,6 +295,8 @@ void tst_ImmaginiRare::EntroUnSecondo_data()
         << JpegDiUnaScansione({17000, 17000}, 3, 1, false);
     QTest::newRow("135 megapixel, una scansione progressiva")
         << JpegDiUnaScansione({11600, 11600}, 1, 1, true);
+    QTest::newRow("289 megapixel di inchiostri diritti")
+        << JpegDiUnaScansione({17000, 17000}, 4, 4, false);
     const QByteArray gif = ImmaginiDiProva::GifTrasparente();
     QTest::newRow("GIF di commenti d'un byte") << gif.left(19) + QByteArray("\x21\xFE") +
                                                       QByteArray("\1a").repeated(2'500'000) +
