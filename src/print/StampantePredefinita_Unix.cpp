@@ -48,6 +48,22 @@ private:
     QPdfWriter scrittore_;
 };
 
+/// The margins of the upright sheet as a page has them that is turned on it.
+QMarginsF Girati(const QMarginsF &m, SistemaDiStampa::Verso verso)
+{
+    switch (verso) {
+    case SistemaDiStampa::Verso::ASinistra:
+        return {m.bottom(), m.left(), m.top(), m.right()};
+    case SistemaDiStampa::Verso::ADestra:
+        return {m.top(), m.right(), m.bottom(), m.left()};
+    case SistemaDiStampa::Verso::Capovolto:
+        return {m.right(), m.bottom(), m.left(), m.top()};
+    case SistemaDiStampa::Verso::Diritto:
+        break;
+    }
+    return m;
+}
+
 /// The page of the printer object, but of the very size that the queue knows for it: a PDF that
 /// differs by a point is centred on the sheet, half a point off.
 QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDellaCoda &coda)
@@ -67,14 +83,10 @@ QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDel
         foglio.setPageSize(
             QPageSize(*nota, QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
     }
-    if (!coda.Orizzontale) {
-        return {foglio.pageSize(), QPageLayout::Portrait, margini, QPageLayout::Point};
-    }
-    const QMarginsF girati =
-        coda.InSensoOrario
-            ? QMarginsF(margini.top(), margini.right(), margini.bottom(), margini.left())
-            : QMarginsF(margini.bottom(), margini.left(), margini.top(), margini.right());
-    return {foglio.pageSize(), QPageLayout::Landscape, girati, QPageLayout::Point};
+    const bool giace = coda.Pagina == SistemaDiStampa::Verso::ASinistra ||
+                       coda.Pagina == SistemaDiStampa::Verso::ADestra;
+    return {foglio.pageSize(), giace ? QPageLayout::Landscape : QPageLayout::Portrait,
+            Girati(margini, coda.Pagina), QPageLayout::Point};
 }
 
 } // namespace

@@ -250,6 +250,23 @@ SistemaDiStampa::Impostazioni ImpostazioniDi(http_t *http, const QString &coda)
     return impostazioni;
 }
 
+SistemaDiStampa::Verso VersoDi(const SistemaDiStampa::Impostazioni &impostazioni)
+{
+    using SistemaDiStampa::Verso;
+    const auto orientamento = std::find_if(impostazioni.begin(), impostazioni.end(),
+                                           [](const auto &i) { return i.first == Orientamento; });
+    switch (orientamento == impostazioni.end() ? 0 : orientamento->second.toInt()) {
+    case IPP_ORIENT_LANDSCAPE:
+        return Verso::ASinistra;
+    case IPP_ORIENT_REVERSE_LANDSCAPE:
+        return Verso::ADestra;
+    case IPP_ORIENT_REVERSE_PORTRAIT:
+        return Verso::Capovolto;
+    default:
+        return Verso::Diritto;
+    }
+}
+
 /// The settings of one job, as the library wants them.
 class OpzioniDelLavoro
 {
@@ -318,25 +335,13 @@ bool SistemaDiStampa::Risponde()
 
 SistemaDiStampa::FoglioDellaCoda SistemaDiStampa::ChiedeFoglio(const QString &coda)
 {
-    constexpr std::array<const char *, 3> Attributi{PropriaCarta, Carte,
-                                                    "landscape-orientation-requested-preferred"};
+    constexpr std::array<const char *, 2> Attributi{PropriaCarta, Carte};
     const Connessione connessione = ConnetteAdOgniCosto();
     const Risposta risposta = Chiede(connessione.get(), coda, Attributi);
     FoglioDellaCoda foglio;
     foglio.Misure = MisureDi(risposta.get());
     foglio.DellUtente = ImpostazioniDi(connessione.get(), coda);
-    QByteArray verso;
-    for (const auto &[nome, valore] : std::as_const(foglio.DellUtente)) {
-        if (nome == Orientamento) {
-            verso = valore;
-        }
-    }
-    foglio.Orizzontale = verso == QByteArray::number(IPP_ORIENT_LANDSCAPE) ||
-                         verso == QByteArray::number(IPP_ORIENT_REVERSE_LANDSCAPE);
-    ipp_attribute_t *preferito =
-        ippFindAttribute(risposta.get(), "landscape-orientation-requested-preferred", IPP_TAG_ENUM);
-    foglio.InSensoOrario =
-        preferito != nullptr && ippGetInteger(preferito, 0) == IPP_ORIENT_REVERSE_LANDSCAPE;
+    foglio.Pagina = VersoDi(foglio.DellUtente);
     return foglio;
 }
 

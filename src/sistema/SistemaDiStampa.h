@@ -25,13 +25,15 @@ ErroreSistema NonRisponde();
 /// Names and values of what a queue does unasked, or is asked for one job.
 using Impostazioni = QList<std::pair<QByteArray, QByteArray>>;
 
+/// How a page is turned on the upright sheet.
+enum class Verso { Diritto, ASinistra, ADestra, Capovolto };
+
 /// What the queue prints on when nothing is asked of it.
 struct FoglioDellaCoda
 {
-    QList<QSizeF> Misure;       ///< mm, upright: all that it takes, its own first, as it tells
-    bool Orizzontale = false;   ///< the sheet is used with its long side across
-    bool InSensoOrario = false; ///< ... and turned to the right for it
-    Impostazioni DellUtente;    ///< what else the user has set for the queue
+    QList<QSizeF> Misure; ///< mm, upright: all that it takes, its own first, as it tells
+    Verso Pagina = Verso::Diritto;
+    Impostazioni DellUtente; ///< what else the user has set for the queue
 };
 
 /// Throws ErroreSistema 482 when the queue does not answer or is unknown.

@@ -94,27 +94,36 @@ void tst_ImpostazioniDiStampa::carta()
 void tst_ImpostazioniDiStampa::orizzontale_data()
 {
     QTest::addColumn<QString>("impostazione");
-    QTest::addColumn<bool>("giace");
-    QTest::newRow("new name") << QStringLiteral("orientation-requested=4") << true;
-    QTest::newRow("old name") << QStringLiteral("landscape") << true;
-    QTest::newRow("old name, denied") << QStringLiteral("landscape=no") << false;
+    QTest::addColumn<QRectF>("atteso"); // a frame 140 x 20 mm from the page's corner, mm
+    constexpr QSizeF Foglio = QSizeF(595, 842) * MillimetriPerPunto;
+    constexpr double Sinistra = Bordi.Sinistra * MillimetriPerPunto;
+    constexpr double Sopra = Bordi.Sopra * MillimetriPerPunto;
+    constexpr double Destra = Foglio.width() - Bordi.Destra * MillimetriPerPunto;
+    constexpr double Sotto = Foglio.height() - Bordi.Sotto * MillimetriPerPunto;
+    const QRectF diritta(Sinistra + 140, Sopra + 20, 40.5, 10.5);
+    const QRectF aSinistra(Sinistra + 20, Sotto - 180.5, 10.5, 40.5);
+    const QRectF aDestra(Destra - 30.5, Sopra + 140, 10.5, 40.5);
+    const QRectF capovolta(Destra - 180.5, Sotto - 30.5, 40.5, 10.5);
+    const auto riga = [](const char *nome, const char *impostazione, const QRectF &atteso) {
+        QTest::newRow(nome) << QString::fromLatin1(impostazione) << atteso;
+    };
+    riga("upright", "orientation-requested=3", diritta);
+    riga("new name", "orientation-requested=4", aSinistra);
+    riga("turned to the right", "orientation-requested=5", aDestra);
+    riga("upside down", "orientation-requested=6", capovolta);
+    riga("old name", "landscape", aSinistra);
+    riga("old name, denied", "landscape=no", diritta);
 }
 
 void tst_ImpostazioniDiStampa::orizzontale()
 {
     QFETCH(QString, impostazione);
-    QFETCH(bool, giace);
+    QFETCH(QRectF, atteso);
     coda_->Imposta({QStringLiteral("-p"), Prova, QStringLiteral("-o"), impostazione});
     FoglioDiProva foglio;
     foglio.ConCornice({140, 20, 40, 10}, 1.5);
     const LettorePdf pdf = Stampa(foglio);
     QVERIFY(Vicini(pdf.Foglio().width(), 210, 0.3));
-    // A page that lies is turned to the left on the upright sheet.
-    const QRectF atteso = giace
-                              ? QRectF(Bordi.Sinistra * MillimetriPerPunto + 20,
-                                       (842 - Bordi.Sotto) * MillimetriPerPunto - 180.5, 10.5, 40.5)
-                              : QRectF(Bordi.Sinistra * MillimetriPerPunto + 140,
-                                       Bordi.Sopra * MillimetriPerPunto + 20, 40.5, 10.5);
     const QRectF quadro = pdf.Inchiostro();
     QVERIFY2(Vicini(quadro, atteso), Testo(quadro));
 }
