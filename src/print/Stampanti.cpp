@@ -14,6 +14,14 @@ namespace {
 
 constexpr int RisoluzionePdf = 1200;
 
+/// A family that two foundries ship is told twice, as "Name [foundry]"; both are asked for, and
+/// known to other systems, by the name alone.
+QString SenzaFonderia(const QString &famiglia)
+{
+    const QString nome = famiglia.section(QLatin1String(" ["), 0, 0);
+    return famiglia.endsWith(u']') && QFontDatabase::hasFamily(nome) ? nome : famiglia;
+}
+
 /// The writer of PDF files tells nobody when the disk is full: its last words must be there.
 bool PdfIntero(const QString &percorso)
 {
@@ -60,10 +68,11 @@ QStringList Stampanti::ElencoFont()
     const QStringList tutte = QFontDatabase::families();
     for (const QString &famiglia : tutte) {
         if (!QFontDatabase::isPrivateFamily(famiglia) && !FontGenerico(famiglia)) {
-            famiglie.append(famiglia);
+            famiglie.append(SenzaFonderia(famiglia));
         }
     }
     famiglie += FontSostituitiAllaPari();
+    famiglie.removeDuplicates();
     famiglie.sort(Qt::CaseInsensitive);
     return famiglie;
 }

@@ -12,8 +12,9 @@ namespace Stampanti {
 
 inline constexpr int FontAlMassimo = 2000;
 
-/// The printer's font families, without the system's generic names; with the well-known ones that
-/// the system sets with another of the same widths, so that models made elsewhere find their fonts.
+/// The printer's font families, each once whatever foundries it comes from, without the system's
+/// generic names; with the well-known ones that the system sets with another of the same widths, so
+/// that models made elsewhere find their fonts.
 QStringList ElencoFont();
 
 /// The default printer's own page at its highest resolution, origin at the printable corner, no

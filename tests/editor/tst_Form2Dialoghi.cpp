@@ -10,6 +10,7 @@
 #include "support/Robot.h"
 
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -61,7 +62,8 @@ private slots:
     void EliminaCornice();
     void EliminaImmagine();
     void FontSconosciutoDiventaArial();
-    void FontDiPariLarghezzeResta();
+    void FontCheSiVedeResta_data();
+    void FontCheSiVedeResta();
     void DimensioneFuoriElencoNonSiSceglie();
     void DimensioniConUnaCifra();
     void MascheraFuoriCatalogo();
@@ -210,17 +212,26 @@ void tst_Form2Dialoghi::FontSconosciutoDiventaArial()
     QCOMPARE(e.Aperto().Campi[2].Font, QStringLiteral("Inesistente"));
 }
 
-void tst_Form2Dialoghi::FontDiPariLarghezzeResta()
+void tst_Form2Dialoghi::FontCheSiVedeResta_data()
 {
+    QTest::addColumn<QString>("font");
+    QTest::newRow("sostituito alla pari") << QStringLiteral("Times New Roman");
+    if (const auto nimbus = QStringLiteral("Nimbus Sans"); QFontDatabase::hasFamily(nimbus)) {
+        QTest::newRow("di due fonderie") << nimbus;
+    }
+}
+
+void tst_Form2Dialoghi::FontCheSiVedeResta()
+{
+    QFETCH(QString, font);
     EditorDiProva e;
     e.prova.Stato().ElencoFont = Stampanti::ElencoFont();
-    const QString tondo = QStringLiteral("Times New Roman");
-    Modifica(e.prova.Stato(), [&](Modello &modello) { modello.Cornici[2].Font = tondo; });
+    Modifica(e.prova.Stato(), [&](Modello &modello) { modello.Cornici[2].Font = font; });
     Robot robot;
     robot.Agisce([](QDialog *d) { Preme(*d, "Confema"); });
     e.editor->ApreFrmCornice(2);
     QVERIFY2(robot.Soddisfatto(), "no box says that the font is missing");
-    QCOMPARE(e.Aperto().Cornici[2].Font, tondo);
+    QCOMPARE(e.Aperto().Cornici[2].Font, font);
 }
 
 void tst_Form2Dialoghi::DimensioneFuoriElencoNonSiSceglie()

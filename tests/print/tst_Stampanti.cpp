@@ -36,10 +36,14 @@ void tst_Stampanti::elencoFont()
     QVERIFY(!elenco.isEmpty());
     QVERIFY2(elenco.contains(QStringLiteral("Arial")), "a new element's font must be on the list");
     for (const QString &famiglia : QFontDatabase::families()) {
+        // Qt tells families of one name apart by their foundries. A model holds the name alone,
+        // which is what other machines and other programs know.
+        const QString nome = famiglia.section(QStringLiteral(" ["), 0, 0);
         if (!QFontDatabase::isPrivateFamily(famiglia) && !Generici.contains(famiglia)) {
-            QVERIFY2(elenco.contains(famiglia), qPrintable(famiglia));
+            QVERIFY2(elenco.contains(nome), qPrintable(famiglia));
         }
     }
+    QVERIFY2(elenco.filter(QStringLiteral("[")).isEmpty(), "a foundry is no part of a name");
 }
 
 void tst_Stampanti::elencoFontSenzaDoppi()
@@ -63,7 +67,7 @@ void tst_Stampanti::inElencoComeSulFoglio_data()
 {
     QTest::addColumn<QString>("famiglia");
     for (const char *famiglia : {"Times New Roman", "Courier New", "Times", "Courier", "Helvetica",
-                                 "DejaVu Sans", "Serif", "Font Mai Esistito"}) {
+                                 "DejaVu Sans", "Nimbus Sans", "Serif", "Font Mai Esistito"}) {
         QTest::newRow(famiglia) << QString::fromLatin1(famiglia);
     }
 }
