@@ -53,16 +53,12 @@ QStringList FigureDi(const Modello &modello, const QString &cartella)
     return figure;
 }
 
-bool HaNomeDiModello(const QString &percorso)
+/// Asked of each name on the way too: a link with a model's name is the model to Vastrel.
+bool HaNomeDiModello(const QStringList &nomi)
 {
-    const QString dietroICollegamenti = QFileInfo(percorso).canonicalFilePath();
-    return percorso.endsWith(EstensioneModello, Qt::CaseInsensitive) ||
-           dietroICollegamenti.endsWith(EstensioneModello, Qt::CaseInsensitive);
-}
-
-bool EModello(const QString &uscita, const QString &percorsoModello)
-{
-    return HaNomeDiModello(uscita) || UnSoloFile(uscita, percorsoModello);
+    return std::any_of(nomi.begin(), nomi.end(), [](const QString &nome) {
+        return nome.endsWith(EstensioneModello, Qt::CaseInsensitive);
+    });
 }
 
 [[noreturn]] void Rifiuta(const QString &motivo, const QString &file)
@@ -89,20 +85,22 @@ void FileDiUscita::Verifica(const QStringList &uscite, const QString &percorsoMo
 {
     const QString cartella = QFileInfo(percorsoModello).absolutePath() + Percorsi::Separatore();
     const QStringList figure = FigureDi(modello, cartella);
-    for (qsizetype i = 0; i < uscite.size(); ++i) {
-        const QString &uscita = uscite[i];
-        if (EModello(uscita, percorsoModello)) {
+    QStringList file; // behind any links
+    for (const QString &uscita : uscite) {
+        QStringList nomi;
+        Nominando(uscita, [&] { nomi = Disco::DietroICollegamenti(uscita); });
+        const QString &scritto = nomi.constLast();
+        if (HaNomeDiModello(nomi) || UnSoloFile(scritto, percorsoModello)) {
             Rifiuta(QStringLiteral("il modello non può essere sovrascritto"), uscita);
         }
-        if (std::any_of(figure.begin(), figure.end(),
-                        [&](const QString &figura) { return Coincidono(uscita, figura); })) {
+        const auto coincide = [&](const QString &altro) { return Coincidono(scritto, altro); };
+        if (std::any_of(figure.begin(), figure.end(), coincide)) {
             Rifiuta(QStringLiteral("un'immagine del modello non può essere sovrascritta"), uscita);
         }
-        for (qsizetype k = 0; k < i; ++k) {
-            if (Coincidono(uscita, uscite[k])) {
-                Rifiuta(QStringLiteral("due uscite nello stesso file"), uscita);
-            }
+        if (std::any_of(file.begin(), file.end(), coincide)) {
+            Rifiuta(QStringLiteral("due uscite nello stesso file"), uscita);
         }
+        file.append(scritto);
     }
 }
 

@@ -17,19 +17,7 @@ namespace {
 /// The file that the path stands for, behind any symbolic links; it need not exist.
 QFileInfo Bersaglio(const QString &percorso)
 {
-    // A half of a surrogate pair can be typed by nobody, but the standard library throws its own
-    // exception at it.
-    if (!percorso.isValidUtf16()) {
-        throw ErroreSistema(ErroreSistema::AccessoFile);
-    }
-    constexpr int CollegamentiAlMassimo = 40;
-    QFileInfo file(percorso);
-    for (int i = 0; file.isSymLink(); ++i) {
-        if (i == CollegamentiAlMassimo) {
-            throw ErroreSistema(ErroreSistema::AccessoFile);
-        }
-        file.setFile(file.symLinkTarget());
-    }
+    const QFileInfo file(Disco::DietroICollegamenti(percorso).constLast());
     // The administrator may write what nobody is meant to: whoever protected it wants it so.
     constexpr auto PerQualcuno = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     if (file.fileName().isEmpty() || (file.exists() && (!file.isFile() || !file.isWritable() ||
@@ -141,6 +129,24 @@ void Riscrive(const QFileInfo &bersaglio, const QByteArray &byte)
 }
 
 } // namespace
+
+QStringList Disco::DietroICollegamenti(const QString &percorso)
+{
+    // A half of a surrogate pair can be typed by nobody, but the standard library throws its own
+    // exception at it.
+    if (!percorso.isValidUtf16()) {
+        throw ErroreSistema(ErroreSistema::AccessoFile);
+    }
+    constexpr int CollegamentiAlMassimo = 40;
+    QStringList nomi{percorso};
+    for (QFileInfo file(percorso); file.isSymLink(); file.setFile(nomi.constLast())) {
+        if (nomi.size() > CollegamentiAlMassimo) {
+            throw ErroreSistema(ErroreSistema::AccessoFile);
+        }
+        nomi.append(file.symLinkTarget());
+    }
+    return nomi;
+}
 
 QByteArray Disco::Legge(const QString &percorso, qint64 massimo)
 {

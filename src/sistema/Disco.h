@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <system_error>
@@ -19,6 +20,10 @@ QByteArray Legge(const QString &percorso, qint64 massimo);
 
 /// The first bytes of a regular file, at most massimo of them. Throws as Legge, but not 7.
 QByteArray LeggeInizio(const QString &percorso, qint64 massimo);
+
+/// The path, and what each symbolic link on the way leads to; the last is no link, and need not
+/// exist: what Sostituisce writes. Throws 75 for more links than the system would follow.
+QStringList DietroICollegamenti(const QString &percorso);
 
 /// Sees to it that the new bytes are safe on the medium elsewhere; throws when it cannot.
 using PrimaDiRiscrivere = std::function<void()>;

@@ -22,6 +22,8 @@ private slots:
     void nonToccaLaCartellaDelModello();
     void nienteDiQuelCheServe_data();
     void nienteDiQuelCheServe();
+    void collegamentoAppeso_data();
+    void collegamentoAppeso();
     void dueUsciteInUnFile_data();
     void dueUsciteInUnFile();
     void discoPienoLasciaLeUsciteDiPrima_data();
@@ -142,6 +144,42 @@ void tst_UsciteDaRigaDiComando::nienteDiQuelCheServe()
     QCOMPARE(byteDiTutti(), prima);
 }
 
+void tst_UsciteDaRigaDiComando::collegamentoAppeso_data()
+{
+    QTest::addColumn<QStringList>("catena"); // of symbolic links, from the output on
+    QTest::addColumn<QString>("motivo");     // empty: written where the links lead
+    const QString modello = QStringLiteral("il modello non può essere sovrascritto");
+    const auto riga = [](const char *nome, const char *catena, const QString &motivo) {
+        QTest::newRow(nome) << QString::fromLatin1(catena).split(u' ') << motivo;
+    };
+    riga("model", "a.pdf nuovo.Mod", modello);
+    riga("model behind another link", "a.pdf b nuovo.mod", modello);
+    riga("link that bears a model's name", "a.pdf nuovo.MOD altrove", modello);
+    riga("picture", "a.pdf sparita.png",
+         QStringLiteral("un'immagine del modello non può essere sovrascritta"));
+    riga("nothing that is needed", "a.pdf b c.pdf", QString());
+}
+
+void tst_UsciteDaRigaDiComando::collegamentoAppeso()
+{
+    QFETCH(QStringList, catena);
+    QFETCH(QString, motivo);
+    QList<QByteArray> righe = ByteDi(Modello()).split('\n');
+    righe[2] = QFile::encodeName(In(QStringLiteral("sparita.png"))) + '\r';
+    righe[4] = "0\r"; // not shown: no message of it
+    ScriveFile(Modello(), righe.join('\n'));
+    for (qsizetype i = 1; i < catena.size(); ++i) {
+        QVERIFY(QFile::link(In(catena[i]), In(catena[i - 1])));
+    }
+    const QString uscita = In(catena.constFirst());
+    const Esito esito =
+        Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"), uscita});
+    QCOMPARE(esito.errori, motivo.isEmpty()
+                               ? QString()
+                               : QStringLiteral("errore 75 %1: %2\n").arg(motivo, uscita));
+    QCOMPARE(QFile::exists(In(catena.constLast())), motivo.isEmpty());
+}
+
 void tst_UsciteDaRigaDiComando::dueUsciteInUnFile_data()
 {
     QTest::addColumn<QString>("pdf");
@@ -152,6 +190,8 @@ void tst_UsciteDaRigaDiComando::dueUsciteInUnFile_data()
         << QStringLiteral("a.pdf") << QStringLiteral("qui/a.pdf");
     QTest::newRow("names that differ by case")
         << QStringLiteral("a.pdf") << QStringLiteral("A.PDF");
+    QTest::newRow("through a link to a file that is not there")
+        << QStringLiteral("a.pdf") << QStringLiteral("appesa.png");
 }
 
 void tst_UsciteDaRigaDiComando::dueUsciteInUnFile()
@@ -163,6 +203,7 @@ void tst_UsciteDaRigaDiComando::dueUsciteInUnFile()
                   QFile::encodeName(In(QStringLiteral("b.png"))).constData()),
              0);
     QVERIFY(QFile::link(dir_->path(), In(QStringLiteral("qui"))));
+    QVERIFY(QFile::link(In(QStringLiteral("a.pdf")), In(QStringLiteral("appesa.png"))));
     const QStringList prima = NomiIn(dir_->path());
     const Esito esito = Esegue({QStringLiteral("--modello"), Modello(), QStringLiteral("--pdf"),
                                 In(pdf), QStringLiteral("--anteprima"), In(png)});
