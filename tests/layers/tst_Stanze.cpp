@@ -1,6 +1,6 @@
+#include "Sorgenti.h"
+
 #include <QDir>
-#include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QMap>
 #include <QRegularExpression>
@@ -17,12 +17,6 @@ struct Stanza
     QStringList altre;  ///< rooms
     QStringList moduli; ///< of Qt, without "Qt"
 };
-
-QString Leggi(const QString &percorso)
-{
-    QFile file(percorso);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 /// The table that the build reads too.
 const QMap<QString, Stanza> &Tabella()
@@ -47,17 +41,6 @@ const QMap<QString, Stanza> &Tabella()
 bool DelModulo(const QString &modulo, const QString &inclusa)
 {
     return QFile::exists(QStringLiteral(CARTELLA_QT "/Qt%1/%2").arg(modulo, inclusa));
-}
-
-QStringList Sorgenti(const QString &cartella)
-{
-    QStringList trovati;
-    QDirIterator giro(cartella, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
-                      QDirIterator::Subdirectories);
-    while (giro.hasNext()) {
-        trovati.append(giro.next());
-    }
-    return trovati;
 }
 
 QStringList Inclusioni(const QString &percorso)
