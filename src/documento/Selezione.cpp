@@ -13,6 +13,9 @@ Selezione::Selezione(const Documento &documento)
 void Selezione::Sceglie(Chiave chiave)
 {
     documento_.Aperto().Di(chiave); // checks the number
+    if (!documento_.InVista(chiave)) {
+        return;
+    }
     attivi_.at(Posto(chiave.genere)) = chiave.indice;
     emit Cambiata(chiave.genere);
 }
@@ -30,7 +33,7 @@ void Selezione::ImpostaScelti(const QList<Chiave> &chiavi)
     QList<Chiave> scelti;
     for (const Chiave &chiave : chiavi) {
         documento_.Aperto().Di(chiave); // checks the number
-        if (!scelti.contains(chiave)) {
+        if (documento_.InVista(chiave) && !scelti.contains(chiave)) {
             scelti.append(chiave);
         }
     }

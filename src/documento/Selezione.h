@@ -23,8 +23,9 @@ public:
 
     /// Number of the active element of the kind; 0 when there is none.
     int Attivo(Genere genere) const { return attivi_.at(Posto(genere)); }
-    /// Throws ErroreSistema 9 for a number outside the table. Tells it anew, too, when the element
-    /// was the active one already: its handle comes back to it.
+    /// Throws ErroreSistema 9 for a number outside the table, and does nothing for an element that
+    /// is not in view. Tells it anew, too, when the element was the active one already: its handle
+    /// comes back to it.
     void Sceglie(Chiave chiave);
     /// No element of the kind is active.
     void Lascia(Genere genere);
@@ -33,7 +34,8 @@ public:
     const QList<Chiave> &Scelti() const { return scelti_; }
     bool EScelto(Chiave chiave) const { return scelti_.contains(chiave); }
     /// The elements as the chosen set, the last one chosen last; a repeated one counts where it
-    /// stands first. Throws ErroreSistema 9, and changes nothing, for a number outside the table.
+    /// stands first, one that is not in view is left out. Throws ErroreSistema 9, and changes
+    /// nothing, for a number outside the table.
     void ImpostaScelti(const QList<Chiave> &chiavi);
     /// Puts the elements that are not there yet at the end of the set. Throws as ImpostaScelti.
     void AggiungeScelti(const QList<Chiave> &chiavi);

@@ -317,7 +317,7 @@ void Form2::MostraPaginaDi(Genere genere)
     }
     ui_->SSTab1->setCurrentWidget(&Pagina(genere));
     // Changing the page hides the handles; the element that the user has in hand keeps its own.
-    if (const int indice = Pagina(genere).Indice(); indice > 0) {
-        anteprima_->Seleziona(genere, indice);
+    if (const Chiave chiave{genere, Pagina(genere).Indice()}; stato_.documento.InVista(chiave)) {
+        anteprima_->Seleziona(genere, chiave.indice);
     }
 }

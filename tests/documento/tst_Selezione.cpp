@@ -51,6 +51,7 @@ private slots:
     void FuoriDallaTabellaNonSiSceglieInsieme();
     void CioCheLasciaIlFoglioNonEPiuScelto();
     void UnAltroModelloNonHaScelti();
+    void CioCheNonSiVedeNonSiSceglie();
 };
 
 void tst_Selezione::OgniGenereHaIlSuo()
@@ -194,6 +195,31 @@ void tst_Selezione::UnAltroModelloNonHaScelti()
     banco.stato.selezione.ImpostaScelti({{Genere::Campo, 2}});
     banco.stato.documento.Prende(banco.stato.Aperto(), false);
     QVERIFY(banco.stato.selezione.Scelti().isEmpty());
+}
+
+void tst_Selezione::CioCheNonSiVedeNonSiSceglie()
+{
+    Banco banco;
+    Selezione &selezione = banco.stato.selezione;
+    Passo(banco.stato.documento, QStringLiteral("elimina")).Elimina({Genere::Campo, 2});
+    selezione.Sceglie({Genere::Campo, 1});
+    const QSignalSpy cambiata(&selezione, &Selezione::Cambiata);
+    selezione.Sceglie({Genere::Campo, 2});    // deleted
+    selezione.Sceglie({Genere::Cornice, 3});  // beyond the count
+    selezione.Sceglie({Genere::Immagine, 0}); // the separator
+    QCOMPARE(banco.Attivi(), (QList<int>{1, 0, 0}));
+    QCOMPARE(cambiata.size(), 0);
+    selezione.ImpostaScelti({{Genere::Campo, 2}, {Genere::Campo, 3}, {Genere::Cornice, 3}});
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{{Genere::Campo, 3}}));
+    selezione.AlternaScelto({Genere::Campo, 2});
+    QCOMPARE(selezione.Scelti(), (QList<Chiave>{{Genere::Campo, 3}}));
+    // A new image has no name yet and is in view all the same.
+    const Chiave nuova = Passo(banco.stato.documento, QStringLiteral("aggiunge"))
+                             .Aggiunge(Genere::Immagine, {5, 5}, {});
+    selezione.Sceglie(nuova);
+    selezione.AggiungeScelti({nuova});
+    QCOMPARE(selezione.Attivo(Genere::Immagine), nuova.indice);
+    QVERIFY(selezione.EScelto(nuova));
 }
 
 QTEST_GUILESS_MAIN(tst_Selezione)

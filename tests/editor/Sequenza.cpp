@@ -187,7 +187,7 @@ QString Sequenza::Esegue(const QString &nome, const std::function<void()> &azion
     if (robot.Testi().size() >= RiquadriMassimi) {
         return QStringLiteral("a command that does not stop asking");
     }
-    return {};
+    return ManigliaFuoriVista();
 }
 
 void Sequenza::Risponde(QDialog *dialogo)
@@ -228,6 +228,7 @@ QString Sequenza::Comando()
         {"sfondo", 7, &Sequenza::Sfondo},
         {"vista", 8, &Sequenza::Vista},
         {"salva", 2, &Sequenza::Salva},
+        {"storia", 8, &Sequenza::Storia},
     };
     int pesi = 0;
     for (const auto &voce : Vocabolario) {
@@ -381,6 +382,26 @@ void Sequenza::Salva()
     if (!Posto.Variato() && Posto.Archivio.ByteDelFile() != Posto.DaSalvare()) {
         QTest::qFail("the file is not what was saved", __FILE__, __LINE__);
     }
+}
+
+void Sequenza::Storia()
+{
+    for (int k = 1 + Numero(4); k > 0; --k) {
+        Posto.Preme(Uno({"Annulla", "Ripristina"}));
+    }
+}
+
+QString Sequenza::ManigliaFuoriVista() const
+{
+    for (const Genere genere : Generi) {
+        const Chiave attivo{genere, Posto.Archivio.Stato().selezione.Attivo(genere)};
+        if (attivo.indice != 0 && !Posto.Archivio.Stato().documento.InVista(attivo)) {
+            return QStringLiteral("a handle on %1 %2, which is not in view")
+                .arg(NomeDi(genere))
+                .arg(attivo.indice);
+        }
+    }
+    return {};
 }
 
 QString Sequenza::Chiude()

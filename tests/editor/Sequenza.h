@@ -75,6 +75,10 @@ private:
     void Sfondo();
     void Vista();
     void Salva();
+    void Storia();
+
+    /// Empty when every handle stands on an element that the sheet shows.
+    QString ManigliaFuoriVista() const;
 
     std::mt19937 generatore_;
     QStringList diario_;

@@ -2,6 +2,8 @@
 
 #include "EditoreDiProva.h"
 
+#include "support/Generi.h"
+
 #include <QComboBox>
 #include <QGraphicsView>
 #include <QScrollBar>
@@ -77,6 +79,13 @@ public:
         QTest::mouseRelease(Anteprima().windowHandle(), Qt::LeftButton, {}, Locale(punto));
     }
     void Muove(QPointF punto) const { QTest::mouseMove(Anteprima().windowHandle(), Locale(punto)); }
+    void Clicca(QPointF punto) const
+    {
+        Muove({1, 1}); // a pointer that is there already would not move
+        Muove(punto);
+        Preme(punto);
+        Rilascia(punto);
+    }
     void Afferra(QPointF da, QPointF a) const
     {
         Muove(da);
@@ -95,6 +104,17 @@ public:
         Anteprima().Seleziona(genere, i);
         const Elemento &elemento = Aperto().Di({genere, i});
         Trascina(QPointF(elemento.X, elemento.Y) + QPointF(0.8, 0.8), a);
+    }
+
+    /// By its dialog, which asks.
+    void Elimina(Chiave chiave) const
+    {
+        Robot robot;
+        robot.Agisce([&](QDialog *d) { ::Preme(*d, BottoneElimina(chiave.genere)); }).Si();
+        ApreProprieta(chiave.genere, chiave.indice);
+        if (!robot.Soddisfatto()) {
+            qFatal("the element is not deleted");
+        }
     }
 
     QTabWidget *Pagine() const { return Trova<QTabWidget>(*Editor, "SSTab1"); }

@@ -34,6 +34,10 @@ private slots:
     void TornaInVistaSullaSuaPagina();
     void LaPosizioneRigheTornaSullaSuaPagina();
     void LoSfondoTornaSullaSuaPagina();
+    void IlDiNuovoEliminatoNonHaManiglia_data();
+    void IlDiNuovoEliminatoNonHaManiglia();
+    void LaPaginaTornaSenzaManigliaSulSegnato_data();
+    void LaPaginaTornaSenzaManigliaSulSegnato();
 };
 
 void tst_StoriaRitrova::LAggiuntoLasciaElencoEFoglio()
@@ -259,6 +263,62 @@ void tst_StoriaRitrova::LoSfondoTornaSullaSuaPagina()
     storia.Apre("Campi");
     storia.Bottone("Annulla")->click();
     QCOMPARE(storia.Pagina(), QStringLiteral("Immagine sfondo"));
+}
+
+void tst_StoriaRitrova::IlDiNuovoEliminatoNonHaManiglia_data()
+{
+    TornaInVistaSullaSuaPagina_data();
+}
+
+void tst_StoriaRitrova::IlDiNuovoEliminatoNonHaManiglia()
+{
+    QFETCH(int, genere);
+    QFETCH(QString, pagina);
+    const Chiave chiave{Generi.at(static_cast<std::size_t>(genere)), 1};
+    StoriaDiProva storia;
+    storia.Elimina(chiave);
+    storia.Annulla();
+    // Clicking an element of another kind turns the page; on the first one the combo stays.
+    const bool campo = chiave.genere == Genere::Campo;
+    storia.Clicca(campo ? QPointF(105, 60) : QPointF(22, 31));
+    QVERIFY(storia.Pagina() != pagina);
+    storia.Ripristina();
+    QCOMPARE(storia.Pagina(), pagina);
+    QCOMPARE(storia.Archivio.Stato().selezione.Attivo(chiave.genere), 0);
+    const QByteArray maniglia = "S" + QByteArray::number(genere + 1);
+    QVERIFY(!storia.Controllo(maniglia.constData())->isVisible());
+}
+
+void tst_StoriaRitrova::LaPaginaTornaSenzaManigliaSulSegnato_data()
+{
+    TornaInVistaSullaSuaPagina_data();
+}
+
+void tst_StoriaRitrova::LaPaginaTornaSenzaManigliaSulSegnato()
+{
+    QFETCH(int, genere);
+    QFETCH(QString, pagina);
+    QFETCH(QByteArray, combo);
+    const Chiave chiave{Generi.at(static_cast<std::size_t>(genere)), 1};
+    StoriaDiProva storia;
+    storia.Elimina(chiave);
+    const int elementi = storia.Aperto().Numero(chiave.genere);
+    Robot robot;
+    robot.Annulla();
+    storia.Apre(qPrintable(pagina));
+    constexpr std::array Bottoni{"Aggiungicampo", "AggiungiCornice", "AggiungiImmagine"};
+    Preme(*storia.Editor, Bottoni.at(Posto(chiave.genere)));
+    QVERIFY(robot.Soddisfatto());
+    auto *elenco = Trova<QComboBox>(*storia.Editor, combo.constData());
+    elenco->setCurrentIndex(1);
+    QVERIFY(elenco->currentText().startsWith(QStringLiteral(" ELIMINATO:")));
+    storia.Apre("Spostamento");
+    storia.Annulla();
+    QCOMPARE(storia.Aperto().Numero(chiave.genere), elementi);
+    QCOMPARE(storia.Pagina(), pagina);
+    QCOMPARE(storia.Archivio.Stato().selezione.Attivo(chiave.genere), 0);
+    const QByteArray maniglia = "S" + QByteArray::number(genere + 1);
+    QVERIFY(!storia.Controllo(maniglia.constData())->isVisible());
 }
 
 QTEST_MAIN(tst_StoriaRitrova)
