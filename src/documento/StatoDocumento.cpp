@@ -26,6 +26,17 @@ auto &RecordDi(auto &modello, const Immagine &, int i)
     return modello.Immagini[i];
 }
 
+/// A count that a refused addition has raised beyond the table is the same to every reader: nothing
+/// to take back.
+std::optional<std::array<qint16, Generi.size()>> NumeriSeDiversi(const Modello &prima,
+                                                                 const Modello &dopo)
+{
+    const bool uguali = std::all_of(Generi.begin(), Generi.end(), [&](Genere genere) {
+        return prima.UltimoSlot(genere) == dopo.UltimoSlot(genere);
+    });
+    return uguali ? std::nullopt : std::optional(NumeriDi(prima));
+}
+
 template <typename Valore>
 std::optional<Valore> SeDiverso(const Valore &prima, const Valore &dopo)
 {
@@ -57,7 +68,7 @@ void UnisceSe(std::optional<Valore> &primo, const std::optional<Valore> &secondo
 } // namespace
 
 Differenza::Differenza(const StatoDocumento &prima, const StatoDocumento &dopo)
-    : numeri_(SeDiverso(NumeriDi(prima.modello), NumeriDi(dopo.modello)))
+    : numeri_(NumeriSeDiversi(prima.modello, dopo.modello))
     , tipo_(SeDiverso(prima.modello.Tipo, dopo.modello.Tipo))
     , righe_(SeDiverso(prima.modello.Righe, dopo.modello.Righe))
     , sfondo_(SeDiverso(prima.modello.Sfondo, dopo.modello.Sfondo))

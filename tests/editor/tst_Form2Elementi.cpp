@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 
 class tst_Form2Elementi : public QObject
 {
@@ -136,6 +137,11 @@ void tst_Form2Elementi::CentunesimoElementoErrore9()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi(), QStringList{QStringLiteral("errore 9 ") + DescrizioneErrore(9)});
     QCOMPARE(prova.Aperto().Numero(genere), qint16(101));
+    // It failed before anything was written: there is nothing to take back, nor to save.
+    QVERIFY(!editor.Variato());
+    QVERIFY(!Trova<QToolButton>(editor, "Annulla")->isEnabled());
+    editor.close();
+    QCOMPARE(robot.Testi().size(), 1);
 }
 
 void tst_Form2Elementi::DopoIlCentunesimoSiSalvanoICento()
