@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr QLatin1String InizioEliminato(" ELIMINATO:");
 constexpr int UnioneVietata = -1; // the history's own word for a step that joins none
 constexpr int UnionePossibile = 1;
 
@@ -78,17 +77,12 @@ Documento::Documento()
 
 Documento::~Documento() = default;
 
-bool Documento::Eliminato(Chiave chiave) const
-{
-    return Voce(chiave).startsWith(InizioEliminato);
-}
-
 bool Documento::InVista(Chiave chiave) const
 {
     // An image gets its name with its picture; in a file a blank name means an absent element.
     const bool nuovo = chiave.indice > ultimiAllApertura_.at(Posto(chiave.genere));
-    return chiave.indice <= Aperto().UltimoSlot(chiave.genere) && !Eliminato(chiave) &&
-           (nuovo || Aperto().Presente(chiave.genere, chiave.indice));
+    return chiave.indice <= Aperto().UltimoSlot(chiave.genere) &&
+           (Aperto().Presente(chiave.genere, chiave.indice) || (nuovo && !Eliminato(chiave)));
 }
 
 void Documento::Prende(Modello modello, bool variato)

@@ -26,8 +26,9 @@ public:
     const Modello &Aperto() const { return stato_.modello; }
     /// What the editor's list of the kind shows for the element.
     const QString &Voce(Chiave chiave) const { return stato_.Voce(chiave); }
-    /// True when the element has been deleted since the model was opened; its Voce says so.
-    bool Eliminato(Chiave chiave) const;
+    /// True when the element has been deleted since the model was opened. Its Voce says so too, but
+    /// an element that is there may be named like a deleted one.
+    bool Eliminato(Chiave chiave) const { return stato_.Eliminato(chiave); }
 
     /// True when the sheet shows the element: it is there, or it is new and has no name yet.
     bool InVista(Chiave chiave) const;

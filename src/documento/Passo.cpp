@@ -110,6 +110,9 @@ template <typename Record>
 void Passo::ScriveRecord(Chiave chiave, Record &vecchio, const Record &nuovo)
 {
     vecchio = nuovo;
+    if (!nuovo.Nome.isEmpty()) {
+        Stato().Eliminato(chiave) = false; // the dialog may give a deleted one's number a name
+    }
     Colloca(chiave);
 }
 
@@ -141,6 +144,7 @@ void Passo::Elimina(Chiave chiave)
     }
     Aperto().Di(chiave).Nome.clear();
     Stato().Voce(chiave).prepend(Eliminato);
+    Stato().Eliminato(chiave) = true;
     documento_.tocchi_.Aggiunge(chiave);
 }
 

@@ -92,8 +92,9 @@ void Differenza::Raccoglie(Genere genere, const StatoDocumento &prima, const Sta
         const bool stessoPosto = record.X == mosso.X && record.Y == mosso.Y;
         mosso.X = record.X;
         mosso.Y = record.Y;
-        if (!(record == mosso) || prima.Voce(chiave) != dopo.Voce(chiave)) {
-            pezzi_.push_back({chiave, record, prima.Voce(chiave)});
+        if (!(record == mosso) || prima.Voce(chiave) != dopo.Voce(chiave) ||
+            prima.Eliminato(chiave) != dopo.Eliminato(chiave)) {
+            pezzi_.push_back({chiave, record, prima.Voce(chiave), prima.Eliminato(chiave)});
         } else if (!stessoPosto) {
             mosse_.push_back({chiave, record.X, record.Y});
         }
@@ -117,6 +118,7 @@ bool Differenza::Uguale(const StatoDocumento &stato) const
                        }) &&
            std::all_of(pezzi_.begin(), pezzi_.end(), [&](const Pezzo &pezzo) {
                return pezzo.voce == stato.Voce(pezzo.chiave) &&
+                      pezzo.eliminato == stato.Eliminato(pezzo.chiave) &&
                       std::visit(
                           [&](const auto &record) {
                               return record == RecordDi(modello, record, pezzo.chiave.indice);
@@ -140,6 +142,7 @@ void Differenza::Scambia(StatoDocumento &stato)
             },
             pezzo.record);
         std::swap(pezzo.voce, stato.Voce(pezzo.chiave));
+        std::swap(pezzo.eliminato, stato.Eliminato(pezzo.chiave));
     }
     if (numeri_) {
         const auto adesso = NumeriDi(modello);

@@ -17,11 +17,17 @@ struct StatoDocumento
 {
     Modello modello;
     std::array<Tabella<QString>, Generi.size()> voci;
+    std::array<Tabella<bool>, Generi.size()> eliminati{};
 
     QString &Voce(Chiave chiave) { return voci.at(Posto(chiave.genere))[chiave.indice]; }
     const QString &Voce(Chiave chiave) const
     {
         return voci.at(Posto(chiave.genere))[chiave.indice];
+    }
+    bool &Eliminato(Chiave chiave) { return eliminati.at(Posto(chiave.genere))[chiave.indice]; }
+    const bool &Eliminato(Chiave chiave) const
+    {
+        return eliminati.at(Posto(chiave.genere))[chiave.indice];
     }
 
     bool operator==(const StatoDocumento &) const = default;
@@ -52,6 +58,7 @@ private:
         Chiave chiave;
         std::variant<Campo, Cornice, Immagine> record;
         QString voce;
+        bool eliminato;
     };
     /// One that was only moved: most steps are such, and a shift holds every element of a kind.
     struct Mossa

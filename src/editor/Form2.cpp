@@ -304,9 +304,8 @@ void Form2::ComboImmagini_GotFocus()
 
 void Form2::Modifica(Genere genere)
 {
-    const int indice = Pagina(genere).Indice();
-    if (!stato_.documento.Eliminato({genere, indice})) {
-        ApreProprieta(genere, indice);
+    if (Pagina(genere).SiApre()) {
+        ApreProprieta(genere, Pagina(genere).Indice());
     }
 }
 

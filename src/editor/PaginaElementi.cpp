@@ -10,6 +10,7 @@
 namespace {
 
 constexpr QLatin1String Separatore("------------------");
+constexpr QLatin1String InizioEliminato(" ELIMINATO:");
 
 /// What tells the pages of the three kinds apart; an empty name means that the control is absent.
 struct Descrizione
@@ -156,6 +157,11 @@ void PaginaElementi::Seleziona(int indice)
 int PaginaElementi::Indice() const
 {
     return ui_->combo->currentIndex();
+}
+
+bool PaginaElementi::SiApre() const
+{
+    return !ui_->combo->currentText().startsWith(InizioEliminato);
 }
 
 bool PaginaElementi::eventFilter(QObject *oggetto, QEvent *evento)

@@ -31,6 +31,9 @@ public:
     /// The chosen element, 0 for the separator. The commands ask for it when they need it: choosing
     /// an item (ComboCampi_Click, ComboCornici_Click, ComboImmagini_Change) does nothing by itself.
     int Indice() const;
+    /// False when the chosen item's text begins as that of a deleted element does: the text alone
+    /// decides, also for an element of that name.
+    bool SiApre() const;
 
 signals:
     void Aggiunge();

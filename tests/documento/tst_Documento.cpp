@@ -47,6 +47,8 @@ private slots:
     void MentreUnPassoEApertoNonSiAnnulla();
     void IlCentunesimoElementoFallisceConIlContatoreAlzato_data() { RighePerGenere(); }
     void IlCentunesimoElementoFallisceConIlContatoreAlzato();
+    void UnElementoChiamatoComeUnoEliminatoCE_data() { RighePerGenere(); }
+    void UnElementoChiamatoComeUnoEliminatoCE();
     void LArrotondamentoDiChiGuardaNonEUnPasso();
     void OgniVistaSentePerNomeCheCosaECambiato();
     void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data();
@@ -275,6 +277,39 @@ void tst_Documento::IlCentunesimoElementoFallisceConIlContatoreAlzato()
     }
     banco.documento.Annulla();
     QVERIFY(banco.Aperto() == prima);
+}
+
+void tst_Documento::UnElementoChiamatoComeUnoEliminatoCE()
+{
+    QFETCH(Genere, genere);
+    const Chiave chiave{genere, 1};
+    Modello modello = ModelloDiProva(2);
+    modello.Nome(genere, 1) = QStringLiteral(" ELIMINATO: x");
+    Documento documento;
+    documento.Prende(modello, false);
+    QVERIFY(documento.InVista(chiave));
+    QVERIFY(!documento.Eliminato(chiave));
+    {
+        Passo passo(documento, QStringLiteral("elimina"));
+        passo.Elimina(chiave);
+    }
+    QVERIFY(!documento.InVista(chiave));
+    QVERIFY(documento.Eliminato(chiave));
+    QCOMPARE(documento.Voce(chiave), QStringLiteral(" ELIMINATO:  ELIMINATO: x"));
+    documento.Annulla();
+    QVERIFY(documento.InVista(chiave));
+    QVERIFY(!documento.Eliminato(chiave));
+    documento.Ripristina();
+    QVERIFY(!documento.InVista(chiave));
+    QVERIFY(documento.Eliminato(chiave));
+    // A new image has no name before it has a picture, nor when it has been deleted.
+    const Chiave nuovo =
+        Passo(documento, QStringLiteral("aggiunge")).Aggiunge(genere, {10, 10}, {});
+    QVERIFY(documento.InVista(nuovo));
+    Passo(documento, QStringLiteral("elimina")).Elimina(nuovo);
+    QVERIFY(!documento.InVista(nuovo));
+    documento.Annulla();
+    QVERIFY(documento.InVista(nuovo));
 }
 
 void tst_Documento::LArrotondamentoDiChiGuardaNonEUnPasso()

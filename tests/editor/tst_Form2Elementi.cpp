@@ -5,6 +5,7 @@
 #include "support/ArchivioDiProva.h"
 #include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
+#include "support/Generi.h"
 #include "support/Robot.h"
 
 #include <QPushButton>
@@ -26,6 +27,8 @@ private slots:
     void CentunesimoElementoErrore9();
     void DopoIlCentunesimoSiSalvanoICento();
     void VoceEliminataNonSiApre();
+    void ChiHaNomeDiEliminatoSiVede_data() { RighePerGenere(); }
+    void ChiHaNomeDiEliminatoSiVede();
     void SeparatoreNonApreNulla();
     void CambioPaginaNascondeLeManiglie();
     void FuocoSulComboNascondeLaManiglia();
@@ -178,6 +181,46 @@ void tst_Form2Elementi::VoceEliminataNonSiApre()
     robot.Annulla();
     Preme(editor, "VariazioneCampo");
     QCOMPARE(robot.Testi(), QStringList{QStringLiteral("FrmCampo")});
+}
+
+void tst_Form2Elementi::ChiHaNomeDiEliminatoSiVede()
+{
+    QFETCH(const Genere, genere);
+    const QString nome = QStringLiteral(" ELIMINATO: x");
+    const int posto = static_cast<int>(genere);
+    ArchivioDiProva prova;
+    prova.Riempie(2);
+    prova.DaAprire().Nome(genere, 1) = nome;
+    prova.Scrive();
+    Form2 editor(prova.Stato());
+    QVERIFY(editor.Form_Load());
+    const auto controllo = [&](int i) {
+        return Controllo(editor, QStringLiteral("C%1(%2)").arg(posto + 1).arg(i));
+    };
+    QVERIFY(controllo(1)->isVisible()); // as it is saved and printed
+    // Its item in the list opens nothing; the sheet does.
+    const std::array combo{"ComboCampi", "ComboCornici", "ComboImmagini"};
+    const std::array modifica{"VariazioneCampo", "VariazioneCornice", "VariazioneImmagine"};
+    QCOMPARE(Voci(editor, combo.at(Posto(genere))).at(1), nome);
+    Trova<QComboBox>(editor, combo.at(Posto(genere)))->setCurrentIndex(1);
+    Robot robot;
+    Preme(editor, modifica.at(Posto(genere)));
+    QVERIFY(robot.Testi().isEmpty());
+    robot.Annulla();
+    emit editor.Anteprima()->RichiestaProprieta(genere, 1);
+    QCOMPARE(robot.Testi().size(), 1);
+    // Confirmed under such a name, it stays where it is.
+    robot.Agisce([&](QDialog *d) {
+        Trova<QLineEdit>(*d, "Nome")->setText(QStringLiteral(" ELIMINATO: y"));
+        Preme(*d, BottoneConferma(genere));
+    });
+    emit editor.Anteprima()->RichiestaProprieta(genere, 2);
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QCOMPARE(prova.Aperto().Nome(genere, 2), QStringLiteral(" ELIMINATO: y"));
+    QVERIFY(controllo(2)->isVisible());
+    editor.Anteprima()->Seleziona(genere, 2);
+    QVERIFY(Controllo(editor, QStringLiteral("S%1").arg(posto + 1))->isVisible());
+    prova.Stato().documento.Salvato();
 }
 
 void tst_Form2Elementi::SeparatoreNonApreNulla()
