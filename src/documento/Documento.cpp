@@ -124,12 +124,12 @@ void Documento::DimenticaStoria()
 
 bool Documento::PuoAnnullare() const
 {
-    return aperto_ == nullptr && storia_->canUndo();
+    return aperto_ == nullptr && sospesa_ == 0 && storia_->canUndo();
 }
 
 bool Documento::PuoRipristinare() const
 {
-    return aperto_ == nullptr && storia_->canRedo();
+    return aperto_ == nullptr && sospesa_ == 0 && storia_->canRedo();
 }
 
 QString Documento::TestoAnnulla() const
@@ -217,4 +217,17 @@ void Documento::Percorre(Differenza &differenza)
     daConcludere_ = true;
     const QScopedValueRollback<bool> percorre(percorre_, true);
     Avvisa(Cambiamento::Origine::Storia);
+}
+
+StoriaSospesa::StoriaSospesa(Documento &documento)
+    : documento_(documento)
+{
+    ++documento_.sospesa_;
+}
+
+StoriaSospesa::~StoriaSospesa()
+{
+    if (--documento_.sospesa_ == 0) {
+        emit documento_.StoriaCambiata();
+    }
 }

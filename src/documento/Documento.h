@@ -54,8 +54,8 @@ public:
     /// What the next undo or redo is about ("sposta Doc_Numero"); empty when there is none.
     QString TestoAnnulla() const;
     QString TestoRipristina() const;
-    /// Takes the last step back, or does it again. Nothing while a step is open: a dialog or a
-    /// gesture has to end first.
+    /// Takes the last step back, or does it again. Nothing while a step is open or the history is
+    /// suspended: a dialog or a gesture has to end first.
     void Annulla();
     void Ripristina();
     /// A later step joins no earlier one, and what was typed is a finished edit: the text box has
@@ -76,6 +76,7 @@ signals:
 
 private:
     friend class Passo;
+    friend class StoriaSospesa;
     class Fatto;
 
     void Avvisa(Cambiamento::Origine origine);
@@ -94,5 +95,20 @@ private:
     Cambiamento tocchi_; ///< not yet told to the views
     bool daConcludere_ = false;
     Passo *aperto_ = nullptr; ///< the outermost open step
+    int sospesa_ = 0;         ///< StoriaSospesa that live
     bool percorre_ = false;   ///< undo or redo is being told to the views
+};
+
+/// While one lives, undo and redo wait: what somebody has in hand, and may change any moment, must
+/// not become another beneath it.
+class StoriaSospesa
+{
+public:
+    /// documento must outlive it.
+    explicit StoriaSospesa(Documento &documento);
+    ~StoriaSospesa();
+    Q_DISABLE_COPY_MOVE(StoriaSospesa)
+
+private:
+    Documento &documento_;
 };

@@ -10,9 +10,10 @@
 #include <variant>
 #include <vector>
 
-/// All that a step changes and undo brings back: the model, and the texts under which the editor's
-/// lists show its elements. A list keeps its text until the element is confirmed under another
-/// name, and marks it when the element is deleted.
+/// All that a step changes and undo brings back: the model, the texts under which the editor's
+/// lists show its elements, and which of them have been deleted. A list keeps its text until the
+/// element is confirmed under another name, and marks it when the element is deleted; the mark
+/// alone tells nothing, since an element may be named like it.
 struct StatoDocumento
 {
     Modello modello;

@@ -8,6 +8,7 @@ PassoDiGesto::PassoDiGesto(StatoProgramma &stato, Chiave chiave, QLatin1String v
     : stato_(stato)
     , chiave_(chiave)
     , verbo_(verbo)
+    , sospesa_(std::in_place, stato.documento)
 {
 }
 
@@ -21,12 +22,18 @@ Passo &PassoDiGesto::Iniziato()
     return *passo_;
 }
 
+void PassoDiGesto::Conclude()
+{
+    passo_.reset();
+    sospesa_.reset();
+}
+
 void PassoDiGesto::Rinuncia()
 {
     if (passo_) {
         passo_->Rinuncia();
-        passo_.reset();
     }
+    Conclude();
 }
 
 double Riportato(double millimetri, double prima)

@@ -4,10 +4,12 @@
 #include "model/Modello.h"
 
 #include <memory>
+#include <optional>
 
 struct StatoProgramma;
 
-/// The step of one gesture. The first change begins it: a press that changes nothing is none.
+/// The step of one gesture. The first change begins it: a press that changes nothing is none. From
+/// the press on undo and redo wait, until it is concluded or given up.
 class PassoDiGesto
 {
 public:
@@ -15,7 +17,7 @@ public:
     PassoDiGesto(StatoProgramma &stato, Chiave chiave, QLatin1String verbo);
 
     Passo &Iniziato();
-    void Conclude() { passo_.reset(); }
+    void Conclude();
     /// Gives up what was changed, if anything was.
     void Rinuncia();
 
@@ -24,6 +26,7 @@ private:
     Chiave chiave_;
     QLatin1String verbo_;
     std::unique_ptr<Passo> passo_;
+    std::optional<StoriaSospesa> sospesa_;
 };
 
 /// The same length, where only the arithmetic of the way there and back tells them apart: a gesture

@@ -49,6 +49,7 @@ private slots:
     void IlCentunesimoElementoFallisceConIlContatoreAlzato();
     void UnElementoChiamatoComeUnoEliminatoCE_data() { RighePerGenere(); }
     void UnElementoChiamatoComeUnoEliminatoCE();
+    void ConLaStoriaSospesaNonSiAnnulla();
     void LArrotondamentoDiChiGuardaNonEUnPasso();
     void OgniVistaSentePerNomeCheCosaECambiato();
     void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data();
@@ -310,6 +311,34 @@ void tst_Documento::UnElementoChiamatoComeUnoEliminatoCE()
     QVERIFY(!documento.InVista(nuovo));
     documento.Annulla();
     QVERIFY(documento.InVista(nuovo));
+}
+
+void tst_Documento::ConLaStoriaSospesaNonSiAnnulla()
+{
+    Banco banco;
+    {
+        Passo passo(banco.documento, QStringLiteral("sposta"));
+        passo.SpostaTutti(Genere::Campo, 1, 0);
+    }
+    const Modello dopo = banco.Aperto();
+    QSignalSpy storia(&banco.documento, &Documento::StoriaCambiata);
+    {
+        const StoriaSospesa una(banco.documento);
+        {
+            const StoriaSospesa altra(banco.documento);
+        }
+        QVERIFY(!banco.documento.PuoAnnullare());
+        banco.documento.Annulla();
+        QVERIFY(banco.Aperto() == dopo);
+        QCOMPARE(storia.size(), 0);
+    }
+    QCOMPARE(storia.size(), 1); // it goes on
+    banco.documento.Annulla();
+    QVERIFY(!(banco.Aperto() == dopo));
+    const StoriaSospesa sospesa(banco.documento);
+    QVERIFY(!banco.documento.PuoRipristinare());
+    banco.documento.Ripristina();
+    QVERIFY(!(banco.Aperto() == dopo));
 }
 
 void tst_Documento::LArrotondamentoDiChiGuardaNonEUnPasso()

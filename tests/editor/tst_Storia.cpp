@@ -48,6 +48,8 @@ private slots:
     void ConUnDialogoApertoAspetta();
     void ConUnaDomandaApertaAspetta();
     void ConUnElementoInManoAspetta();
+    void ConUnaManigliaPremutaAspetta();
+    void ConUnBordoPremutoAspetta();
 
     void EliminaModelloFinisceLaStoria();
     void EliminaTutteLeCorniciFinisceLaStoria();
@@ -309,6 +311,54 @@ void tst_Storia::ConUnElementoInManoAspetta()
     storia.Bottone("Annulla")->click();
     QCOMPARE(storia.Aperto(), inMano);
     storia.Rilascia({75, 85});
+    QCOMPARE(storia.AnnullaTutto(), 2);
+    QCOMPARE(storia.Aperto(), storia.Prima);
+}
+
+void tst_Storia::ConUnaManigliaPremutaAspetta()
+{
+    StoriaDiProva storia;
+    Robot robot;
+    robot.Annulla();
+    storia.Apre("Cornici ed Etichette");
+    Preme(*storia.Editor, "AggiungiCornice");
+    QVERIFY(robot.Soddisfatto());
+    const Modello aggiunta = storia.Aperto();
+    storia.Anteprima().SelezionaCornice(3);
+    const QPointF maniglia =
+        QPointF(aggiunta.Cornici[3].X, aggiunta.Cornici[3].Y) + QPointF(0.8, 0.8);
+    storia.Muove(maniglia);
+    storia.Preme(maniglia);
+    StoriaDiProva::Tasto(storia.Anteprima(), Qt::Key_Z, Qt::ControlModifier);
+    storia.Bottone("Annulla")->click();
+    QCOMPARE(storia.Aperto(), aggiunta);
+    storia.Muove(maniglia + QPointF(30, 40));
+    storia.Rilascia(maniglia + QPointF(30, 40));
+    QCOMPARE(storia.Aperto().NumCornici, qint16(3));
+    QVERIFY(storia.Aperto().Cornici[3].X > aggiunta.Cornici[3].X);
+    QVERIFY(storia.Bottone("Annulla")->isEnabled());
+    QCOMPARE(storia.AnnullaTutto(), 2);
+    QCOMPARE(storia.Aperto(), storia.Prima);
+}
+
+void tst_Storia::ConUnBordoPremutoAspetta()
+{
+    StoriaDiProva storia;
+    storia.Anteprima().SelezionaCornice(1);
+    storia.Trascina({69.8, 60}, {89.8, 60});
+    const double larghezza = storia.Aperto().Cornici[1].Larghezza;
+    QVERIFY(larghezza > 50);
+    const Modello tirata = storia.Aperto();
+    const QPointF bordo(30 + larghezza - 0.2, 60);
+    storia.Muove(bordo);
+    storia.Preme(bordo);
+    StoriaDiProva::Tasto(storia.Anteprima(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(storia.Aperto(), tirata);
+    storia.Muove(bordo + QPointF(5, 0));
+    storia.Rilascia(bordo + QPointF(5, 0));
+    QCOMPARE(storia.Aperto().Cornici[1].Larghezza, larghezza + 5);
+    // A press that has changed nothing holds nothing up once it is over.
+    storia.Clicca(bordo + QPointF(4.8, 0));
     QCOMPARE(storia.AnnullaTutto(), 2);
     QCOMPARE(storia.Aperto(), storia.Prima);
 }
