@@ -92,6 +92,9 @@ void PaginaRighe::ConfermaPosizioneRighe_Click()
 void PaginaRighe::OptSimuloRighe_Click()
 {
     ConfermaPosizioneRighe_Click();
+    // A number too large has been refused: the rows follow the box all the same, as the model has
+    // them.
+    SimuloRighe();
 }
 
 void PaginaRighe::SimuloRighe()

@@ -19,6 +19,8 @@ private slots:
     void ConfermaScriveEAllinea();
     void ConfermaTestoSenzaNumeroDaZero();
     void SimulazioneAccesaESpenta();
+    void SimulazioneConUnNumeroTroppoGrande_data();
+    void SimulazioneConUnNumeroTroppoGrande();
     void SimulazioneSegueGliAltriComandi();
     void InvioConfermaLeRighe();
     void NumeroTroppoGrande();
@@ -95,6 +97,46 @@ void tst_Pagine::SimulazioneAccesaESpenta()
     QCOMPARE(elementi(), prima);
     QCOMPARE(e.Aperto().Righe.yInizio, 90.0);
     QCOMPARE(e.Aperto().Campi[1].Y, 90.0);
+}
+
+void tst_Pagine::SimulazioneConUnNumeroTroppoGrande_data()
+{
+    QTest::addColumn<QByteArray>("casella");
+    for (const char *casella : {"yInizio", "yFine", "Interlinea", "InterlineaDescr"}) {
+        QTest::newRow(casella) << QByteArray(casella);
+    }
+}
+
+void tst_Pagine::SimulazioneConUnNumeroTroppoGrande()
+{
+    QFETCH(const QByteArray, casella);
+    PagineDiProva e;
+    const auto elementi = [&] {
+        const auto tutti = Trova<QGraphicsView>(*e.editor->Anteprima(), "P1")->scene()->items();
+        return std::count_if(tutti.begin(), tutti.end(),
+                             [](const QGraphicsItem *i) { return i->isVisible(); });
+    };
+    const auto prima = elementi();
+    e.Scrive("yFine", QStringLiteral("130"));
+    auto *simulo = Trova<QCheckBox>(*e.editor, "OptSimuloRighe");
+    simulo->click();
+    const auto conRighe = elementi();
+    QVERIFY(conRighe > prima);
+    const Modello modello = e.Aperto();
+    e.Scrive(casella.constData(), QStringLiteral("1e999"));
+    Robot robot;
+    robot.Ok();
+    simulo->click();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!simulo->isChecked());
+    QCOMPARE(elementi(), prima);
+    // Ticked again it shows the rows that the model has; the number was refused with its message.
+    robot.Ok();
+    simulo->click();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(simulo->isChecked());
+    QCOMPARE(elementi(), conRighe);
+    QVERIFY(e.Aperto() == modello);
 }
 
 void tst_Pagine::SimulazioneSegueGliAltriComandi()
