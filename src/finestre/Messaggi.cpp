@@ -102,6 +102,17 @@ void AllargaPerIlTitolo(QInputDialog &riquadro)
     casella->setMinimumWidth(misura.width() - margini.left() - margini.right());
 }
 
+/// The label shows the text letter for letter: it belongs to the box below it, which would make a
+/// mnemonic of an "&", and what looks like markup would be taken for it.
+void ScriveRichiesta(QInputDialog &riquadro, QString richiesta)
+{
+    riquadro.setLabelText(richiesta.replace(u'&', QStringLiteral("&&")));
+    riquadro.minimumSizeHint(); // makes the box's layout
+    if (auto *etichetta = riquadro.findChild<QLabel *>()) {
+        etichetta->setTextFormat(Qt::PlainText);
+    }
+}
+
 void MostraRiquadro(QWidget *padre, const QString &testo, QMessageBox::Icon icona)
 {
     if (soloErroreStandard) {
@@ -269,7 +280,7 @@ std::optional<QString> Messaggi::ChiedeTesto(QWidget *padre, const QString &tito
     }
     QInputDialog riquadro(padre);
     riquadro.setWindowTitle(Leggibile(titolo));
-    riquadro.setLabelText(Leggibile(richiesta));
+    ScriveRichiesta(riquadro, Leggibile(richiesta));
     riquadro.setTextValue(proposta);
     riquadro.setOkButtonText(QStringLiteral("OK"));
     riquadro.setCancelButtonText(QStringLiteral("Annulla"));

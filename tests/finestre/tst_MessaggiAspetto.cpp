@@ -7,9 +7,12 @@
 #include <QDialog>
 #include <QFontMetrics>
 #include <QImage>
+#include <QLabel>
 #include <QLayout>
 #include <QScreen>
 #include <QTest>
+
+#include <functional>
 
 namespace {
 
@@ -36,6 +39,8 @@ private slots:
     void ConLIconaIlTestoNeStaLontano();
     void IlTitoloDiUnaDomandaNonSiTaglia_data();
     void IlTitoloDiUnaDomandaNonSiTaglia();
+    void OgniRiquadroMostraITestiAllaLettera_data();
+    void OgniRiquadroMostraITestiAllaLettera();
 };
 
 void tst_MessaggiAspetto::SenzaIconaIlTestoCominciaAlMargine()
@@ -99,6 +104,59 @@ void tst_MessaggiAspetto::IlTitoloDiUnaDomandaNonSiTaglia()
     const int atteso = qMin(serve, schermo * 9 / 10);
     QVERIFY2(larghezza >= atteso && larghezza <= schermo,
              qPrintable(QStringLiteral("%1 wide, needs %2").arg(larghezza).arg(serve)));
+}
+
+void tst_MessaggiAspetto::OgniRiquadroMostraITestiAllaLettera_data()
+{
+    using Apre = std::function<void(const QString &)>;
+    QTest::addColumn<Apre>("apre");
+    QTest::addColumn<QString>("testo");
+    const std::pair<const char *, Apre> riquadri[] = {
+        {"messaggio", [](const QString &t) { Messaggi::Mostra(nullptr, t); }},
+        {"critico", [](const QString &t) { Messaggi::MostraCritico(nullptr, t); }},
+        {"domanda",
+         [](const QString &t) { Messaggi::Domanda(nullptr, t, Messaggi::Risposta::No); }},
+        {"domanda rinunciabile",
+         [](const QString &t) {
+             Messaggi::DomandaRinunciabile(nullptr, t, Messaggi::Risposta::No);
+         }},
+        {"domanda a scelta",
+         [](const QString &t) {
+             Messaggi::DomandaAScelta(nullptr, t, {QStringLiteral("Lascia")}, 0);
+         }},
+        {"testo",
+         [](const QString &t) { Messaggi::ChiedeTesto(nullptr, QString(), t, QString()); }},
+    };
+    for (const auto &[nome, apre] : riquadri) {
+        QTest::addRow("%s, e commerciale", nome) << apre << QStringLiteral("Rossi & Figli R&S");
+        QTest::addRow("%s, come un marcatore", nome) << apre << QStringLiteral("<b>Rossi</b>");
+    }
+}
+
+void tst_MessaggiAspetto::OgniRiquadroMostraITestiAllaLettera()
+{
+    QFETCH(const std::function<void(const QString &)>, apre);
+    QFETCH(const QString, testo);
+    QImage mostrato;
+    QImage atteso;
+    Robot robot;
+    robot.Agisce([&](QDialog *d) {
+        auto *etichetta = d->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+        if (etichetta == nullptr) {
+            etichetta = d->findChild<QLabel *>();
+        }
+        mostrato = etichetta->grab().toImage();
+        // The same letters in the same place of the same box, which nothing takes for anything.
+        etichetta->setBuddy(nullptr);
+        etichetta->setTextFormat(Qt::PlainText);
+        etichetta->setText(testo);
+        atteso = etichetta->grab().toImage();
+        d->reject();
+    });
+    apre(testo);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!mostrato.isNull());
+    QCOMPARE(mostrato, atteso);
 }
 
 QTEST_MAIN(tst_MessaggiAspetto)

@@ -116,7 +116,8 @@ void Robot::Annota(QDialog *dialogo)
         predefiniti_.append(riquadro->defaultButton() != nullptr ? riquadro->defaultButton()->text()
                                                                  : QString());
     } else if (const auto *ingresso = qobject_cast<QInputDialog *>(dialogo)) {
-        testi_.append(ingresso->labelText());
+        // An "&" is written twice to be shown once.
+        testi_.append(ingresso->labelText().replace(QStringLiteral("&&"), QStringLiteral("&")));
         predefiniti_.append(ingresso->textValue());
     } else {
         testi_.append(dialogo->objectName());
