@@ -136,8 +136,11 @@ void Sfoglia::Form_Activate()
     ui_->NomeFile->setText(Percorsi::EstraeNomeFile(ui_->FileEntrata->text()));
     ui_->Drive1->clear();
     ui_->Drive1->addItems(Volumi());
-    ApreCartellaIniziale();
+    const bool trovata = ApreCartellaIniziale();
     ui_->Dir1->setFocus();
+    if (!trovata) {
+        return; // a file of the same name elsewhere is another one
+    }
     const QString cercato = ui_->NomeFile->text().toUpper();
     const QStringList nomi = file_->stringList();
     const auto trovato = std::find_if(
@@ -148,17 +151,18 @@ void Sfoglia::Form_Activate()
     }
 }
 
-void Sfoglia::ApreCartellaIniziale()
+bool Sfoglia::ApreCartellaIniziale()
 {
     const QString percorso = Percorsi::EstraeUltimaBarra(ui_->Percorso->text());
     // A name alone says nothing about a folder.
     const bool conCartella = percorso != ui_->NomeFile->text();
     if (conCartella && ApreCartella(CartellaEsistente(percorso))) {
-        return;
+        return QFileInfo(Percorsi::Risolve(percorso)).isDir();
     }
     if (!ApreCartella(CartellaEsistente(partenza_)) && !ApreCartella(cartella_)) {
         ApreCartella(QDir::homePath());
     }
+    return !conCartella;
 }
 
 void Sfoglia::Form_Unload()

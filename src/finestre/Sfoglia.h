@@ -47,7 +47,8 @@ private:
     void Command8_Click();
     void Command7_Click();
 
-    void ApreCartellaIniziale();
+    /// False when the folder of the file handed in is not there; another one is open then.
+    bool ApreCartellaIniziale();
     void ApreCartellaScelta();
     void SaleDiUnaCartella();
     /// ApreCartella with the busy pointer; a folder that cannot be read is reported.

@@ -96,6 +96,10 @@ void tst_Sfoglia::Attivazione_cartellaScomparsa()
     Mostra(s, In(QStringLiteral("scansioni/tolta/ancora/b.jpg")));
     QVERIFY2(robot.Soddisfatto(), "no message");
     QCOMPARE(s.CartellaAperta(), In(QStringLiteral("scansioni")));
+    // The file of the same name that lies there is another one.
+    QVERIFY(NomiFile(s).contains(QStringLiteral("b.jpg")));
+    QCOMPARE(FileScelto(s), QString());
+    QCOMPARE(RisultatoSfoglia(), QStringLiteral("di prima"));
 }
 
 void tst_Sfoglia::Attivazione_nomeVuoto()
