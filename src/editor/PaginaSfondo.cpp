@@ -221,6 +221,9 @@ void PaginaSfondo::SfondoSfoglia_Click()
     Sfoglia sfoglia(window());
     sfoglia.FileEntrata()->setText(stato_.Aperto().Sfondo.File);
     sfoglia.ImpostaPartenza(stato_.CartellaModelli);
+    // What the browser gave the last time is not this scan's: confirmed without a choice, it gives
+    // back what it finds there.
+    RisultatoSfoglia() = stato_.Aperto().Sfondo.File;
     sfoglia.exec();
     const QString scelto = RisultatoSfoglia();
     if (scelto == stato_.Aperto().Sfondo.File) {

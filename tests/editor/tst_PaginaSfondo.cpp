@@ -39,6 +39,8 @@ private slots:
     void SfondoSiSpostaSulFoglio();
     void SfondoSceltoConSfoglia();
     void SfondoSfogliaDallaCartellaDelModello();
+    void SfondoConfermatoSenzaScelta_data();
+    void SfondoConfermatoSenzaScelta();
     void SfondoCaratteriDiControlloIntatti();
 };
 
@@ -295,6 +297,30 @@ void tst_PaginaSfondo::SfondoSfogliaDallaCartellaDelModello()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(aperta + QDir::separator(), e.prova.Stato().CartellaModelli);
     QVERIFY(e.Aperto().Sfondo.File.isEmpty());
+}
+
+void tst_PaginaSfondo::SfondoConfermatoSenzaScelta_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("file che non c'e'") << QStringLiteral("/manca/modulo.bmp");
+    QTest::newRow("nessun file") << QString();
+}
+
+void tst_PaginaSfondo::SfondoConfermatoSenzaScelta()
+{
+    QFETCH(const QString, file);
+    PagineDiProva e;
+    Modifica(e.prova.Stato(), [&](Modello &modello) { modello.Sfondo.File = file; });
+    e.prova.Stato().documento.Salvato();
+    for (const QString &ultimo : {QString(), QStringLiteral("/altra/scansione.bmp")}) {
+        RisultatoSfoglia() = ultimo; // of an earlier visit
+        Robot robot;
+        robot.Agisce([](QDialog *sfoglia) { Preme(*sfoglia, "Command8"); });
+        Preme(*e.editor, "SfondoSfoglia");
+        QVERIFY(robot.Soddisfatto());
+        QCOMPARE(e.Aperto().Sfondo.File, file);
+        QVERIFY(!e.editor->Variato());
+    }
 }
 
 void tst_PaginaSfondo::SfondoCaratteriDiControlloIntatti()
