@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int RuoloPercorso = Qt::UserRole;
+constexpr QLatin1String CartellaChiusa("cartella non accessibile");
 
 QTreeWidgetItem *Voce(const QString &percorso, const QIcon &icona)
 {
@@ -174,13 +175,13 @@ void Sfoglia::Form_Unload()
 
 void Sfoglia::Drive1_Change()
 {
-    MostraCartella(ui_->Drive1->currentText());
+    MostraCartella(ui_->Drive1->currentText(), QStringLiteral("drive non disponibile"));
 }
 
 void Sfoglia::ApreCartellaScelta()
 {
     if (const QTreeWidgetItem *voce = ui_->Dir1->currentItem()) {
-        MostraCartella(voce->data(0, RuoloPercorso).toString());
+        MostraCartella(voce->data(0, RuoloPercorso).toString(), CartellaChiusa);
     }
 }
 
@@ -188,11 +189,11 @@ void Sfoglia::SaleDiUnaCartella()
 {
     const QStringList antenati = Antenati(cartella_);
     if (antenati.size() > 1) {
-        MostraCartella(antenati[antenati.size() - 2]);
+        MostraCartella(antenati[antenati.size() - 2], CartellaChiusa);
     }
 }
 
-void Sfoglia::MostraCartella(const QString &cartella)
+void Sfoglia::MostraCartella(const QString &cartella, const QString &seIlleggibile)
 {
     bool aperta = false;
     {
@@ -201,7 +202,7 @@ void Sfoglia::MostraCartella(const QString &cartella)
     }
     if (!aperta) {
         SelezionaDrive();
-        Messaggi::Mostra(this, QStringLiteral("drive non disponibile"));
+        Messaggi::Mostra(this, seIlleggibile);
     }
 }
 

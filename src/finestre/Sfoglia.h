@@ -51,8 +51,8 @@ private:
     bool ApreCartellaIniziale();
     void ApreCartellaScelta();
     void SaleDiUnaCartella();
-    /// ApreCartella with the busy pointer; a folder that cannot be read is reported.
-    void MostraCartella(const QString &cartella);
+    /// ApreCartella with the busy pointer; of one that cannot be read the message tells.
+    void MostraCartella(const QString &cartella, const QString &seIlleggibile);
     /// Lists the folder. False when it cannot be read; the lists then stay as they were.
     bool ApreCartella(const QString &cartella);
     void ElencaCartelle(const QStringList &figlie);

@@ -167,7 +167,7 @@ void tst_SfogliaCartelle::Cartella_illeggibile()
         DoppioClic(dir, dir->model()->index(0, 0, dir->currentIndex()));
     }
     QVERIFY(robot.Soddisfatto());
-    QCOMPARE(robot.Testi(), QStringList{QStringLiteral("drive non disponibile")});
+    QCOMPARE(robot.Testi(), QStringList{QStringLiteral("cartella non accessibile")});
     QCOMPARE(s.CartellaAperta(), In(QStringLiteral("scansioni")));
     QCOMPARE(NomiFile(s).size(), 3);
     QCOMPARE(FileScelto(s), QStringLiteral("b.jpg"));
