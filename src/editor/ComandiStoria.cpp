@@ -3,6 +3,7 @@
 #include "documento/Documento.h"
 #include "finestre/Guardia.h"
 #include "finestre/Icone.h"
+#include "finestre/Suggerimenti.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -23,7 +24,7 @@ void MostraPasso(QToolButton *bottone, const QString &verbo, bool possibile, con
 {
     const QString testo = possibile ? verbo + QStringLiteral(": ") + passo : verbo;
     bottone->setEnabled(possibile);
-    bottone->setToolTip(testo);
+    bottone->setToolTip(PerSuggerimento(testo));
     bottone->setAccessibleName(testo);
 }
 

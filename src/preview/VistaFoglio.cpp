@@ -2,34 +2,13 @@
 
 #include "documento/StatoProgramma.h"
 #include "finestre/Guardia.h"
+#include "finestre/Suggerimenti.h"
 #include "preview/GeometriaAnteprima.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
-#include <QTextDocument>
 #include <QToolTip>
-
-namespace {
-
-/// A hint is as wide as its longest line and a window cannot be wider than any screen.
-constexpr qsizetype CaratteriPerRiga = 200;
-
-/// The text as a hint window shows it: plain whatever it looks like, carriage returns as line ends.
-QString PerSuggerimento(const QString &testo)
-{
-    QStringList righe = testo.split(u'\r');
-    for (QString &riga : righe) {
-        if (riga.size() > CaratteriPerRiga) {
-            riga = riga.left(CaratteriPerRiga) + QChar(0x2026);
-        }
-    }
-    const QString semplice = righe.join(u'\n');
-    return Qt::mightBeRichText(semplice) ? Qt::convertFromPlainText(semplice, Qt::WhiteSpacePre)
-                                         : semplice;
-}
-
-} // namespace
 
 VistaFoglio::VistaFoglio(QGraphicsScene *scena, const GeometriaAnteprima &geometria,
                          const StatoProgramma &stato, QWidget *padre)

@@ -1,7 +1,12 @@
 #include "OstiliDiProva.h"
+
+#include "documento/Passo.h"
 #include "support/FileDiProva.h"
 #include "support/Generi.h"
 #include "support/ImmaginiDiProva.h"
+
+#include <QTextDocument>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -35,6 +40,8 @@ private slots:
     void TestiAlPostoDeiNumeri();
     void TestiNelleCaselle_data();
     void TestiNelleCaselle();
+    void NomiNeiSuggerimentiDellaStoria_data();
+    void NomiNeiSuggerimentiDellaStoria();
 };
 
 void tst_TestiOstili::TestiDelloSfondo_data()
@@ -217,6 +224,48 @@ void tst_TestiOstili::TestiNelleCaselle()
     Preme(*prova.Editor, "Salva");
     QVERIFY(si.Soddisfatto());
     QCOMPARE(prova.Archivio.Riletto().NumCampi, 5);
+}
+
+void tst_TestiOstili::NomiNeiSuggerimentiDellaStoria_data()
+{
+    QTest::addColumn<QString>("nome");
+    QTest::addColumn<QString>("mostrato");
+    QTest::newRow("marcatore") << QStringLiteral("<b>Data</b>") << QStringLiteral("<b>Data</b>");
+    QTest::newRow("figura di un altro")
+        << QStringLiteral("<img src='/dev/zero'>x") << QStringLiteral("<img src='/dev/zero'>x");
+    // As much as a hint window has room for.
+    QTest::newRow("senza fine") << QString(3000, u'M')
+                                << QString(200 - QStringLiteral("Annulla: elimina ").size(), u'M') +
+                                       QChar(0x2026);
+}
+
+void tst_TestiOstili::NomiNeiSuggerimentiDellaStoria()
+{
+    QFETCH(const QString, nome);
+    QFETCH(const QString, mostrato);
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(2);
+    prova.Archivio.DaAprire().Campi[1].Nome = nome;
+    QVERIFY(prova.Apre());
+    {
+        Passo passo(prova.Archivio.Stato().documento, QStringLiteral("elimina ") + nome);
+        passo.Elimina({Genere::Campo, 1});
+    }
+    const auto letto = [&](const char *bottone) {
+        const QString testo = Trova<QToolButton>(*prova.Editor, bottone)->toolTip();
+        QTextDocument documento; // shows it as the hint window does
+        if (Qt::mightBeRichText(testo)) {
+            documento.setHtml(testo);
+        } else {
+            documento.setPlainText(testo);
+        }
+        return documento.toPlainText();
+    };
+    QCOMPARE(letto("Annulla"), QStringLiteral("Annulla: elimina ") + mostrato);
+    Preme(*prova.Editor, "Annulla");
+    QVERIFY(letto("Ripristina")
+                .startsWith(QStringLiteral("Ripristina: elimina ") + mostrato.left(100)));
+    prova.Archivio.Stato().documento.Salvato();
 }
 
 QTEST_MAIN(tst_TestiOstili)
