@@ -182,7 +182,7 @@ void FrmElemento::EliminaElemento(int n)
 {
     {
         Passo passo(stato_.documento, {});
-        passo.Nomina(QStringLiteral("elimina ") + Aperto().Nome(genere_, n));
+        passo.Nomina(QStringLiteral("elimina ") + stato_.documento.Denominazione({genere_, n}));
         passo.Elimina({genere_, n});
     }
     Conclude(n);

@@ -77,6 +77,17 @@ Documento::Documento()
 
 Documento::~Documento() = default;
 
+QString Documento::Denominazione(Chiave chiave) const
+{
+    const QString &nome = Aperto().Di(chiave).Nome;
+    if (!nome.isEmpty()) {
+        return nome;
+    }
+    return !Voce(chiave).isEmpty()
+               ? Voce(chiave)
+               : QString(NomeDi(chiave.genere)).toLower() + u' ' + QString::number(chiave.indice);
+}
+
 bool Documento::InVista(Chiave chiave) const
 {
     // An image gets its name with its picture; in a file a blank name means an absent element.

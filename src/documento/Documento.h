@@ -26,6 +26,9 @@ public:
     const Modello &Aperto() const { return stato_.modello; }
     /// What the editor's list of the kind shows for the element.
     const QString &Voce(Chiave chiave) const { return stato_.Voce(chiave); }
+    /// What steps call the element: its name, or while it has none what the list shows, or else its
+    /// kind and number ("immagine 3").
+    QString Denominazione(Chiave chiave) const;
     /// True when the element has been deleted since the model was opened. Its Voce says so too, but
     /// an element that is there may be named like a deleted one.
     bool Eliminato(Chiave chiave) const { return stato_.Eliminato(chiave); }

@@ -26,9 +26,7 @@ Passo::~Passo()
     documento_.Avvisa(Cambiamento::Origine::Comando);
     if (documento_.aperto_ == this) {
         documento_.aperto_ = nullptr;
-        // An element without a name leaves nothing but the verb.
-        if (!documento_.Registra(*prima_, testo_.trimmed(), unione_.chiave,
-                                 unione_.entroMillisecondi) &&
+        if (!documento_.Registra(*prima_, testo_, unione_.chiave, unione_.entroMillisecondi) &&
             soloSeCambia_) {
             documento_.daConcludere_ = daConcluderePrima_;
         }

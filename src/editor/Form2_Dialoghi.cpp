@@ -93,7 +93,8 @@ void Form2::MostraDialogo(FrmElemento &dialogo, Chiave chiave)
                                                schermo.bottom() - misura.height() - Distanza));
     dialogo.move(sinistra + cornice_.left(), sopra + cornice_.top());
     // A visit is one step, with all that it wrote at once.
-    const Passo visita(stato_.documento, FrmElemento::TestoModifica(stato_.documento.Voce(chiave)));
+    const Passo visita(stato_.documento,
+                       FrmElemento::TestoModifica(stato_.documento.Denominazione(chiave)));
     dialogo.exec();
 }
 

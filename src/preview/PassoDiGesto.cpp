@@ -15,8 +15,8 @@ PassoDiGesto::PassoDiGesto(StatoProgramma &stato, Chiave chiave, QLatin1String v
 Passo &PassoDiGesto::Iniziato()
 {
     if (!passo_) {
-        passo_ = std::make_unique<Passo>(
-            stato_.documento, verbo_ + u' ' + stato_.Aperto().Nome(chiave_.genere, chiave_.indice));
+        passo_ = std::make_unique<Passo>(stato_.documento,
+                                         verbo_ + u' ' + stato_.documento.Denominazione(chiave_));
         passo_->SoloSeCambia();
     }
     return *passo_;

@@ -63,6 +63,7 @@ private slots:
     void AggiuntaColSuoDialogo();
     void AggiuntaAnnullandoIlDialogo_data() { AggiuntaColSuoDialogo_data(); }
     void AggiuntaAnnullandoIlDialogo();
+    void LImmagineSenzaNomeSiChiamaColNumero();
     void UnEliminazione_data();
     void UnEliminazione();
     void LoSpostamentoInBloccoRipetuto_data();
@@ -236,6 +237,22 @@ void tst_StoriaPassi::AggiuntaAnnullandoIlDialogo()
     Preme(*storia.Editor, bottone.constData());
     QVERIFY(robot.Soddisfatto());
     VerificaUnPasso(storia, testo);
+}
+
+void tst_StoriaPassi::LImmagineSenzaNomeSiChiamaColNumero()
+{
+    StoriaDiProva storia;
+    storia.Apre("Immagini");
+    Robot robot;
+    robot.Annulla();
+    Preme(*storia.Editor, "AggiungiImmagine");
+    storia.TrascinaElemento(Genere::Immagine, 2, {75, 35});
+    QCOMPARE(storia.DaAnnullare(), QStringLiteral("sposta immagine 2"));
+    // Confirmed without a file it goes.
+    robot.Agisce([](QDialog *d) { Preme(*d, "Confema"); }).Ok();
+    storia.ApreProprieta(Genere::Immagine, 2);
+    QVERIFY2(robot.Soddisfatto(), qPrintable(robot.Testi().join(u'|')));
+    QCOMPARE(storia.DaAnnullare(), QStringLiteral("elimina immagine 2"));
 }
 
 void tst_StoriaPassi::UnEliminazione_data()
