@@ -115,7 +115,9 @@ void RighelloFoglio::DipingeScritte(QPainter &penna, double da, double a) const
         if (scritta.posto < da || scritta.posto > a) {
             continue;
         }
-        const double lungo = (scritta.posto - ScostamentoScritta) * pixelPerMillimetro_;
+        // The label of the tick at 0 would stand outside the ruler, where nobody sees it.
+        const double lungo =
+            std::max(0.0, scritta.posto - ScostamentoScritta) * pixelPerMillimetro_;
         const QPointF angolo = verso_ == Qt::Horizontal ? QPointF(lungo, 0) : QPointF(0, lungo);
         penna.drawText(angolo + QPointF(0, salita), scritta.testo);
     }

@@ -62,6 +62,8 @@ private slots:
     void TaccheDipinte();
     void MillimetriDipintiSoloAZoom1();
     void ScritteDentroIlRighello();
+    void LoZeroSiVede_data();
+    void LoZeroSiVede();
     void Suggerimento();
 };
 
@@ -182,6 +184,33 @@ void tst_Righelli::ScritteDentroIlRighello()
         }
     }
     QVERIFY(scuri > 10);
+}
+
+void tst_Righelli::LoZeroSiVede_data()
+{
+    TaccheDipinte_data();
+}
+
+void tst_Righelli::LoZeroSiVede()
+{
+    QFETCH(Qt::Orientation, verso);
+    QFETCH(double, zoom);
+    const auto scuri = [](const QImage &righello, Qt::Orientation lungo) {
+        // Beside the tick at 0 and before the next one; across, above the half centimetre's ticks.
+        const double scala = Pixel * righello.devicePixelRatio();
+        const QRgb sfondo = righello.pixel(righello.width() - 1, righello.height() - 1);
+        int quanti = 0;
+        for (int l = qRound(0.3 * scala); l < qRound(1.6 * scala); ++l) {
+            for (int t = 0; t < qRound(3 * scala); ++t) {
+                const QRgb colore =
+                    lungo == Qt::Horizontal ? righello.pixel(l, t) : righello.pixel(t, l);
+                const bool tacca = (colore & 0xffffff) == Tavolozza::Rgb(Tavolozza::VerdeScuro);
+                quanti += colore != sfondo && !tacca ? 1 : 0;
+            }
+        }
+        return quanti;
+    };
+    QVERIFY(scuri(Dipinto(verso, zoom), verso) > 5);
 }
 
 void tst_Righelli::Suggerimento()
