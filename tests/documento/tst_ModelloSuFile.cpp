@@ -98,6 +98,8 @@ class tst_ModelloSuFile : public QObject
     Q_OBJECT
 private slots:
     void ApreESalva();
+    void ConLaVirgolaRestaSoloIlBordoDelleCornici();
+    void GliSlotOltreIlContatoreRestano();
     void IlNomeNonGuardaLeMaiuscole();
     void UnFileCheNonCeSiDice();
     void OgniModificaConclusaVaNellaCopia();
@@ -126,6 +128,73 @@ void tst_ModelloSuFile::ApreESalva()
     QCOMPARE(banco.TipoSuDisco(), QStringLiteral("bolla"));
     QCOMPARE(banco.Copie(), 0);
     QCOMPARE(apertura.Utente.Avvisi, QStringList());
+}
+
+void tst_ModelloSuFile::ConLaVirgolaRestaSoloIlBordoDelleCornici()
+{
+    const Banco banco;
+    {
+        Modello modello;
+        modello.Righe.yInizio = 101.5;
+        modello.Cornici[modello.AggiungeCornice(10, 20, 1, 2)].Bordo = 1.5;
+        Immagine &immagine = modello.Immagini[modello.AggiungeImmagine(12.5, 30)];
+        immagine.Nome = QStringLiteral("logo.bmp");
+        immagine.Bordo = 2.5;
+        FileModello::Salva(modello, banco.Percorso());
+    }
+    const QLocale precedente;
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    {
+        Apertura apertura(banco);
+        QVERIFY(apertura.File.Apre());
+        QCOMPARE(apertura.documento.Aperto().Righe.yInizio, 101.5);
+        QCOMPARE(apertura.documento.Aperto().Immagini[1].X, 12.5);
+        apertura.ScriveTipo(QStringLiteral("bolla"));
+        QVERIFY(apertura.File.Salva());
+    }
+    QFile file(banco.Percorso());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> righe = file.readAll().split('\n');
+    QCOMPARE(righe.value(7), QByteArray(" 101,5 \r"));
+    QVERIFY(righe.contains("12,5\r"));
+    QVERIFY(righe.contains("2,5\r"));
+    QVERIFY(righe.contains("1.5\r"));
+    Apertura dopo(banco);
+    const bool aperto = dopo.File.Apre();
+    QLocale::setDefault(precedente);
+    QVERIFY(aperto);
+    QCOMPARE(dopo.documento.Aperto().Righe.yInizio, 101.0);
+    QCOMPARE(dopo.documento.Aperto().Immagini[1].X, 12.0);
+    QCOMPARE(dopo.documento.Aperto().Immagini[1].Bordo, 2.0);
+    QCOMPARE(dopo.documento.Aperto().Cornici[1].Bordo, 1.5);
+}
+
+void tst_ModelloSuFile::GliSlotOltreIlContatoreRestano()
+{
+    const Banco banco;
+    const QString altro = QStringLiteral("Altro.Mod");
+    {
+        Modello modello;
+        for (int i = 0; i < 2; ++i) {
+            modello.Cornici[modello.AggiungeCornice(10, 20, i, 2)].ColoreTesto = 5;
+        }
+        FileModello::Salva(modello, banco.Cartella() + altro);
+    }
+    // One program opens one model after the other.
+    Documento documento;
+    Risponditore utente;
+    ModelloSuFile conCornici(documento, banco.Cartella(), altro, banco.CartellaCopie(), utente);
+    QVERIFY(conCornici.Apre());
+    conCornici.Chiude();
+    ModelloSuFile senza(documento, banco.Cartella(), QStringLiteral("Prova.Mod"),
+                        banco.CartellaCopie(), utente);
+    QVERIFY(senza.Apre());
+    QCOMPARE(documento.Aperto().NumCornici, qint16(0));
+    Passo passo(documento, QStringLiteral("aggiunge"));
+    const Chiave nuova = passo.Aggiunge(Genere::Cornice, {10, 10}, QTime(10, 5, 7));
+    QCOMPARE(nuova.indice, 1);
+    // The text colour is the one value that a new frame does not set.
+    QCOMPARE(documento.Aperto().Cornici[1].ColoreTesto, qint16(5));
 }
 
 void tst_ModelloSuFile::IlNomeNonGuardaLeMaiuscole()

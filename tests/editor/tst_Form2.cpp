@@ -1,6 +1,7 @@
 #include "Form2DiProva.h"
 #include "base/ErroreSistema.h"
 #include "editor/Form2.h"
+#include "finestre/Finestre.h"
 #include "support/ArchivioDiProva.h"
 #include "support/DocumentoDiProva.h"
 #include "support/Finestre.h"
@@ -24,6 +25,7 @@ private slots:
     void NessunControlloTagliato_data();
     void NessunControlloTagliato();
     void NessunaLetteraDoppiaPerPagina();
+    void OgniControlloHaLArgomentoDellaGuida();
     void TestiEsplicativiCominciano();
     void ModelloAppenaApertoNonVariato();
     void FileMancanteChiudeLEditor();
@@ -201,6 +203,29 @@ void tst_Form2::NessunControlloTagliato()
             ++controllati;
         }
         QVERIFY(controllati > 15);
+    }
+}
+
+void tst_Form2::OgniControlloHaLArgomentoDellaGuida()
+{
+    EditorAperto prova(1);
+    Form2 &editor = prova.Editor();
+    QCOMPARE(ArgomentoDi(&editor), ArgomentoGuida);
+    auto *pagine = Trova<QTabWidget>(editor, "SSTab1");
+    QList<QWidget *> radici{&editor};
+    for (int i = 0; i < pagine->count(); ++i) {
+        radici.append(pagine->widget(i));
+    }
+    for (const QWidget *radice : radici) {
+        const auto controlli = radice->findChildren<QWidget *>();
+        QVERIFY(controlli.size() > 5);
+        for (const QWidget *controllo : controlli) {
+            QVERIFY2(ArgomentoDi(controllo) == ArgomentoGuida, qPrintable(controllo->objectName()));
+            // Those that a user can stand on have it of their own.
+            QVERIFY2(controllo->focusPolicy() == Qt::NoFocus ||
+                         controllo->property(ProprietaGuida).toInt() == ArgomentoGuida,
+                     qPrintable(controllo->objectName()));
+        }
     }
 }
 

@@ -85,12 +85,15 @@ void tst_Form2Elementi::CorniceAggiunta()
     Cambia(prova.Stato(), [](Modello &modello) { modello.Cornici[1].ColoreTesto = 4; });
     Form2 editor(prova.Stato());
     QVERIFY(editor.Form_Load());
+    Trova<QScrollBar>(*editor.Anteprima(), "ScrollX")->setValue(40);
+    Trova<QScrollBar>(*editor.Anteprima(), "ScrollY")->setValue(60);
     Robot robot;
     robot.Annulla();
     Preme(editor, "AggiungiCornice");
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(robot.Testi(), QStringList{QStringLiteral("FrmCornice")});
     const Cornice &cornice = prova.Aperto().Cornici[1];
+    QCOMPARE(QPointF(cornice.X, cornice.Y), QPointF(50, 70));
     QVERIFY2(QRegularExpression(QStringLiteral("^Nuova[0-9]{2,4}$")).match(cornice.Nome).hasMatch(),
              qPrintable(cornice.Nome));
     QCOMPARE(cornice.Testo, cornice.Nome);
@@ -106,6 +109,8 @@ void tst_Form2Elementi::ImmagineAggiunta()
 {
     EditorAperto prova;
     Form2 &editor = prova.Editor();
+    Trova<QScrollBar>(*editor.Anteprima(), "ScrollX")->setValue(40);
+    Trova<QScrollBar>(*editor.Anteprima(), "ScrollY")->setValue(60);
     Robot robot;
     robot.Annulla();
     Preme(editor, "AggiungiImmagine");
@@ -113,6 +118,7 @@ void tst_Form2Elementi::ImmagineAggiunta()
     QCOMPARE(robot.Testi(), QStringList{QStringLiteral("FrmImmagine")});
     const Immagine &immagine = prova.Aperto().Immagini[1];
     QVERIFY(immagine.Nome.isEmpty());
+    QCOMPARE(QPointF(immagine.X, immagine.Y), QPointF(50, 70));
     QCOMPARE(immagine.Descrizione, QStringLiteral("nuovaImmagine1"));
     QCOMPARE(QSizeF(immagine.Larghezza, immagine.Altezza), QSizeF(50, 10));
     QCOMPARE(Voci(editor, "ComboImmagini"), QStringList({Separatore, QString()}));

@@ -31,6 +31,7 @@ private slots:
     void Cartelle_invioNonConferma();
     void Cartelle_ritorno();
     void Cartella_illeggibile();
+    void PuntatoreOccupatoMentreElenca();
     void Drive_radice();
     void Drive_nonDisponibile();
     void Drive_fileNellaRadice();
@@ -171,6 +172,25 @@ void tst_SfogliaCartelle::Cartella_illeggibile()
     QCOMPARE(s.CartellaAperta(), In(QStringLiteral("scansioni")));
     QCOMPARE(NomiFile(s).size(), 3);
     QCOMPARE(FileScelto(s), QStringLiteral("b.jpg"));
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+}
+
+void tst_SfogliaCartelle::PuntatoreOccupatoMentreElenca()
+{
+    Sfoglia s;
+    Mostra(s, In(QStringLiteral("scansioni/b.jpg")));
+    QList<Qt::CursorShape> puntatori;
+    connect(File(s)->model(), &QAbstractItemModel::modelAboutToBeReset, this, [&] {
+        const QCursor *puntatore = QApplication::overrideCursor();
+        puntatori.append(puntatore == nullptr ? Qt::ArrowCursor : puntatore->shape());
+    });
+    QTreeWidget *dir = Dir(s);
+    DoppioClic(dir, dir->model()->index(0, 0, dir->currentIndex()));
+    QCOMPARE(puntatori, QList<Qt::CursorShape>{Qt::WaitCursor});
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+    Drive(s)->setCurrentIndex(-1);
+    QTest::keyClick(Drive(s), Qt::Key_Home);
+    QCOMPARE(puntatori, (QList<Qt::CursorShape>{Qt::WaitCursor, Qt::WaitCursor}));
     QVERIFY(QApplication::overrideCursor() == nullptr);
 }
 
