@@ -18,6 +18,7 @@
 #include <QFileInfo>
 #include <QFontInfo>
 #include <QShortcut>
+#include <QWindow>
 
 #include <utility>
 
@@ -142,10 +143,26 @@ void SelezioneArchivifrm::SelezionaArchivioPredefinito()
     }
 }
 
+void SelezioneArchivifrm::GuardaCornice()
+{
+    if (conCornice_ || windowHandle() == nullptr || windowHandle()->frameMargins().isNull()) {
+        return;
+    }
+    conCornice_ = true;
+    CentraForm(this);
+}
+
+void SelezioneArchivifrm::moveEvent(QMoveEvent *)
+{
+    // The frame is known only once the window manager has drawn it, and it moves the window then.
+    Guardia(this, [this] { GuardaCornice(); });
+}
+
 void SelezioneArchivifrm::showEvent(QShowEvent *evento)
 {
     QWidget::showEvent(evento);
     Guardia(this, [this] {
+        GuardaCornice();
         if (riapertura_) {
             riapertura_ = false;
             RiprendeElenchi(stato_.NomeFile);

@@ -37,6 +37,7 @@ signals:
 protected:
     /// Shown again after the editor, it lists archives and models afresh.
     void showEvent(QShowEvent *evento) override;
+    void moveEvent(QMoveEvent *evento) override;
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
@@ -50,6 +51,8 @@ private:
 
     void CollegaSegnali();
     void PosizionaFinestra();
+    /// Centres the window once more when its frame is known, which counts too.
+    void GuardaCornice();
     bool LeggeCartellaDati(const QString &datiIndicati);
     /// False when the data folder cannot be read; the user has been told, and the list is empty.
     bool ElencaArchivi();
@@ -84,5 +87,6 @@ private:
     QString cartellaDati_;
     QString archivio_; ///< the chosen archive; empty until there is one, and once it has gone
     bool elencatoColClic_ = false; ///< the models were listed since the mouse was pressed on List1
+    bool conCornice_ = false;      ///< centred with its frame; the place is the user's afterwards
     bool riapertura_ = false;      ///< the next showing follows the editor's closing
 };
