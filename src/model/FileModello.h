@@ -26,6 +26,14 @@ void Analizza(const QByteArray &byte, Modello &modello);
 /// and plain numbers; a frame's border always has a point. A CR inside a text becomes a blank.
 QByteArray Componi(const Modello &modello, const QLocale &locale = QLocale());
 
+/// The lines of the elements alone, as they end the whole file: from the first field's to the last
+/// marker.
+QByteArray ComponiElementi(const Modello &modello, const QLocale &locale = QLocale());
+
+/// Parses such lines as Analizza does the end of a file, as leniently; of modello only the elements
+/// and their counts change. Throws as Analizza.
+void AnalizzaElementi(const QByteArray &byte, Modello &modello);
+
 /// Componi for a file that is to be read again. Throws ErroreSistema 7 for a model that would be
 /// larger than DimensioneMassima: one read from a file just below it may be, since numbers and ends
 /// of lines can be written longer than they were.

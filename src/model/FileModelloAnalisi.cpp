@@ -87,22 +87,18 @@ void LeggeTestata(LettoreRighe &lettore, Modello &modello)
         righe.SeguePag = Modello::SeguePagPredefinito;
     }
     lettore.Legge(righe.InterlineaDescr);
-    // The last free line is read as the line that stands before the first field.
-    lettore.Salta(RigheLibere - 1);
+    lettore.Salta(RigheLibere);
 }
 
 void LeggeCampi(LettoreRighe &lettore, Modello &modello)
 {
-    for (;;) {
-        lettore.Riga();
-        if (lettore.Fine() || lettore.Riga() == FineCampi) {
-            return;
-        }
+    while (!lettore.Fine() && lettore.Riga() != FineCampi) {
         Campo &campo = modello.Campi[++modello.NumCampi];
         lettore.Legge(campo.Nome, campo.Testo, campo.Maschera, campo.X, campo.Y, campo.Font,
                       campo.Dimensione);
         campo.Grassetto = lettore.Booleano();
         lettore.Legge(campo.MascheraDefault, campo.Descrizione);
+        lettore.Riga();
     }
 }
 
@@ -128,16 +124,33 @@ void LeggeImmagini(LettoreRighe &lettore, Modello &modello)
     }
 }
 
+void LeggeElementi(LettoreRighe &lettore, Modello &modello)
+{
+    LeggeCampi(lettore, modello);
+    LeggeCornici(lettore, modello);
+    LeggeImmagini(lettore, modello);
+}
+
+void Svuota(Modello &modello)
+{
+    for (const Genere genere : Generi) {
+        modello.Numero(genere) = 0;
+    }
+}
+
 } // namespace
 
 void FileModello::Analizza(const QByteArray &byte, Modello &modello)
 {
-    modello.NumCampi = 0;
-    modello.NumCornici = 0;
-    modello.NumImmagini = 0;
+    Svuota(modello);
     LettoreRighe lettore(byte);
     LeggeTestata(lettore, modello);
-    LeggeCampi(lettore, modello);
-    LeggeCornici(lettore, modello);
-    LeggeImmagini(lettore, modello);
+    LeggeElementi(lettore, modello);
+}
+
+void FileModello::AnalizzaElementi(const QByteArray &byte, Modello &modello)
+{
+    Svuota(modello);
+    LettoreRighe lettore(byte);
+    LeggeElementi(lettore, modello);
 }

@@ -108,7 +108,7 @@ void Compone(Compositore &file, const Immagine &immagine)
     file.Vuota();
 }
 
-void ComponeElementi(Compositore &file, const Modello &modello, Genere genere)
+void ComponeGenere(Compositore &file, const Modello &modello, Genere genere, QByteArrayView fine)
 {
     modello.Con(genere, [&](const auto &tabella) {
         for (int i = 1; i <= modello.UltimoSlot(genere); ++i) {
@@ -117,6 +117,14 @@ void ComponeElementi(Compositore &file, const Modello &modello, Genere genere)
             }
         }
     });
+    file.Marcatore(fine);
+}
+
+void ComponeElementi(Compositore &file, const Modello &modello)
+{
+    ComponeGenere(file, modello, Genere::Campo, FineCampi);
+    ComponeGenere(file, modello, Genere::Cornice, FineCornici);
+    ComponeGenere(file, modello, Genere::Immagine, FineImmagini);
 }
 
 } // namespace
@@ -125,11 +133,13 @@ QByteArray FileModello::Componi(const Modello &modello, const QLocale &locale)
 {
     Compositore file(locale);
     ComponeTestata(file, modello);
-    ComponeElementi(file, modello, Genere::Campo);
-    file.Marcatore(FineCampi);
-    ComponeElementi(file, modello, Genere::Cornice);
-    file.Marcatore(FineCornici);
-    ComponeElementi(file, modello, Genere::Immagine);
-    file.Marcatore(FineImmagini);
+    ComponeElementi(file, modello);
+    return file.Byte();
+}
+
+QByteArray FileModello::ComponiElementi(const Modello &modello, const QLocale &locale)
+{
+    Compositore file(locale);
+    ComponeElementi(file, modello);
     return file.Byte();
 }

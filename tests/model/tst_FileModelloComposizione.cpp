@@ -17,6 +17,7 @@ private slots:
     void OgniRigaDelFile();
     void SeparatoreDiUnAltroAlfabeto();
     void SoloCampi();
+    void GliElementiDaSoli();
     void AssentiFuoriDalFile();
     void OltreCentoSiScrivonoCento();
     void RitornoACapoNelTesto();
@@ -131,6 +132,27 @@ void tst_FileModelloComposizione::SoloCampi()
     const QByteArray byte = FileModello::Componi(modello, Punto);
     QVERIFY(byte.endsWith("\r\ndescrizione del campo 2\r\n\r\n"
                           "FINECAMPI\r\nFINECORNICI\r\nFINEIMMAGINI\r\n"));
+}
+
+void tst_FileModelloComposizione::GliElementiDaSoli()
+{
+    Modello modello = ModelloDiProva(7);
+    modello.Cornici[2].Nome.clear();
+    for (const QLocale &locale : {Punto, Virgola}) {
+        const QByteArray righe = FileModello::ComponiElementi(modello, locale);
+        QVERIFY(righe.startsWith("\r\nCampo1\r\n"));
+        QVERIFY(FileModello::Componi(modello, locale)
+                    .endsWith(QByteArray("\r\n").repeated(38) + righe));
+    }
+    Modello letto;
+    letto.Tipo = QStringLiteral("resta");
+    FileModello::AnalizzaElementi(FileModello::ComponiElementi(modello, Punto), letto);
+    QCOMPARE(letto.Tipo, QStringLiteral("resta"));
+    QCOMPARE(letto.NumCampi, qint16(7));
+    QCOMPARE(letto.NumCornici, qint16(6));
+    QCOMPARE(letto.Campi, modello.Campi);
+    QCOMPARE(letto.Cornici[2], modello.Cornici[3]);
+    QCOMPARE(letto.Immagini, modello.Immagini);
 }
 
 void tst_FileModelloComposizione::AssentiFuoriDalFile()
