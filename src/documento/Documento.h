@@ -50,8 +50,8 @@ public:
     /// Nothing can be undone from here on.
     void DimenticaStoria();
 
-    /// True in the middle of a gesture or of a visit to a dialog.
-    bool PassoAperto() const { return aperto_ != nullptr; }
+    /// A step is open: a gesture or a dialog is under way.
+    bool ModificaInCorso() const { return aperto_ != nullptr; }
     bool PuoAnnullare() const;
     bool PuoRipristinare() const;
     /// What the next undo or redo is about ("sposta Doc_Numero"); empty when there is none.

@@ -105,6 +105,32 @@ Chiave Passo::Aggiunge(Genere genere, QPointF posto, QTime ora)
 }
 
 template <typename Record>
+Chiave Passo::AggiungeRecord(Genere genere, Tabella<Record> &tabella, const Record &record)
+{
+    const Chiave chiave{genere, Aperto().UltimoSlot(genere) + 1};
+    tabella[chiave.indice] = record;
+    Aperto().Numero(genere) = static_cast<qint16>(chiave.indice);
+    RinominaVoce(chiave);
+    Colloca(chiave);
+    return chiave;
+}
+
+Chiave Passo::Aggiunge(const Campo &campo)
+{
+    return AggiungeRecord(Genere::Campo, Aperto().Campi, campo);
+}
+
+Chiave Passo::Aggiunge(const Cornice &cornice)
+{
+    return AggiungeRecord(Genere::Cornice, Aperto().Cornici, cornice);
+}
+
+Chiave Passo::Aggiunge(const Immagine &immagine)
+{
+    return AggiungeRecord(Genere::Immagine, Aperto().Immagini, immagine);
+}
+
+template <typename Record>
 void Passo::ScriveRecord(Chiave chiave, Record &vecchio, const Record &nuovo)
 {
     vecchio = nuovo;

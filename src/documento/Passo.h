@@ -52,6 +52,11 @@ public:
     /// fails beyond 100. A frame bears the minute and second of ora in its name.
     Chiave Aggiunge(Genere genere, QPointF posto, QTime ora);
 
+    /// Adds a record at the end of its table and places it. A full table keeps its count.
+    Chiave Aggiunge(const Campo &campo);
+    Chiave Aggiunge(const Cornice &cornice);
+    Chiave Aggiunge(const Immagine &immagine);
+
     /// Replaces the record of an element and places it.
     void Scrive(int n, const Campo &campo);
     void Scrive(int n, const Cornice &cornice);
@@ -71,6 +76,8 @@ public:
     void Colloca(Chiave chiave);
 
 private:
+    template <typename Record>
+    Chiave AggiungeRecord(Genere genere, Tabella<Record> &tabella, const Record &record);
     template <typename Record>
     void ScriveRecord(Chiave chiave, Record &vecchio, const Record &nuovo);
     void Tocca(Chiave chiave);

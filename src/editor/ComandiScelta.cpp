@@ -124,7 +124,7 @@ void ComandiScelta::SceglieTutto()
 void ComandiScelta::Elimina()
 {
     const QList<Chiave> scelti = stato_.selezione.Scelti();
-    if (scelti.isEmpty() || stato_.documento.PassoAperto()) {
+    if (scelti.isEmpty() || stato_.documento.ModificaInCorso()) {
         return;
     }
     const Chiave primo = scelti.constFirst();
@@ -139,7 +139,7 @@ void ComandiScelta::Elimina()
 
 void ComandiScelta::Esegue(Disponi comando)
 {
-    if (stato_.documento.PassoAperto()) {
+    if (stato_.documento.ModificaInCorso()) {
         return; // a gesture has the elements in hand
     }
     const QString esclusi = disposizione_.Esegue(comando, stato_.selezione.Scelti());

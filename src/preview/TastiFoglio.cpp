@@ -51,7 +51,7 @@ TastiFoglio::~TastiFoglio()
 
 bool TastiFoglio::Preme(const QKeyEvent &tasto)
 {
-    if (stato_.documento.PassoAperto()) {
+    if (stato_.documento.ModificaInCorso()) {
         return false; // the mouse has an element in hand
     }
     const Qt::KeyboardModifiers modi = tasto.modifiers() & ~Qt::KeypadModifier;
