@@ -33,6 +33,8 @@ private slots:
     void RilascioRiordinaPerSuperficie();
     void ElementiMinuscoliSiPuntano();
     void PosizioneDelPuntatoreSoloConSinistro();
+    void UnaPressioneToglieITastiAlloZoom();
+    void SulFoglioITastiNonScorrono();
 };
 
 void tst_PuntamentoFoglio::PuntareUnCampoLoSeleziona()
@@ -243,6 +245,34 @@ void tst_PuntamentoFoglio::PosizioneDelPuntatoreSoloConSinistro()
     const QString fermo = PX->text();
     banco.Muove({120, 90});
     QCOMPARE(PX->text(), fermo);
+}
+
+void tst_PuntamentoFoglio::UnaPressioneToglieITastiAlloZoom()
+{
+    Banco banco;
+    banco.frm->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(banco.frm.get()));
+    auto *zoom = Trova<QLineEdit>(*banco.frm, "TextZoom");
+    zoom->setFocus();
+    banco.Muove({50, 50});
+    QVERIFY(zoom->hasFocus()); // pointing is not enough
+    banco.Clicca({50, 50});
+    QVERIFY(!zoom->hasFocus());
+    QCOMPARE(QApplication::focusWidget(), Trova<QWidget>(*banco.frm, "P1"));
+}
+
+void tst_PuntamentoFoglio::SulFoglioITastiNonScorrono()
+{
+    Banco banco;
+    banco.frm->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(banco.frm.get()));
+    banco.Clicca({50, 50});
+    const auto *vista = Trova<QGraphicsView>(*banco.frm, "P1");
+    const QTransform prima = vista->viewportTransform();
+    for (const Qt::Key tasto : {Qt::Key_Down, Qt::Key_Right, Qt::Key_PageDown, Qt::Key_End}) {
+        QTest::keyClick(banco.frm->windowHandle(), tasto);
+    }
+    QCOMPARE(vista->viewportTransform(), prima); // the window alone moves the sheet
 }
 
 QTEST_MAIN(tst_PuntamentoFoglio)
