@@ -3,6 +3,7 @@
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
+#include "editor/ComandiAppunti.h"
 #include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
 #include "editor/DomandeSulModello.h"
@@ -96,6 +97,7 @@ bool Form2::Form_Load()
                                               QList<QWidget *>{this, anteprima_.get()});
     scelta_ = std::make_unique<ComandiScelta>(
         stato_, *anteprima_, [this] { return GenereInPagina(); }, this);
+    appunti_ = std::make_unique<ComandiAppunti>(stato_, *this, *anteprima_);
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
     anteprima_->MostraModello();

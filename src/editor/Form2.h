@@ -10,6 +10,7 @@
 #include <optional>
 
 class ComandiScelta;
+class ComandiAppunti;
 class ComandiStoria;
 class DomandeSulModello;
 class FrmCampo;
@@ -129,6 +130,7 @@ private:
     PaginaSfondo *sfondo_ = nullptr;
     std::unique_ptr<ComandiStoria> storia_;
     std::unique_ptr<ComandiScelta> scelta_;
+    std::unique_ptr<ComandiAppunti> appunti_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;
     bool chiude_ = false; ///< the question about unsaved work is open
