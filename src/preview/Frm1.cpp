@@ -87,6 +87,7 @@ void Frm1::Form_Load()
     tasti_ = std::make_unique<TastiFoglio>(stato_, *this, *parti_);
     parti_->TextZoom->setText(Numeri::CstrX(stato_.zoom, {}));
     parti_->TextZoom->installEventFilter(this);
+    parti_->P1->setFocus(); // otherwise the zoom box takes the keys that are meant for the sheet
     Righello();
 }
 

@@ -229,8 +229,10 @@ LettorePdf Scrivania::StampaInPdf(const QString &modello) const
 
 void Scrivania::Zoom(const QString &scala)
 {
-    // The zoom box is the only control of the preview that holds the keyboard.
-    Anteprima();
+    // The zoom box stands in the strip below the sheet, which has the keys at first.
+    constexpr QPointF DallAngolo(310, -10);
+    const QRect finestra = Anteprima().Interno;
+    schermo_->Clic(finestra.bottomLeft() + (DallAngolo * scala_).toPoint());
     schermo_->Tasti({QStringLiteral("ctrl+a")});
     schermo_->Scrive(scala);
     zoom_ = scala.toDouble();

@@ -17,11 +17,10 @@ inline QString Striscia(const EditoreDiProva &prova)
     return Trova<QLabel>(*prova.Editor->Anteprima(), "Text1")->text();
 }
 
-/// A press of the keys in the preview, of whoever has worked on the sheet.
+/// A press of the keys in the preview.
 inline void Tasti(const EditoreDiProva &prova, Qt::Key tasto,
                   Qt::KeyboardModifiers modi = Qt::ControlModifier)
 {
-    Trova<QGraphicsView>(*prova.Editor->Anteprima(), "P1")->setFocus();
     StoriaDiProva::Tasto(*prova.Editor->Anteprima(), tasto, modi);
 }
 

@@ -252,6 +252,7 @@ void tst_PuntamentoFoglio::UnaPressioneToglieITastiAlloZoom()
     Banco banco;
     banco.frm->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(banco.frm.get()));
+    QCOMPARE(QApplication::focusWidget(), Trova<QWidget>(*banco.frm, "P1")); // from the beginning
     auto *zoom = Trova<QLineEdit>(*banco.frm, "TextZoom");
     zoom->setFocus();
     banco.Muove({50, 50});
