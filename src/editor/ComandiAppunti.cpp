@@ -60,6 +60,16 @@ QString NotaSuiNomi(const QStringList &rinominati)
            QStringLiteral(": Vastrel stampa i campi solo con il loro nome esatto");
 }
 
+/// One line of all, which begins with a capital.
+QString Frase(const QStringList &note)
+{
+    QString frase = note.join(QStringLiteral("; "));
+    if (!frase.isEmpty()) {
+        frase[0] = frase[0].toUpper();
+    }
+    return frase;
+}
+
 QSizeF MisuraCampo(const Campo &campo)
 {
     return MisuraTesto(campo.Testo, campo.Font, campo.Dimensione, campo.Grassetto != Falso);
@@ -222,14 +232,15 @@ bool ComandiAppunti::Aggiunge(const ElementiCopiati &elementi, const Incolla::Pa
         note.append(NotaSuiNomi(esito.rinominati));
     }
     if (!esito.nuovi.isEmpty()) {
-        note.prepend(QStringLiteral("Nel modello: ") + Quali(stato_.Aperto(), esito.nuovi));
+        // The last: on a narrow strip the end is what is left out.
+        note.append(QStringLiteral("nel modello: ") + Quali(stato_.Aperto(), esito.nuovi));
         stato_.selezione.ImpostaScelti(esito.nuovi);
         anteprima_.PrimoPianoImmagini();
         anteprima_.PrimoPianoCornici();
         anteprima_.PrimoPianoCampi();
         anteprima_.PortaInVista(esito.nuovi.constFirst());
     }
-    anteprima_.Avverte(note.join(QStringLiteral("; ")));
+    anteprima_.Avverte(Frase(note));
     return !esito.nuovi.isEmpty();
 }
 

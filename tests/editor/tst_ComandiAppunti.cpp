@@ -157,9 +157,10 @@ void tst_ComandiAppunti::IlNomeGiaPreso()
     Tasti(storia, Qt::Key_C);
     Tasti(storia, Qt::Key_V);
     QCOMPARE(NomiDi(storia, Scelti(storia)), QStringList{QStringLiteral("Doc_Numero_2")});
-    QCOMPARE(Striscia(storia),
-             QStringLiteral("Nel modello: Doc_Numero_2; nome già usato, diventa Doc_Numero_2: "
-                            "Vastrel stampa i campi solo con il loro nome esatto"));
+    QCOMPARE(
+        Striscia(storia),
+        QStringLiteral("Nome già usato, diventa Doc_Numero_2: Vastrel stampa i campi solo con il "
+                       "loro nome esatto; nel modello: Doc_Numero_2"));
     Tasti(storia, Qt::Key_V);
     QCOMPARE(NomiDi(storia, Scelti(storia)), QStringList{QStringLiteral("Doc_Numero_3")});
 }
@@ -172,10 +173,10 @@ void tst_ComandiAppunti::ICampiConAltriNomi()
     Sceglie(prova, {Campo1, {Genere::Campo, 2}, {Genere::Campo, 3}, {Genere::Campo, 4}, Cornice1});
     Tasti(prova, Qt::Key_C);
     Tasti(prova, Qt::Key_V);
-    QCOMPARE(Striscia(prova),
-             QStringLiteral("Nel modello: 5 elementi; nomi già usati, diventano Campo1_2, "
-                            "Campo2_2, Campo3_2...: Vastrel stampa i campi solo con il loro nome "
-                            "esatto"));
+    QCOMPARE(
+        Striscia(prova),
+        QStringLiteral("Nomi già usati, diventano Campo1_2, Campo2_2, Campo3_2...: Vastrel "
+                       "stampa i campi solo con il loro nome esatto; nel modello: 5 elementi"));
     prova.Archivio.Stato().documento.Salvato();
 }
 
@@ -260,7 +261,7 @@ void tst_ComandiAppunti::DuplicaNonToccaGliAppunti()
 void tst_ComandiAppunti::LeImmaginiNonSiDuplicano()
 {
     const QString nota =
-        QStringLiteral("le immagini non si duplicano: un file si può usare una volta sola");
+        QStringLiteral("Le immagini non si duplicano: un file si può usare una volta sola");
     StoriaDiProva storia;
     Sceglie(storia, {Immagine1, Campo1});
     Tasti(storia, Qt::Key_D);

@@ -188,14 +188,14 @@ void tst_ImmaginiIncollate::NelloStessoModelloRestaFuori()
     QCOMPARE(storia.Aperto().NumImmagini, qint16(1));
     QCOMPARE(storia.DaAnnullare(), QStringLiteral("incolla Riquadro_2"));
     QCOMPARE(Striscia(storia),
-             QStringLiteral("Nel modello: Riquadro_2; immagine logo.bmp tralasciata: il modello "
-                            "usa già questo file"));
+             QStringLiteral("Immagine logo.bmp tralasciata: il modello usa già questo file; nel "
+                            "modello: Riquadro_2"));
     storia.AnnullaTutto();
     Sceglie(storia, {{Genere::Immagine, 1}});
     Tasti(storia, Qt::Key_C);
     Tasti(storia, Qt::Key_V);
     QCOMPARE(Striscia(storia),
-             QStringLiteral("immagine logo.bmp tralasciata: il modello usa già questo file"));
+             QStringLiteral("Immagine logo.bmp tralasciata: il modello usa già questo file"));
     QCOMPARE(storia.Aperto(), storia.Prima);
     QVERIFY(!storia.Aperta().PuoAnnullare());
     QCOMPARE(Scelti(storia), (QList<Chiave>{{Genere::Immagine, 1}}));
@@ -231,7 +231,7 @@ void tst_ImmaginiIncollate::IlFileUgualeGiaUsato()
     due.Incolla();
     QCOMPARE(due.Immagini(), QStringList{QStringLiteral("LOGO.bmp")});
     QCOMPARE(Striscia(due.qui),
-             QStringLiteral("immagine logo.bmp tralasciata: il modello usa già questo file"));
+             QStringLiteral("Immagine logo.bmp tralasciata: il modello usa già questo file"));
 }
 
 void tst_ImmaginiIncollate::UnAltroFileConIlNome_data()
@@ -256,7 +256,7 @@ void tst_ImmaginiIncollate::UnAltroFileConIlNome()
     due.Incolla();
     QCOMPARE(due.Immagini(), prima);
     QCOMPARE(Figure(due.qui), QStringList{Logo});
-    QCOMPARE(Striscia(due.qui), QStringLiteral("immagine logo.bmp tralasciata: nella cartella un "
+    QCOMPARE(Striscia(due.qui), QStringLiteral("Immagine logo.bmp tralasciata: nella cartella un "
                                                "altro file ha il suo nome"));
     Tasti(due.qui, Qt::Key_V);
     QCOMPARE(due.Immagini(), prima + QStringList{QStringLiteral("logo_2.bmp")});
@@ -325,7 +325,7 @@ void tst_ImmaginiIncollate::IlFileNonCePiu()
     due.Incolla();
     QCOMPARE(due.Immagini(), QStringList());
     QCOMPARE(Striscia(due.qui),
-             QStringLiteral("immagine logo.bmp tralasciata: il file non si trova più"));
+             QStringLiteral("Immagine logo.bmp tralasciata: il file non si trova più"));
     QVERIFY(!due.qui.Editor->Variato());
 }
 
@@ -385,7 +385,7 @@ void tst_ImmaginiIncollate::NonEUnImmagine()
     for (const QString &nome : {QStringLiteral("segreti.txt"), Logo}) {
         MetteImmagineNegliAppunti(nome, Cartella(fonte));
         Tasti(qui, Qt::Key_V);
-        QCOMPARE(Striscia(qui), QStringLiteral("immagine %1 tralasciata: il file non è "
+        QCOMPARE(Striscia(qui), QStringLiteral("Immagine %1 tralasciata: il file non è "
                                                "un'immagine che si possa copiare")
                                     .arg(nome));
     }
