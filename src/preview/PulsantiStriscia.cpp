@@ -9,6 +9,14 @@ namespace {
 constexpr int FraGruppi = 8; // device-independent pixels
 constexpr int LarghezzaPulsante = 20;
 
+/// As small as the strip: the air that the style wants around an icon is not needed.
+class PulsanteStretto : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+    QSize minimumSizeHint() const override { return iconSize(); }
+};
+
 } // namespace
 
 PulsantiStriscia::PulsantiStriscia(QWidget *padre)
@@ -26,7 +34,7 @@ PulsantiStriscia::PulsantiStriscia(QWidget *padre)
 
 void PulsantiStriscia::Aggiunge(QAction *comando, GruppoComandi gruppo)
 {
-    auto *pulsante = new QToolButton(this);
+    auto *pulsante = new PulsanteStretto(this);
     pulsante->setObjectName(comando->objectName());
     pulsante->setDefaultAction(comando);
     pulsante->setAccessibleName(comando->text());
