@@ -9,17 +9,6 @@
 
 #include <array>
 
-namespace {
-
-QString NonNumero(const QWidget *controllo, const QString &testo)
-{
-    const QString nome = controllo->accessibleName();
-    return testo.trimmed().isEmpty() ? QStringLiteral("%1: manca il numero").arg(nome)
-                                     : QStringLiteral("%1: «%2» non è un numero").arg(nome, testo);
-}
-
-} // namespace
-
 FrmElemento::FrmElemento(Genere genere, StatoProgramma &stato, QWidget *padre)
     : QDialog(padre)
     , genere_(genere)
@@ -95,7 +84,7 @@ double FrmElemento::Doppio(QLineEdit *casella) const
 {
     const std::optional<double> valore = caselle_.Numerico(casella);
     if (!valore) {
-        throw Rifiuto{NonNumero(casella, casella->text()), casella};
+        throw Rifiuto{NonNumero(casella->accessibleName(), casella->text()), casella};
     }
     return *valore;
 }
@@ -113,7 +102,7 @@ qint16 FrmElemento::Intero16(QWidget *controllo, const QString &testo)
 {
     const std::optional<double> valore = Numeri::Numerico(testo);
     if (!valore) {
-        throw Rifiuto{NonNumero(controllo, testo), controllo};
+        throw Rifiuto{NonNumero(controllo->accessibleName(), testo), controllo};
     }
     try {
         return Numeri::Intero16(*valore);

@@ -34,6 +34,12 @@ void MostraDallInizio(QLineEdit *casella, const QString &testo)
     casella->setCursorPosition(0);
 }
 
+QString NonNumero(const QString &nome, const QString &testo)
+{
+    return testo.trimmed().isEmpty() ? QStringLiteral("%1: manca il numero").arg(nome)
+                                     : QStringLiteral("%1: «%2» non è un numero").arg(nome, testo);
+}
+
 QString NumeroTroppoGrande(const QString &nome, const QString &testo)
 {
     return QStringLiteral("%1: «%2» è un numero troppo grande").arg(nome, testo);

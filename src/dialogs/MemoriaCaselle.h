@@ -10,6 +10,9 @@
 /// Puts a text into a box; one too long for it shows its beginning.
 void MostraDallInizio(QLineEdit *casella, const QString &testo);
 
+/// What the user is told of a box, by its name, whose text is no number.
+QString NonNumero(const QString &nome, const QString &testo);
+
 /// What the user is told of a box, by its name, whose number is beyond what can be stored.
 QString NumeroTroppoGrande(const QString &nome, const QString &testo);
 

@@ -19,6 +19,10 @@ public:
     ComandiStoria(Documento &documento, QToolButton *annulla, QToolButton *ripristina,
                   const QList<QWidget *> &finestre);
 
+    /// Takes the keys of one more window, until that is taken away.
+    void AggiungeFinestra(QWidget *finestra) { finestre_.append(finestra); }
+    void TogliFinestra(QWidget *finestra) { finestre_.removeOne(finestra); }
+
 protected:
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 

@@ -6,6 +6,7 @@
 #include "editor/ComandiAppunti.h"
 #include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
+#include "editor/ComandoElenco.h"
 #include "editor/DomandeSulModello.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
@@ -98,6 +99,8 @@ bool Form2::Form_Load()
     scelta_ = std::make_unique<ComandiScelta>(
         stato_, *anteprima_, [this] { return GenereInPagina(); }, this);
     appunti_ = std::make_unique<ComandiAppunti>(stato_, *this, *anteprima_);
+    elenco_ = std::make_unique<ComandoElenco>(stato_, *this, *anteprima_, *storia_);
+    Collega(elenco_.get(), &ComandoElenco::RichiestaProprieta, this, &Form2::ApreProprieta);
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
     anteprima_->MostraModello();

@@ -12,6 +12,7 @@
 class ComandiScelta;
 class ComandiAppunti;
 class ComandiStoria;
+class ComandoElenco;
 class DomandeSulModello;
 class FrmCampo;
 class FrmCarattere;
@@ -131,6 +132,7 @@ private:
     std::unique_ptr<ComandiStoria> storia_;
     std::unique_ptr<ComandiScelta> scelta_;
     std::unique_ptr<ComandiAppunti> appunti_;
+    std::unique_ptr<ComandoElenco> elenco_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;
     bool chiude_ = false; ///< the question about unsaved work is open

@@ -1,6 +1,7 @@
 // The editor as a window: its place on the screen, and its closing.
 
 #include "documento/ModelloSuFile.h"
+#include "editor/ComandoElenco.h"
 #include "editor/Form2.h"
 #include "finestre/DialogoScorrevole.h"
 #include "finestre/Finestre.h"
@@ -95,6 +96,9 @@ bool Form2::Form_Unload()
     stato_.documento.DimenticaStoria();
     if (file_) {
         file_->Chiude(); // saved, or given up in answer to the question
+    }
+    if (elenco_) {
+        elenco_->Chiude();
     }
     if (anteprima_) {
         anteprima_->hide();

@@ -226,6 +226,11 @@ QString Numeri::NumeroPiano(double valore, const QLocale &locale)
     return Testo(valore, CifreDoppio, locale);
 }
 
+QString Numeri::Decimi(double millimetri, const QLocale &locale)
+{
+    return NumeroPiano(PariPiuVicino(millimetri * 10) / 10, locale);
+}
+
 QString Numeri::NumeroStampato(double valore, const QLocale &locale)
 {
     const QString piano = NumeroPiano(valore, locale);

@@ -44,6 +44,9 @@ double Ar(double valore);
 /// them, or beyond it, is written as the last number that can be.
 QString NumeroPiano(double valore, const QLocale &locale = QLocale());
 
+/// Millimetres as the program shows them: at most one decimal, halves to even.
+QString Decimi(double millimetri, const QLocale &locale = QLocale());
+
 /// As a print statement writes it: a blank or a minus sign, the plain number, a blank.
 QString NumeroStampato(double valore, const QLocale &locale = QLocale());
 

@@ -37,11 +37,6 @@ QString NumeroSingolo(double valore)
     return locale.toString(static_cast<float>(valore), 'g', CifreSingole);
 }
 
-QString Decimi(double millimetri)
-{
-    return Numeri::NumeroPiano(Numeri::PariPiuVicino(millimetri * 10) / 10);
-}
-
 void Scrive(QLineEdit *casella, const QString &testo)
 {
     if (casella->text() != testo) {
@@ -228,7 +223,7 @@ void Frm1::MostraElemento(Genere genere, int i)
     const Modello &modello = stato_.Aperto();
     QString testo = NomeDi(genere) + u' ' + modello.Nome(genere, i).left(NomeLeggibile);
     const auto aggiunge = [&testo](const QString &etichetta, double millimetri) {
-        testo += QStringLiteral("   ") + etichetta + u' ' + Decimi(millimetri);
+        testo += QStringLiteral("   ") + etichetta + u' ' + Numeri::Decimi(millimetri);
     };
     modello.Con(genere, [&](const auto &tabella) {
         aggiunge(QStringLiteral("X"), tabella[i].X);
@@ -350,6 +345,11 @@ void Frm1::PortaInVista(Chiave chiave)
     };
     porta(parti_->ScrollX, posto.left(), posto.right(), vista.width());
     porta(parti_->ScrollY, posto.top(), posto.bottom(), vista.height());
+}
+
+QRect Frm1::AccantoAlFoglio() const
+{
+    return parti_->AccantoAlFoglio();
 }
 
 void Frm1::keyPressEvent(QKeyEvent *evento)

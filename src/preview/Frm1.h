@@ -66,6 +66,10 @@ public:
     /// Scrolls until the element's corner can be seen.
     void PortaInVista(Chiave chiave);
 
+    /// Where no sheet is, right of it: pixels of the screen, empty where the sheet fills the
+    /// window.
+    QRect AccantoAlFoglio() const;
+
     /// As if the sheet had been clicked there, or a field pointed at: the editor's page and entry,
     /// the handle, the strip.
     void Sceglie(Chiave chiave);

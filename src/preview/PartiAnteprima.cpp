@@ -165,6 +165,13 @@ QSizeF PartiAnteprima::VistaInMillimetri() const
     return {geometria.Millimetri(AreaFoglio->width()), geometria.Millimetri(AreaFoglio->height())};
 }
 
+QRect PartiAnteprima::AccantoAlFoglio() const
+{
+    const int inizio = std::clamp(P1->geometry().right() + 1, 0, AreaFoglio->width());
+    return {AreaFoglio->mapToGlobal(QPoint(inizio, 0)),
+            QSize(AreaFoglio->width() - inizio, AreaFoglio->height())};
+}
+
 void PartiAnteprima::ScorreX()
 {
     const int sinistra = P1Left0 - geometria.Pixel(ScrollX->value());

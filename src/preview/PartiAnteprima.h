@@ -26,6 +26,8 @@ struct PartiAnteprima
     void Dispone(QSize interna);
     /// Size of the part of the window where the sheet shows, mm of screen.
     QSizeF VistaInMillimetri() const;
+    /// The part of that which the sheet leaves free on its right, pixels of the screen.
+    QRect AccantoAlFoglio() const;
     /// Moves the sheet and its rulers to the values of the scroll bars.
     void ScorreX();
     void ScorreY();

@@ -31,6 +31,7 @@ private slots:
     void LinguetteColTopo();
     void RuotaSuUnElenco();
     void Anteprima();
+    void Elenco();
     void Dialogo_data();
     void Dialogo();
     void Sfogliando();
@@ -284,6 +285,19 @@ void tst_NienteTagliato::Anteprima()
     // A part of the sheet worth the name, beside its rulers.
     const auto *foglio = Trova<QWidget>(anteprima, "AreaFoglio");
     QVERIFY(foglio->width() > 400 && foglio->height() > 100);
+}
+
+void tst_NienteTagliato::Elenco()
+{
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    Trova<QToolButton>(*prova.Editor->Anteprima(), "MostraElenco")->click();
+    const auto *elenco = Trova<QWidget>(*prova.Editor->Anteprima(), "ElencoElementi");
+    QVERIFY(QTest::qWaitForWindowExposed(const_cast<QWidget *>(elenco)));
+    QVERIFY(Controlla(*elenco) > 2);
+    // Rows beside the titles, even where the editor leaves little of the screen.
+    const auto *righe = Trova<QAbstractItemView>(*elenco, "Elementi");
+    QVERIFY(righe->viewport()->height() >= 2 * righe->sizeHintForRow(0));
 }
 
 void tst_NienteTagliato::Dialogo_data()
