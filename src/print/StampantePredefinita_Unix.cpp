@@ -91,6 +91,15 @@ QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDel
 
 } // namespace
 
+QPageLayout Stampanti::PaginaPredefinita()
+{
+    constexpr int Attimo = 300; // ms
+    if (!SistemaDiStampa::Risponde(Attimo)) {
+        throw SistemaDiStampa::NonRisponde();
+    }
+    return Predefinita()->Dispositivo().pageLayout();
+}
+
 std::unique_ptr<Destinazione> Stampanti::Predefinita()
 {
     // Before Qt asks, which cannot be given up once it has begun.

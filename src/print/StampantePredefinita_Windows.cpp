@@ -36,6 +36,11 @@ private:
 
 } // namespace
 
+QPageLayout Stampanti::PaginaPredefinita()
+{
+    return NativaPredefinita()->pageLayout();
+}
+
 std::unique_ptr<Destinazione> Stampanti::Predefinita()
 {
     return std::make_unique<CodaDiSistema>(NativaPredefinita());

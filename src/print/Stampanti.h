@@ -2,6 +2,7 @@
 
 #include "print/Destinazione.h"
 
+#include <QPageLayout>
 #include <QPrinter>
 #include <QStringList>
 
@@ -21,6 +22,10 @@ QStringList ElencoFont();
 /// fitting. Throws ErroreSistema 482 when there is none or when the print system is silent, which a
 /// few seconds tell; the sheet's delivery, last of all, waits for its answer up to ten seconds.
 std::unique_ptr<Destinazione> Predefinita();
+
+/// The page of Predefinita, for who only shows it. Throws ErroreSistema 482 as it does, and gives a
+/// print system that is silent up within a blink.
+QPageLayout PaginaPredefinita();
 
 /// Writes an A4 sheet without margins to a PDF file, pictures lossless. Asks no print system.
 std::unique_ptr<Destinazione> SuPdf(const QString &percorso);

@@ -112,20 +112,21 @@ QString Motivo()
                                        .arg(int(stato), Cifre, Esadecimale, QChar(u'0'));
 }
 
-/// Null when nobody is there. silenzio: seconds without a word after which it is given up.
-Connessione Connette(int silenzio = AttesaDomanda)
+/// Null when nobody is there within attesa ms. silenzio: ms without a word after which it is given
+/// up.
+Connessione Connette(int attesa, int silenzio)
 {
     Connessione connessione(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                         cupsEncryption(), 1, AttesaDomanda * Secondo, nullptr));
+                                         cupsEncryption(), 1, attesa, nullptr));
     if (connessione) {
-        httpSetTimeout(connessione.get(), silenzio, nullptr, nullptr);
+        httpSetTimeout(connessione.get(), double(silenzio) / Secondo, nullptr, nullptr);
     }
     return connessione;
 }
 
 Connessione ConnetteAdOgniCosto(int silenzio = AttesaDomanda)
 {
-    Connessione connessione = Connette(silenzio);
+    Connessione connessione = Connette(AttesaDomanda * Secondo, silenzio * Secondo);
     if (!connessione) {
         throw SistemaDiStampa::NonRisponde();
     }
@@ -320,13 +321,13 @@ ErroreSistema SistemaDiStampa::NonRisponde()
                                  "ripetere; nulla è stato stampato."));
 }
 
-bool SistemaDiStampa::Risponde()
+bool SistemaDiStampa::Risponde(int attesa)
 {
     QElapsedTimer tempo;
     tempo.start();
-    const Connessione connessione = Connette();
+    const Connessione connessione = Connette(attesa, attesa);
     if (!connessione) {
-        return !tempo.hasExpired(AttesaDomanda * Secondo / 2);
+        return !tempo.hasExpired(attesa / 2);
     }
     const Risposta risposta(
         cupsDoRequest(connessione.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));

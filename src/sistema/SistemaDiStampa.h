@@ -17,7 +17,8 @@ namespace SistemaDiStampa {
 
 /// False when something takes calls at the print system's address and never answers. A system that
 /// is not there at all gives true: it has no printers, and says so at once.
-bool Risponde();
+/// attesa: how long it may keep silent, ms.
+bool Risponde(int attesa = 3000);
 
 /// What to say of a system that is silent before anything has been given to it.
 ErroreSistema NonRisponde();

@@ -1,6 +1,7 @@
 #include "ProvaInCoda.h"
 #include "base/Unita.h"
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -28,6 +29,8 @@ private slots:
     void carta();
     void orizzontale_data();
     void orizzontale();
+    void paginaComeSulFoglio();
+    void paginaSenzaAttese();
 
 private:
     QTemporaryDir casa_;
@@ -126,6 +129,38 @@ void tst_ImpostazioniDiStampa::orizzontale()
     QVERIFY(Vicini(pdf.Foglio().width(), 210, 0.3));
     const QRectF quadro = pdf.Inchiostro();
     QVERIFY2(Vicini(quadro, atteso), Testo(quadro));
+}
+
+void tst_ImpostazioniDiStampa::paginaComeSulFoglio()
+{
+    // What the preview outlines is what comes out: its corner is where the model's 0, 0 is printed.
+    const QPageLayout pagina = Stampanti::PaginaPredefinita();
+    const QRectF area = pagina.paintRect(QPageLayout::Millimeter);
+    FoglioDiProva foglio;
+    foglio.ConCornice({0, 0, 40, 10}, 1);
+    const LettorePdf pdf = Stampa(foglio);
+    const QPointF angolo = pdf.Inchiostro().topLeft();
+    QVERIFY(Vicini(area.left(), angolo.x(), 0.2) && Vicini(area.top(), angolo.y(), 0.2));
+    QVERIFY(Vicini(area.left(), Bordi.Sinistra * MillimetriPerPunto, 0.2));
+    QVERIFY(Vicini(area.top(), Bordi.Sopra * MillimetriPerPunto, 0.2));
+    const QSizeF carta = pagina.fullRect(QPageLayout::Millimeter).size();
+    QVERIFY(Vicini(carta.width(), pdf.Foglio().width(), 0.3));
+    QVERIFY(Vicini(carta.height(), pdf.Foglio().height(), 0.3));
+    QVERIFY(Vicini(carta.width() - area.right(), Bordi.Destra * MillimetriPerPunto, 0.2));
+    QVERIFY(Vicini(carta.height() - area.bottom(), Bordi.Sotto * MillimetriPerPunto, 0.2));
+}
+
+void tst_ImpostazioniDiStampa::paginaSenzaAttese()
+{
+    constexpr qint64 Attimo = 1500; // ms, on a busy machine
+    coda_->SiBlocca();
+    QElapsedTimer tempo;
+    tempo.start();
+    QVERIFY_EXCEPTION_THROWN(Stampanti::PaginaPredefinita(), ErroreSistema);
+    const qint64 attesa = tempo.elapsed();
+    coda_->Riprende();
+    QVERIFY2(attesa < Attimo, qPrintable(QString::number(attesa)));
+    QCOMPARE(Stampanti::PaginaPredefinita().pageSize().id(), QPageSize::A4);
 }
 
 QTEST_MAIN(tst_ImpostazioniDiStampa)
