@@ -15,6 +15,8 @@ signals:
     void RichiestaProprieta(Genere genere, int i);
     /// The left button is held on the empty sheet, at a point in mm of screen.
     void FoglioPuntato(QPointF punto);
+    /// The pointer is over the empty sheet, whatever is held, at a point in mm of screen.
+    void FoglioSorvolato(QPointF punto);
     /// Element i has been selected, moved or resized.
     void ElementoInMano(Genere genere, int i);
 };

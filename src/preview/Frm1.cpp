@@ -97,6 +97,7 @@ void Frm1::CollegaSegnali()
     connect(tasti_.get(), &TastiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
     Collega(tasti_.get(), &TastiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
     Collega(mani_.get(), &AvvisiFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
+    Collega(mani_.get(), &AvvisiFoglio::FoglioSorvolato, this, &Frm1::MostraSorvolo);
     Collega(mani_.get(), &AvvisiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
 }
 
@@ -216,6 +217,13 @@ void Frm1::MostraPuntatore(QPointF punto)
 {
     parti_->PX->setText(NumeroSingolo(punto.x()));
     parti_->PY->setText(NumeroSingolo(punto.y()));
+}
+
+void Frm1::MostraSorvolo(QPointF punto)
+{
+    parti_->Text1->setText(
+        QStringLiteral("X %1   Y %2   mm")
+            .arg(Decimi(punto.x() * stato_.zoom), Decimi(punto.y() * stato_.zoom)));
 }
 
 void Frm1::MostraElemento(Genere genere, int i)

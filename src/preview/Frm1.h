@@ -177,6 +177,7 @@ private:
     void SegueDocumento(const Cambiamento &cambiamento);
     void AggiornaElemento(Chiave chiave);
     void MostraPuntatore(QPointF punto);
+    void MostraSorvolo(QPointF punto);
     void MostraElemento(Genere genere, int i);
 
     StatoProgramma &stato_;

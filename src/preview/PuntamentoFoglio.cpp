@@ -39,6 +39,7 @@ void PuntamentoFoglio::P1_MouseMove(const EventoMouse &evento)
     if (evento.bottoni & Qt::LeftButton) {
         emit contesto_.avvisi.FoglioPuntato(evento.punto);
     }
+    emit contesto_.avvisi.FoglioSorvolato(evento.punto);
 }
 
 void PuntamentoFoglio::CampoPuntato()

@@ -44,6 +44,7 @@ private slots:
     void SfondoErrato();
     // Status
     void StriscaMostraLElementoInMano();
+    void StrisciaMostraIlPuntatoreSulFoglioVuoto();
 };
 
 void tst_Frm1::TestiENomi()
@@ -330,6 +331,32 @@ void tst_Frm1::StriscaMostraLElementoInMano()
     banco.Clicca({120, 60});
     QVERIFY(
         Text1->text().endsWith(QStringLiteral("X 100   Y 50   larghezza 40   altezza 20   mm")));
+}
+
+void tst_Frm1::StrisciaMostraIlPuntatoreSulFoglioVuoto()
+{
+    Banco banco(2);
+    const auto *Text1 = Trova<QLabel>(*banco.frm, "Text1");
+    const auto atteso = [&](QPointF punto) {
+        const QPointF carta = banco.Centro(punto) * 2;
+        const auto decimi = [](double mm) { return QString::number(qRound(mm * 10) / 10.0); };
+        return QStringLiteral("X %1   Y %2   mm").arg(decimi(carta.x()), decimi(carta.y()));
+    };
+    banco.Cornice(40, 40, 60, 40);
+    banco.Clicca({30, 30});
+    const QString cornice = Text1->text();
+    QVERIFY(cornice.startsWith(QStringLiteral("Cornice")));
+    banco.Muove({45, 35}); // still over it
+    QCOMPARE(Text1->text(), cornice);
+    banco.Muove({70, 36});
+    QCOMPARE(Text1->text(), atteso({70, 36}));
+    QCOMPARE(Trova<QLineEdit>(*banco.frm, "PX")->text(), QString()); // only under a held button
+    banco.Muove({80.2, 90.4});
+    QCOMPARE(Text1->text(), atteso({80.2, 90.4}));
+    // Pointing at a field tells of the field again.
+    banco.Campo(QStringLiteral("uno"), 100, 100);
+    banco.Muove({51, 51});
+    QVERIFY(Text1->text().startsWith(QStringLiteral("Campo uno")));
 }
 
 QTEST_MAIN(tst_Frm1)
