@@ -4,6 +4,7 @@
 #include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
 #include "editor/ComandiAppunti.h"
+#include "editor/CartaDellaStampante.h"
 #include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
 #include "editor/ComandoElenco.h"
@@ -101,6 +102,7 @@ bool Form2::Form_Load()
     appunti_ = std::make_unique<ComandiAppunti>(stato_, *this, *anteprima_);
     elenco_ = std::make_unique<ComandoElenco>(stato_, *this, *anteprima_, *storia_);
     Collega(elenco_.get(), &ComandoElenco::RichiestaProprieta, this, &Form2::ApreProprieta);
+    carta_ = std::make_unique<CartaDellaStampante>(*anteprima_, *this);
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
     anteprima_->MostraModello();
@@ -208,6 +210,7 @@ void Form2::CollegaAnteprima()
     Collega(anteprima, &Frm1::RichiestaProprieta, this, &Form2::ApreProprieta);
     Collega(anteprima, &Frm1::SfondoDaRidisegnare, this,
             [this] { sfondo_->ImpostaImmagineSfondo(false); });
+    addActions(anteprima->ComandiDelFoglio());
     Collega(anteprima, &Frm1::RigheDaRidisegnare, righe_, &PaginaRighe::SimuloRighe);
     // An editor without its preview is of no use: closing the preview closes the editor, with its
     // question about unsaved work. Queued, because the preview is in the middle of its own event.

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+class CartaDellaStampante;
 class ComandiScelta;
 class ComandiAppunti;
 class ComandiStoria;
@@ -133,6 +134,7 @@ private:
     std::unique_ptr<ComandiScelta> scelta_;
     std::unique_ptr<ComandiAppunti> appunti_;
     std::unique_ptr<ComandoElenco> elenco_;
+    std::unique_ptr<CartaDellaStampante> carta_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;
     bool chiude_ = false; ///< the question about unsaved work is open

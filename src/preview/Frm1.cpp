@@ -6,6 +6,7 @@
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "model/Numeri.h"
+#include "preview/AttrezziFoglio.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/ManiSulFoglio.h"
 #include "preview/PartiAnteprima.h"
@@ -78,6 +79,8 @@ void Frm1::Form_Load()
     parti_ = std::make_unique<PartiAnteprima>(this, stato_);
     ImpostaHelp(this);
     elementi_ = std::make_unique<ElementiFoglio>(stato_, parti_->geometria, parti_->scena);
+    attrezzi_ = std::make_unique<AttrezziFoglio>(*this, *parti_, stato_);
+    attrezzi_->AggiungeComandi(*this);
     mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
     tasti_ = std::make_unique<TastiFoglio>(stato_, *this, *parti_);
     parti_->TextZoom->setText(Numeri::CstrX(stato_.zoom, {}));
@@ -143,6 +146,11 @@ void Frm1::closeEvent(QCloseEvent *evento)
 
 void Frm1::wheelEvent(QWheelEvent *evento)
 {
+    evento->accept();
+    if (evento->modifiers() & Qt::ControlModifier) {
+        Guardia(this, [&] { attrezzi_->zoom.Gira(*evento); });
+        return;
+    }
     const bool traverso = evento->modifiers() & Qt::ShiftModifier;
     const QPoint giro = traverso ? evento->angleDelta().transposed() : evento->angleDelta();
     // A touch pad turns by less than a millimetre at a time; what is left over adds up.
@@ -151,7 +159,6 @@ void Frm1::wheelEvent(QWheelEvent *evento)
     giroRuota_ -= interi;
     parti_->ScrollX->setValue(parti_->ScrollX->value() + interi.x());
     parti_->ScrollY->setValue(parti_->ScrollY->value() + interi.y());
-    evento->accept();
 }
 
 bool Frm1::eventFilter(QObject *oggetto, QEvent *evento)
@@ -199,8 +206,24 @@ void Frm1::TextZoom_KeyUp()
     }
     elementi_->RiancoraManiglie();
     elementi_->RinominaManiglie();
+    attrezzi_->contorni.SegueZoom(stato_.zoom);
     emit RigheDaRidisegnare();
     parti_->P1->viewport()->update(); // the background follows the zoom by itself
+}
+
+bool Frm1::ImpostaZoom(double zoom)
+{
+    if (mani_->Occupate()) {
+        return false; // the drag under way goes by places on the screen
+    }
+    parti_->TextZoom->setText(Numeri::CstrX(zoom, {}));
+    TextZoom_KeyUp();
+    return true;
+}
+
+void Frm1::MostraContorni(const ContorniCarta::Posti &posti)
+{
+    attrezzi_->contorni.Imposta(posti, stato_.zoom);
 }
 
 void Frm1::RiancoraManiglie()
@@ -425,6 +448,11 @@ void Frm1::AggiungeComando(QAction *comando, GruppoComandi gruppo)
     addAction(comando);
     parti_->Pulsanti->Aggiunge(comando, gruppo);
     parti_->Dispone(size());
+}
+
+QList<QAction *> Frm1::ComandiDelFoglio() const
+{
+    return attrezzi_->Comandi();
 }
 
 void Frm1::Avverte(const QString &testo)

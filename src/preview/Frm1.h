@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Modello.h"
+#include "preview/ContorniCarta.h"
 #include "preview/PulsantiStriscia.h"
 
 #include <QList>
@@ -17,6 +18,7 @@ struct StatoProgramma;
 class QAction;
 class Cambiamento;
 struct PartiAnteprima;
+class AttrezziFoglio;
 class ElementiFoglio;
 class ManiSulFoglio;
 class TastiFoglio;
@@ -118,6 +120,13 @@ public:
     /// A command gets its button on the strip, at the end of the group, and its keys in this
     /// window.
     void AggiungeComando(QAction *comando, GruppoComandi gruppo);
+    /// The commands of the sheet's own whose keys the editor's window takes too.
+    QList<QAction *> ComandiDelFoglio() const;
+    /// Writes the scale 1:zoom into the zoom box, which then acts as if it had been typed. False,
+    /// and nothing happens, while a button is held on the sheet.
+    bool ImpostaZoom(double zoom);
+    /// The outlines of the paper; none until then.
+    void MostraContorni(const ContorniCarta::Posti &posti);
     /// The strip says it until an element is in hand again. Nothing that needs an answer.
     void Avverte(const QString &testo);
     int ScorrimentoX() const; ///< value of ScrollX, mm of screen
@@ -183,6 +192,7 @@ private:
     StatoProgramma &stato_;
     std::unique_ptr<PartiAnteprima> parti_;
     std::unique_ptr<ElementiFoglio> elementi_;
+    std::unique_ptr<AttrezziFoglio> attrezzi_;
     std::unique_ptr<ManiSulFoglio> mani_;
     std::unique_ptr<TastiFoglio> tasti_;
     QPointF giroRuota_; // fractions of a mm that the wheel has turned and nothing has scrolled yet

@@ -38,6 +38,8 @@ public:
     void Rilascia(const EventoMouse &evento) override;
     void PremeDueVolte(const EventoMouse &evento) override;
     void Interrompe() override;
+    /// A button is held that was pressed on the sheet.
+    bool Occupate() const { return gesto_ != nullptr; }
     /// Gives up the drag or resize under way, from its press on: the element is as it was. False
     /// when there is none.
     bool Rinuncia();

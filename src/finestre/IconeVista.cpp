@@ -1,0 +1,67 @@
+#include "finestre/IconeVista.h"
+
+#include "finestre/Icone.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
+
+QPen Tratto(double spessore = 0.09)
+{
+    return {BluScuro, spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
+
+/// A corner of a frame, its arms along the two sides.
+QPainterPath Angolo(QPointF vertice, QPointF lungoX, QPointF lungoY)
+{
+    QPainterPath angolo(vertice + lungoX);
+    angolo.lineTo(vertice);
+    angolo.lineTo(vertice + lungoY);
+    return angolo;
+}
+
+} // namespace
+
+QPixmap IconaAdatta(int lato)
+{
+    return DisegnaIcona(lato, [](QPainter &pittore) {
+        constexpr double Braccio = 0.24;
+        for (const double x : {0.06, 0.94}) {
+            for (const double y : {0.06, 0.94}) {
+                pittore.strokePath(Angolo({x, y}, {x < 0.5 ? Braccio : -Braccio, 0},
+                                          {0, y < 0.5 ? Braccio : -Braccio}),
+                                   Tratto());
+            }
+        }
+        pittore.fillRect(QRectF(0.32, 0.24, 0.36, 0.52), BluScuro);
+    });
+}
+
+QPixmap IconaUnoAUno(int lato)
+{
+    return DisegnaIcona(lato, [](QPainter &pittore) {
+        for (const double x : {0.06, 0.64}) {
+            QPainterPath uno(QPointF(x, 0.34));
+            uno.lineTo(x + 0.18, 0.18);
+            uno.lineTo(x + 0.18, 0.86);
+            pittore.strokePath(uno, Tratto(0.12));
+        }
+        for (const double y : {0.36, 0.68}) {
+            pittore.fillRect(QRectF(0.44, y, 0.12, 0.12), BluScuro);
+        }
+    });
+}
+
+QPixmap IconaContorni(int lato)
+{
+    return DisegnaIcona(lato, [](QPainter &pittore) {
+        QPen tratteggio = Tratto();
+        tratteggio.setDashPattern({2, 1.4}); // in widths of the line
+        pittore.setPen(tratteggio);
+        pittore.drawRect(QRectF(0.08, 0.06, 0.84, 0.88));
+        pittore.drawRect(QRectF(0.28, 0.26, 0.44, 0.48));
+    });
+}
