@@ -75,5 +75,5 @@ void ContorniCarta::Mostra()
 QString ContorniCarta::Legenda()
 {
     return QStringLiteral("A4 in grigio, carta della stampante predefinita in viola, area "
-                          "stampabile in verde a puntini");
+                          "stampabile in turchese a puntini");
 }
