@@ -65,3 +65,31 @@ QPixmap IconaContorni(int lato)
         pittore.drawRect(QRectF(0.28, 0.26, 0.44, 0.48));
     });
 }
+
+QPixmap IconaCalamita(int lato)
+{
+    return DisegnaIcona(lato, [](QPainter &pittore) {
+        QPainterPath ferro(QPointF(0.24, 0.06));
+        ferro.lineTo(0.24, 0.52);
+        ferro.arcTo(QRectF(0.24, 0.26, 0.52, 0.52), 180, 180);
+        ferro.lineTo(0.76, 0.06);
+        pittore.strokePath(ferro, Tratto(0.22));
+        for (const double x : {0.10, 0.62}) { // the bright poles
+            pittore.fillRect(QRectF(x, 0.24, 0.28, 0.08), Qt::white);
+        }
+    });
+}
+
+QPixmap IconaTogliGuide(int lato)
+{
+    return DisegnaIcona(lato, [](QPainter &pittore) {
+        QPen guida = Tratto(0.08);
+        guida.setDashPattern({2, 1.4});
+        pittore.setPen(guida);
+        pittore.drawLine(QPointF(0.30, 0.04), QPointF(0.30, 0.96));
+        pittore.drawLine(QPointF(0.04, 0.30), QPointF(0.96, 0.30));
+        pittore.setPen(Tratto(0.12));
+        pittore.drawLine(QPointF(0.52, 0.52), QPointF(0.94, 0.94));
+        pittore.drawLine(QPointF(0.94, 0.52), QPointF(0.52, 0.94));
+    });
+}

@@ -37,7 +37,7 @@ std::optional<double> Calamita::Vicina(double posto) const
 }
 
 std::optional<Calamita::Presa> Calamita::Tratto(double inizio, double lunghezza,
-                                                double ultimo) const
+                                                Limiti limiti) const
 {
     std::optional<Presa> presa;
     double distanza = 0;
@@ -48,7 +48,7 @@ std::optional<Calamita::Presa> Calamita::Tratto(double inizio, double lunghezza,
         }
         const double posto = Numeri::Ar(*linea - scarto + Briciola);
         const double suaDistanza = std::abs(*linea - inizio - scarto);
-        if (posto >= 0 && posto <= ultimo + Briciola &&
+        if (posto >= limiti.primo - Briciola && posto <= limiti.ultimo + Briciola &&
             (!presa || suaDistanza < distanza - Briciola)) {
             presa = Presa{static_cast<int>(posto), *linea};
             distanza = suaDistanza;

@@ -19,14 +19,19 @@ public:
         int posto;    ///< of the beginning, or of the edge
         double linea; ///< the one that has attracted it
     };
+    /// The first and the last place that may be taken.
+    struct Limiti
+    {
+        double primo;
+        double ultimo;
+    };
     /// A stretch from inizio on, by its ends and its middle; the nearest line wins, and of lines
-    /// equally near the one at the beginning, then the one at the end. No place before 0 or beyond
-    /// ultimo is taken.
-    std::optional<Presa> Tratto(double inizio, double lunghezza, double ultimo) const;
+    /// equally near the one at the beginning, then the one at the end.
+    std::optional<Presa> Tratto(double inizio, double lunghezza, Limiti limiti) const;
     /// A single edge that is not to pass ultimo.
     std::optional<Presa> Bordo(double posto, double ultimo) const
     {
-        return Tratto(posto, 0, ultimo);
+        return Tratto(posto, 0, {0, ultimo});
     }
 
 private:

@@ -31,6 +31,8 @@ public:
     Compagni &operator=(const Compagni &) = delete;
 
     bool Vuoti() const { return chiavi_.isEmpty(); }
+    /// All of them and the one in hand as they stood at the press, mm of screen.
+    const QRectF &Gruppo() const { return gruppo_; }
     /// How far the group may go of an offset, mm of screen, when the element in hand has gone
     /// fatto already: the sheet stops the group as a whole.
     QPointF FinoAlBordo(QPointF fatto, QPointF scarto) const;
@@ -51,7 +53,7 @@ private:
     ContestoGesto contesto_;
     Chiave inMano_;
     QList<Chiave> chiavi_;
-    QRectF gruppo_; ///< all of them and the one in hand at the press, mm of screen
+    QRectF gruppo_;
     std::unique_ptr<FiguraCompagni> figura_;
     QPointF angoloFigura_;
 };

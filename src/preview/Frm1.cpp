@@ -79,9 +79,10 @@ void Frm1::Form_Load()
     parti_ = std::make_unique<PartiAnteprima>(this, stato_);
     ImpostaHelp(this);
     elementi_ = std::make_unique<ElementiFoglio>(stato_, parti_->geometria, parti_->scena);
-    attrezzi_ = std::make_unique<AttrezziFoglio>(*this, *parti_, stato_);
+    attrezzi_ = std::make_unique<AttrezziFoglio>(*this, *parti_, stato_, *elementi_);
     attrezzi_->AggiungeComandi(*this);
-    mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
+    mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1,
+                                            attrezzi_->guide, attrezzi_->aggancio);
     tasti_ = std::make_unique<TastiFoglio>(stato_, *this, *parti_);
     parti_->TextZoom->setText(Numeri::CstrX(stato_.zoom, {}));
     parti_->TextZoom->installEventFilter(this);
@@ -206,7 +207,7 @@ void Frm1::TextZoom_KeyUp()
     }
     elementi_->RiancoraManiglie();
     elementi_->RinominaManiglie();
-    attrezzi_->contorni.SegueZoom(stato_.zoom);
+    attrezzi_->SegueZoom(stato_.zoom);
     emit RigheDaRidisegnare();
     parti_->P1->viewport()->update(); // the background follows the zoom by itself
 }
@@ -388,7 +389,7 @@ void Frm1::keyPressEvent(QKeyEvent *evento)
     bool preso = false;
     if (evento->key() == Qt::Key_Escape) {
         Guardia(this, [&] {
-            preso = mani_->Rinuncia();
+            preso = mani_->Rinuncia() || attrezzi_->guide.Rinuncia();
             if (!preso && !stato_.selezione.Scelti().isEmpty()) {
                 stato_.selezione.SvuotaScelti();
                 preso = true;

@@ -8,6 +8,8 @@ class AvvisiFoglio;
 class ElementiFoglio;
 class VistaFoglio;
 class GeometriaAnteprima;
+class GuideFoglio;
+class Aggancio;
 class MiraFoglio;
 struct EventoMouse;
 class Passo;
@@ -22,6 +24,8 @@ struct ContestoGesto
     VistaFoglio &foglio;
     const MiraFoglio &mira;
     AvvisiFoglio &avvisi;
+    GuideFoglio &guide;
+    Aggancio &aggancio;
 };
 
 /// What one press on the sheet does, from its construction at the press until it ends in one of

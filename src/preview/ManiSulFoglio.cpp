@@ -2,6 +2,7 @@
 
 #include "preview/BandaDiScelta.h"
 #include "preview/ElementiFoglio.h"
+#include "preview/GestoGuida.h"
 #include "preview/PuntamentoFoglio.h"
 #include "preview/Ridimensione.h"
 #include "preview/Trascinamento.h"
@@ -9,9 +10,10 @@
 #include <utility>
 
 ManiSulFoglio::ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
-                             ElementiFoglio &elementi, VistaFoglio &foglio)
+                             ElementiFoglio &elementi, VistaFoglio &foglio, GuideFoglio &guide,
+                             Aggancio &aggancio)
     : mira_(stato, geometria, elementi)
-    , contesto_{stato, geometria, elementi, foglio, mira_, *this}
+    , contesto_{stato, geometria, elementi, foglio, mira_, *this, guide, aggancio}
 {
     foglio.ImpostaAscolto(this);
 }
@@ -78,6 +80,10 @@ std::shared_ptr<Gesto> ManiSulFoglio::GestoSu(const Bersaglio &bersaglio, const 
                                                    secondaPressione);
         }
         if (bersaglio.cosa == Bersaglio::Cosa::Foglio) {
+            const auto guida = contesto_.guide.Sotto(evento.punto);
+            if (guida && evento.tasti == Qt::NoModifier) {
+                return std::make_shared<GestoGuida>(contesto_, *guida, evento);
+            }
             return std::make_shared<BandaDiScelta>(contesto_, evento);
         }
         if (bersaglio.cosa == Bersaglio::Cosa::Elemento && mira_.Ridimensionabile(chiave)) {

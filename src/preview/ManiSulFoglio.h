@@ -17,7 +17,8 @@ class ManiSulFoglio : public AvvisiFoglio, public AscoltaMouse
     Q_OBJECT
 public:
     ManiSulFoglio(StatoProgramma &stato, const GeometriaAnteprima &geometria,
-                  ElementiFoglio &elementi, VistaFoglio &foglio);
+                  ElementiFoglio &elementi, VistaFoglio &foglio, GuideFoglio &guide,
+                  Aggancio &aggancio);
     ~ManiSulFoglio() override;
 
     /// One drag step of element i by the pointer offset (x, y) inside its handle, mm of screen.

@@ -3,6 +3,7 @@
 #include "documento/StatoProgramma.h"
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
+#include "preview/GuideFoglio.h"
 #include "preview/VistaFoglio.h"
 
 PuntamentoFoglio::PuntamentoFoglio(const ContestoGesto &contesto, const Bersaglio &bersaglio,
@@ -36,6 +37,9 @@ void PuntamentoFoglio::Muove(const EventoMouse &evento)
 void PuntamentoFoglio::P1_MouseMove(const EventoMouse &evento)
 {
     contesto_.elementi.Campineri();
+    if (evento.bottoni == Qt::NoButton || contesto_.guide.InMano()) {
+        sulVuoto_ = contesto_.guide.PuntatoreIn(evento.punto);
+    }
     if (evento.bottoni & Qt::LeftButton) {
         emit contesto_.avvisi.FoglioPuntato(evento.punto);
     }
@@ -122,6 +126,5 @@ void PuntamentoFoglio::Sceglie()
 void PuntamentoFoglio::AggiornaPuntatore()
 {
     const Controllo *controllo = contesto_.mira.ControlloDi(bersaglio_);
-    contesto_.foglio.ImpostaPuntatore(controllo == nullptr ? Qt::ArrowCursor
-                                                           : controllo->Puntatore());
+    contesto_.foglio.ImpostaPuntatore(controllo == nullptr ? sulVuoto_ : controllo->Puntatore());
 }

@@ -44,4 +44,5 @@ private:
     Bersaglio bersaglio_;
     Qt::MouseButton bottone_;
     Qt::KeyboardModifiers tasti_;
+    Qt::CursorShape sulVuoto_ = Qt::ArrowCursor; // the pointer of the bare sheet
 };

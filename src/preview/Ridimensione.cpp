@@ -34,6 +34,7 @@ Ridimensione::Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa p
     : PuntamentoFoglio(contesto, {Bersaglio::Cosa::Elemento, chiave}, pressione)
     , presa_(presa)
     , cartaPrima_(Carta())
+    , attrazione_(contesto, chiave)
     , passo_(contesto.stato, chiave, QLatin1String("ridimensiona"))
 {
     ControlloElemento &controllo = contesto.elementi.Elemento(chiave.genere, chiave.indice);
@@ -50,6 +51,7 @@ void Ridimensione::Muove(const EventoMouse &evento)
         ControlloElemento &controllo =
             Contesto().elementi.Elemento(Puntato().genere, Puntato().indice);
         controllo.ImpostaPuntatore(Ridimensionamento::Puntatore(presa_));
+        attrazione_.Sospende(evento.tasti & Qt::AltModifier);
         RidimensionaFino(evento.punto - controllo.Posto().topLeft());
     }
     AggiornaPuntatore();
@@ -64,9 +66,11 @@ void Ridimensione::RidimensionaFino(QPointF dentro)
     const ContestoGesto &contesto = Contesto();
     const QPointF angolo =
         contesto.elementi.Elemento(Puntato().genere, Puntato().indice).Posto().topLeft();
-    ApplicaMisura(Ridimensionamento::Misura(
-        QRectF(angolo, misura_), presa_, dentro + scarto_, MisuraMinima / contesto.stato.zoom,
-        {contesto.geometria.LarghezzaFoglio(), contesto.geometria.AltezzaFoglio()}));
+    const QPointF bordo = dentro + scarto_;
+    const QSizeF misura = Ridimensionamento::Misura(
+        QRectF(angolo, misura_), presa_, bordo, MisuraMinima / contesto.stato.zoom,
+        {contesto.geometria.LarghezzaFoglio(), contesto.geometria.AltezzaFoglio()});
+    ApplicaMisura(attrazione_.Ridimensiona(angolo, bordo, presa_, misura));
 }
 
 void Ridimensione::ApplicaMisura(QSizeF misura)
@@ -86,6 +90,7 @@ void Ridimensione::ApplicaMisura(QSizeF misura)
     if (misura.height() != prima.height()) {
         carta.setHeight(misura.height() * zoom);
     }
+    carta = attrazione_.Esatta(carta);
     Passo &passo = passo_.Iniziato();
     passo.Ridimensiona({genere, i}, {Riportato(carta.width(), cartaPrima_.width()),
                                      Riportato(carta.height(), cartaPrima_.height())});
@@ -113,6 +118,7 @@ void Ridimensione::ImpostaElastico(bool elastico)
 
 void Ridimensione::Conclude(std::optional<QPointF> rilascio)
 {
+    attrazione_.NascondeLinee();
     if (avviata_) {
         ImpostaElastico(false);
         if (Puntato().genere == Genere::Cornice) {
@@ -149,6 +155,7 @@ void Ridimensione::MisuraDiCornice()
 bool Ridimensione::Rinuncia()
 {
     passo_.Rinuncia();
+    attrazione_.NascondeLinee();
     ImpostaElastico(false);
     emit Contesto().avvisi.ElementoInMano(Puntato().genere, Puntato().indice);
     return true;

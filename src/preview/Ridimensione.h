@@ -1,5 +1,6 @@
 #pragma once
 
+#include "preview/Attrazione.h"
 #include "preview/PassoDiGesto.h"
 #include "preview/PuntamentoFoglio.h"
 
@@ -34,5 +35,6 @@ private:
     QSizeF cartaPrima_;    // of the element at the press, mm of the sheet
     QPointF scarto_;       // from the pointer to the gripped edges
     bool avviata_ = false; // the pointer has moved since
+    Attrazione attrazione_;
     PassoDiGesto passo_;
 };

@@ -82,7 +82,43 @@ void RighelloFoglio::paintEvent(QPaintEvent *evento)
     const double da = primo / pixelPerMillimetro_ - Margine;
     const double a = ultimo / pixelPerMillimetro_ + Margine;
     DipingeScritte(penna, da, a);
-    DipingeTacche(penna, da, a); // last, so that no digit breaks a tick
+    DipingeTacche(penna, da, a); // after the digits, so that none breaks a tick
+    DipingeGuide(penna);
+}
+
+void RighelloFoglio::ImpostaSegni(const QList<double> &guide, const QColor &colore)
+{
+    if (guide != guide_) {
+        guide_ = guide;
+        coloreGuide_ = colore;
+        update();
+    }
+}
+
+void RighelloFoglio::DipingeGuide(QPainter &penna) const
+{
+    if (guide_.isEmpty()) {
+        return;
+    }
+    constexpr double Meta = 1.1; // mm of screen, half of a mark
+    constexpr double Punta = 2;  // mm of screen, to its point on the sheet's side
+    const bool orizzontale = verso_ == Qt::Horizontal;
+    const double fine = orizzontale ? height() : width();
+    const double base = fine - Punta * pixelPerMillimetro_;
+    penna.setRenderHint(QPainter::Antialiasing);
+    penna.setPen(Qt::NoPen);
+    penna.setBrush(coloreGuide_);
+    for (const double guida : guide_) {
+        const double lungo = guida * pixelPerMillimetro_;
+        const double meta = Meta * pixelPerMillimetro_;
+        QPolygonF segno{{lungo - meta, base}, {lungo + meta, base}, {lungo, fine}};
+        if (!orizzontale) {
+            for (QPointF &vertice : segno) {
+                vertice = vertice.transposed();
+            }
+        }
+        penna.drawPolygon(segno);
+    }
 }
 
 void RighelloFoglio::DipingeTacche(QPainter &penna, double da, double a) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -35,6 +36,9 @@ public:
     RighelloFoglio(Qt::Orientation verso, double pixelPerMillimetro, QWidget *padre);
 
     void Mostra(SegniRighello segni);
+    /// Marks for the guides that cross the ruler, at places in mm of screen.
+    void ImpostaSegni(const QList<double> &guide, const QColor &colore);
+    Qt::Orientation Verso() const { return verso_; }
     const SegniRighello &Segni() const { return segni_; }
 
 protected:
@@ -43,8 +47,11 @@ protected:
 private:
     void DipingeTacche(QPainter &penna, double da, double a) const;
     void DipingeScritte(QPainter &penna, double da, double a) const;
+    void DipingeGuide(QPainter &penna) const;
 
     Qt::Orientation verso_;
     double pixelPerMillimetro_;
     SegniRighello segni_;
+    QList<double> guide_;
+    QColor coloreGuide_;
 };

@@ -19,6 +19,7 @@ Trascinamento::Trascinamento(const ContestoGesto &contesto, Chiave chiave,
     , tasti_(tasti)
     , compagni_(contesto, chiave)
     , secondaPressione_(secondaPressione)
+    , attrazione_(contesto, chiave)
     , passo_(contesto.stato, chiave, QLatin1String("sposta"))
 {
     const Elemento &elemento = contesto_.stato.Aperto().Di(chiave_);
@@ -31,6 +32,7 @@ void Trascinamento::Muove(const EventoMouse &evento)
     if (!FermoDopoDueVolte(evento.punto)) {
         const QPointF dentro =
             evento.punto - contesto_.elementi.ManigliaDi(chiave_.genere).Posto().topLeft();
+        attrazione_.Sospende(evento.tasti & Qt::AltModifier);
         Sposta(evento.bottoni, dentro.x(), dentro.y());
     }
     AggiornaPuntatore();
@@ -58,6 +60,7 @@ void Trascinamento::Sposta(Qt::MouseButtons bottoni, double x, double y)
     if (!(bottoni & Qt::LeftButton) || maniglia.Puntatore() != Qt::SizeAllCursor) {
         return;
     }
+    const QRectF voluto = prima.translated(x, y);
     if (genere != Genere::Immagine) {
         x = Numeri::Ar(x);
         y = Numeri::Ar(y);
@@ -69,6 +72,10 @@ void Trascinamento::Sposta(Qt::MouseButtons bottoni, double x, double y)
         dopo =
             prima.topLeft() + compagni_.FinoAlBordo(prima.topLeft() - angoloPrima_, QPointF(x, y));
     }
+    dopo = attrazione_.Sposta(
+        voluto,
+        compagni_.Vuoti() ? voluto : compagni_.Gruppo().translated(voluto.topLeft() - angoloPrima_),
+        dopo);
     contesto_.elementi.MostraGuide(dopo, maniglia.Sfondo());
     if (dopo == prima.topLeft()) {
         return;
@@ -76,8 +83,9 @@ void Trascinamento::Sposta(Qt::MouseButtons bottoni, double x, double y)
     // An axis that did not move keeps the model's own digits.
     const StatoProgramma &stato = contesto_.stato;
     const Elemento &elemento = stato.Aperto().Di(chiave_);
-    const QPointF posto(dopo.x() == prima.left() ? elemento.X : dopo.x() * stato.zoom,
-                        dopo.y() == prima.top() ? elemento.Y : dopo.y() * stato.zoom);
+    const QPointF posto =
+        attrazione_.Esatto({dopo.x() == prima.left() ? elemento.X : dopo.x() * stato.zoom,
+                            dopo.y() == prima.top() ? elemento.Y : dopo.y() * stato.zoom});
     Passo &passo = passo_.Iniziato();
     passo.Trascina(chiave_,
                    {Riportato(posto.x(), postoPrima_.x()), Riportato(posto.y(), postoPrima_.y())});
@@ -92,6 +100,7 @@ void Trascinamento::Sposta(Qt::MouseButtons bottoni, double x, double y)
 void Trascinamento::Conclude(std::optional<QPointF> rilascio)
 {
     contesto_.elementi.NascondeGuide();
+    attrazione_.NascondeLinee();
     if (!compagni_.Vuoti() && trascinato_) {
         ConcludeInsieme();
     } else if (chiave_.genere == Genere::Campo) {
@@ -142,6 +151,7 @@ bool Trascinamento::Rinuncia()
     compagni_.Ripristina();
     passo_.Rinuncia();
     contesto_.elementi.NascondeGuide();
+    attrazione_.NascondeLinee();
     emit contesto_.avvisi.ElementoInMano(chiave_.genere, chiave_.indice);
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "preview/Attrazione.h"
 #include "preview/Compagni.h"
 #include "preview/Gesto.h"
 #include "preview/PassoDiGesto.h"
@@ -39,5 +40,6 @@ private:
     QPointF angoloPrima_; // of its control, mm of screen
     std::optional<QPointF> secondaPressione_;
     bool trascinato_ = false;
+    Attrazione attrazione_;
     PassoDiGesto passo_;
 };

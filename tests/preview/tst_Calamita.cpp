@@ -52,7 +52,7 @@ void tst_Calamita::TrattoAttratto()
     QFETCH(double, lunghezza);
     QFETCH(double, ultimo);
     QFETCH(int, posto);
-    const auto presa = Calamita(Linee).Tratto(inizio, lunghezza, ultimo);
+    const auto presa = Calamita(Linee).Tratto(inizio, lunghezza, {0, ultimo});
     QCOMPARE(presa.has_value(), posto >= 0);
     if (presa) {
         QCOMPARE(presa->posto, posto);
@@ -79,7 +79,7 @@ void tst_Calamita::BordoAttratto()
 
 void tst_Calamita::SenzaLinee()
 {
-    QVERIFY(!Calamita().Tratto(10, 5, 100));
+    QVERIFY(!Calamita().Tratto(10, 5, {0, 100}));
     QVERIFY(!Calamita().Bordo(0, 100));
 }
 
