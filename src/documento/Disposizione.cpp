@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -105,10 +106,14 @@ void Mette(Passo &passo, Chiave chiave, QPointF posto)
 }
 
 /// As united, but what has no size counts where it stands.
-QRectF Insieme(const QRectF &uno, const QRectF &altro)
+QRectF Insieme(const std::optional<QRectF> &uno, const QRectF &altro)
 {
-    return {QPointF(std::min(uno.left(), altro.left()), std::min(uno.top(), altro.top())),
-            QPointF(std::max(uno.right(), altro.right()), std::max(uno.bottom(), altro.bottom()))};
+    if (!uno) {
+        return altro;
+    }
+    return {
+        QPointF(std::min(uno->left(), altro.left()), std::min(uno->top(), altro.top())),
+        QPointF(std::max(uno->right(), altro.right()), std::max(uno->bottom(), altro.bottom()))};
 }
 
 QString ChiaveUnione(const QString &cosa, const QList<Chiave> &elementi, double x, double y)
@@ -274,7 +279,8 @@ QString Disposizione::Sposta(const QList<Chiave> &elementi, QPointF millimetri)
 {
     Esclusi esclusi;
     QList<Chiave> mossi;
-    QRectF gruppo;
+    std::optional<QRectF> inX;
+    std::optional<QRectF> inY; // the row fields do not go that way
     const bool aDecimi = millimetri != QPointF(millimetri.toPoint());
     for (const Chiave &chiave : elementi) {
         if (aDecimi && chiave.genere != Genere::Immagine) {
@@ -282,17 +288,29 @@ QString Disposizione::Sposta(const QList<Chiave> &elementi, QPointF millimetri)
         } else if (millimetri.x() == 0 && CampoDiRiga(Aperto(), chiave)) {
             esclusi.CampoDiRiga();
         } else {
-            gruppo = mossi.isEmpty() ? Posto(chiave) : Insieme(gruppo, Posto(chiave));
             mossi.append(chiave);
+            inX = Insieme(inX, Posto(chiave));
+            if (!CampoDiRiga(Aperto(), chiave)) {
+                inY = Insieme(inY, Posto(chiave));
+            }
         }
     }
     if (mossi.isEmpty()) {
         return esclusi.Motivo();
     }
-    const QPointF scarto(FoglioCarta::FinoAlBordo(gruppo.left(), gruppo.right(),
-                                                  FoglioCarta::Larghezza, millimetri.x()),
-                         FoglioCarta::FinoAlBordo(gruppo.top(), gruppo.bottom(),
-                                                  FoglioCarta::Altezza, millimetri.y()));
+    QPointF scarto;
+    if (inX) {
+        scarto.setX(FoglioCarta::FinoAlBordo(inX->left(), inX->right(), FoglioCarta::Larghezza,
+                                             millimetri.x()));
+    }
+    if (inY) {
+        scarto.setY(FoglioCarta::FinoAlBordo(inY->top(), inY->bottom(), FoglioCarta::Altezza,
+                                             millimetri.y()));
+    }
+    if (!aDecimi) {
+        // Stopped at part of a millimetre, each element would be rounded by itself.
+        scarto = {std::trunc(scarto.x()), std::trunc(scarto.y())};
+    }
     Passo passo(documento_, QStringLiteral("sposta ") + NomeDi(Aperto(), elementi),
                 {ChiaveUnione(QStringLiteral("sposta"), elementi, millimetri.x(), millimetri.y()),
                  MillisecondiDiSeguito});

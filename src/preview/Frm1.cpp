@@ -227,16 +227,6 @@ void Frm1::MostraContorni(const ContorniCarta::Posti &posti)
     attrezzi_->contorni.Imposta(posti, stato_.zoom);
 }
 
-void Frm1::RiancoraManiglie()
-{
-    elementi_->RiancoraManiglie();
-}
-
-void Frm1::RinominaManiglie()
-{
-    elementi_->RinominaManiglie();
-}
-
 void Frm1::MostraPuntatore(QPointF punto)
 {
     parti_->PX->setText(NumeroSingolo(punto.x()));
@@ -247,7 +237,7 @@ void Frm1::MostraSorvolo(QPointF punto)
 {
     parti_->Text1->setText(
         QStringLiteral("X %1   Y %2   mm")
-            .arg(Decimi(punto.x() * stato_.zoom), Decimi(punto.y() * stato_.zoom)));
+            .arg(Numeri::Decimi(punto.x() * stato_.zoom), Numeri::Decimi(punto.y() * stato_.zoom)));
 }
 
 void Frm1::MostraElemento(Genere genere, int i)
@@ -267,97 +257,6 @@ void Frm1::MostraElemento(Genere genere, int i)
     });
     parti_->Text1->setText(testo + QStringLiteral("   mm"));
     Scrive(parti_->LL, elementi_->Elemento(genere, i).objectName());
-}
-
-void Frm1::CreaElemento(Genere genere, int i)
-{
-    elementi_->Crea(genere, i);
-}
-
-void Frm1::NascondiElemento(Genere genere, int i)
-{
-    elementi_->Nasconde(genere, i);
-}
-
-void Frm1::NascondiManiglie()
-{
-    for (const Genere genere : Generi) {
-        NascondiManiglia(genere);
-    }
-}
-
-void Frm1::NascondiManiglia(Genere genere)
-{
-    elementi_->NascondeManiglia(genere);
-}
-
-void Frm1::Impostazioni(Genere genere, int i)
-{
-    elementi_->Imposta(genere, i);
-}
-
-void Frm1::Posiziona(Genere genere, int i)
-{
-    elementi_->Posiziona(genere, i);
-}
-
-void Frm1::MostraModello()
-{
-    for (const Genere genere : Generi) {
-        for (int i = 1; i <= stato_.Aperto().UltimoSlot(genere); ++i) {
-            CreaElemento(genere, i);
-            Impostazioni(genere, i);
-            Posiziona(genere, i);
-            if (!stato_.documento.InVista({genere, i})) {
-                NascondiElemento(genere, i);
-            }
-        }
-    }
-    NascondiManiglie();
-    PrimoPianoImmagini();
-    PrimoPianoCornici();
-    PrimoPianoCampi();
-}
-
-void Frm1::SegueDocumento(const Cambiamento &cambiamento)
-{
-    const QList<Chiave> elementi = cambiamento.Elementi();
-    for (const Chiave &chiave : elementi) {
-        switch (cambiamento.origine) {
-        case Cambiamento::Origine::Gesto:
-            elementi_->Ricolloca(chiave.genere, chiave.indice);
-            break;
-        case Cambiamento::Origine::Posto:
-            Posiziona(chiave.genere, chiave.indice);
-            break;
-        case Cambiamento::Origine::Comando:
-        case Cambiamento::Origine::Storia:
-            AggiornaElemento(chiave);
-            break;
-        case Cambiamento::Origine::Apertura:
-            return; // MostraModello builds the sheet
-        }
-    }
-    RiancoraManiglie();
-    if (elementi.size() > 1) {
-        RinominaManiglie(); // each element placed has put its own name on them
-    }
-}
-
-void Frm1::AggiornaElemento(Chiave chiave)
-{
-    const bool inVista = elementi_->InVista(chiave.genere, chiave.indice);
-    if (!stato_.documento.InVista(chiave)) {
-        if (inVista) {
-            NascondiElemento(chiave.genere, chiave.indice);
-        }
-        return;
-    }
-    if (!inVista) {
-        CreaElemento(chiave.genere, chiave.indice);
-    }
-    Impostazioni(chiave.genere, chiave.indice);
-    Posiziona(chiave.genere, chiave.indice);
 }
 
 QPixmap Frm1::Ritratto()
@@ -401,42 +300,6 @@ void Frm1::keyPressEvent(QKeyEvent *evento)
     }
 }
 
-void Frm1::Seleziona(Genere genere, int i)
-{
-    elementi_->Seleziona(genere, i);
-}
-
-void Frm1::Sceglie(Chiave chiave)
-{
-    mani_->Sceglie(chiave);
-}
-
-void Frm1::PrimoPiano(Genere genere)
-{
-    elementi_->PrimoPiano(genere);
-}
-
-void Frm1::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, Qt::KeyboardModifiers, double x,
-                  double y)
-{
-    mani_->Sposta(genere, i, bottoni, x, y);
-}
-
-void Frm1::RidimensionaCornice(int i, Qt::MouseButtons bottoni, double x, double y)
-{
-    mani_->RidimensionaCornice(i, bottoni, x, y);
-}
-
-void Frm1::RidimensionaImmagine(int i, Qt::MouseButtons bottoni, double x, double y)
-{
-    mani_->RidimensionaImmagine(i, bottoni, x, y);
-}
-
-void Frm1::Campineri()
-{
-    elementi_->Campineri();
-}
-
 void Frm1::Righello()
 {
     const GeometriaAnteprima &geometria = parti_->geometria;
@@ -469,37 +332,4 @@ int Frm1::ScorrimentoX() const
 int Frm1::ScorrimentoY() const
 {
     return parti_->ScrollY->value();
-}
-
-QSizeF Frm1::MisuraControllo(Genere genere, int i) const
-{
-    return elementi_->Elemento(genere, i).Posto().size();
-}
-
-void Frm1::PulisceSfondo()
-{
-    parti_->P1->PulisceSfondo();
-}
-
-void Frm1::DimenticaSfondo()
-{
-    parti_->P1->DimenticaSfondo();
-}
-
-void Frm1::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
-{
-    parti_->P1->DipingeSfondo(percorso, millimetri);
-}
-
-void Frm1::TogliRigheSimulate()
-{
-    elementi_->TogliRighe();
-}
-
-void Frm1::AggiungeRigheSimulate(const QList<RigaSimulata> &righe)
-{
-    for (const RigaSimulata &riga : righe) {
-        elementi_->AggiungeRiga(riga.posto, {riga.font, riga.grassetto, false}, riga.testo,
-                                riga.punti);
-    }
 }

@@ -242,8 +242,8 @@ void tst_Disposizione::SpostaIlGruppoFinoAlBordo()
 {
     Banco banco;
     banco.disposizione.Sposta({Campo1, Logo}, {100, 0}); // the image's right edge stands at 180.5
-    QCOMPARE(banco.Posto(Logo).right(), 240.0);
-    QCOMPARE(banco.Posto(Campo1).left(), 80.0); // 79.5
+    QCOMPARE(banco.Posto(Logo).right(), 239.5);          // all by the same whole millimetres
+    QCOMPARE(banco.Posto(Campo1).left(), 79.0);
     banco.disposizione.Sposta({Riquadro, Etichetta}, {0, 200});
     QCOMPARE(banco.Posto(Etichetta).bottom(), 350.0);
     QCOMPARE(banco.Posto(Riquadro).top(), 204.0);

@@ -187,10 +187,17 @@ void Postazione::RilasciaFoglio(QPointF carta) const
     QTest::mouseRelease(Anteprima().windowHandle(), Qt::LeftButton, {}, Pixel(carta));
 }
 
-void Postazione::Clicca(QPointF carta, Qt::MouseButton bottone) const
+void Postazione::Clicca(QPointF carta, Qt::MouseButton bottone, Qt::KeyboardModifiers tasti) const
 {
     Sorvola(carta);
-    QTest::mouseClick(Anteprima().windowHandle(), bottone, {}, Pixel(carta));
+    QTest::mouseClick(Anteprima().windowHandle(), bottone, tasti, Pixel(carta));
+}
+
+void Postazione::TastoSulFoglio(Qt::Key tasto, Qt::KeyboardModifiers modi) const
+{
+    Attiva(Anteprima());
+    Trova<QGraphicsView>(Anteprima(), "P1")->setFocus();
+    QTest::keyClick(Anteprima().windowHandle(), tasto, modi);
 }
 
 void Postazione::CliccaDueVolte(QPointF carta) const

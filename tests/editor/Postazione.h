@@ -65,7 +65,10 @@ public:
     /// True for a point of the sheet that the mouse can reach.
     bool SulFoglio(QPointF carta) const;
     void Sorvola(QPointF carta) const;
-    void Clicca(QPointF carta, Qt::MouseButton bottone = Qt::LeftButton) const;
+    void Clicca(QPointF carta, Qt::MouseButton bottone = Qt::LeftButton,
+                Qt::KeyboardModifiers tasti = {}) const;
+    /// Gives the sheet the focus and presses the key there.
+    void TastoSulFoglio(Qt::Key tasto, Qt::KeyboardModifiers modi = {}) const;
     void CliccaDueVolte(QPointF carta) const;
     void PremeFoglio(QPointF carta) const;
     void RilasciaFoglio(QPointF carta) const;

@@ -148,7 +148,7 @@ bool Sequenza::Previsto(const QString &messaggio)
         "|.*: manca il numero|.*: «.*» non è un numero|non è stata selezionata un immagine"
         "|font .* non esistente: verrà impostato Arial|Font: nessuno scelto"
         "|impossibile caricare l'immagine di sfondo [^\\n]*\\nerrore 53[^\\n]*"
-        "|Elimino .*|salvare le variazioni"
+        "|Elimino .*|salvare le variazioni|non c'è posto per (?s:.*)"
         "|Impostare la % di riduzione delle dimensioni dell'immagine"
         "|FrmCampo|FrmCornice|FrmImmagine")));
     return Previsti.match(messaggio).hasMatch();
@@ -220,15 +220,11 @@ QString Sequenza::Comando()
         int peso;
         void (Sequenza::*azione)();
     } Vocabolario[] = {
-        {"aggiunge", 4, &Sequenza::Aggiunge},
-        {"modifica", 14, &Sequenza::Modifica},
-        {"sul foglio", 26, &Sequenza::SulFoglio},
-        {"righe", 5, &Sequenza::Righe},
-        {"spostamento", 5, &Sequenza::Spostamento},
-        {"sfondo", 7, &Sequenza::Sfondo},
-        {"vista", 8, &Sequenza::Vista},
-        {"salva", 2, &Sequenza::Salva},
-        {"storia", 8, &Sequenza::Storia},
+        {"aggiunge", 4, &Sequenza::Aggiunge},     {"modifica", 14, &Sequenza::Modifica},
+        {"sul foglio", 26, &Sequenza::SulFoglio}, {"scelta", 20, &Sequenza::Scelta},
+        {"righe", 5, &Sequenza::Righe},           {"spostamento", 5, &Sequenza::Spostamento},
+        {"sfondo", 7, &Sequenza::Sfondo},         {"vista", 8, &Sequenza::Vista},
+        {"salva", 2, &Sequenza::Salva},           {"storia", 8, &Sequenza::Storia},
     };
     int pesi = 0;
     for (const auto &voce : Vocabolario) {

@@ -70,6 +70,10 @@ private:
     void Aggiunge();
     void Modifica();
     void SulFoglio();
+    void Scelta();
+    void ScegliColMouse();
+    void TrascinaGliScelti();
+    void TastiSulFoglio();
     void Righe();
     void Spostamento();
     void Sfondo();
