@@ -26,6 +26,7 @@ private slots:
     void NumeroTroppoGrande();
     void TooltipDellePagine();
     void SpostamentoPredefinito();
+    void LaDidascaliaStaSopraLeQuattroOpzioni();
     void SpostamentoCampi_data();
     void SpostamentoCampi();
     void SpostamentoConLaVirgola();
@@ -233,6 +234,22 @@ void tst_Pagine::SpostamentoPredefinito()
     PagineDiProva e;
     QCOMPARE(e.Testo("Spostamento"), QStringLiteral("1"));
     QVERIFY(!Trova<QCheckBox>(*e.editor, "OptSimuloRighe")->isChecked());
+}
+
+void tst_Pagine::LaDidascaliaStaSopraLeQuattroOpzioni()
+{
+    PagineDiProva e;
+    e.editor->show();
+    Trova<QTabWidget>(*e.editor, "SSTab1")->setCurrentIndex(4);
+    QCoreApplication::processEvents();
+    const auto *didascalia = Trova<QLabel>(*e.editor, "EtichettaDxSx");
+    QCOMPARE(didascalia->text(), QStringLiteral("sposta tutto dx/sx"));
+    const QRect posto = didascalia->geometry();
+    for (const char *opzione : {"OptDx", "OptSx", "OptSu", "OptGiu"}) {
+        const QRect sotto = Trova<QWidget>(*e.editor, opzione)->geometry();
+        QVERIFY2(posto.bottom() < sotto.top(), opzione);
+        QVERIFY2(posto.left() <= sotto.left() && posto.right() >= sotto.right(), opzione);
+    }
 }
 
 void tst_Pagine::SpostamentoCampi_data()
