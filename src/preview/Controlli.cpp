@@ -92,14 +92,14 @@ void ControlloElemento::ImpostaBordo(bool bordo, const QColor &colore)
     }
 }
 
-Etichetta::Etichetta(Genere g, int i)
+ControlloTesto::ControlloTesto(Genere g, int i)
     : ControlloElemento(g, i)
 {
     setFlag(ItemUsesExtendedStyleOption); // exposedRect
 }
 
-void Etichetta::ImpostaTesto(const TestoScalato::Aspetto &aspetto, const QString &testo,
-                             double punti, QPointF rientro)
+void ControlloTesto::ImpostaTesto(const TestoScalato::Aspetto &aspetto, const QString &testo,
+                                  double punti, QPointF rientro)
 {
     const bool altroTesto = testo_.Imposta(aspetto, testo);
     if (!altroTesto && punti == punti_ && rientro == rientro_) {
@@ -111,7 +111,7 @@ void Etichetta::ImpostaTesto(const TestoScalato::Aspetto &aspetto, const QString
     update();
 }
 
-void Etichetta::ImpostaColore(const QColor &colore)
+void ControlloTesto::ImpostaColore(const QColor &colore)
 {
     if (colore != colore_) {
         colore_ = colore;
@@ -119,7 +119,7 @@ void Etichetta::ImpostaColore(const QColor &colore)
     }
 }
 
-QRectF Etichetta::Dipinto() const
+QRectF ControlloTesto::Dipinto() const
 {
     const QSizeF misura = MisuraTesto();
     // Slanted or swash letters reach out of the box of their text.
@@ -128,7 +128,7 @@ QRectF Etichetta::Dipinto() const
     return Locale().united(scritta);
 }
 
-void Etichetta::paint(QPainter *penna, const QStyleOptionGraphicsItem *opzioni, QWidget *)
+void ControlloTesto::paint(QPainter *penna, const QStyleOptionGraphicsItem *opzioni, QWidget *)
 {
     testo_.Disegna(*penna, rientro_, punti_, colore_, opzioni->exposedRect);
     if (Bordo()) {

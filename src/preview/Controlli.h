@@ -60,12 +60,12 @@ private:
     QColor coloreBordo_ = Qt::black;
 };
 
-/// A label: a field, or a frame with its caption.
-class Etichetta : public ControlloElemento
+/// A control that shows a text: a field, or a frame with its caption.
+class ControlloTesto : public ControlloElemento
 {
     Q_OBJECT
 public:
-    Etichetta(Genere genere, int indice);
+    ControlloTesto(Genere genere, int indice);
 
     /// punti: size on the screen. rientro: from the control's corner to the text's, mm of screen.
     void ImpostaTesto(const TestoScalato::Aspetto &aspetto, const QString &testo, double punti,

@@ -36,7 +36,7 @@ void ElementiFoglio::Imposta(Genere genere, int i)
 void ElementiFoglio::ImpostaCampo(int i)
 {
     const Campo &campo = stato_.Aperto().Campi[i];
-    Etichetta &C1 = EtichettaDi(Genere::Campo, i);
+    ControlloTesto &C1 = ControlloTestoDi(Genere::Campo, i);
     C1.ImpostaTesto({campo.Font, campo.Grassetto != Falso, campo.Barrato()}, campo.Testo,
                     PuntiDiTesto(campo.Dimensione) / stato_.zoom, {0, 0});
     C1.Colloca(QRectF(C1.Posto().topLeft(), C1.MisuraTesto()));
@@ -49,7 +49,7 @@ void ElementiFoglio::ImpostaCampo(int i)
 void ElementiFoglio::ImpostaCornice(int i)
 {
     const Cornice &cornice = stato_.Aperto().Cornici[i];
-    Etichetta &C2 = EtichettaDi(Genere::Cornice, i);
+    ControlloTesto &C2 = ControlloTestoDi(Genere::Cornice, i);
     C2.ImpostaColore(QColor(Tavolozza::RgbONero(cornice.ColoreTesto)));
     C2.ImpostaTesto({cornice.Font, cornice.Grassetto != Falso, false}, cornice.Testo,
                     PuntiDiTesto(cornice.Dimensione) / stato_.zoom, AngoloScritta / stato_.zoom);
@@ -93,7 +93,7 @@ QRectF ElementiFoglio::PostoDa(Genere genere, int i) const
     switch (genere) {
     case Genere::Campo: {
         const Campo &campo = modello.Campi[i];
-        return {QPointF(campo.X / z, campo.Y / z), EtichettaDi(genere, i).MisuraTesto()};
+        return {QPointF(campo.X / z, campo.Y / z), ControlloTestoDi(genere, i).MisuraTesto()};
     }
     case Genere::Cornice:
         return posto(modello.Cornici[i]);

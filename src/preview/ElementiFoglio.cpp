@@ -60,9 +60,9 @@ ControlloElemento &ElementiFoglio::Elemento(Genere genere, int i) const
     return *controllo;
 }
 
-Etichetta &ElementiFoglio::EtichettaDi(Genere genere, int i) const
+ControlloTesto &ElementiFoglio::ControlloTestoDi(Genere genere, int i) const
 {
-    return static_cast<Etichetta &>(Elemento(genere, i));
+    return static_cast<ControlloTesto &>(Elemento(genere, i));
 }
 
 Maniglia &ElementiFoglio::ManigliaDi(Genere genere) const
@@ -86,7 +86,7 @@ void ElementiFoglio::Crea(Genere genere, int i)
         if (genere == Genere::Immagine) {
             controllo = new RiquadroImmagine(i);
         } else {
-            controllo = new Etichetta(genere, i);
+            controllo = new ControlloTesto(genere, i);
         }
         scena_.addItem(controllo);
         creati_.append(controllo);
@@ -182,7 +182,7 @@ void ElementiFoglio::CampineriTranne(int i)
         ManigliaDi(Genere::Campo).ImpostaPuntatore(Qt::ArrowCursor);
     }
     if (campoAcceso_ != 0 && campoAcceso_ != i) {
-        Etichetta &campo = EtichettaDi(Genere::Campo, campoAcceso_);
+        ControlloTesto &campo = ControlloTestoDi(Genere::Campo, campoAcceso_);
         campo.ImpostaColore(Qt::black);
         campo.ImpostaBordo(false, Qt::black);
         campoAcceso_ = 0;
@@ -192,7 +192,7 @@ void ElementiFoglio::CampineriTranne(int i)
 void ElementiFoglio::Accende(int i)
 {
     const QColor blu(Tavolozza::Rgb(Tavolozza::BluChiaro));
-    Etichetta &campo = EtichettaDi(Genere::Campo, i);
+    ControlloTesto &campo = ControlloTestoDi(Genere::Campo, i);
     campo.ImpostaColore(blu);
     campo.ImpostaBordo(true, blu);
     campoAcceso_ = i;

@@ -89,7 +89,7 @@ private:
     void SegueScelti();
     void ScriveSuggerimentoManiglia(Genere genere, int i);
     void MandaDavanti(Controllo &controllo);
-    Etichetta &EtichettaDi(Genere genere, int i) const;
+    ControlloTesto &ControlloTestoDi(Genere genere, int i) const;
 
     StatoProgramma &stato_;
     const GeometriaAnteprima &geometria_;

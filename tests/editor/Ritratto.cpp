@@ -67,10 +67,10 @@ QList<Voce *> DallaScena(const Postazione &posto)
     return trovati;
 }
 
-QString Carattere(const Etichetta &etichetta)
+QString Carattere(const ControlloTesto &controllo)
 {
-    const TestoScalato::Aspetto &forma = etichetta.Testo().Forma();
-    return forma.famiglia + u' ' + Mm(etichetta.Punti()) +
+    const TestoScalato::Aspetto &forma = controllo.Testo().Forma();
+    return forma.famiglia + u' ' + Mm(controllo.Punti()) +
            (forma.grassetto ? QStringLiteral(" grassetto") : QString()) +
            (forma.barrato ? QStringLiteral(" barrato") : QString());
 }
@@ -79,12 +79,12 @@ QString Carattere(const Etichetta &etichetta)
 QString Aspetto(const Postazione &posto, const ControlloElemento &elemento)
 {
     QString aspetto;
-    if (const auto *etichetta = dynamic_cast<const Etichetta *>(&elemento)) {
-        QString testo = etichetta->Testo().Testo();
+    if (const auto *controllo = dynamic_cast<const ControlloTesto *>(&elemento)) {
+        QString testo = controllo->Testo().Testo();
         if (elemento.genere == Genere::Campo) {
             testo = SenzaCifreACaso(testo, posto.Aperto().Campi[elemento.indice]);
         }
-        aspetto = Tra(testo) + u' ' + Carattere(*etichetta) + u' ' + etichetta->Colore().name();
+        aspetto = Tra(testo) + u' ' + Carattere(*controllo) + u' ' + controllo->Colore().name();
     }
     if (elemento.Bordo()) {
         aspetto += QStringLiteral(" bordo ") + elemento.ColoreBordo().name();
@@ -212,13 +212,13 @@ QString PostoAperto(const Postazione &posto, const ControlloElemento &elemento)
 /// The element without what the pointer does to it.
 QString AspettoFermo(const ControlloElemento &elemento)
 {
-    const auto *etichetta = dynamic_cast<const Etichetta *>(&elemento);
+    const auto *controllo = dynamic_cast<const ControlloTesto *>(&elemento);
     QString aspetto = Una(elemento.toolTip());
-    if (etichetta != nullptr) {
-        aspetto += u' ' + Tra(etichetta->Testo().Testo()) + u' ' + Carattere(*etichetta);
+    if (controllo != nullptr) {
+        aspetto += u' ' + Tra(controllo->Testo().Testo()) + u' ' + Carattere(*controllo);
     }
     if (elemento.genere == Genere::Cornice) {
-        aspetto += u' ' + etichetta->Colore().name() + u' ' +
+        aspetto += u' ' + controllo->Colore().name() + u' ' +
                    (elemento.Bordo() ? elemento.ColoreBordo().name() : SiNo(false));
     }
     return aspetto;

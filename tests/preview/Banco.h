@@ -118,8 +118,14 @@ public:
         }
         return trovato;
     }
-    Etichetta *C1(int i) const { return Controllo_<Etichetta>(QStringLiteral("C1(%1)").arg(i)); }
-    Etichetta *C2(int i) const { return Controllo_<Etichetta>(QStringLiteral("C2(%1)").arg(i)); }
+    ControlloTesto *C1(int i) const
+    {
+        return Controllo_<ControlloTesto>(QStringLiteral("C1(%1)").arg(i));
+    }
+    ControlloTesto *C2(int i) const
+    {
+        return Controllo_<ControlloTesto>(QStringLiteral("C2(%1)").arg(i));
+    }
     RiquadroImmagine *C3(int i) const
     {
         return Controllo_<RiquadroImmagine>(QStringLiteral("C3(%1)").arg(i));

@@ -135,9 +135,9 @@ void tst_ElementiAspetto::SenzaFontODimensioneComeSuCarta()
     banco.frm->ImpostazioniCornice(1);
     // What the printer sets: Arial in 8 points.
     const QSizeF carta = MisuraTesto(testo, QStringLiteral("Arial"), 8, false);
-    for (const Etichetta *etichetta : {banco.C1(1), banco.C2(1)}) {
-        QCOMPARE(etichetta->Punti(), 8 / zoom);
-        const QSizeF misura = etichetta->MisuraTesto() * zoom;
+    for (const ControlloTesto *controllo : {banco.C1(1), banco.C2(1)}) {
+        QCOMPARE(controllo->Punti(), 8 / zoom);
+        const QSizeF misura = controllo->MisuraTesto() * zoom;
         QVERIFY2(qAbs(misura.width() - carta.width()) < 0.1 &&
                      qAbs(misura.height() - carta.height()) < 0.1,
                  qPrintable(QStringLiteral("%1 x %2").arg(misura.width()).arg(misura.height())));

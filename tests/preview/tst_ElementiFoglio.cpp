@@ -165,7 +165,7 @@ void tst_ElementiFoglio::ElementoRicreatoTornaVisibile()
 {
     Banco banco;
     banco.Cornice(10, 20, 30, 10);
-    Etichetta *C2 = banco.C2(1);
+    ControlloTesto *C2 = banco.C2(1);
     banco.frm->NascondiElemento(Genere::Cornice, 1);
     banco.frm->CreaElemento(Genere::Cornice, 1);
     QCOMPARE(banco.C2(1), C2);
