@@ -278,6 +278,13 @@ void Schermo::Trascina(const QList<QPoint> &punti) const
     Xdotool(gesti << QStringLiteral("mouseup") << QStringLiteral("1"));
 }
 
+void Schermo::Tenendo(const QString &tasto, const std::function<void()> &azione) const
+{
+    Xdotool({QStringLiteral("keydown"), tasto});
+    azione();
+    Xdotool({QStringLiteral("keyup"), tasto});
+}
+
 void Schermo::Tasti(const QStringList &tasti) const
 {
     if (!tasti.isEmpty()) {

@@ -64,6 +64,8 @@ public:
     void Clic(QPoint punto, int bottone = 1, int volte = 1) const;
     /// Presses at the first point, moves through all of them and releases at the last.
     void Trascina(const QList<QPoint> &punti) const;
+    /// Does something while a key is held, by its X name.
+    void Tenendo(const QString &tasto, const std::function<void()> &azione) const;
     /// Keys by their X names, combinations joined by "+".
     void Tasti(const QStringList &tasti) const;
     void Tasto(const QString &tasto, int volte = 1) const;

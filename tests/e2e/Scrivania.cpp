@@ -288,6 +288,17 @@ void Scrivania::TrascinaCampo(QPointF campo, QPointF a)
     Trascina(SulFoglio(campo) + maniglia, SulFoglio(a));
 }
 
+void Scrivania::TrascinaSulFoglio(QPointF da, QPointF a) const
+{
+    Trascina(SulFoglio(da), SulFoglio(a));
+}
+
+void Scrivania::SceglieCampo(QPointF millimetri)
+{
+    PuntaCampo(millimetri);
+    schermo_->Tenendo(QStringLiteral("ctrl"), [&] { schermo_->Clic(SulFoglio(millimetri)); });
+}
+
 void Scrivania::AllargaCornice(QPointF dentro, QPointF bordo, int pixel)
 {
     Anteprima();

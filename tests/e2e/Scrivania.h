@@ -75,6 +75,10 @@ public:
     /// Points at a field, takes it by its handle and drops it where its corner comes to lie on the
     /// other point; both in mm of paper.
     void TrascinaCampo(QPointF campo, QPointF a);
+    /// The same from any point of the paper to another, while the preview is not scrolled.
+    void TrascinaSulFoglio(QPointF da, QPointF a) const;
+    /// Points at a field and clicks with Ctrl, which puts it into the chosen set or takes it out.
+    void SceglieCampo(QPointF millimetri);
     /// Selects a frame by a click, then drags its right edge by so many of the program's pixels.
     void AllargaCornice(QPointF dentro, QPointF bordo, int pixel);
     /// Opens the dialog of the field, frame or image at the point of the paper.

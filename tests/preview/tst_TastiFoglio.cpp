@@ -20,7 +20,7 @@ public:
         Campo(QStringLiteral("R_Qta"), 20, 100);
         Cornice(60, 20, 30, 20);
         Immagine(80.5, 10.25, 30, 20, QStringLiteral("logo.bmp"));
-        Cambia([](Modello &modello) { modello.Righe.yInizio = 100; });
+        Cambia([](Modello &nuovo) { nuovo.Righe.yInizio = 100; });
         P1()->setFocus();
         segnali.clear();
     }

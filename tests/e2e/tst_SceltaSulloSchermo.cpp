@@ -1,0 +1,152 @@
+#include "RigheFile.h"
+#include "Scrivania.h"
+
+#include <QTest>
+
+namespace {
+
+using Campo = RigheFile::Campo;
+using Cornice = RigheFile::Cornice;
+
+const QString Fattura = QStringLiteral("Fattura_Rossi");
+const QByteArray Ordine("Vs_Ordine"); // at (9, 79)
+const QByteArray Ddt("Ns_Ddt");       // at (84, 79)
+const QByteArray Agente("Agente");    // at (162, 61)
+constexpr QPointF NellOrdine(17, 81);
+constexpr QPointF NelDdt(92, 81);
+constexpr QPointF NellAgente(170, 63);
+
+/// The sample invoice in the real program, and what its file held before.
+struct Banco
+{
+    Banco()
+    {
+        scrivania.Avvia();
+        scrivania.ApreModello(Fattura);
+    }
+
+    Schermo &Video() { return scrivania.Video(); }
+    void Tasti(const QStringList &tasti)
+    {
+        scrivania.Anteprima();
+        Video().Tasti(tasti);
+    }
+    /// Saves and compares the file with what is expected of it.
+    QByteArray Differenza(const RigheFile &atteso)
+    {
+        scrivania.Salva();
+        return RigheFile(file).Differenza(atteso);
+    }
+
+    Scrivania scrivania;
+    const QString file = scrivania.CartellaModelli() + Fattura + QStringLiteral(".Mod");
+    const RigheFile prima{file};
+};
+
+} // namespace
+
+/// Choosing, moving, arranging and deleting several elements with the mouse and the keys of a real
+/// screen; what the file holds then is what the rules of placing make of it.
+class tst_SceltaSulloSchermo : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ctrlClickELeFrecce();
+    void unoTrascinatoPortaGliAltri();
+    void allineatiColTastoEAnnullati();
+    void laBandaEliminaConUnaDomanda();
+    void soloConITasti();
+};
+
+void tst_SceltaSulloSchermo::ctrlClickELeFrecce()
+{
+    Banco banco;
+    banco.scrivania.SceglieCampo(NellOrdine);
+    banco.scrivania.SceglieCampo(NelDdt);
+    banco.Tasti({QStringLiteral("Right"), QStringLiteral("Right"), QStringLiteral("shift+Down")});
+    RigheFile atteso = banco.prima;
+    atteso.Mette(Ordine, Campo::X, "11");
+    atteso.Mette(Ordine, Campo::Y, "89");
+    atteso.Mette(Ddt, Campo::X, "86");
+    atteso.Mette(Ddt, Campo::Y, "89");
+    const QByteArray differenza = banco.Differenza(atteso);
+    QVERIFY2(differenza.isEmpty(), differenza);
+}
+
+void tst_SceltaSulloSchermo::unoTrascinatoPortaGliAltri()
+{
+    Banco banco;
+    banco.scrivania.SceglieCampo(NelDdt);
+    banco.scrivania.SceglieCampo(NellAgente);
+    banco.scrivania.SceglieCampo(NellOrdine);
+    banco.scrivania.TrascinaCampo({9, 79}, {29, 99});
+    banco.scrivania.Salva();
+    const RigheFile dopo(banco.file);
+    const int x = dopo.Riga(Ordine, Campo::X).toInt() - 9;
+    const int y = dopo.Riga(Ordine, Campo::Y).toInt() - 79;
+    QVERIFY2(qAbs(x - 20) <= 1 && qAbs(y - 20) <= 1, dopo.Riga(Ordine, Campo::X));
+    RigheFile atteso = banco.prima;
+    const auto mette = [&](const QByteArray &nome, int daX, int daY) {
+        atteso.Mette(nome, Campo::X, QByteArray::number(daX + x));
+        atteso.Mette(nome, Campo::Y, QByteArray::number(daY + y));
+    };
+    mette(Ordine, 9, 79);
+    mette(Ddt, 84, 79);
+    mette(Agente, 162, 61);
+    QVERIFY2(dopo.Differenza(atteso).isEmpty(), dopo.Differenza(atteso));
+}
+
+void tst_SceltaSulloSchermo::allineatiColTastoEAnnullati()
+{
+    Banco banco;
+    banco.scrivania.SceglieCampo(NelDdt);
+    banco.scrivania.SceglieCampo(NellAgente);
+    banco.scrivania.SceglieCampo(NellOrdine);
+    banco.Tasti({QStringLiteral("ctrl+shift+s")});
+    RigheFile atteso = banco.prima;
+    atteso.Mette(Ddt, Campo::X, "9");
+    atteso.Mette(Agente, Campo::X, "9");
+    const QByteArray differenza = banco.Differenza(atteso);
+    QVERIFY2(differenza.isEmpty(), differenza);
+    banco.Tasti({QStringLiteral("ctrl+z")});
+    const QByteArray annullato = banco.Differenza(banco.prima);
+    QVERIFY2(annullato.isEmpty(), annullato);
+}
+
+void tst_SceltaSulloSchermo::laBandaEliminaConUnaDomanda()
+{
+    Banco banco;
+    // From the bare margin around the four lines at the right of the letterhead.
+    banco.scrivania.Anteprima();
+    banco.scrivania.TrascinaSulFoglio({232, 2}, {120, 26});
+    banco.Tasti({QStringLiteral("Delete")});
+    banco.Video().Attende(Scrivania::TitoloRiquadro);
+    banco.Video().Tasti({QStringLiteral("alt+s")});
+    banco.Video().Attende(Scrivania::TitoloAnteprima);
+    banco.scrivania.Salva();
+    QList<QByteArray> rimasti = banco.prima.NomiCampi();
+    for (const char *nome : {"Ditta_Tel", "Ditta_Email", "Ditta_Web", "Ditta_Rea"}) {
+        QVERIFY(rimasti.removeOne(nome));
+    }
+    QCOMPARE(RigheFile(banco.file).NomiCampi(), rimasti);
+}
+
+void tst_SceltaSulloSchermo::soloConITasti()
+{
+    Banco banco;
+    banco.scrivania.Anteprima();
+    banco.Video().Clic(banco.scrivania.SulFoglio({225, 60})); // the bare sheet: it has the keys
+    // The logo is read first.
+    banco.Tasti({QStringLiteral("Tab"), QStringLiteral("Tab"), QStringLiteral("shift+Tab"),
+                 QStringLiteral("shift+Right"), QStringLiteral("ctrl+Down")});
+    banco.scrivania.Salva();
+    const RigheFile dopo(banco.file);
+    RigheFile atteso = banco.prima;
+    atteso.Mette("LogoCascinalta.gif", RigheFile::Immagine::X, "17");
+    atteso.Mette("LogoCascinalta.gif", RigheFile::Immagine::Altezza, "23");
+    QVERIFY2(dopo.Differenza(atteso).isEmpty(), dopo.Differenza(atteso));
+}
+
+QTEST_GUILESS_MAIN(tst_SceltaSulloSchermo)
+#include "tst_SceltaSulloSchermo.moc"
