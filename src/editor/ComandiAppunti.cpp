@@ -82,33 +82,39 @@ ComandiAppunti::ComandiAppunti(StatoProgramma &stato, QWidget &editor, Frm1 &ant
     , editor_(editor)
     , anteprima_(anteprima)
 {
-    deiScelti_ = {Crea(QStringLiteral("Copia"), QStringLiteral("Copia"),
-                       QKeySequence(Qt::CTRL | Qt::Key_C), &ComandiAppunti::Copia),
-                  Crea(QStringLiteral("Taglia"), QStringLiteral("Taglia"),
-                       QKeySequence(Qt::CTRL | Qt::Key_X), &ComandiAppunti::Taglia),
-                  Crea(QStringLiteral("Duplica"), QStringLiteral("Duplica"),
-                       QKeySequence(Qt::CTRL | Qt::Key_D), &ComandiAppunti::Duplica)};
+    Crea(QStringLiteral("Copia"), QStringLiteral("Copia"), QKeySequence(Qt::CTRL | Qt::Key_C),
+         &ComandiAppunti::Copia);
+    Crea(QStringLiteral("Taglia"), QStringLiteral("Taglia"), QKeySequence(Qt::CTRL | Qt::Key_X),
+         &ComandiAppunti::Taglia);
+    Crea(QStringLiteral("Duplica"), QStringLiteral("Duplica"), QKeySequence(Qt::CTRL | Qt::Key_D),
+         &ComandiAppunti::Duplica);
+    deiScelti_ = comandi_;
     Crea(QStringLiteral("Incolla"), QStringLiteral("Incolla"), QKeySequence(Qt::CTRL | Qt::Key_V),
          &ComandiAppunti::IncollaSpostato);
     Crea(QStringLiteral("IncollaSulPosto"), QStringLiteral("Incolla nello stesso posto"),
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), &ComandiAppunti::IncollaSulPosto);
+    AggiungeFinestra(editor_);
+    AggiungeFinestra(anteprima_);
     connect(&stato_.selezione, &Selezione::SceltiCambiati, this, &ComandiAppunti::Abilita);
     Abilita();
 }
 
-QAction *ComandiAppunti::Crea(const QString &nome, const QString &testo, const QKeySequence &tasti,
-                              Comando comando)
+void ComandiAppunti::AggiungeFinestra(QWidget &finestra)
+{
+    finestra.addActions(comandi_);
+}
+
+void ComandiAppunti::Crea(const QString &nome, const QString &testo, const QKeySequence &tasti,
+                          Comando comando)
 {
     QAction *azione = CreaComando(this, nome, testo, {tasti});
     azione->setAutoRepeat(false);
-    editor_.addAction(azione);
-    anteprima_.addAction(azione);
     Collega(azione, &QAction::triggered, &editor_, [this, comando] {
         if (!Occupato()) {
             (this->*comando)();
         }
     });
-    return azione;
+    comandi_.append(azione);
 }
 
 void ComandiAppunti::Abilita()

@@ -20,10 +20,13 @@ public:
     /// All outlive it.
     ComandiAppunti(StatoProgramma &stato, QWidget &editor, Frm1 &anteprima);
 
+    /// The keys work in that window too.
+    void AggiungeFinestra(QWidget &finestra);
+
 private:
     using Comando = void (ComandiAppunti::*)();
-    QAction *Crea(const QString &nome, const QString &testo, const QKeySequence &tasti,
-                  Comando comando);
+    void Crea(const QString &nome, const QString &testo, const QKeySequence &tasti,
+              Comando comando);
     void Abilita();
     bool Occupato() const;
 
@@ -47,7 +50,8 @@ private:
     StatoProgramma &stato_;
     QWidget &editor_;
     Frm1 &anteprima_;
-    QList<QAction *> deiScelti_; ///< commands on the chosen elements
+    QList<QAction *> comandi_;
+    QList<QAction *> deiScelti_; ///< those on the chosen elements
     QByteArray incollati_;       ///< what was pasted last, and
     int volte_ = 0;              ///< how many times, those in place left out
 };
