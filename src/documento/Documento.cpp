@@ -135,12 +135,12 @@ void Documento::DimenticaStoria()
 
 bool Documento::PuoAnnullare() const
 {
-    return aperto_ == nullptr && sospesa_ == 0 && storia_->canUndo();
+    return !ModificaInCorso() && storia_->canUndo();
 }
 
 bool Documento::PuoRipristinare() const
 {
-    return aperto_ == nullptr && sospesa_ == 0 && storia_->canRedo();
+    return !ModificaInCorso() && storia_->canRedo();
 }
 
 QString Documento::TestoAnnulla() const

@@ -50,15 +50,15 @@ public:
     /// Nothing can be undone from here on.
     void DimenticaStoria();
 
-    /// A step is open: a gesture or a dialog is under way.
-    bool ModificaInCorso() const { return aperto_ != nullptr; }
+    /// A step is open or the history suspended: a gesture or a dialog is under way.
+    bool ModificaInCorso() const { return aperto_ != nullptr || sospesa_ > 0; }
     bool PuoAnnullare() const;
     bool PuoRipristinare() const;
     /// What the next undo or redo is about ("sposta Doc_Numero"); empty when there is none.
     QString TestoAnnulla() const;
     QString TestoRipristina() const;
-    /// Takes the last step back, or does it again. Nothing while a step is open or the history is
-    /// suspended: a dialog or a gesture has to end first.
+    /// Takes the last step back, or does it again. Nothing in the middle of an edit: a dialog or a
+    /// gesture has to end first.
     void Annulla();
     void Ripristina();
     /// A later step joins no earlier one, and what was typed is a finished edit: the text box has

@@ -33,19 +33,6 @@ double Sensato(double millimetri)
     return std::isnan(millimetri) ? 0 : std::clamp(millimetri, -Massimo, Massimo);
 }
 
-QSizeF Misura(const Modello &elementi, Chiave chiave, const Incolla::Dove &dove)
-{
-    switch (chiave.genere) {
-    case Genere::Campo:
-        return dove.misura(elementi.Campi[chiave.indice]);
-    case Genere::Cornice:
-        return {elementi.Cornici[chiave.indice].Larghezza, elementi.Cornici[chiave.indice].Altezza};
-    case Genere::Immagine:
-        break;
-    }
-    return {elementi.Immagini[chiave.indice].Larghezza, elementi.Immagini[chiave.indice].Altezza};
-}
-
 bool DiRiga(const Modello &elementi, Chiave chiave)
 {
     return chiave.genere == Genere::Campo && CampoDiRiga(elementi.Campi[chiave.indice]);
@@ -68,7 +55,7 @@ QPointF Spostamento(const ElementiCopiati &elementi, const Incolla::Dove &dove)
     Tratto y;
     for (const Chiave &chiave : elementi.Ordine) {
         const Elemento &elemento = elementi.Elementi.Di(chiave);
-        const QSizeF misura = Misura(elementi.Elementi, chiave, dove);
+        const QSizeF misura = dove.misura(elementi.Elementi, chiave);
         x.Unisce(Sensato(elemento.X), Sensato(misura.width()));
         // Row fields go to the row area, wherever they stood.
         if (!DiRiga(elementi.Elementi, chiave)) {

@@ -23,8 +23,8 @@ struct Dove
     /// Exactly where they stood, unless that is off the sheet.
     bool sulPosto = false;
     QSizeF foglio;
-    /// How large a field's text is.
-    std::function<QSizeF(const Campo &)> misura;
+    /// Of an element on paper: of a field that of its text.
+    std::function<QSizeF(const Modello &, Chiave)> misura;
 };
 
 /// What undo will say, and a message.

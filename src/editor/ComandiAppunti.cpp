@@ -10,6 +10,7 @@
 #include "grafica/Testo.h"
 #include "preview/Frm1.h"
 #include "preview/GeometriaAnteprima.h"
+#include "preview/MisuraSuCarta.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -68,11 +69,6 @@ QString Frase(const QStringList &note)
         frase[0] = frase[0].toUpper();
     }
     return frase;
-}
-
-QSizeF MisuraCampo(const Campo &campo)
-{
-    return MisuraTesto(campo.Testo, campo.Font, campo.Dimensione, campo.Grassetto != Falso);
 }
 
 } // namespace
@@ -230,10 +226,10 @@ bool ComandiAppunti::Aggiunge(const ElementiCopiati &elementi, const Incolla::Pa
                               double scarto, bool sulPosto, QStringList note)
 {
     constexpr QSizeF Foglio(GeometriaAnteprima::LarghezzaCarta, GeometriaAnteprima::AltezzaCarta);
-    const Incolla::Esito esito = elementi.Ordine.isEmpty()
-                                     ? Incolla::Esito{}
-                                     : Incolla::Aggiunge(stato_.documento, elementi, parole,
-                                                         {scarto, sulPosto, Foglio, &MisuraCampo});
+    const Incolla::Esito esito =
+        elementi.Ordine.isEmpty() ? Incolla::Esito{}
+                                  : Incolla::Aggiunge(stato_.documento, elementi, parole,
+                                                      {scarto, sulPosto, Foglio, &MisuraSuCarta});
     if (!esito.rinominati.isEmpty()) {
         note.append(NotaSuiNomi(esito.rinominati));
     }

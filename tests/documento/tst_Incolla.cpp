@@ -16,10 +16,21 @@ namespace {
 const Incolla::Parole Parole{QStringLiteral("incolla"), QStringLiteral("incollare"),
                              QStringLiteral("gli appunti ne hanno")};
 
-/// Every field's text is 20 x 5 mm.
+/// Of a field 20 x 5 mm, whatever its text.
+QSizeF Misura(const Modello &modello, Chiave chiave)
+{
+    return modello.Con(chiave.genere, [&](const auto &tabella) -> QSizeF {
+        if constexpr (requires { tabella[0].Larghezza; }) {
+            return {tabella[chiave.indice].Larghezza, tabella[chiave.indice].Altezza};
+        } else {
+            return {20, 5};
+        }
+    });
+}
+
 Incolla::Dove Scostato(double scarto)
 {
-    return {scarto, false, {240, 350}, [](const Campo &) { return QSizeF(20, 5); }};
+    return {scarto, false, {240, 350}, &Misura};
 }
 
 Incolla::Dove SulPosto()

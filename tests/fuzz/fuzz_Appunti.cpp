@@ -38,8 +38,9 @@ void ProvaIncolla(const ElementiCopiati &elementi, bool sulPosto)
     if (!Incolla::SenzaPosto(prima, elementi, Parole).isEmpty()) {
         return;
     }
-    const Incolla::Dove dove{5, sulPosto, {240, 350}, [](const Campo &campo) {
-                                 return QSizeF(campo.Dimensione, campo.Dimensione);
+    const Incolla::Dove dove{5, sulPosto, {240, 350}, [](const Modello &modello, Chiave chiave) {
+                                 const Elemento &elemento = modello.Di(chiave);
+                                 return QSizeF(elemento.Nome.size(), elemento.X);
                              }};
     const Incolla::Esito esito = Incolla::Aggiunge(documento, elementi, Parole, dove);
     PRETENDE(esito.nuovi.size() == elementi.Ordine.size());
