@@ -32,6 +32,8 @@ public:
     void Posiziona(Genere genere, int i);
     /// Only where the control and the handle of its kind stand, with the model's very numbers.
     void Ricolloca(Genere genere, int i);
+    /// True when the element has a control, hidden or not.
+    bool Creato(Genere genere, int i) const { return elementi_.at(Posto(genere))[i] != nullptr; }
     /// True when the element has a control, and that is not hidden.
     bool InVista(Genere genere, int i) const;
     void Seleziona(Genere genere, int i);

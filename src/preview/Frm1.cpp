@@ -6,6 +6,7 @@
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "model/Numeri.h"
+#include "preview/AccessoFoglio.h"
 #include "preview/AttrezziFoglio.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/ManiSulFoglio.h"
@@ -103,6 +104,11 @@ void Frm1::CollegaSegnali()
     Collega(mani_.get(), &AvvisiFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
     Collega(mani_.get(), &AvvisiFoglio::FoglioSorvolato, this, &Frm1::MostraSorvolo);
     Collega(mani_.get(), &AvvisiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
+    // After the sheet itself: what it tells of the elements is what they have become.
+    accesso_ = std::make_unique<AccessoFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1);
+    Collega(accesso_.get(), &AccessoFoglio::RichiestaProprieta, this,
+            [this](Genere genere, int i) { emit RichiestaProprieta(genere, i); });
+    Collega(accesso_.get(), &AccessoFoglio::SceltaRichiesta, this, &Frm1::Sceglie);
 }
 
 void Frm1::Form_Resize()

@@ -15,6 +15,7 @@
 #include <memory>
 
 struct StatoProgramma;
+class AccessoFoglio;
 class QAction;
 class Cambiamento;
 struct PartiAnteprima;
@@ -195,5 +196,6 @@ private:
     std::unique_ptr<AttrezziFoglio> attrezzi_;
     std::unique_ptr<ManiSulFoglio> mani_;
     std::unique_ptr<TastiFoglio> tasti_;
+    std::unique_ptr<AccessoFoglio> accesso_;
     QPointF giroRuota_; // fractions of a mm that the wheel has turned and nothing has scrolled yet
 };

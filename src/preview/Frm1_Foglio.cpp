@@ -2,6 +2,7 @@
 // may ask of them.
 
 #include "documento/StatoProgramma.h"
+#include "preview/AccessoFoglio.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/Frm1.h"
 #include "preview/ManiSulFoglio.h"
@@ -66,6 +67,7 @@ void Frm1::MostraModello()
     PrimoPianoImmagini();
     PrimoPianoCornici();
     PrimoPianoCampi();
+    accesso_->Rilegge();
 }
 
 void Frm1::SegueDocumento(const Cambiamento &cambiamento)

@@ -4,6 +4,7 @@
 #include "finestre/EtichettaAbbreviata.h"
 #include "finestre/Finestre.h"
 #include "preview/CorniceFuoco.h"
+#include "preview/FoglioAccessibile.h"
 #include "preview/PulsantiStriscia.h"
 #include "preview/Righelli.h"
 #include "preview/VistaFoglio.h"
@@ -64,6 +65,7 @@ void PartiAnteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
     AreaFoglio = CreaArea(finestra, QStringLiteral("AreaFoglio"));
     AreaFoglio->setBackgroundRole(QPalette::Mid);
     AreaFoglio->setAutoFillBackground(true);
+    InstallaFoglioAccessibile(); // before anything asks what the sheet is
     P1 = new VistaFoglio(&scena, geometria, stato, AreaFoglio);
     P1->setObjectName(QStringLiteral("P1"));
     P1->setAccessibleName(QStringLiteral("foglio"));
@@ -79,6 +81,8 @@ void PartiAnteprima::CreaFoglio(QWidget *finestra, const StatoProgramma &stato)
     AreaRighelloY = CreaArea(finestra, QStringLiteral("AreaRighelloY"));
     RighelloY = new RighelloFoglio(Qt::Vertical, geometria.PixelPerMillimetro(), AreaRighelloY);
     RighelloY->setObjectName(QStringLiteral("RighelloY"));
+    RighelloX->setAccessibleName(QStringLiteral("righello orizzontale, in centimetri"));
+    RighelloY->setAccessibleName(QStringLiteral("righello verticale, in centimetri"));
     RighelloY->setGeometry(0, P1Top0, spessore, pixel.height());
 }
 
@@ -89,6 +93,8 @@ void PartiAnteprima::CreaScorrimento(QWidget *finestra)
     ScrollX->setRange(0, geometria.MassimoScrollX());
     ScrollY = new QScrollBar(Qt::Vertical, finestra);
     ScrollY->setObjectName(QStringLiteral("ScrollY"));
+    ScrollX->setAccessibleName(QStringLiteral("scorrimento orizzontale del foglio"));
+    ScrollY->setAccessibleName(QStringLiteral("scorrimento verticale del foglio"));
     ScrollY->setRange(0, geometria.MassimoScrollY());
     for (QScrollBar *barra : {ScrollX, ScrollY}) {
         barra->setSingleStep(PassoFreccia);
