@@ -1,5 +1,6 @@
 #include "LineaDiComando.h"
 #include "Plakera.h"
+#include "finestre/ComboAccessibile.h"
 #include "finestre/Finestre.h"
 #include "finestre/ScalaSchermo.h"
 #include "sistema/SenzaFinestre.h"
@@ -58,6 +59,7 @@ int main(int argc, char *argv[])
     if (lettura.richieste->SenzaFinestre()) {
         return StampaSenzaFinestre(*lettura.richieste);
     }
+    InstallaComboAccessibili();
     Plakera plakera;
     if (!plakera.Avvia(lettura.richieste->dati)) {
         return 1;

@@ -6,6 +6,7 @@
 #include "catalogue/TabellaFont.h"
 #include "finestre/ApriManuale.h"
 #include "finestre/Finestre.h"
+#include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "finestre/Icone.h"
 #include "finestre/Messaggi.h"
@@ -71,6 +72,7 @@ bool SelezioneArchivifrm::Form_Load(const QString &datiIndicati)
 {
     PosizionaFinestra();
     ImpostaHelp(this);
+    MostraFuoco(this);
     ui_->Label3->setText(CartellaProgramma());
     ui_->Label3->setToolTip(CartellaProgramma());
     if (!istanza_.Acquisisce()) {

@@ -2,6 +2,7 @@
 
 #include "ui_FrmCornice.h"
 
+#include "finestre/Contrasto.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "grafica/Testo.h"
@@ -13,11 +14,10 @@ namespace {
 const auto BordoAssente = QStringLiteral("0");
 const auto BordoPieno = QStringLiteral("1");
 
-/// A background on which a text of the colour can be read.
+/// A background on which a text of the colour can be read: one of the two always can.
 QColor Sfondo(const QColor &colore)
 {
-    constexpr int Chiaro = 160;
-    return qGray(colore.rgb()) < Chiaro ? QColor(Qt::white) : QColor(Qt::darkGray).darker();
+    return Contrasto(colore, Qt::white) >= Contrasto(colore, Qt::black) ? Qt::white : Qt::black;
 }
 
 } // namespace

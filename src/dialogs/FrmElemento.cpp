@@ -2,6 +2,7 @@
 
 #include "base/ErroreSistema.h"
 #include "finestre/Finestre.h"
+#include "finestre/FuocoInVista.h"
 #include "finestre/Messaggi.h"
 #include "model/Numeri.h"
 
@@ -36,6 +37,7 @@ void FrmElemento::Form_Load(const Controlli &controlli)
     tavolozza.setBrush(QPalette::Base, tavolozza.window());
     controlli_.Num->setPalette(tavolozza);
     ImpostaHelp(this);
+    MostraFuoco(this);
     LimitaAlCodice(this);
     FermaRotella(this);
     LimitaElenchi(this);

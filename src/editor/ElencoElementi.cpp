@@ -3,6 +3,7 @@
 #include "documento/StatoProgramma.h"
 #include "editor/RigheElenco.h"
 #include "finestre/Finestre.h"
+#include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "preview/Frm1.h"
 #include "ui_ElencoElementi.h"
@@ -63,6 +64,7 @@ ElencoElementi::ElencoElementi(StatoProgramma &stato, Frm1 &anteprima)
     ui_->Elementi->setItemDelegate(new CasellaDiPosto(this));
     LarghezzeColonne();
     ImpostaHelp(this);
+    MostraFuoco(this);
     Collegamenti();
     MostraScelti();
 }

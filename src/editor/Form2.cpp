@@ -14,6 +14,7 @@
 #include "editor/PaginaSfondo.h"
 #include "editor/PaginaSpostamento.h"
 #include "finestre/Finestre.h"
+#include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "finestre/Icone.h"
 #include "preview/Frm1.h"
@@ -93,6 +94,7 @@ bool Form2::Form_Load()
     spostamento_->Mostra();
     sfondo_->Mostra();
     ImpostaHelp(this);
+    MostraFuoco(this);
     Collegamenti();
     CollegaAnteprima();
     storia_ = std::make_unique<ComandiStoria>(stato_.documento, ui_->Annulla, ui_->Ripristina,

@@ -5,6 +5,7 @@
 #include "base/ErroreSistema.h"
 #include "base/Logici.h"
 #include "finestre/Finestre.h"
+#include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
 #include "sistema/Percorsi.h"
@@ -85,6 +86,7 @@ Sfoglia::Sfoglia(QWidget *padre)
     resize(EntroLoSchermo(this, size()));
     FermaRotella(this);
     LimitaElenchi(this);
+    MostraFuoco(this);
     CollegaSegnali();
 }
 

@@ -19,6 +19,8 @@ constexpr double LimiteMillimetri = 5000;
 constexpr double MargineGriglia = 0.3;
 /// A picture larger than this on the screen is stretched rather than decoded larger.
 constexpr int LatoMassimo = 3000;
+/// Of the simulated rows: paler than the elements, and still to be read.
+constexpr QColor ColoreRighe(0x66, 0x66, 0x66);
 
 double Entro(double valore)
 {
@@ -231,7 +233,7 @@ void Riga::paint(QPainter *penna, const QStyleOptionGraphicsItem *opzioni, QWidg
     const QRectF visibile = opzioni->exposedRect.intersected(Entro(Locale()));
     penna->save();
     penna->setClipRect(visibile, Qt::IntersectClip);
-    testo_.Disegna(*penna, {0, 0}, punti_, Qt::darkGray, visibile);
+    testo_.Disegna(*penna, {0, 0}, punti_, ColoreRighe, visibile);
     penna->restore();
 }
 

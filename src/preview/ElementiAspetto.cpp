@@ -64,7 +64,7 @@ void ElementiFoglio::ImpostaCornice(int i)
 void ElementiFoglio::ImpostaImmagine(int i)
 {
     ControlloElemento &C3 = Elemento(Genere::Immagine, i);
-    C3.ImpostaBordo(true, Qt::gray);
+    C3.ImpostaBordo(true, Qt::darkGray);
     C3.ImpostaSuggerimento(QStringLiteral("Immagine ") + stato_.Aperto().Immagini[i].Nome);
 }
 
