@@ -27,7 +27,7 @@ bool Uguali(const QRectF &uno, const QRectF &altro)
 ContorniCarta::ContorniCarta(QGraphicsScene &scena)
     : contorni_{
           new ContornoCarta(QStringLiteral("ContornoA4"), QColor(0x60, 0x60, 0x60), 4, 2),
-          new ContornoCarta(QStringLiteral("ContornoCarta"), QColor(0x7a, 0x3f, 0xb0), 2, 1.5),
+          new ContornoCarta(QStringLiteral("ContornoCarta"), QColor(0x8a, 0x58, 0x00), 2, 1.5),
           new ContornoCarta(QStringLiteral("ContornoStampabile"), QColor(0x00, 0x70, 0x7f), 0.8, 1),
       }
 {
@@ -74,6 +74,6 @@ void ContorniCarta::Mostra()
 
 QString ContorniCarta::Legenda()
 {
-    return QStringLiteral("A4 in grigio, carta della stampante predefinita in viola, area "
+    return QStringLiteral("A4 in grigio, carta della stampante predefinita in marrone, area "
                           "stampabile in turchese a puntini");
 }

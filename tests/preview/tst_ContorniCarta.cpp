@@ -194,7 +194,7 @@ void tst_ContorniCarta::PulsanteETasto()
     auto *pulsante = Trova<QAbstractButton>(*banco.frm, "MostraContorni");
     QVERIFY(pulsante->isChecked());
     // The button tells which outline is which.
-    for (const char *parola : {"A4", "grigio", "viola", "turchese", "Ctrl+Shift+C"}) {
+    for (const char *parola : {"A4", "grigio", "marrone", "turchese", "Ctrl+Shift+C"}) {
         QVERIFY2(pulsante->toolTip().contains(QLatin1String(parola)), parola);
     }
     QTest::mouseClick(pulsante, Qt::LeftButton);
