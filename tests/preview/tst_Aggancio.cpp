@@ -73,6 +73,8 @@ private slots:
     void AUnaGuida();
     void NonASeStessoNeAgliNascosti();
     void NonAgliAltriScelti();
+    void GliAltriSceltiVannoInsieme();
+    void GliAltriSceltiRestanoSulFoglio();
     void AltLoSospende();
     void SpentoDuranteIlGesto();
     void CampoDiRigaSoloDiTraverso();
@@ -210,6 +212,41 @@ void tst_Aggancio::NonAgliAltriScelti()
     PortaManiglia(banco, 2, {60.7, 200});
     QCOMPARE(LineaX(banco), QString());
     banco.Rilascia({60.7, 200});
+}
+
+void tst_Aggancio::GliAltriSceltiVannoInsieme()
+{
+    Banco banco;
+    const int i = CorniceInMano(banco);
+    const int altra = banco.Cornice(150, 110, 20, 10);
+    banco.frm->MostraModello();
+    banco.frm->SelezionaCornice(i);
+    banco.stato.selezione.ImpostaScelti({{Genere::Cornice, i}, {Genere::Cornice, altra}});
+    Attiva(banco);
+    PortaManiglia(banco, 2, {60.7, 120});
+    QCOMPARE(LineaX(banco), QStringLiteral("60"));
+    banco.Rilascia({60.7, 120});
+    QCOMPARE(banco.modello.Cornici[i].X, 60.0);
+    QCOMPARE(banco.modello.Cornici[altra].X, 110.0);
+    QCOMPARE(LineaX(banco), QString());
+}
+
+void tst_Aggancio::GliAltriSceltiRestanoSulFoglio()
+{
+    // The line at 34 would push the other one, 35 to the left, off the sheet.
+    Banco banco;
+    const int i = CorniceInMano(banco);
+    const int altra = banco.Cornice(65, 110, 20, 10);
+    banco.Cornice(34, 50, 10, 10);
+    banco.frm->MostraModello();
+    banco.frm->SelezionaCornice(i);
+    banco.stato.selezione.ImpostaScelti({{Genere::Cornice, i}, {Genere::Cornice, altra}});
+    Attiva(banco);
+    PortaManiglia(banco, 2, {34.4, 120});
+    QCOMPARE(LineaX(banco), QString());
+    banco.Rilascia({34.4, 120});
+    QCOMPARE(banco.modello.Cornici[i].X, 35.0);
+    QCOMPARE(banco.modello.Cornici[altra].X, 0.0);
 }
 
 void tst_Aggancio::AltLoSospende()
