@@ -56,7 +56,7 @@ Immagini::Opaca Immagini::CaricaEntro(const QString &percorso, const QSize &mass
     const QSize pixel = PixelImmagine::Entro(lettore.Pixel().boundedTo(massimo),
                                              lettore.Sostenibili(PixelStampati));
     const QImage immagine = lettore.DecodificaOpaca(pixel);
-    return {immagine, lettore.ComeJpeg(immagine)};
+    return {immagine, lettore.ComeJpeg(immagine), lettore.Ingombro(immagine)};
 }
 
 QString Immagini::PercorsoInCartella(const QString &cartella, const QString &nome)

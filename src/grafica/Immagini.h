@@ -36,6 +36,7 @@ struct Opaca
     /// It comes from a JPEG, by the file's bytes, and made one again it looks the same: neither
     /// from a file that gives each pixel its own colour, nor a small one with sharp colours.
     bool ComeJpeg = false;
+    qint64 Byte = 0; ///< what decoding it took of memory at most, its own pixels included
 };
 
 /// The picture as a page needs it: on white where it is transparent, at its own size but at most

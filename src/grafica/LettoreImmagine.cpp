@@ -68,6 +68,16 @@ qint64 LettoreImmagine::Sostenibili(qint64 pixel) const
     return copiata_ || intestazione_.InchiostriDiritti() ? pixel / 2 : pixel;
 }
 
+qint64 LettoreImmagine::Ingombro(const QImage &esito) const
+{
+    if (decodificati_ == 0) {
+        return esito.sizeInBytes();
+    }
+    const bool doppia = copiata_ || intestazione_.InchiostriDiritti();
+    return decodificati_ * (doppia ? 2 : 1) + (aParte_ ? esito.sizeInBytes() : 0) + file_.size() +
+           (intestazione_.PiuScansioni ? intestazione_.ByteCoefficienti() : 0);
+}
+
 QSizeF LettoreImmagine::Millimetri() const
 {
     const QSizeF stato = intestazione_.PuntiPerPollice;
@@ -121,6 +131,8 @@ QImage LettoreImmagine::DecodificaIntera(const QSize &minimo)
     if (immagine.isNull()) {
         NonValida();
     }
+    decodificati_ = immagine.sizeInBytes();
+    aParte_ = immagine.depth() < 32;
     return immagine;
 }
 

@@ -41,6 +41,9 @@ public:
     /// either way), or to what it was decoded to where that is less.
     QImage DecodificaOpaca(const QSize &pixel);
 
+    /// Bytes that decoding the picture to this, which has just been done, took at most.
+    qint64 Ingombro(const QImage &esito) const;
+
 private:
     [[noreturn]] static void NonValida();
 
@@ -76,4 +79,7 @@ private:
     QSize pixel_; ///< as stored, before rotation
     bool ruotata_ = false;
     bool copiata_ = false; ///< turned or mirrored once it is decoded
+    // Of the pixels as they came from the decoder at once.
+    qint64 decodificati_ = 0; ///< bytes
+    bool aParte_ = false;     ///< made fewer in a place of their own
 };

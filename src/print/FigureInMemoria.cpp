@@ -82,8 +82,20 @@ FigureInMemoria::Figura FigureInMemoria::Carica(const QString &percorso, const Q
             throw std::bad_alloc();
         }
         figura = InParti(ridotta, voce.Livelli.constFirst().ComeJpeg);
+        voce.Byte = std::max(voce.Byte, qint64(Byte(voce.Livelli)));
     }
     return figura;
+}
+
+qint64 FigureInMemoria::ByteAlMassimo() const
+{
+    qint64 maggiore = 0;
+    qint64 inDisparte = 0;
+    for (const Voce &voce : voci_) {
+        maggiore = std::max(maggiore, voce.Byte);
+        inDisparte += voce.Byte <= ByteInDisparte ? voce.Byte : 0;
+    }
+    return maggiore + std::min<qint64>(inDisparte, ByteInDisparte);
 }
 
 void FigureInMemoria::Decodifica(const QString &percorso, Voce &voce)
@@ -94,6 +106,7 @@ void FigureInMemoria::Decodifica(const QString &percorso, Voce &voce)
         const Immagini::Opaca letta = Immagini::CaricaEntro(percorso, voce.Bisogno);
         voce.Livelli = {InParti(letta.Immagine, letta.ComeJpeg)};
         voce.Decodificata = voce.Bisogno;
+        voce.Byte = std::max(voce.Byte, letta.Byte);
     } catch (const ErroreSistema &errore) {
         voce.Guasto = errore;
         throw;

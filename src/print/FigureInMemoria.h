@@ -33,6 +33,8 @@ public:
     /// The picture for a use that needs so many pixels (both positive). Throws ErroreSistema 53 or
     /// 481; what has failed once fails again without being tried.
     Figura Carica(const QString &percorso, const QSize &pixel);
+    /// Bytes that asking for those once more which have been asked for would take at most.
+    qint64 ByteAlMassimo() const;
 
 private:
     struct Voce
@@ -43,6 +45,7 @@ private:
         std::optional<ErroreSistema> Guasto;
         quint64 Uso = 0;
         int UsiPrevisti = 0; ///< still to come
+        qint64 Byte = 0;     ///< that decoding it, or keeping it, has taken at most
     };
 
     void Decodifica(const QString &percorso, Voce &voce);

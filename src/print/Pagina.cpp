@@ -22,6 +22,9 @@ constexpr int UnitaPerPunto = 20;
 constexpr double UnitaPerPollice = 72.0 * UnitaPerPunto;
 /// More pixels than this per inch are lost on paper.
 constexpr double PuntiImmagine = 600;
+/// What a picture and the part of the page that is computed from it may take together: the printer
+/// engine needs its own beside them.
+constexpr qint64 ByteInsieme = 235'000'000;
 
 bool Raggiungibile(double millimetri)
 {
@@ -173,7 +176,7 @@ void Pagina::Dipinge()
         Sovrapposizione::Dipinge(pittore_, segno);
     }
     Sovrapposizione::Stende(
-        foglio_, &dispositivo_, area_, risoluzione_,
+        foglio_, &dispositivo_, area_, risoluzione_, ByteInsieme - figure_.ByteAlMassimo(),
         [this](const Tracciati::Figura &figura) {
             return figure_.Carica(figura.Percorso, figura.Pixel).Immagine;
         },

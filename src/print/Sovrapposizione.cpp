@@ -14,9 +14,10 @@ namespace {
 
 constexpr double PuntiMassimi = 600;
 constexpr double PixelMassimi = 40e6;
-/// Of one patch, and of those that are computed together.
-constexpr int PixelPezza = 4'000'000;
-constexpr int PixelInsieme = 8'000'000;
+/// Of one patch, and of those that are computed together at least.
+constexpr int PixelPezza = 2'000'000;
+constexpr qint64 PixelInsieme = 4'000'000;
+constexpr qint64 BytePerPixel = 4;
 
 constexpr int RigheStriscia = 256;
 
@@ -212,7 +213,7 @@ void Sovrapposizione::Dipinge(QPainter &pittore, const Segno &segno)
 }
 
 void Sovrapposizione::Stende(const Foglio &foglio, QPaintDevice *stampante, const QRectF &area,
-                             double puntiPerPollice,
+                             double puntiPerPollice, qint64 byte,
                              const std::function<QImage(const Figura &)> &carica,
                              const std::function<void(const Pezza &)> &posa)
 {
@@ -238,6 +239,7 @@ void Sovrapposizione::Stende(const Foglio &foglio, QPaintDevice *stampante, cons
     if (figure.constLast().Percorso == foglio.Figure.constLast().Percorso) {
         std::reverse(figure.begin(), figure.end());
     }
+    const qint64 insieme = std::max(PixelInsieme, byte / BytePerPixel);
     const QList<QRect> rettangoli = Rettangoli(regione);
     for (auto prossimo = rettangoli.begin(); prossimo != rettangoli.end();) {
         QList<Bozza> bozze;
@@ -247,7 +249,7 @@ void Sovrapposizione::Stende(const Foglio &foglio, QPaintDevice *stampante, cons
             pixel += qint64(prossimo->width()) * prossimo->height();
             ++prossimo;
         } while (prossimo != rettangoli.end() &&
-                 pixel + qint64(prossimo->width()) * prossimo->height() <= PixelInsieme);
+                 pixel + qint64(prossimo->width()) * prossimo->height() <= insieme);
         for (const Figura &figura : std::as_const(figure)) {
             QImage immagine;
             for (Bozza &bozza : bozze) {

@@ -27,10 +27,11 @@ struct Pezza
 /// stampante is the device that the marks were measured for; area is its printable part in printer
 /// pixels and puntiPerPollice its resolution. Patches have at most 600 dots per inch, and less when
 /// there would be too many pixels. carica gives a picture's pixels, opaque in RGB32; it is asked
-/// file by file and more than once where a large part of the page is computed. posa takes each
-/// patch as it is ready: no more than a few million pixels are held at a time.
+/// file by file, and more than once where the patches do not fit into byte all together. posa takes
+/// each patch as it is ready. No more than byte, or a few million pixels, are held at a time.
 void Stende(const Tracciati::Foglio &foglio, QPaintDevice *stampante, const QRectF &area,
-            double puntiPerPollice, const std::function<QImage(const Tracciati::Figura &)> &carica,
+            double puntiPerPollice, qint64 byte,
+            const std::function<QImage(const Tracciati::Figura &)> &carica,
             const std::function<void(const Pezza &)> &posa);
 
 /// Paints one mark; the painter's unit is the printer pixel.

@@ -82,6 +82,8 @@ private slots:
     void memoriaLimitata();
     void memoriaDellaPiuGrande_data();
     void memoriaDellaPiuGrande();
+    void memoriaDiDueSovrapposte_data();
+    void memoriaDiDueSovrapposte();
     void memoriaDellaRifiutata_data();
     void memoriaDellaRifiutata();
 
@@ -112,6 +114,8 @@ void tst_MemoriaDiStampa::memoriaLimitata_data()
         << QList<QRectF>{foglio, {5, 5, 190, 120}, {5, 150, 100, 80}, {150, 200, 20, 28}};
     QTest::newRow("two scans over each other")
         << 2 << QByteArray("jpeg") << QList<QRectF>{foglio, {5, 5, 200, 140}};
+    QTest::newRow("two whole scans over each other")
+        << 2 << QByteArray("jpeg") << QList<QRectF>{foglio, foglio};
     QTest::newRow("a scan without loss") << 1 << QByteArray("bmp") << QList<QRectF>{foglio};
 }
 
@@ -163,6 +167,26 @@ void tst_MemoriaDiStampa::memoriaDellaPiuGrande()
                        {0, 0, byte > 0 ? 105.0 : 210.0, byte > 0 ? 148.0 : 297.0});
     // The rows are a hole in the file: black, but for the first row, which keeps the colours.
     QVERIFY(QFile::resize(foglio.Cartella() + QStringLiteral("grande.bmp"), testa.size() + byte));
+    StampaEntroILimiti(foglio);
+}
+
+void tst_MemoriaDiStampa::memoriaDiDueSovrapposte_data()
+{
+    QTest::addColumn<QByteArray>("byte");
+    QTest::newRow("progressive JPEG") << ImmaginiRare::JpegDiScansioni({11500, 11500}, 9);
+    QTest::newRow("grey JPEG at 1200 dots per inch")
+        << JpegABlocchi({9921, 14031}, 1, [](int, int x, int y) { return 30 + (x + y) % 190; });
+}
+
+void tst_MemoriaDiStampa::memoriaDiDueSovrapposte()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the sanitizer's own memory would be measured");
+#endif
+    QFETCH(QByteArray, byte);
+    FoglioDiProva foglio;
+    foglio.ConImmagine(QStringLiteral("a.jpg"), byte, {0, 0, 210, 297});
+    foglio.ConImmagine(QStringLiteral("b.jpg"), byte, {0, 0, 210, 297});
     StampaEntroILimiti(foglio);
 }
 
