@@ -140,28 +140,22 @@ void Scrivania::ApreModello(const QString &nome)
 void Scrivania::CercaFoglio()
 {
     const QRect finestra = Anteprima().Interno;
-    // At rest the sheet is the first white area from the window's corner, and its margin is empty.
+    // At rest the sheet's corner is where the rulers end, and its margin is empty but for the lines
+    // of focus and paper along its edges.
+    constexpr int Rigo = 25; // of the program's pixels, as thick as a ruler
     constexpr int Lato = 12;
+    const int fuori = qRound(Rigo * scala_);
+    origine_ = finestra.topLeft() + QPoint(fuori, fuori);
     AttendeChe(QStringLiteral("the sheet on the preview"), [&] {
         const QImage foto = schermo_->Foto();
-        const auto bianco = [&](int x, int y) {
-            for (int i = 0; i < Lato; ++i) {
-                if ((foto.pixel(x + i, y) & 0xFFFFFF) != 0xFFFFFF ||
-                    (foto.pixel(x, y + i) & 0xFFFFFF) != 0xFFFFFF) {
-                    return false;
-                }
-            }
-            return true;
-        };
-        for (int y = finestra.top(); y < finestra.top() + 100; ++y) {
-            for (int x = finestra.left(); x < finestra.left() + 100; ++x) {
-                if (bianco(x, y)) {
-                    origine_ = {x, y};
-                    return true;
-                }
+        const QPoint dentro = origine_ + QPoint(4, 4) * scala_;
+        for (int i = 0; i < Lato; ++i) {
+            if ((foto.pixel(dentro + QPoint(i, 0)) & 0xFFFFFF) != 0xFFFFFF ||
+                (foto.pixel(dentro + QPoint(0, i)) & 0xFFFFFF) != 0xFFFFFF) {
+                return false;
             }
         }
-        return false;
+        return true;
     });
 }
 

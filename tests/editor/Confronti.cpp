@@ -150,10 +150,16 @@ QImage Foglio(const Postazione &posto)
     const auto *pagine = Trova<QTabWidget>(posto.Finestra(), "SSTab1");
     const int pagina = pagine->currentIndex();
     posto.Editor->Anteprima()->Campineri(); // as a pointer does that leaves them
+    // What is chosen is no part of the model: a fresh opening shows no outlines.
+    Selezione &selezione = posto.Archivio.Stato().selezione;
+    const QList<Chiave> scelti = selezione.Scelti();
+    selezione.SvuotaScelti();
     posto.Pagina(pagina == 0 ? 1 : 0);
     posto.Pagina(pagina);
     QCoreApplication::processEvents();
-    return Trova<QGraphicsView>(posto.Anteprima(), "P1")->grab().toImage();
+    const QImage foglio = Trova<QGraphicsView>(posto.Anteprima(), "P1")->grab().toImage();
+    selezione.ImpostaScelti(scelti);
+    return foglio;
 }
 
 QString ComeRiaperto(const Sequenza &sequenza)

@@ -82,10 +82,14 @@ void GiraColTabulatore(QWidget &finestra)
     finestra.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&finestra));
     QSet<QWidget *> visti;
-    for (;;) {
+    for (QWidget *prima = nullptr;;) {
         QTest::keyClick(finestra.windowHandle(), Qt::Key_Tab);
         QWidget *fuoco = finestra.focusWidget();
         QVERIFY(fuoco != nullptr);
+        if (fuoco == prima) {
+            continue; // the sheet goes on to its next element
+        }
+        prima = fuoco;
         if (visti.contains(fuoco)) {
             break;
         }
