@@ -147,23 +147,13 @@ private:
         return int(alto / Punti(AltezzaTesto)) + 1;
     }
 
-    /// True when the heading's line reaches past the foot of the page where it begins.
-    bool ACavallo(const QTextBlock &blocco) const
-    {
-        const QRectF posto = documento.documentLayout()->blockBoundingRect(blocco);
-        const QTextLine riga = blocco.layout()->lineAt(0);
-        const double alto = posto.top() + riga.y();
-        return int(alto / Punti(AltezzaTesto)) !=
-               int((alto + riga.height()) / Punti(AltezzaTesto));
-    }
-
     /// A heading at the foot of a page moves to the next one, where its text is.
     void TieneUnitiITitoli()
     {
         for (QTextBlock b = documento.begin(); b.isValid(); b = b.next()) {
             if (b.blockFormat().headingLevel() == 0 || !b.next().isValid())
                 continue;
-            if (Pagina(b) == Pagina(b.next()) && !ACavallo(b))
+            if (Pagina(b) == Pagina(b.next()))
                 continue;
             QTextBlockFormat formato;
             formato.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);

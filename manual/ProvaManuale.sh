@@ -17,7 +17,7 @@ immagini() { pdfimages -list "$1" | tail -n +3 | wc -l; }
 
 # Prints "title<TAB>page" of every heading, as the table of contents names it.
 indice() {
-  pdftotext -layout -f 2 -l 3 "$1" - | grep -v '^Plakera - Manuale' |
+  pdftotext -layout -f 2 -l 3 "$1" - | tr -d '\f' | grep -v '^Plakera - Manuale' |
     sed -n 's/^ *\(.*[^ ]\)  \+\([0-9]\+\)$/\1\t\2/p'
 }
 

@@ -10,6 +10,8 @@
 #include "preview/Frm1.h"
 #include "preview/MisuraSuCarta.h"
 
+#include <QApplication>
+
 #include <algorithm>
 
 namespace {
@@ -108,6 +110,11 @@ void ComandiScelta::Aggiorna()
     }
 }
 
+void ComandiScelta::AggiungeFinestra(QWidget &finestra)
+{
+    finestra.addAction(elimina_);
+}
+
 void ComandiScelta::SceglieTutto()
 {
     const QList<Chiave> tutti = OrdineDiLettura(stato_.documento);
@@ -132,7 +139,9 @@ void ComandiScelta::Elimina()
         scelti.size() == 1
             ? FrmElemento::DomandaElimina(primo.genere) + stato_.Aperto().Di(primo).Nome
             : QStringLiteral("Elimino %1 elementi").arg(scelti.size());
-    if (Messaggi::Domanda(&anteprima_, domanda, Messaggi::Risposta::No)) {
+    QWidget *davanti = QApplication::activeWindow();
+    if (Messaggi::Domanda(davanti == nullptr ? &anteprima_ : davanti, domanda,
+                          Messaggi::Risposta::No)) {
         disposizione_.Elimina(scelti);
     }
 }

@@ -24,6 +24,8 @@ public:
     ComandiScelta(StatoProgramma &stato, Frm1 &anteprima,
                   std::function<std::optional<Genere>()> genere, QWidget *finestra);
 
+    /// Del works in that window too; what it asks is asked over it.
+    void AggiungeFinestra(QWidget &finestra);
     /// The elements of the page's kind; all of every kind when those are chosen already, and on a
     /// page of none.
     void SceglieTutto();

@@ -38,6 +38,7 @@ void ComandoElenco::Crea()
     storia_.AggiungeFinestra(elenco_.get());
     connect(elenco_.get(), &ElencoElementi::RichiestaProprieta, this,
             &ComandoElenco::RichiestaProprieta);
+    emit Creata(elenco_.get());
 }
 
 void ComandoElenco::Esegue()

@@ -28,6 +28,8 @@ public:
 signals:
     /// The property dialog is to open.
     void RichiestaProprieta(Genere genere, int i);
+    /// The list has been made: commands may give it their keys.
+    void Creata(QWidget *finestra);
 
 private:
     /// Opens the list, brings it to the front, or closes the one that has the keyboard.

@@ -3,8 +3,8 @@
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
-#include "editor/ComandiAppunti.h"
 #include "editor/CartaDellaStampante.h"
+#include "editor/ComandiAppunti.h"
 #include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
 #include "editor/ComandoElenco.h"
@@ -104,6 +104,10 @@ bool Form2::Form_Load()
     appunti_ = std::make_unique<ComandiAppunti>(stato_, *this, *anteprima_);
     elenco_ = std::make_unique<ComandoElenco>(stato_, *this, *anteprima_, *storia_);
     Collega(elenco_.get(), &ComandoElenco::RichiestaProprieta, this, &Form2::ApreProprieta);
+    Collega(elenco_.get(), &ComandoElenco::Creata, this, [this](QWidget *finestra) {
+        appunti_->AggiungeFinestra(*finestra);
+        scelta_->AggiungeFinestra(*finestra);
+    });
     carta_ = std::make_unique<CartaDellaStampante>(*anteprima_, *this);
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);

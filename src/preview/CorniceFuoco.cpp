@@ -12,7 +12,7 @@ constexpr int Spessore = 2; // device-independent pixels
 CorniceFuoco::CorniceFuoco(QWidget *chiHaIlFuoco, QWidget *padre)
     : QWidget(padre)
 {
-    setObjectName(QStringLiteral("CorniceFuoco"));
+    setObjectName(QStringLiteral("Fuoco") + chiHaIlFuoco->objectName());
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setVisible(chiHaIlFuoco->hasFocus());
     chiHaIlFuoco->installEventFilter(this);

@@ -101,6 +101,7 @@ void Frm1::CollegaSegnali()
     connect(mani_.get(), &AvvisiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
     connect(tasti_.get(), &TastiFoglio::RichiestaProprieta, this, &Frm1::RichiestaProprieta);
     Collega(tasti_.get(), &TastiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
+    connect(&stato_.selezione, &Selezione::SceltiCambiati, this, [this] { avvisato_ = false; });
     Collega(mani_.get(), &AvvisiFoglio::FoglioPuntato, this, &Frm1::MostraPuntatore);
     Collega(mani_.get(), &AvvisiFoglio::FoglioSorvolato, this, &Frm1::MostraSorvolo);
     Collega(mani_.get(), &AvvisiFoglio::ElementoInMano, this, &Frm1::MostraElemento);
@@ -241,6 +242,9 @@ void Frm1::MostraPuntatore(QPointF punto)
 
 void Frm1::MostraSorvolo(QPointF punto)
 {
+    if (avvisato_) {
+        return;
+    }
     parti_->Text1->setText(
         QStringLiteral("X %1   Y %2   mm")
             .arg(Numeri::Decimi(punto.x() * stato_.zoom), Numeri::Decimi(punto.y() * stato_.zoom)));
@@ -248,6 +252,7 @@ void Frm1::MostraSorvolo(QPointF punto)
 
 void Frm1::MostraElemento(Genere genere, int i)
 {
+    avvisato_ = false;
     const Modello &modello = stato_.Aperto();
     QString testo = NomeDi(genere) + u' ' + modello.Nome(genere, i).left(NomeLeggibile);
     const auto aggiunge = [&testo](const QString &etichetta, double millimetri) {
@@ -327,6 +332,7 @@ QList<QAction *> Frm1::ComandiDelFoglio() const
 
 void Frm1::Avverte(const QString &testo)
 {
+    avvisato_ = true;
     parti_->Text1->setText(testo);
 }
 

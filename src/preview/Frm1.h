@@ -128,7 +128,8 @@ public:
     bool ImpostaZoom(double zoom);
     /// The outlines of the paper; none until then.
     void MostraContorni(const ContorniCarta::Posti &posti);
-    /// The strip says it until an element is in hand again. Nothing that needs an answer.
+    /// The strip says it until an element is in hand again, or others are chosen. Nothing that
+    /// needs an answer.
     void Avverte(const QString &testo);
     int ScorrimentoX() const; ///< value of ScrollX, mm of screen
     int ScorrimentoY() const; ///< value of ScrollY, mm of screen
@@ -197,5 +198,6 @@ private:
     std::unique_ptr<ManiSulFoglio> mani_;
     std::unique_ptr<TastiFoglio> tasti_;
     std::unique_ptr<AccessoFoglio> accesso_;
+    bool avvisato_ = false; ///< the strip says something that the pointer must not wipe away
     QPointF giroRuota_; // fractions of a mm that the wheel has turned and nothing has scrolled yet
 };

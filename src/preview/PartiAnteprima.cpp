@@ -100,6 +100,9 @@ void PartiAnteprima::CreaScorrimento(QWidget *finestra)
         barra->setSingleStep(PassoFreccia);
         barra->setFocusPolicy(Qt::TabFocus);
     }
+    // The style does not show which of them has the keys.
+    FuocoX = new CorniceFuoco(ScrollX, finestra);
+    FuocoY = new CorniceFuoco(ScrollY, finestra);
 }
 
 void PartiAnteprima::CreaStriscia(QWidget *finestra)
@@ -141,6 +144,8 @@ void PartiAnteprima::Dispone(QSize interna)
     };
     colloca(AreaFoglio, d.AreaFoglio);
     colloca(Fuoco, d.AreaFoglio);
+    colloca(FuocoX, d.ScrollX);
+    colloca(FuocoY, d.ScrollY);
     colloca(AreaRighelloX, d.AreaRighelloX);
     colloca(AreaRighelloY, d.AreaRighelloY);
     colloca(ScrollX, d.ScrollX);

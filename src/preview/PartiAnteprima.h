@@ -35,7 +35,9 @@ struct PartiAnteprima
     GeometriaAnteprima geometria;
     QGraphicsScene scena;
     QWidget *AreaFoglio;
-    CorniceFuoco *Fuoco; ///< around AreaFoglio
+    CorniceFuoco *Fuoco;  ///< around AreaFoglio
+    CorniceFuoco *FuocoX; ///< around ScrollX
+    CorniceFuoco *FuocoY;
     QWidget *AreaRighelloX;
     QWidget *AreaRighelloY;
     VistaFoglio *P1;

@@ -3,9 +3,11 @@
 #include "Ritratto.h"
 
 #include "model/FileModello.h"
+#include "preview/ContorniScelti.h"
 #include "support/FileDiProva.h"
 
 #include <QAbstractButton>
+#include <QGraphicsItem>
 #include <QGraphicsView>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -150,15 +152,22 @@ QImage Foglio(const Postazione &posto)
     const auto *pagine = Trova<QTabWidget>(posto.Finestra(), "SSTab1");
     const int pagina = pagine->currentIndex();
     posto.Editor->Anteprima()->Campineri(); // as a pointer does that leaves them
-    // What is chosen is no part of the model: a fresh opening shows no outlines.
-    Selezione &selezione = posto.Archivio.Stato().selezione;
-    const QList<Chiave> scelti = selezione.Scelti();
-    selezione.SvuotaScelti();
     posto.Pagina(pagina == 0 ? 1 : 0);
     posto.Pagina(pagina);
     QCoreApplication::processEvents();
-    const QImage foglio = Trova<QGraphicsView>(posto.Anteprima(), "P1")->grab().toImage();
-    selezione.ImpostaScelti(scelti);
+    auto *P1 = Trova<QGraphicsView>(posto.Anteprima(), "P1");
+    // What is chosen is no part of the model: a fresh opening shows no outlines.
+    QList<QGraphicsItem *> contorni = P1->scene()->items();
+    contorni.removeIf([](QGraphicsItem *pezzo) {
+        return !pezzo->isVisible() || dynamic_cast<ContornoScelto *>(pezzo) == nullptr;
+    });
+    for (QGraphicsItem *contorno : contorni) {
+        contorno->setVisible(false);
+    }
+    const QImage foglio = P1->grab().toImage();
+    for (QGraphicsItem *contorno : contorni) {
+        contorno->setVisible(true);
+    }
     return foglio;
 }
 

@@ -229,7 +229,7 @@ void tst_TastiFoglio::InvioEF2ApronoLeProprieta()
 void tst_TastiFoglio::IlFuocoSiVede()
 {
     Foglio banco;
-    const auto *cornice = Trova<QWidget>(*banco.frm, "CorniceFuoco");
+    const auto *cornice = Trova<QWidget>(*banco.frm, "FuocoP1");
     QVERIFY(cornice->isVisible());
     QCOMPARE(cornice->geometry(), Trova<QWidget>(*banco.frm, "AreaFoglio")->geometry());
     Trova<QLineEdit>(*banco.frm, "TextZoom")->setFocus();
