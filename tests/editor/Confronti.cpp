@@ -4,6 +4,7 @@
 
 #include "model/FileModello.h"
 #include "preview/ContorniScelti.h"
+#include "preview/MisuraSuCarta.h"
 #include "support/FileDiProva.h"
 
 #include <QAbstractButton>
@@ -106,6 +107,29 @@ QList<double> Posti(const Modello &modello)
     return posti;
 }
 
+/// True when two elements of a kind have one area and a slot before them is free: they are stacked
+/// by the text of their numbers, and an opening numbers them anew.
+bool PilaAltrimenti(const Modello &modello)
+{
+    for (const Genere genere : Generi) {
+        bool libero = false;
+        QList<double> aree;
+        for (int i = 1; i <= modello.UltimoSlot(genere); ++i) {
+            if (!modello.Presente(genere, i)) {
+                libero = true;
+                continue;
+            }
+            const QSizeF misura = MisuraSuCarta(modello, {genere, i});
+            const double area = misura.width() * misura.height();
+            if (aree.contains(area) && libero) {
+                return true;
+            }
+            aree.append(area);
+        }
+    }
+    return false;
+}
+
 /// esatto: what is shown has the same places to the last digit. Otherwise an edge in the middle
 /// between two pixels may go to the other one, and change letters that it crosses.
 QString Confronta(const QImage &adesso, const QImage &altra, bool esatto, const QString &detto)
@@ -193,7 +217,9 @@ QString ComeRiaperto(const Sequenza &sequenza)
     if (!diverso.isEmpty() || !SuMillimetriInteri(posto.Aperto()) || ImmagineSenzaNome(posto)) {
         return diverso;
     }
-    return Confronta(Foglio(posto), Foglio(altra), Posti(posto.Aperto()) == Posti(altra.Aperto()),
+    return Confronta(Foglio(posto), Foglio(altra),
+                     Posti(posto.Aperto()) == Posti(altra.Aperto()) &&
+                         !PilaAltrimenti(posto.Aperto()),
                      QStringLiteral("the sheet looks different"));
 }
 
@@ -220,6 +246,7 @@ private:
 
     Sequenza &sequenza_;
     int premuti_ = 0;
+    QString giaAnnullato_; // the step that the work itself had taken back last
 };
 
 QString Cammino::Preme(Qt::Key tasto, Qt::KeyboardModifiers modi)
@@ -240,6 +267,7 @@ QString Cammino::Preme(Qt::Key tasto, Qt::KeyboardModifiers modi)
 QString Cammino::Indietro(QList<StatoVisto> &stati)
 {
     stati = {StatoVisto::Di(sequenza_.Posto)};
+    giaAnnullato_ = Aperto().PuoRipristinare() ? Aperto().TestoRipristina() : QString();
     while (Aperto().PuoAnnullare()) {
         const QString guasto = Preme(Qt::Key_Z, Qt::ControlModifier);
         if (!guasto.isEmpty()) {
@@ -269,8 +297,9 @@ QString Cammino::Avanti(const QList<StatoVisto> &stati)
             return guasto;
         }
     }
-    return Aperto().PuoRipristinare() ? QStringLiteral("more can be done again than was taken back")
-                                      : QString();
+    const QString resta = Aperto().PuoRipristinare() ? Aperto().TestoRipristina() : QString();
+    return resta == giaAnnullato_ ? QString()
+                                  : QStringLiteral("another step can be done again: ") + resta;
 }
 
 } // namespace
