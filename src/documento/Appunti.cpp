@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr qsizetype OrigineMassima = 64 * 1024; // bytes; paths are far shorter
+constexpr qsizetype OrigineMassima = qsizetype(64) * 1024; // bytes; paths are far shorter
 constexpr QLatin1String VoceCartella("cartella");
 constexpr QLatin1String VoceOrdine("ordine");
 
@@ -60,7 +60,7 @@ QByteArray ComponeOrigine(const ElementiCopiati &elementi)
 QList<Chiave> Riordinate(const QList<Chiave> &diTabella, const QJsonArray &ordine)
 {
     QList<Chiave> riordinate;
-    for (const QJsonValue &valore : ordine) {
+    for (const auto &valore : ordine) {
         const int posto = valore.toInt(-1);
         if (posto < 0 || posto >= diTabella.size() || riordinate.contains(diTabella[posto])) {
             return diTabella;

@@ -19,7 +19,8 @@ QList<Chiave> OrdineDiLettura(const Documento &documento)
     std::sort(chiavi.begin(), chiavi.end(), [&](Chiave a, Chiave b) {
         const Elemento &prima = modello.Di(a);
         const Elemento &dopo = modello.Di(b);
-        return std::tie(prima.Y, prima.X, a) < std::tie(dopo.Y, dopo.X, b);
+        return std::tie(prima.Y, prima.X, a.genere, a.indice) <
+               std::tie(dopo.Y, dopo.X, b.genere, b.indice);
     });
     return chiavi;
 }

@@ -9,6 +9,7 @@
 #include "preview/VistaFoglio.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <utility>
 
@@ -101,14 +102,11 @@ bool AccessoFoglio::HaIlFuoco(Chiave chiave) const
 void AccessoFoglio::Apre(Chiave chiave)
 {
     // The dialog would keep the screen reader waiting for the answer to its request.
-    QMetaObject::invokeMethod(
-        this,
-        [this, chiave] {
-            if (QApplication::activeModalWidget() == nullptr && InVista(chiave)) {
-                emit RichiestaProprieta(chiave.genere, chiave.indice);
-            }
-        },
-        Qt::QueuedConnection);
+    QTimer::singleShot(0, this, [this, chiave] {
+        if (QApplication::activeModalWidget() == nullptr && InVista(chiave)) {
+            emit RichiestaProprieta(chiave.genere, chiave.indice);
+        }
+    });
 }
 
 void AccessoFoglio::Sceglie(Chiave chiave)
