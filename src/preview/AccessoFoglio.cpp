@@ -9,7 +9,6 @@
 #include "preview/VistaFoglio.h"
 
 #include <QApplication>
-#include <QTimer>
 
 #include <utility>
 
@@ -26,6 +25,8 @@ AccessoFoglio::AccessoFoglio(StatoProgramma &stato, const GeometriaAnteprima &ge
     connect(&stato_.documento, &Documento::Cambiato, this, &AccessoFoglio::SegueDocumento);
     connect(&stato_.selezione, &Selezione::SceltiCambiati, this, &AccessoFoglio::SegueScelti);
     connect(&stato_.selezione, &Selezione::Cambiata, this, &AccessoFoglio::SegueAttivo);
+    connect(this, &AccessoFoglio::AperturaRimandata, this, &AccessoFoglio::ApreOra,
+            Qt::QueuedConnection);
 }
 
 AccessoFoglio::~AccessoFoglio()
@@ -102,11 +103,14 @@ bool AccessoFoglio::HaIlFuoco(Chiave chiave) const
 void AccessoFoglio::Apre(Chiave chiave)
 {
     // The dialog would keep the screen reader waiting for the answer to its request.
-    QTimer::singleShot(0, this, [this, chiave] {
-        if (QApplication::activeModalWidget() == nullptr && InVista(chiave)) {
-            emit RichiestaProprieta(chiave.genere, chiave.indice);
-        }
-    });
+    emit AperturaRimandata(chiave.genere, chiave.indice);
+}
+
+void AccessoFoglio::ApreOra(Genere genere, int i)
+{
+    if (QApplication::activeModalWidget() == nullptr && InVista({genere, i})) {
+        emit RichiestaProprieta(genere, i);
+    }
 }
 
 void AccessoFoglio::Sceglie(Chiave chiave)

@@ -65,10 +65,13 @@ public:
 signals:
     void RichiestaProprieta(Genere genere, int i);
     void SceltaRichiesta(Chiave chiave);
+    /// To itself: the dialog is to open when the screen reader has its answer.
+    void AperturaRimandata(Genere genere, int i);
 
 private:
     void accessibilityActiveChanged(bool attivo) override { ascoltato_ = attivo; }
     void SegueDocumento(const Cambiamento &cambiamento);
+    void ApreOra(Genere genere, int i);
     void SegueScelti();
     void SegueAttivo(Genere genere);
     /// Which ones have gone since, and which have come.
