@@ -225,6 +225,11 @@ void ElencoElementi::ApreProprieta(const QModelIndex &indice)
 {
     if (indice.isValid() && stato_.documento.InVista(ChiaveDi(indice))) {
         const Chiave chiave = ChiaveDi(indice);
+        // The row that a filter has left is the current one before anybody has chosen it.
+        Sceglie(indice);
+        if (!stato_.selezione.EScelto(chiave)) {
+            stato_.selezione.ImpostaScelti({chiave});
+        }
         emit RichiestaProprieta(chiave.genere, chiave.indice);
     }
 }
