@@ -7,6 +7,8 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <sys/stat.h>
+
 #include <csignal>
 #include <stdexcept>
 
@@ -183,11 +185,31 @@ void Scrivania::Pagina(int pagina)
 
 void Scrivania::Salva()
 {
+    const auto prima = FileDeiModelli();
     Editor();
     schermo_->Tasti({QStringLiteral("alt+v")});
     schermo_->Attende(TitoloRiquadro);
     schermo_->Tasti({QStringLiteral("alt+s")});
     schermo_->Attende(TitoloEditor);
+    // The question goes before the file is written; a new one then stands in the old one's place.
+    AttendeChe(QStringLiteral("the saved file"), [&] { return FileDeiModelli() != prima; });
+}
+
+QHash<QString, quint64> Scrivania::FileDeiModelli() const
+{
+    QHash<QString, quint64> file;
+    QDirIterator modelli(Dati(), {QStringLiteral("*.mod")}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (modelli.hasNext()) {
+        const QString percorso = modelli.next();
+        struct stat stato
+        {
+        };
+        if (stat(QFile::encodeName(percorso).constData(), &stato) == 0) {
+            file.insert(percorso, stato.st_ino);
+        }
+    }
+    return file;
 }
 
 LettorePdf Scrivania::StampaInCoda(CodaDiStampa &coda)
@@ -290,7 +312,24 @@ void Scrivania::TrascinaSulFoglio(QPointF da, QPointF a) const
 void Scrivania::SceglieCampo(QPointF millimetri)
 {
     PuntaCampo(millimetri);
-    schermo_->Tenendo(QStringLiteral("ctrl"), [&] { schermo_->Clic(SulFoglio(millimetri)); });
+    const QPoint punto = SulFoglio(millimetri);
+    // The colour of the outlines, in the field's own line.
+    const auto contornati = [&] {
+        constexpr QRgb Viola = 0x7A1FA2;
+        const QSize intorno(qRound(60 * scala_), qRound(24 * scala_));
+        const QImage foto = schermo_->Foto().copy(
+            QRect(punto - QPoint(intorno.width() / 2, intorno.height() / 2), intorno));
+        int quanti = 0;
+        for (int y = 0; y < foto.height(); ++y) {
+            for (int x = 0; x < foto.width(); ++x) {
+                quanti += (foto.pixel(x, y) & 0xFFFFFF) == Viola ? 1 : 0;
+            }
+        }
+        return quanti;
+    };
+    const int prima = contornati();
+    schermo_->Tenendo(QStringLiteral("ctrl"), [&] { schermo_->Clic(punto); });
+    schermo_->AttendeQui(QStringLiteral("another outline"), [&] { return contornati() != prima; });
 }
 
 void Scrivania::AllargaCornice(QPointF dentro, QPointF bordo, int pixel)

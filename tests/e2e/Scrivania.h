@@ -2,6 +2,7 @@
 
 #include "Schermo.h"
 
+#include <QHash>
 #include <QProcessEnvironment>
 
 #include <memory>
@@ -95,6 +96,8 @@ public:
     static const QString TitoloImmagine;
 
 private:
+    /// The inode of each model file.
+    QHash<QString, quint64> FileDeiModelli() const;
     void CercaFoglio();
     void Trascina(QPoint da, QPoint a) const;
 

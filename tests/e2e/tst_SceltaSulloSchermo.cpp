@@ -57,6 +57,8 @@ private slots:
     void allineatiColTastoEAnnullati();
     void laBandaEliminaConUnaDomanda();
     void soloConITasti();
+    void ogniTastoDispone();
+    void ogniTastoUguaglia();
 };
 
 void tst_SceltaSulloSchermo::ctrlClickELeFrecce()
@@ -146,6 +148,62 @@ void tst_SceltaSulloSchermo::soloConITasti()
     atteso.Mette("LogoCascinalta.gif", RigheFile::Immagine::X, "17");
     atteso.Mette("LogoCascinalta.gif", RigheFile::Immagine::Altezza, "23");
     QVERIFY2(dopo.Differenza(atteso).isEmpty(), dopo.Differenza(atteso));
+}
+
+void tst_SceltaSulloSchermo::ogniTastoDispone()
+{
+    Banco banco;
+    banco.scrivania.SceglieCampo(NelDdt);
+    banco.scrivania.SceglieCampo(NellAgente);
+    banco.scrivania.SceglieCampo(NellOrdine);
+    // The last one stays; what a key does goes one way only, and comes back.
+    const auto prova = [&](const char *tasto, int riga, const QList<QByteArray> &mossi) {
+        banco.Tasti({QStringLiteral("ctrl+shift+") + QString::fromLatin1(tasto)});
+        banco.scrivania.Salva();
+        const RigheFile dopo(banco.file);
+        RigheFile atteso = banco.prima;
+        for (const QByteArray &nome : mossi) {
+            QVERIFY2(dopo.Riga(nome, riga) != banco.prima.Riga(nome, riga), tasto);
+            atteso.Mette(nome, riga, dopo.Riga(nome, riga));
+        }
+        QVERIFY2(dopo.Differenza(atteso).isEmpty(), tasto + dopo.Differenza(atteso));
+        banco.Tasti({QStringLiteral("ctrl+z")});
+        const QByteArray annullato = banco.Differenza(banco.prima);
+        QVERIFY2(annullato.isEmpty(), tasto + annullato);
+    };
+    for (const char *tasto : {"s", "o", "d"}) {
+        prova(tasto, Campo::X, {Ddt, Agente});
+    }
+    for (const char *tasto : {"a", "m", "b"}) {
+        prova(tasto, Campo::Y, {Agente});
+    }
+    prova("h", Campo::X, {Ddt});
+    prova("j", Campo::Y, {Ddt});
+}
+
+void tst_SceltaSulloSchermo::ogniTastoUguaglia()
+{
+    const QByteArray cliente("Riquadro cliente"); // 91 x 34 mm
+    Banco banco;
+    banco.scrivania.Anteprima();
+    for (const QPointF punto : {QPointF(90, 58), QPointF(140, 62)}) {
+        banco.Video().Tenendo(QStringLiteral("ctrl"),
+                              [&] { banco.Video().Clic(banco.scrivania.SulFoglio(punto)); });
+    }
+    // As the frame "Codice destinatario", 95 x 8 mm.
+    const auto prova = [&](const char *tasto, const QByteArray &larghezza,
+                           const QByteArray &altezza) {
+        banco.Tasti({QStringLiteral("ctrl+shift+") + QString::fromLatin1(tasto)});
+        RigheFile atteso = banco.prima;
+        atteso.Mette(cliente, Cornice::Larghezza, larghezza);
+        atteso.Mette(cliente, Cornice::Altezza, altezza);
+        const QByteArray differenza = banco.Differenza(atteso);
+        QVERIFY2(differenza.isEmpty(), tasto + differenza);
+        banco.Tasti({QStringLiteral("ctrl+z")});
+    };
+    prova("l", "95", "34");
+    prova("t", "91", "8");
+    prova("u", "95", "8");
 }
 
 QTEST_GUILESS_MAIN(tst_SceltaSulloSchermo)
