@@ -133,7 +133,12 @@ struct Chiave
     Genere genere = Genere::Campo;
     int indice = 0;
 
-    auto operator<=>(const Chiave &) const = default;
+    bool operator==(const Chiave &) const = default;
+    /// Kinds in their order, then slots.
+    bool operator<(const Chiave &altra) const
+    {
+        return genere != altra.genere ? genere < altra.genere : indice < altra.indice;
+    }
 };
 
 /// One print model: a plain value. Elements of a kind occupy slots 1 to their count; slots above
