@@ -1,7 +1,7 @@
 #include "editor/RigheSimulate.h"
 
 #include "grafica/Testo.h"
-#include "preview/GeometriaAnteprima.h"
+#include "model/FoglioCarta.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,7 +63,7 @@ QList<Frm1::RigaSimulata> RigheSimulate(const Modello &modello, double zoom,
     const double unaOgni = std::max(1.0, std::ceil(PassoMinimo / interlinea));
     const QString segni(CaratteriPerRiga, QChar(0xA4));
     const Campo &primo = modello.Campi[fascia->primo];
-    const double fine = std::min(modello.Righe.yFine, GeometriaAnteprima::AltezzaCarta);
+    const double fine = std::min(modello.Righe.yFine, FoglioCarta::Altezza);
     // Rows whose whole band lies above the sheet are skipped at once.
     const double saltate =
         std::max(0.0, std::floor(-modello.Righe.yInizio / interlinea / unaOgni) - 1);

@@ -8,6 +8,9 @@ namespace FoglioCarta {
 inline constexpr double Larghezza = 240; ///< mm of paper
 inline constexpr double Altezza = 350;   ///< mm of paper
 
+/// The least that frames and images are made by hand, mm.
+inline constexpr double MisuraMinima = 1;
+
 /// Where along one side of the sheet something of a size ends up that is put at a place: on the
 /// sheet. The far edge has the last word: what is larger than the sheet ends flush with it. All in
 /// one unit.

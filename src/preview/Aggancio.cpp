@@ -1,6 +1,7 @@
 #include "preview/Aggancio.h"
 
 #include "documento/StatoProgramma.h"
+#include "model/FoglioCarta.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/GeometriaAnteprima.h"
 #include "preview/GuideFoglio.h"
@@ -46,8 +47,8 @@ Aggancio::Calamite Aggancio::Raccoglie(const QList<Chiave> &mossi) const
 {
     QList<double> x;
     QList<double> y;
-    AggiungeTratto(x, 0, GeometriaAnteprima::LarghezzaCarta);
-    AggiungeTratto(y, 0, GeometriaAnteprima::AltezzaCarta);
+    AggiungeTratto(x, 0, FoglioCarta::Larghezza);
+    AggiungeTratto(y, 0, FoglioCarta::Altezza);
     for (const Genere genere : Generi) {
         for (int i = 1; i <= stato_.Aperto().UltimoSlot(genere); ++i) {
             if (!elementi_.InVista(genere, i) || mossi.contains(Chiave{genere, i})) {

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr double MisuraMinima = 1; // mm of paper
-
 QList<Chiave> Mossi(const StatoProgramma &stato, Chiave chiave)
 {
     return stato.selezione.EScelto(chiave) ? stato.selezione.Scelti() : QList<Chiave>{chiave};
@@ -128,7 +126,7 @@ std::optional<double> Attrazione::Allunga(const Calamita &calamita, double bordo
     // A frame is placed on whole millimetres at the release, an image stays where it is.
     const double da = chiave_.genere == Genere::Cornice ? Numeri::Ar(inizio) : inizio;
     const double intera = std::min(Numeri::Ar(presa->linea - da), std::floor(limite - da));
-    if (intera < MisuraMinima) {
+    if (intera < FoglioCarta::MisuraMinima) {
         return std::nullopt;
     }
     misura = static_cast<int>(intera);

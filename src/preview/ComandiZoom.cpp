@@ -4,6 +4,7 @@
 #include "finestre/Comandi.h"
 #include "finestre/Guardia.h"
 #include "finestre/IconeVista.h"
+#include "model/FoglioCarta.h"
 #include "preview/Frm1.h"
 #include "preview/PartiAnteprima.h"
 #include "preview/PulsantiStriscia.h"
@@ -51,8 +52,8 @@ double ComandiZoom::ZoomCheAdatta(const QSizeF &vista)
     if (vista.isEmpty()) {
         return GeometriaAnteprima::ZoomMassimo;
     }
-    const double serve = std::max(GeometriaAnteprima::LarghezzaCarta / vista.width(),
-                                  GeometriaAnteprima::AltezzaCarta / vista.height());
+    const double serve =
+        std::max(FoglioCarta::Larghezza / vista.width(), FoglioCarta::Altezza / vista.height());
     return std::clamp(std::ceil(serve * ScattiPerUnita - Briciola) / ScattiPerUnita,
                       GeometriaAnteprima::ZoomMinimo, GeometriaAnteprima::ZoomMassimo);
 }

@@ -27,8 +27,8 @@ constexpr double SottoScrollX = 5;
 
 GeometriaAnteprima::GeometriaAnteprima(double pixelPerMillimetro, double zoom)
     : pixelPerMillimetro_(pixelPerMillimetro)
-    , larghezzaFoglio_(LarghezzaCarta / zoom)
-    , altezzaFoglio_(AltezzaCarta / zoom)
+    , larghezzaFoglio_(FoglioCarta::Larghezza / zoom)
+    , altezzaFoglio_(FoglioCarta::Altezza / zoom)
 {
 }
 

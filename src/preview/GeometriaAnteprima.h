@@ -13,8 +13,6 @@
 class GeometriaAnteprima
 {
 public:
-    static constexpr double LarghezzaCarta = FoglioCarta::Larghezza; ///< mm of paper
-    static constexpr double AltezzaCarta = FoglioCarta::Altezza;     ///< mm of paper
     /// Height of the editor's strip across the top of the screen, its frame included: 3000 twips.
     static constexpr double AltezzaEditor = 3000 * Unita::MillimetriPerTwip;
     static constexpr double SpessoreRighello = 6.5;

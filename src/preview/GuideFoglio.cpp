@@ -1,6 +1,7 @@
 #include "preview/GuideFoglio.h"
 
 #include "documento/StatoProgramma.h"
+#include "model/FoglioCarta.h"
 #include "model/Numeri.h"
 #include "preview/GeometriaAnteprima.h"
 
@@ -23,8 +24,7 @@ double Lungo(Qt::Orientation verso, QPointF punto)
 
 int Ultimo(Qt::Orientation verso)
 {
-    return static_cast<int>(verso == Qt::Vertical ? GeometriaAnteprima::LarghezzaCarta
-                                                  : GeometriaAnteprima::AltezzaCarta);
+    return static_cast<int>(verso == Qt::Vertical ? FoglioCarta::Larghezza : FoglioCarta::Altezza);
 }
 
 QString Descrizione(Qt::Orientation verso, std::optional<int> posto)

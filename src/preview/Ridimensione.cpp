@@ -1,6 +1,7 @@
 #include "preview/Ridimensione.h"
 
 #include "documento/StatoProgramma.h"
+#include "model/FoglioCarta.h"
 #include "preview/AvvisiFoglio.h"
 #include "preview/ElementiFoglio.h"
 #include "preview/GeometriaAnteprima.h"
@@ -10,8 +11,6 @@
 #include <cmath>
 
 namespace {
-
-constexpr double MisuraMinima = 1; // mm of paper
 
 /// Whole millimetres in a length that a division by the zoom may have left a hair too short.
 double Interi(double millimetri)
@@ -23,8 +22,9 @@ double Interi(double millimetri)
 /// than it was.
 double Limitato(double lato, double restante, double prima)
 {
-    return Interi(restante) < MisuraMinima ? lato
-                                           : std::min(lato, std::max(Interi(restante), prima));
+    return Interi(restante) < FoglioCarta::MisuraMinima
+               ? lato
+               : std::min(lato, std::max(Interi(restante), prima));
 }
 
 } // namespace
@@ -68,7 +68,7 @@ void Ridimensione::RidimensionaFino(QPointF dentro)
         contesto.elementi.Elemento(Puntato().genere, Puntato().indice).Posto().topLeft();
     const QPointF bordo = dentro + scarto_;
     const QSizeF misura = Ridimensionamento::Misura(
-        QRectF(angolo, misura_), presa_, bordo, MisuraMinima / contesto.stato.zoom,
+        QRectF(angolo, misura_), presa_, bordo, FoglioCarta::MisuraMinima / contesto.stato.zoom,
         {contesto.geometria.LarghezzaFoglio(), contesto.geometria.AltezzaFoglio()});
     ApplicaMisura(attrazione_.Ridimensiona(angolo, bordo, presa_, misura));
 }

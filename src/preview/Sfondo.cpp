@@ -1,7 +1,7 @@
 #include "preview/Sfondo.h"
 
 #include "grafica/Immagini.h"
-#include "preview/GeometriaAnteprima.h"
+#include "model/FoglioCarta.h"
 #include "preview/Tratti.h"
 
 #include <QFileInfo>
@@ -59,9 +59,8 @@ void Sfondo::Legge(const Origine &origine, const QRectF &millimetri, double pixe
         Immagini::DimensioniNaturali(origine.percorso);
         return;
     }
-    const QSize pixel(
-        PixelPer(millimetri.width(), GeometriaAnteprima::LarghezzaCarta, pixelPerMillimetro),
-        PixelPer(millimetri.height(), GeometriaAnteprima::AltezzaCarta, pixelPerMillimetro));
+    const QSize pixel(PixelPer(millimetri.width(), FoglioCarta::Larghezza, pixelPerMillimetro),
+                      PixelPer(millimetri.height(), FoglioCarta::Altezza, pixelPerMillimetro));
     if (maestra_.isNull() || !(origine == origine_) || pixel != pixel_) {
         Dimentica();
         maestra_ = Immagini::CaricaScalata(origine.percorso, pixel);
