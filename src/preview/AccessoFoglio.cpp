@@ -117,6 +117,7 @@ void AccessoFoglio::Sceglie(Chiave chiave)
 {
     if (QApplication::activeModalWidget() == nullptr && InVista(chiave)) {
         emit SceltaRichiesta(chiave);
+        stato_.selezione.ImpostaScelti({chiave}); // what the keys work on from here
     }
 }
 

@@ -285,6 +285,7 @@ void tst_FoglioAccessibile::ScegliComeUnClic()
     QCOMPARE(lettura.InMano(3), 1);
     QCOMPARE(lettura.Volte("ElementoPuntato 2 1"), 1);
     QCOMPARE(lettura.Volte("PaginaRichiesta 2"), 1);
+    QCOMPARE(lettura.stato.selezione.Scelti(), QList<Chiave>({{Genere::Immagine, 1}}));
 }
 
 void tst_FoglioAccessibile::SpostaDiUnMillimetro()
