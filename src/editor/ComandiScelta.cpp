@@ -152,6 +152,7 @@ void ComandiScelta::Esegue(Disponi comando)
         return; // a gesture has the elements in hand
     }
     const QString esclusi = disposizione_.Esegue(comando, stato_.selezione.Scelti());
+    anteprima_.ImpilaPerArea(); // equal sizes are other areas
     if (!esclusi.isEmpty()) {
         anteprima_.Avverte(esclusi);
     }

@@ -233,9 +233,7 @@ void Form2::SSTab1_Click()
 void Form2::PPPP()
 {
     anteprima_->NascondiManiglie();
-    anteprima_->PrimoPianoImmagini();
-    anteprima_->PrimoPianoCornici();
-    anteprima_->PrimoPianoCampi();
+    anteprima_->ImpilaPerArea();
 }
 
 void Form2::Aggiungicampo_Click()

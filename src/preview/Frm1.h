@@ -88,6 +88,8 @@ public:
     void PrimoPianoCornici() { PrimoPiano(Genere::Cornice); }
     void PrimoPianoImmagini() { PrimoPiano(Genere::Immagine); }
 
+    /// Restacks images, then frames, then fields: as an opening shows them.
+    void ImpilaPerArea();
     /// Puts every visible handle back on its own element, after a walk that placed others too.
     void RiancoraManiglie();
     /// Gives the visible handles the hints that placing their own elements last would leave.

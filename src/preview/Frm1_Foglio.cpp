@@ -64,9 +64,7 @@ void Frm1::MostraModello()
         }
     }
     NascondiManiglie();
-    PrimoPianoImmagini();
-    PrimoPianoCornici();
-    PrimoPianoCampi();
+    ImpilaPerArea();
     accesso_->Rilegge();
 }
 
@@ -124,6 +122,13 @@ void Frm1::Sceglie(Chiave chiave)
 void Frm1::PrimoPiano(Genere genere)
 {
     elementi_->PrimoPiano(genere);
+}
+
+void Frm1::ImpilaPerArea()
+{
+    PrimoPianoImmagini();
+    PrimoPianoCornici();
+    PrimoPianoCampi(); // in front of both, as the editor stacks them
 }
 
 void Frm1::Sposta(Genere genere, int i, Qt::MouseButtons bottoni, Qt::KeyboardModifiers, double x,

@@ -139,6 +139,7 @@ bool TastiFoglio::Freccia(QPoint verso, Qt::KeyboardModifiers modi)
     }
     if (altri == Qt::ControlModifier) {
         Mostra(disposizione_.Ingrandisce(scelti, QSizeF(verso.x() * lungo, verso.y() * lungo)));
+        finestra_.ImpilaPerArea(); // as where the mouse lets an edge go
     } else if (modi == Qt::AltModifier) {
         Mostra(disposizione_.Sposta(scelti, QPointF(verso) * Passetto));
     } else if (altri == Qt::NoModifier) {

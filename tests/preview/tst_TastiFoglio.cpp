@@ -50,6 +50,7 @@ private slots:
     void LeFrecceSpostano();
     void LeFrecceTenuteSonoUnPasso();
     void LeFrecceConCtrlRidimensionano();
+    void RidimensionatoConITastiSiRiimpila();
     void ConAltSoloLeImmagini();
     void IlCampoDiRigaRestaSuYInizio();
     void SenzaSceltiLeFrecceScorrono();
@@ -159,6 +160,20 @@ void tst_TastiFoglio::LeFrecceConCtrlRidimensionano()
     banco.Tasto(Qt::Key_Right, Qt::ControlModifier);
     QVERIFY(banco.Striscia().contains(QLatin1String("grandi quanto il loro testo")));
     QCOMPARE(banco.Posto(Campo1), QPointF(20, 20));
+}
+
+void tst_TastiFoglio::RidimensionatoConITastiSiRiimpila()
+{
+    Foglio banco;
+    const int grande = banco.Cornice(60, 20, 40, 20); // in front as long as nobody restacks
+    banco.frm->ImpilaPerArea();
+    QVERIFY(banco.C2(1)->zValue() > banco.C2(grande)->zValue());
+    banco.Sceglie({{Genere::Cornice, 1}});
+    for (int i = 0; i < 2; ++i) {
+        banco.Tasto(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    }
+    QCOMPARE(banco.modello.Cornici[1].Larghezza, 50.0);
+    QVERIFY(banco.C2(1)->zValue() < banco.C2(grande)->zValue());
 }
 
 void tst_TastiFoglio::ConAltSoloLeImmagini()
