@@ -67,11 +67,8 @@ int FrmElemento::Indice() const
 
 void FrmElemento::ControllaNomeUnico(int n, const QString &messaggio) const
 {
-    const QString nome = caselle_.Testo(controlli_.Nome);
-    for (int i = 1; i <= Aperto().UltimoSlot(genere_); ++i) {
-        if (i != n && Aperto().Nome(genere_, i).compare(nome, Qt::CaseInsensitive) == 0) {
-            throw Rifiuto{messaggio, controlli_.Nome};
-        }
+    if (Aperto().NomePreso(genere_, caselle_.Testo(controlli_.Nome), n)) {
+        throw Rifiuto{messaggio, controlli_.Nome};
     }
 }
 

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr double MisuraMinima = 1; // mm
-
 /// What a command is for undo, and what it does along each axis.
 struct Descrizione
 {
@@ -139,12 +137,6 @@ bool GrandeQuantoIlTesto(const Modello &modello, Chiave chiave)
 
 } // namespace
 
-QString NomeDi(const Modello &modello, const QList<Chiave> &elementi)
-{
-    return elementi.size() == 1 ? modello.Di(elementi.constFirst()).Nome
-                                : QStringLiteral("%1 elementi").arg(elementi.size());
-}
-
 Disposizione::Disposizione(Documento &documento, MisuraElemento misura)
     : documento_(documento)
     , misura_(std::move(misura))
@@ -208,7 +200,7 @@ QString Disposizione::Esegue(Disponi comando, const QList<Chiave> &elementi)
         Mobili(comando, alUltimo ? elementi.first(elementi.size() - 1) : elementi, &motivo);
     const QRectF ultimo = Posto(elementi.constLast());
     Passo passo(documento_,
-                QString::fromUtf16(descrizione.testo) + u' ' + NomeDi(Aperto(), elementi));
+                QString::fromUtf16(descrizione.testo) + u' ' + documento_.Denominazione(elementi));
     passo.SoloSeCambia();
     if (descrizione.misure) {
         Uguaglia(passo, comando, mossi, ultimo.size());
@@ -311,7 +303,7 @@ QString Disposizione::Sposta(const QList<Chiave> &elementi, QPointF millimetri)
         // Stopped at part of a millimetre, each element would be rounded by itself.
         scarto = {std::trunc(scarto.x()), std::trunc(scarto.y())};
     }
-    Passo passo(documento_, QStringLiteral("sposta ") + NomeDi(Aperto(), elementi),
+    Passo passo(documento_, QStringLiteral("sposta ") + documento_.Denominazione(elementi),
                 {ChiaveUnione(QStringLiteral("sposta"), elementi, millimetri.x(), millimetri.y()),
                  MillisecondiDiSeguito});
     passo.SoloSeCambia();
@@ -329,7 +321,7 @@ QString Disposizione::Ingrandisce(const QList<Chiave> &elementi, QSizeF millimet
     if (mossi.isEmpty()) {
         return motivo;
     }
-    Passo passo(documento_, QStringLiteral("ridimensiona ") + NomeDi(Aperto(), elementi),
+    Passo passo(documento_, QStringLiteral("ridimensiona ") + documento_.Denominazione(elementi),
                 {ChiaveUnione(QStringLiteral("ridimensiona"), elementi, millimetri.width(),
                               millimetri.height()),
                  MillisecondiDiSeguito});
@@ -339,7 +331,7 @@ QString Disposizione::Ingrandisce(const QList<Chiave> &elementi, QSizeF millimet
         const auto lato = [](double prima, double dopo, double spazio) {
             // As with the mouse: not past the sheet, or not farther than it was.
             return dopo > prima ? std::min(dopo, std::max(prima, spazio))
-                                : std::min(prima, std::max(dopo, MisuraMinima));
+                                : std::min(prima, std::max(dopo, FoglioCarta::MisuraMinima));
         };
         passo.Ridimensiona(chiave, {lato(posto.width(), posto.width() + millimetri.width(),
                                          FoglioCarta::Larghezza - posto.left()),
@@ -352,7 +344,7 @@ QString Disposizione::Ingrandisce(const QList<Chiave> &elementi, QSizeF millimet
 
 void Disposizione::Elimina(const QList<Chiave> &elementi)
 {
-    Passo passo(documento_, QStringLiteral("elimina ") + NomeDi(Aperto(), elementi));
+    Passo passo(documento_, QStringLiteral("elimina ") + documento_.Denominazione(elementi));
     for (const Chiave &chiave : elementi) {
         passo.Elimina(chiave);
     }

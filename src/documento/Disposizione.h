@@ -26,9 +26,6 @@ enum class Disponi {
     StesseMisure
 };
 
-/// What undo calls the elements: the name of one, the number of several.
-QString NomeDi(const Modello &modello, const QList<Chiave> &elementi);
-
 /// Commands on several elements of the open model; each is one step and follows the rules of
 /// placing: fields and frames at whole millimetres, row fields at yInizio, all on the sheet. What a
 /// command cannot do to an element it leaves alone, and returns in words what and why (empty: it

@@ -88,6 +88,12 @@ QString Documento::Denominazione(Chiave chiave) const
                : QString(NomeDi(chiave.genere)).toLower() + u' ' + QString::number(chiave.indice);
 }
 
+QString Documento::Denominazione(const QList<Chiave> &chiavi) const
+{
+    return chiavi.size() == 1 ? Denominazione(chiavi.constFirst())
+                              : QStringLiteral("%1 elementi").arg(chiavi.size());
+}
+
 bool Documento::InVista(Chiave chiave) const
 {
     // An image gets its name with its picture; in a file a blank name means an absent element.

@@ -29,6 +29,8 @@ public:
     /// What steps call the element: its name, or while it has none what the list shows, or else its
     /// kind and number ("immagine 3").
     QString Denominazione(Chiave chiave) const;
+    /// The same of several elements: that of a single one, or their number.
+    QString Denominazione(const QList<Chiave> &chiavi) const;
     /// True when the element has been deleted since the model was opened. Its Voce says so too, but
     /// an element that is there may be named like a deleted one.
     bool Eliminato(Chiave chiave) const { return stato_.Eliminato(chiave); }

@@ -65,21 +65,11 @@ QPointF Spostamento(const ElementiCopiati &elementi, const Incolla::Dove &dove)
     return {Spostamento(x, dove.foglio.width(), dove), Spostamento(y, dove.foglio.height(), dove)};
 }
 
-bool NomePreso(const Modello &modello, Genere genere, const QString &nome)
-{
-    for (int i = 1; i <= modello.UltimoSlot(genere); ++i) {
-        if (modello.Nome(genere, i).compare(nome, Qt::CaseInsensitive) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// The name, or the first of those with a number after it, that no element of the kind has.
 QString NomeLibero(const Modello &modello, Genere genere, const QString &nome)
 {
     QString libero = nome;
-    for (int k = 2; NomePreso(modello, genere, libero); ++k) {
+    for (int k = 2; modello.NomePreso(genere, libero); ++k) {
         libero = nome + u'_' + QString::number(k);
     }
     return libero;
@@ -171,14 +161,7 @@ Incolla::Esito Incolla::Aggiunge(Documento &documento, const ElementiCopiati &el
         esito.nuovi.append(AggiungeRecord(passo, elementi.Elementi, chiave, spostamento, libero));
     }
     if (!esito.nuovi.isEmpty()) {
-        passo.Nomina(Titolo(parole.verbo, documento.Aperto().Di(esito.nuovi.constFirst()).Nome,
-                            esito.nuovi.size()));
+        passo.Nomina(parole.verbo + u' ' + documento.Denominazione(esito.nuovi));
     }
     return esito;
-}
-
-QString Incolla::Titolo(const QString &verbo, const QString &nome, qsizetype quanti)
-{
-    return quanti == 1 ? verbo + u' ' + nome
-                       : QStringLiteral("%1 %2 elementi").arg(verbo).arg(quanti);
 }

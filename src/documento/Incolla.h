@@ -50,7 +50,4 @@ struct Esito
 Esito Aggiunge(Documento &documento, const ElementiCopiati &elementi, const Parole &parole,
                const Dove &dove);
 
-/// What a step on so many elements is called: the verb and the name of a single one.
-QString Titolo(const QString &verbo, const QString &nome, qsizetype quanti);
-
 } // namespace Incolla

@@ -8,8 +8,8 @@
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
 #include "grafica/Testo.h"
+#include "model/FoglioCarta.h"
 #include "preview/Frm1.h"
-#include "preview/GeometriaAnteprima.h"
 #include "preview/MisuraSuCarta.h"
 
 #include <QApplication>
@@ -160,8 +160,7 @@ void ComandiAppunti::Taglia()
         return !stato_.Aperto().Presente(chiave.genere, chiave.indice); // not in the clipboard
     });
     Passo passo(stato_.documento,
-                Incolla::Titolo(QStringLiteral("taglia"),
-                                stato_.Aperto().Di(tagliati.constFirst()).Nome, tagliati.size()));
+                QStringLiteral("taglia ") + stato_.documento.Denominazione(tagliati));
     for (const Chiave &chiave : std::as_const(tagliati)) {
         passo.Elimina(chiave);
     }
@@ -225,7 +224,7 @@ bool ComandiAppunti::CiSta(const ElementiCopiati &elementi, const Incolla::Parol
 bool ComandiAppunti::Aggiunge(const ElementiCopiati &elementi, const Incolla::Parole &parole,
                               double scarto, bool sulPosto, QStringList note)
 {
-    constexpr QSizeF Foglio(GeometriaAnteprima::LarghezzaCarta, GeometriaAnteprima::AltezzaCarta);
+    constexpr QSizeF Foglio(FoglioCarta::Larghezza, FoglioCarta::Altezza);
     const Incolla::Esito esito =
         elementi.Ordine.isEmpty() ? Incolla::Esito{}
                                   : Incolla::Aggiunge(stato_.documento, elementi, parole,
@@ -237,9 +236,7 @@ bool ComandiAppunti::Aggiunge(const ElementiCopiati &elementi, const Incolla::Pa
         // The last: on a narrow strip the end is what is left out.
         note.append(QStringLiteral("nel modello: ") + Quali(stato_.Aperto(), esito.nuovi));
         stato_.selezione.ImpostaScelti(esito.nuovi);
-        anteprima_.PrimoPianoImmagini();
-        anteprima_.PrimoPianoCornici();
-        anteprima_.PrimoPianoCampi();
+        anteprima_.ImpilaPerArea();
         anteprima_.PortaInVista(esito.nuovi.constFirst());
     }
     anteprima_.Avverte(Frase(note));

@@ -337,7 +337,7 @@ void RigheElenco::Sposta(Chiave chiave, int colonna, double posto)
     const Elemento &elemento = documento_.Aperto().Di(chiave);
     const QPointF angolo = inX ? QPointF(nuovo, elemento.Y) : QPointF(elemento.X, nuovo);
     if (angolo != QPointF(elemento.X, elemento.Y)) {
-        Passo passo(documento_, QStringLiteral("sposta ") + elemento.Nome);
+        Passo passo(documento_, QStringLiteral("sposta ") + documento_.Denominazione(chiave));
         passo.Trascina(chiave, angolo);
         passo.Colloca(chiave);
     }

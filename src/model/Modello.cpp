@@ -18,16 +18,6 @@ bool Cambia(double &valore, double nuovo)
     return vecchio != nuovo && !(std::isnan(vecchio) && std::isnan(nuovo));
 }
 
-bool CorniceConNome(const Modello &modello, const QString &nome)
-{
-    for (int i = 1; i <= modello.UltimoSlot(Genere::Cornice); ++i) {
-        if (modello.Cornici[i].Nome.compare(nome, Qt::CaseInsensitive) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// "Nuova", the minute and the second, of that time or the next one whose name no frame has: two
 /// frames of one name could not be confirmed. An hour has far more names than a model has frames.
 QString NomeCorniceNuova(const Modello &modello, int minuto, int secondo)
@@ -38,7 +28,7 @@ QString NomeCorniceNuova(const Modello &modello, int minuto, int secondo)
         const int nellOra = istante % SecondiPerOra;
         QString nome = QStringLiteral("Nuova") + QString::number(nellOra / SecondiPerMinuto) +
                        QString::number(nellOra % SecondiPerMinuto);
-        if (!CorniceConNome(modello, nome)) {
+        if (!modello.NomePreso(Genere::Cornice, nome)) {
             return nome;
         }
     }
@@ -109,6 +99,16 @@ int Modello::AggiungeCampo(double x, double y)
     campo.Font = FontNuovo;
     campo.Dimensione = DimensioneNuova;
     return n;
+}
+
+bool Modello::NomePreso(Genere genere, const QString &nome, int tranne) const
+{
+    for (int i = 1; i <= UltimoSlot(genere); ++i) {
+        if (i != tranne && Nome(genere, i).compare(nome, Qt::CaseInsensitive) == 0) {
+            return true;
+        }
+    }
+    return false;
 }
 
 int Modello::AggiungeCornice(double x, double y, int minuto, int secondo)

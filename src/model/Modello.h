@@ -181,6 +181,8 @@ struct Modello
     /// False when the element is deleted (empty Nome). A new image has no Nome yet and is absent
     /// until it is given a picture.
     bool Presente(Genere genere, int indice) const;
+    /// True when an element of the kind, other than tranne, has the name, whatever its case.
+    bool NomePreso(Genere genere, const QString &nome, int tranne = 0) const;
 
     /// Raises the count of the kind, then fills the new slot with the values of a new element at
     /// (x, y) mm and returns its number. minuto and secondo of the clock name a new frame; they run

@@ -1,6 +1,5 @@
 #include "preview/Trascinamento.h"
 
-#include "documento/Disposizione.h"
 #include "documento/StatoProgramma.h"
 #include "model/FoglioCarta.h"
 #include "model/Numeri.h"
@@ -123,7 +122,7 @@ void Trascinamento::ConcludeInsieme()
 {
     Passo &passo = passo_.Iniziato();
     passo.Nomina(QStringLiteral("sposta ") +
-                 NomeDi(contesto_.stato.Aperto(), contesto_.stato.selezione.Scelti()));
+                 contesto_.stato.documento.Denominazione(contesto_.stato.selezione.Scelti()));
     const Elemento &elemento = contesto_.stato.Aperto().Di(chiave_);
     QPointF scarto = QPointF(elemento.X, elemento.Y) - postoPrima_;
     if (compagni_.ConInteri()) {

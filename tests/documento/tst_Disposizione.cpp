@@ -92,6 +92,7 @@ private slots:
     void PressioniDiSeguitoUnPassoSolo();
     void IngrandisceDaUnMillimetroAlBordo();
     void EliminaTuttiInUnPasso();
+    void UnImmagineSenzaNomeSiChiamaColNumero();
     void OrdineDallAltoInBasso();
 };
 
@@ -313,6 +314,17 @@ void tst_Disposizione::EliminaTuttiInUnPasso()
     QVERIFY(banco.stato.documento.Eliminato(Riquadro));
     banco.stato.documento.Annulla();
     QVERIFY(banco.stato.Aperto() == prima);
+}
+
+void tst_Disposizione::UnImmagineSenzaNomeSiChiamaColNumero()
+{
+    Banco banco;
+    const Chiave nuova = Passo(banco.stato.documento, QStringLiteral("aggiunge"))
+                             .Aggiunge(Genere::Immagine, {5, 5}, {});
+    banco.disposizione.Sposta({nuova}, {1, 0});
+    QCOMPARE(banco.stato.documento.TestoAnnulla(), QStringLiteral("sposta immagine 2"));
+    banco.disposizione.Elimina({nuova});
+    QCOMPARE(banco.stato.documento.TestoAnnulla(), QStringLiteral("elimina immagine 2"));
 }
 
 void tst_Disposizione::OrdineDallAltoInBasso()
