@@ -84,7 +84,7 @@ void Frm1::Form_Load()
     attrezzi_->AggiungeComandi(*this);
     mani_ = std::make_unique<ManiSulFoglio>(stato_, parti_->geometria, *elementi_, *parti_->P1,
                                             attrezzi_->guide, attrezzi_->aggancio);
-    tasti_ = std::make_unique<TastiFoglio>(stato_, *this, *parti_);
+    tasti_ = std::make_unique<TastiFoglio>(stato_, *this, *parti_, attrezzi_->guide);
     parti_->TextZoom->setText(Numeri::CstrX(stato_.zoom, {}));
     parti_->TextZoom->installEventFilter(this);
     parti_->P1->setFocus(); // otherwise the zoom box takes the keys that are meant for the sheet

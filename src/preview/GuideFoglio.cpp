@@ -7,6 +7,7 @@
 
 #include <QGraphicsScene>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -26,6 +27,12 @@ int Ultimo(Qt::Orientation verso)
 {
     return static_cast<int>(verso == Qt::Vertical ? FoglioCarta::Larghezza : FoglioCarta::Altezza);
 }
+
+/// More than any place on the sheet.
+constexpr int FuoriDalFoglio = 1000;
+
+constexpr QLatin1String
+    ConITasti("   (frecce: sposta, Invio: lascia, Canc: toglie, Esc: rinuncia, F8: la prossima)");
 
 QString Descrizione(Qt::Orientation verso, std::optional<int> posto)
 {
@@ -91,7 +98,7 @@ std::optional<GuideFoglio::Guida> GuideFoglio::Sotto(QPointF punto) const
 Qt::CursorShape GuideFoglio::PuntatoreIn(QPointF punto) const
 {
     std::optional<Qt::Orientation> verso;
-    if (mano_) {
+    if (mano_ && !mano_->aiTasti) {
         verso = mano_->verso;
     } else if (const std::optional<Guida> guida = Sotto(punto)) {
         verso = guida->verso;
@@ -127,12 +134,64 @@ void GuideFoglio::Porta(QPointF punto, QPointF visto)
     emit Detto(Descrizione(verso, mano_->ora));
 }
 
+void GuideFoglio::PrendeIn(Qt::Orientation verso, int posto)
+{
+    Lascia();
+    const int sulFoglio = std::clamp(posto, 0, Ultimo(verso));
+    const bool gia = Elenco(verso).removeOne(sulFoglio);
+    mano_ = Mano{verso, gia ? std::optional(sulFoglio) : std::nullopt, sulFoglio, 0, true, true};
+    Mostra();
+    emit Detto(Descrizione(verso, sulFoglio) + ConITasti);
+}
+
+bool GuideFoglio::PrendeProssima()
+{
+    const int ora = mano_.value().ora.value();
+    const QList<int> &altre = Poste(mano_->verso);
+    if (altre.isEmpty() || altre == QList<int>{ora}) {
+        return false;
+    }
+    const auto dopo = [ora](int posto) {
+        return posto > ora ? posto - ora : posto + FuoriDalFoglio;
+    };
+    PrendeIn(mano_->verso, *std::min_element(altre.cbegin(), altre.cend(),
+                                             [&](int a, int b) { return dopo(a) < dopo(b); }));
+    return true;
+}
+
+void GuideFoglio::Sposta(int millimetri)
+{
+    if (InManoAiTasti()) {
+        mano_->ora = std::clamp(mano_->ora.value() + millimetri, 0, Ultimo(mano_->verso));
+        Mostra();
+        emit Detto(Descrizione(mano_->verso, mano_->ora) + ConITasti);
+    }
+}
+
+void GuideFoglio::Toglie()
+{
+    if (mano_) {
+        mano_->ora = std::nullopt;
+        Lascia();
+    }
+}
+
+void GuideFoglio::Interrompe()
+{
+    if (InManoAiTasti()) {
+        Lascia();
+    } else {
+        Rinuncia();
+    }
+}
+
 void GuideFoglio::Lascia()
 {
     if (const std::optional<Mano> mano = std::exchange(mano_, std::nullopt)) {
         if (mano->ora) {
             Aggiunge(mano->verso, *mano->ora);
-        } else if (mano->portata) {
+        }
+        if (mano->aiTasti || (mano->portata && !mano->ora)) {
             emit Detto({});
         }
         Mostra();

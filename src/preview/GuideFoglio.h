@@ -51,11 +51,27 @@ public:
     /// The mouse has moved to punto; visto is the corner of the sheet in sight. Before that corner
     /// lies the guide's ruler: there, and off the end of the paper, there is no guide.
     void Porta(QPointF punto, QPointF visto);
+    /// Takes the guide at that place of the paper in hand for the keys, or a new one; a place off
+    /// the paper is its edge.
+    void PrendeIn(Qt::Orientation verso, int posto);
+    /// Leaves the guide that the keys have in hand, and takes the one that follows it along the
+    /// sheet, the first after the last; false, and nothing done, when it is the only one.
+    bool PrendeProssima();
+    /// Moves the guide that the keys have in hand, mm of paper; the edge of the paper stops it.
+    void Sposta(int millimetri);
+    /// Takes the guide in hand away.
+    void Toglie();
     /// The guide stays where it is, or is gone.
     void Lascia();
+    /// The mouse, or the keyboard, is elsewhere now: a guide that the mouse had is as before
+    /// Prende, one that the keys had stays where it is.
+    void Interrompe();
     /// All is as before Prende. False when none is in hand.
     bool Rinuncia();
     bool InMano() const { return mano_.has_value(); }
+    bool InManoAiTasti() const { return mano_ && mano_->aiTasti; }
+    /// Of the one in hand; there must be one.
+    Qt::Orientation VersoInMano() const { return mano_.value().verso; }
 
     void Svuota();
     void SegueZoom() { Mostra(); }
@@ -72,7 +88,8 @@ private:
         std::optional<int> prima;
         std::optional<int> ora;
         double scarto;        ///< from the guide to the pointer, mm of paper
-        bool portata = false; ///< the mouse has moved since
+        bool portata = false; ///< it has moved since
+        bool aiTasti = false;
     };
 
     QList<int> &Elenco(Qt::Orientation verso);

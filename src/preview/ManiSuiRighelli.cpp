@@ -58,7 +58,7 @@ bool ManiSuiRighelli::eventFilter(QObject *oggetto, QEvent *evento)
     case QEvent::WindowDeactivate:
     case QEvent::Hide:
         // The sheet's own gesture knows by itself when it loses the mouse.
-        Guardia(righello, [&] { guide_.Rinuncia(); });
+        Guardia(righello, [&] { guide_.Interrompe(); });
         break;
     default:
         break;
@@ -84,7 +84,7 @@ void ManiSuiRighelli::Preme(const RighelloFoglio &righello, const QMouseEvent &e
 void ManiSuiRighelli::Muove(RighelloFoglio &righello, const QMouseEvent &evento)
 {
     const QPointF punto = SulFoglio(evento);
-    if (!guide_.InMano()) {
+    if (!guide_.InMano() || guide_.InManoAiTasti()) {
         const Qt::CursorShape puntatore = Puntatore(
             guide_.Sotto(DiTraverso(righello), punto) ? DiTraverso(righello) : righello.Verso());
         if (righello.cursor().shape() != puntatore) {

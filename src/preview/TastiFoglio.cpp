@@ -34,10 +34,12 @@ QPoint Verso(int tasto)
 
 } // namespace
 
-TastiFoglio::TastiFoglio(StatoProgramma &stato, Frm1 &finestra, PartiAnteprima &parti)
+TastiFoglio::TastiFoglio(StatoProgramma &stato, Frm1 &finestra, PartiAnteprima &parti,
+                         GuideFoglio &guide)
     : stato_(stato)
     , finestra_(finestra)
     , parti_(parti)
+    , guide_(guide, stato, parti)
     , disposizione_(stato.documento,
                     [&stato](Chiave chiave) { return MisuraSuCarta(stato.Aperto(), chiave); })
 {
@@ -53,6 +55,9 @@ bool TastiFoglio::Preme(const QKeyEvent &tasto)
 {
     if (stato_.documento.ModificaInCorso()) {
         return false; // the mouse has an element in hand
+    }
+    if (guide_.Preme(tasto)) {
+        return true;
     }
     const Qt::KeyboardModifiers modi = tasto.modifiers() & ~Qt::KeypadModifier;
     const bool semplice = (modi & ~Qt::ShiftModifier) == Qt::NoModifier;

@@ -74,6 +74,11 @@ bool VistaFoglio::event(QEvent *evento)
             return true;
         }
     }
+    if (evento->type() == QEvent::ShortcutOverride && tasti_ != nullptr &&
+        tasti_->Trattiene(*static_cast<QKeyEvent *>(evento))) {
+        evento->accept();
+        return true;
+    }
     return QGraphicsView::event(evento);
 }
 

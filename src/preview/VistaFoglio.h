@@ -44,6 +44,8 @@ public:
     virtual ~AscoltaTasti() = default;
     /// False when the key means nothing there: it goes on.
     virtual bool Preme(const QKeyEvent &tasto) = 0;
+    /// True for a key that must come to Preme although a command has it as its shortcut.
+    virtual bool Trattiene(const QKeyEvent &tasto) const = 0;
 };
 
 /// The sheet `P1`: a view of the whole scene, one scene unit to the millimetre of screen. It never

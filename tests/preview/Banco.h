@@ -9,6 +9,7 @@
 #include "support/Finestre.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -205,6 +206,32 @@ public:
         TextZoom->selectAll();
         TextZoom->insert(testo);
         QTest::keyRelease(TextZoom, Qt::Key_End);
+    }
+
+    QString Striscia() const { return Trova<QLabel>(*frm, "Text1")->text(); }
+    /// Makes the sheet take the keys.
+    void FuocoAlFoglio() const { Trova<QGraphicsView>(*frm, "P1")->setFocus(); }
+    /// A key, to whatever of the window has the focus.
+    void Tasto(Qt::Key tasto, Qt::KeyboardModifiers modi = {}) const
+    {
+        QTest::keyClick(frm->windowHandle(), tasto, modi);
+    }
+    /// The guides on the sheet, "X 40" and "Y 60", mm of screen.
+    QStringList Guide() const
+    {
+        QStringList guide;
+        const auto voci = Trova<QGraphicsView>(*frm, "P1")->scene()->items();
+        for (QGraphicsItem *voce : voci) {
+            const auto *linea = dynamic_cast<LineaGuida *>(voce);
+            if (linea != nullptr && linea->isVisible() &&
+                linea->objectName().startsWith(QStringLiteral("Guida"))) {
+                const QRectF &posto = linea->Posto();
+                guide.append(posto.width() == 0 ? QStringLiteral("X %1").arg(posto.left())
+                                                : QStringLiteral("Y %1").arg(posto.top()));
+            }
+        }
+        guide.sort();
+        return guide;
     }
 
     QImage Fotografia() const

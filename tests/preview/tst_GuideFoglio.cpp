@@ -2,33 +2,9 @@
 #include "preview/GuideFoglio.h"
 
 #include <QAbstractButton>
-#include <QLabel>
 #include <QMessageBox>
 
 namespace {
-
-/// The guides on the sheet, "X 40" and "Y 60", mm of screen.
-QStringList Guide(const Banco &banco)
-{
-    QStringList guide;
-    const auto voci = Trova<QGraphicsView>(*banco.frm, "P1")->scene()->items();
-    for (QGraphicsItem *voce : voci) {
-        const auto *linea = dynamic_cast<LineaGuida *>(voce);
-        if (linea != nullptr && linea->isVisible() &&
-            linea->objectName().startsWith(QStringLiteral("Guida"))) {
-            const QRectF &posto = linea->Posto();
-            guide.append(posto.width() == 0 ? QStringLiteral("X %1").arg(posto.left())
-                                            : QStringLiteral("Y %1").arg(posto.top()));
-        }
-    }
-    guide.sort();
-    return guide;
-}
-
-QString Striscia(const Banco &banco)
-{
-    return Trova<QLabel>(*banco.frm, "Text1")->text();
-}
 
 /// Works a ruler with the mouse. Points are mm of screen on the sheet, wherever the pointer is.
 class Mano
@@ -118,15 +94,15 @@ void tst_GuideFoglio::DaiRighelliSulFoglio()
     Banco banco;
     Mano mano(banco, "RighelloY");
     mano.Preme(mano.Sul(0, 30));
-    QCOMPARE(Guide(banco), QStringList());
+    QCOMPARE(banco.Guide(), QStringList());
     mano.Muove({40, 30});
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("X 40")));
-    QCOMPARE(Striscia(banco), QStringLiteral("Guida verticale   X 40   mm"));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 40")));
+    QCOMPARE(banco.Striscia(), QStringLiteral("Guida verticale   X 40   mm"));
     mano.Rilascia({40, 30});
     Mano sopra(banco, "RighelloX");
     sopra.Trascina(sopra.Sul(50, 0), {50, 60});
-    QCOMPARE(Guide(banco), DueGuide);
-    QCOMPARE(Striscia(banco), QStringLiteral("Guida orizzontale   Y 60   mm"));
+    QCOMPARE(banco.Guide(), DueGuide);
+    QCOMPARE(banco.Striscia(), QStringLiteral("Guida orizzontale   Y 60   mm"));
     // From edge to edge of the sheet.
     QCOMPARE(banco.Controllo_<LineaGuida>(QStringLiteral("Guida(1)"))->Posto(),
              QRectF(40, 0, 0, 350));
@@ -142,7 +118,7 @@ void tst_GuideFoglio::SuMillimetriInteriDiCarta()
     Mano mano(banco, "RighelloY");
     mano.Trascina(mano.Sul(0, 30), {40.3, 30});
     const double carta = qRound(banco.Centro({40.3, 30}).x() * 2.5);
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("X %1").arg(carta / 2.5)));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X %1").arg(carta / 2.5)));
 }
 
 void tst_GuideFoglio::RestanoSulLoroMillimetroAlloZoom()
@@ -150,9 +126,9 @@ void tst_GuideFoglio::RestanoSulLoroMillimetroAlloZoom()
     Banco banco;
     TrascinaDaiRighelli(banco);
     banco.Zoom(QStringLiteral("2"));
-    QCOMPARE(Guide(banco), QStringList({QStringLiteral("X 20"), QStringLiteral("Y 30")}));
+    QCOMPARE(banco.Guide(), QStringList({QStringLiteral("X 20"), QStringLiteral("Y 30")}));
     banco.Zoom(QStringLiteral("1"));
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
 }
 
 void tst_GuideFoglio::PremutoSoloIlRighello()
@@ -160,12 +136,12 @@ void tst_GuideFoglio::PremutoSoloIlRighello()
     Banco banco;
     banco.Cornice(100, 100, 40, 20);
     banco.Clicca({120, 110});
-    const QString detto = Striscia(banco);
+    const QString detto = banco.Striscia();
     Mano mano(banco, "RighelloX");
     mano.Preme(mano.Sul(50, 0));
     mano.Rilascia(mano.Sul(50, 0));
-    QCOMPARE(Guide(banco), QStringList());
-    QCOMPARE(Striscia(banco), detto);
+    QCOMPARE(banco.Guide(), QStringList());
+    QCOMPARE(banco.Striscia(), detto);
 }
 
 void tst_GuideFoglio::UnaSolaPerPosto()
@@ -174,7 +150,7 @@ void tst_GuideFoglio::UnaSolaPerPosto()
     Mano mano(banco, "RighelloY");
     mano.Trascina(mano.Sul(0, 30), {40, 30});
     mano.Trascina(mano.Sul(0, 30), {40, 80});
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("X 40")));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 40")));
 }
 
 void tst_GuideFoglio::ScorrendoContaCioCheSiVede()
@@ -185,12 +161,12 @@ void tst_GuideFoglio::ScorrendoContaCioCheSiVede()
     Mano mano(banco, "RighelloY");
     mano.Preme({97, 30});
     mano.Muove({150, 30});
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("X 150")));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 150")));
     mano.Muove({98, 30});
-    QCOMPARE(Guide(banco), QStringList());
+    QCOMPARE(banco.Guide(), QStringList());
     mano.Muove({120, 30});
     mano.Rilascia({120, 30});
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("X 120")));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 120")));
 }
 
 void tst_GuideFoglio::TrascinataSulFoglio()
@@ -198,12 +174,12 @@ void tst_GuideFoglio::TrascinataSulFoglio()
     Banco banco;
     TrascinaDaiRighelli(banco);
     banco.Trascina({40, 100}, {90, 130});
-    QCOMPARE(Guide(banco), QStringList({QStringLiteral("X 90"), QStringLiteral("Y 60")}));
+    QCOMPARE(banco.Guide(), QStringList({QStringLiteral("X 90"), QStringLiteral("Y 60")}));
     banco.Trascina({10, 60}, {30, 25});
-    QCOMPARE(Guide(banco), QStringList({QStringLiteral("X 90"), QStringLiteral("Y 25")}));
+    QCOMPARE(banco.Guide(), QStringList({QStringLiteral("X 90"), QStringLiteral("Y 25")}));
     // Four pixels off it is the bare sheet.
     banco.Trascina({90 + 4.4 * MillimetriPerPixel, 100}, {120, 100});
-    QCOMPARE(Guide(banco), QStringList({QStringLiteral("X 90"), QStringLiteral("Y 25")}));
+    QCOMPARE(banco.Guide(), QStringList({QStringLiteral("X 90"), QStringLiteral("Y 25")}));
 }
 
 void tst_GuideFoglio::RiportataSulRighelloVieneTolta_data()
@@ -226,10 +202,10 @@ void tst_GuideFoglio::RiportataSulRighelloVieneTolta()
     banco.Preme(da);
     banco.Muove((da + a) / 2);
     banco.Muove(a);
-    QVERIFY(Striscia(banco).contains(QStringLiteral("al rilascio viene tolta")));
+    QVERIFY(banco.Striscia().contains(QStringLiteral("al rilascio viene tolta")));
     banco.Rilascia(a);
-    QCOMPARE(Guide(banco), QStringList(resta));
-    QCOMPARE(Striscia(banco), QString());
+    QCOMPARE(banco.Guide(), QStringList(resta));
+    QCOMPARE(banco.Striscia(), QString());
 }
 
 void tst_GuideFoglio::OltreLaFineDellaCartaVieneTolta()
@@ -238,9 +214,9 @@ void tst_GuideFoglio::OltreLaFineDellaCartaVieneTolta()
     banco.Zoom(QStringLiteral("2")); // 240 mm of paper end at 120 of screen
     Mano mano(banco, "RighelloY");
     mano.Trascina(mano.Sul(0, 30), {120, 30});
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("X 120")));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 120")));
     banco.Trascina({120, 30}, {122, 30});
-    QCOMPARE(Guide(banco), QStringList());
+    QCOMPARE(banco.Guide(), QStringList());
 }
 
 void tst_GuideFoglio::PresaPerIlSegno()
@@ -253,14 +229,14 @@ void tst_GuideFoglio::PresaPerIlSegno()
     sopra.Muove(sopra.Sul(40, 0), Qt::NoButton);
     QCOMPARE(sopra.Puntatore(), Qt::SplitHCursor); // the mark of the one down the sheet
     sopra.Trascina(sopra.Sul(40, 0), sopra.Sul(70, 0));
-    QCOMPARE(Guide(banco), QStringList({QStringLiteral("X 70"), QStringLiteral("Y 60")}));
+    QCOMPARE(banco.Guide(), QStringList({QStringLiteral("X 70"), QStringLiteral("Y 60")}));
     // Pressed and released where it is, it stays there to the millimetre.
     sopra.Preme(sopra.Sul(70.7, 0));
     sopra.Muove(sopra.Sul(70.7, 0));
     sopra.Rilascia(sopra.Sul(70.7, 0));
-    QCOMPARE(Guide(banco), QStringList({QStringLiteral("X 70"), QStringLiteral("Y 60")}));
+    QCOMPARE(banco.Guide(), QStringList({QStringLiteral("X 70"), QStringLiteral("Y 60")}));
     sopra.Trascina(sopra.Sul(70, 0), sopra.Sul(-3, 0)); // off the end
-    QCOMPARE(Guide(banco), QStringList(QStringLiteral("Y 60")));
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("Y 60")));
 }
 
 void tst_GuideFoglio::SegniSuiRighelli()
@@ -303,9 +279,9 @@ void tst_GuideFoglio::EscapeLaRimette()
         sopra.Preme(sopra.Sul(40, 0));
         sopra.Muove(sopra.Sul(90, 0));
     }
-    QVERIFY(Guide(banco).contains(QStringLiteral("X 90")));
+    QVERIFY(banco.Guide().contains(QStringLiteral("X 90")));
     QTest::keyClick(banco.frm.get(), Qt::Key_Escape);
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
     if (dalFoglio) {
         banco.Muove({120, 100});
         banco.Rilascia({120, 100});
@@ -313,7 +289,7 @@ void tst_GuideFoglio::EscapeLaRimette()
         sopra.Muove(sopra.Sul(120, 0));
         sopra.Rilascia(sopra.Sul(120, 0));
     }
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
 }
 
 void tst_GuideFoglio::PersoIlMouseTornaDovEra()
@@ -327,7 +303,7 @@ void tst_GuideFoglio::PersoIlMouseTornaDovEra()
         QMessageBox domanda(banco.frm.get()); // takes the mouse with all of the window
         domanda.setWindowModality(Qt::WindowModal);
         domanda.show();
-        QTRY_COMPARE(Guide(banco), DueGuide);
+        QTRY_COMPARE(banco.Guide(), DueGuide);
     }
     banco.Muove({40, 100});
     banco.Preme({40, 100});
@@ -336,13 +312,13 @@ void tst_GuideFoglio::PersoIlMouseTornaDovEra()
         QMessageBox domanda(banco.frm.get());
         domanda.setWindowModality(Qt::WindowModal);
         domanda.show();
-        QTRY_COMPARE(Guide(banco), DueGuide);
+        QTRY_COMPARE(banco.Guide(), DueGuide);
     }
     // The release went to another window: the next move tells.
     mano.Preme(mano.Sul(0, 20));
     mano.Muove({110, 20});
     mano.Muove({115, 20}, Qt::NoButton);
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
 }
 
 void tst_GuideFoglio::LElementoHaLaPrecedenza()
@@ -356,10 +332,10 @@ void tst_GuideFoglio::LElementoHaLaPrecedenza()
     banco.Clicca({40, 100});
     QCOMPARE(banco.InMano(2), 1);
     banco.Trascina({40, 100}, {60, 100});
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
     // Its handle and its edge too, right on the guide.
     banco.Trascina(banco.S(2)->Posto().center(), {50, 150});
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
     QVERIFY(banco.modello.Cornici[1].Y > 100);
 }
 
@@ -396,7 +372,7 @@ void tst_GuideFoglio::PuntatoreSullaGuida()
     banco.Muove({40, 80});
     QCOMPARE(puntatore(), Qt::ArrowCursor);
     banco.Rilascia({40, 80});
-    QCOMPARE(Guide(banco), DueGuide);
+    QCOMPARE(banco.Guide(), DueGuide);
 }
 
 void tst_GuideFoglio::TogliTutte()
@@ -404,12 +380,12 @@ void tst_GuideFoglio::TogliTutte()
     Banco banco;
     TrascinaDaiRighelli(banco);
     Trova<QAbstractButton>(*banco.frm, "TogliGuide")->click();
-    QCOMPARE(Guide(banco), QStringList());
+    QCOMPARE(banco.Guide(), QStringList());
     TrascinaDaiRighelli(banco);
     banco.frm->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(banco.frm.get()));
     QTest::keyClick(banco.frm.get(), Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(Guide(banco), QStringList());
+    QCOMPARE(banco.Guide(), QStringList());
 }
 
 void tst_GuideFoglio::NonSonoDelModello()

@@ -1,7 +1,5 @@
 #include "preview/Banco.h"
 
-#include <QLabel>
-
 namespace {
 
 const Chiave Campo1{Genere::Campo, 1};
@@ -21,19 +19,14 @@ public:
         Cornice(60, 20, 30, 20);
         Immagine(80.5, 10.25, 30, 20, QStringLiteral("logo.bmp"));
         Cambia([](Modello &nuovo) { nuovo.Righe.yInizio = 100; });
-        P1()->setFocus();
+        FuocoAlFoglio();
         segnali.clear();
     }
 
     QGraphicsView *P1() const { return Trova<QGraphicsView>(*frm, "P1"); }
-    void Tasto(Qt::Key tasto, Qt::KeyboardModifiers modi = {}) const
-    {
-        QTest::keyClick(frm->windowHandle(), tasto, modi);
-    }
     const QList<Chiave> &Scelti() const { return stato.selezione.Scelti(); }
     void Sceglie(const QList<Chiave> &chiavi) { stato.selezione.ImpostaScelti(chiavi); }
     QPointF Posto(Chiave chiave) const { return {modello.Di(chiave).X, modello.Di(chiave).Y}; }
-    QString Striscia() const { return Trova<QLabel>(*frm, "Text1")->text(); }
 };
 
 } // namespace
