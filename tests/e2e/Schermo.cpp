@@ -265,7 +265,7 @@ void Schermo::Clic(QPoint punto, int bottone, int volte) const
              QStringLiteral("--delay"), QStringLiteral("30"), QString::number(bottone)});
 }
 
-void Schermo::Trascina(const QList<QPoint> &punti) const
+void Schermo::Trascina(const QList<QPoint> &punti, const QString &tasto) const
 {
     QStringList gesti;
     for (const QPoint &punto : punti) {
@@ -273,9 +273,16 @@ void Schermo::Trascina(const QList<QPoint> &punti) const
               << QString::number(punto.y());
         if (&punto == &punti.constFirst()) {
             gesti << QStringLiteral("mousedown") << QStringLiteral("1");
+            if (!tasto.isEmpty()) {
+                gesti << QStringLiteral("keydown") << tasto;
+            }
         }
     }
-    Xdotool(gesti << QStringLiteral("mouseup") << QStringLiteral("1"));
+    gesti << QStringLiteral("mouseup") << QStringLiteral("1");
+    if (!tasto.isEmpty()) {
+        gesti << QStringLiteral("keyup") << tasto;
+    }
+    Xdotool(gesti);
 }
 
 void Schermo::Tenendo(const QString &tasto, const std::function<void()> &azione) const

@@ -62,8 +62,9 @@ public:
 
     void Sposta(QPoint punto) const;
     void Clic(QPoint punto, int bottone = 1, int volte = 1) const;
-    /// Presses at the first point, moves through all of them and releases at the last.
-    void Trascina(const QList<QPoint> &punti) const;
+    /// Presses at the first point, moves through all of them and releases at the last; tasto, by
+    /// its X name, is held from after the press, when the window manager has no say in it.
+    void Trascina(const QList<QPoint> &punti, const QString &tasto = {}) const;
     /// Does something while a key is held, by its X name.
     void Tenendo(const QString &tasto, const std::function<void()> &azione) const;
     /// Keys by their X names, combinations joined by "+".

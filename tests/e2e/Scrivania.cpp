@@ -264,14 +264,14 @@ double Scrivania::Pixel(double millimetri) const
     return millimetri / zoom_ * PixelPerMillimetro * scala_;
 }
 
-void Scrivania::Trascina(QPoint da, QPoint a) const
+void Scrivania::Trascina(QPoint da, QPoint a, const QString &tasto) const
 {
     QList<QPoint> punti;
     constexpr int Passi = 8;
     for (int i = 0; i <= Passi; ++i) {
         punti.append(da + (a - da) * i / Passi);
     }
-    schermo_->Trascina(punti);
+    schermo_->Trascina(punti, tasto);
 }
 
 void Scrivania::PuntaCampo(QPointF millimetri)
@@ -295,13 +295,13 @@ void Scrivania::PuntaCampo(QPointF millimetri)
     });
 }
 
-void Scrivania::TrascinaCampo(QPointF campo, QPointF a)
+void Scrivania::TrascinaCampo(QPointF campo, QPointF a, const QString &tasto)
 {
     // The text itself, past the handle that will appear at its corner.
     constexpr QPointF SulTesto(8, 2);
     PuntaCampo(campo + SulTesto);
     const QPoint maniglia(qRound(2 * scala_), qRound(2 * scala_));
-    Trascina(SulFoglio(campo) + maniglia, SulFoglio(a));
+    Trascina(SulFoglio(campo) + maniglia, SulFoglio(a), tasto);
 }
 
 void Scrivania::TrascinaSulFoglio(QPointF da, QPointF a) const

@@ -74,8 +74,8 @@ public:
     /// Points at a field until it lights up. Frames in front of it give way one at a time.
     void PuntaCampo(QPointF millimetri);
     /// Points at a field, takes it by its handle and drops it where its corner comes to lie on the
-    /// other point; both in mm of paper.
-    void TrascinaCampo(QPointF campo, QPointF a);
+    /// other point; both in mm of paper. tasto as in Schermo::Trascina.
+    void TrascinaCampo(QPointF campo, QPointF a, const QString &tasto = {});
     /// The same from any point of the paper to another, while the preview is not scrolled.
     void TrascinaSulFoglio(QPointF da, QPointF a) const;
     /// Points at a field and clicks with Ctrl, which puts it into the chosen set or takes it out.
@@ -99,7 +99,7 @@ private:
     /// The inode of each model file.
     QHash<QString, quint64> FileDeiModelli() const;
     void CercaFoglio();
-    void Trascina(QPoint da, QPoint a) const;
+    void Trascina(QPoint da, QPoint a, const QString &tasto = {}) const;
 
     QTemporaryDir dir_;
     std::unique_ptr<Schermo> schermo_;

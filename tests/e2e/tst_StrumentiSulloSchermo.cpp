@@ -1,5 +1,4 @@
-#include "RigheFile.h"
-#include "Scrivania.h"
+#include "FatturaAperta.h"
 
 #include <QTest>
 
@@ -7,48 +6,9 @@ namespace {
 
 using Campo = RigheFile::Campo;
 
-const QString Fattura = QStringLiteral("Fattura_Rossi");
 const QByteArray Ordine("Vs_Ordine"); // at (9, 79)
 constexpr QPointF AngoloOrdine(9, 79);
 constexpr QPointF NellOrdine(17, 81);
-
-/// The sample invoice in the real program.
-struct Banco
-{
-    Banco()
-    {
-        scrivania.Avvia();
-        scrivania.ApreModello(Fattura);
-    }
-
-    Schermo &Video() { return scrivania.Video(); }
-    void Tasti(const QStringList &tasti)
-    {
-        scrivania.Anteprima();
-        Video().Tasti(tasti);
-    }
-    RigheFile Salvato()
-    {
-        scrivania.Salva();
-        return RigheFile(file);
-    }
-    /// The sheet inside the line of focus, as it shows.
-    QImage Foglio()
-    {
-        const QRect zona(scrivania.SulFoglio({2, 2}), scrivania.SulFoglio({225, 120}));
-        return Video().Foto().copy(zona);
-    }
-    void Risponde(const QString &tasto)
-    {
-        Video().Attende(Scrivania::TitoloRiquadro);
-        Video().Tasti({tasto});
-        Video().Attende(Scrivania::TitoloAnteprima);
-    }
-
-    Scrivania scrivania;
-    const QString file = scrivania.CartellaModelli() + Fattura + QStringLiteral(".Mod");
-    const RigheFile prima{file};
-};
 
 } // namespace
 
@@ -61,6 +21,8 @@ class tst_StrumentiSulloSchermo : public QObject
 private slots:
     void duplicatoTagliatoEIncollatoSulPosto();
     void trascinatoPrendeLaGuida();
+    void conAltLaGuidaNonAttira();
+    void leGuideVannoEVengono();
     void loZoomVaETorna();
     void dallElencoSiApronoLeProprieta();
     void tuttiICampiEliminati();
@@ -68,7 +30,7 @@ private slots:
 
 void tst_StrumentiSulloSchermo::duplicatoTagliatoEIncollatoSulPosto()
 {
-    Banco banco;
+    FatturaAperta banco;
     banco.scrivania.SceglieCampo(NellOrdine);
     banco.Tasti({QStringLiteral("ctrl+d"), QStringLiteral("ctrl+x")});
     QCOMPARE(banco.Salvato().NomiCampi(), banco.prima.NomiCampi());
@@ -82,7 +44,7 @@ void tst_StrumentiSulloSchermo::duplicatoTagliatoEIncollatoSulPosto()
 
 void tst_StrumentiSulloSchermo::trascinatoPrendeLaGuida()
 {
-    Banco banco;
+    FatturaAperta banco;
     banco.Tasti({QStringLiteral("ctrl+g")});
     // Out of the ruler at the left, to where no element is near.
     banco.scrivania.TrascinaSulFoglio({-3, 60}, {205, 60});
@@ -96,9 +58,50 @@ void tst_StrumentiSulloSchermo::trascinatoPrendeLaGuida()
     QCOMPARE(banco.Salvato().Riga(Ordine, Campo::X), QByteArray("206"));
 }
 
+void tst_StrumentiSulloSchermo::conAltLaGuidaNonAttira()
+{
+    FatturaAperta banco;
+    banco.Tasti({QStringLiteral("ctrl+g")});
+    banco.scrivania.TrascinaSulFoglio({-3, 60}, {205, 60});
+    banco.scrivania.TrascinaCampo(AngoloOrdine, {205.8, 79.2}, QStringLiteral("alt"));
+    QCOMPARE(banco.Salvato().Riga(Ordine, Campo::X), QByteArray("206"));
+}
+
+void tst_StrumentiSulloSchermo::leGuideVannoEVengono()
+{
+    FatturaAperta banco;
+    banco.Tasti({QStringLiteral("ctrl+shift+c")}); // no outlines that come when they like
+    banco.FuocoAlFoglio();
+    // From here on the pointer stands where it does not show on the sheet.
+    const auto vede = [&](const QString &cosa, const QImage &foglio) {
+        banco.Video().Sposta(banco.scrivania.SulFoglio({232, 60}));
+        banco.Video().AttendeQui(cosa, [&] { return banco.Foglio() == foglio; });
+    };
+    banco.Video().Sposta(banco.scrivania.SulFoglio({232, 60}));
+    const QImage vuoto = banco.Foglio();
+    const auto cambia = [&] {
+        banco.Video().Sposta(banco.scrivania.SulFoglio({232, 60}));
+        banco.Video().AttendeQui(QStringLiteral("a guide"),
+                                 [&] { return banco.Foglio() != vuoto; });
+        return banco.Foglio();
+    };
+    // Out of the ruler at the top, and back onto it.
+    banco.scrivania.TrascinaSulFoglio({220, -3}, {220, 100});
+    cambia();
+    banco.scrivania.TrascinaSulFoglio({220, 100}, {220, -3});
+    vede(QStringLiteral("no guide"), vuoto);
+    // By the keys, twice, and away with all of them.
+    banco.Tasti({QStringLiteral("shift+F8"), QStringLiteral("Down"), QStringLiteral("Return")});
+    const QImage una = cambia();
+    banco.Tasti({QStringLiteral("F8"), QStringLiteral("shift+Right"), QStringLiteral("Delete")});
+    vede(QStringLiteral("one guide"), una);
+    banco.Tasti({QStringLiteral("ctrl+shift+g")});
+    vede(QStringLiteral("no guide any more"), vuoto);
+}
+
 void tst_StrumentiSulloSchermo::loZoomVaETorna()
 {
-    Banco banco;
+    FatturaAperta banco;
     banco.Tasti({QStringLiteral("ctrl+shift+c")}); // no outlines that come when they like
     banco.Video().Sposta(banco.scrivania.SulFoglio({215, 100}));
     const QImage prima = banco.Foglio();
@@ -118,7 +121,7 @@ void tst_StrumentiSulloSchermo::loZoomVaETorna()
 
 void tst_StrumentiSulloSchermo::dallElencoSiApronoLeProprieta()
 {
-    Banco banco;
+    FatturaAperta banco;
     const QString elenco = QStringLiteral("^Elenco degli elementi$");
     banco.Tasti({QStringLiteral("F4")});
     banco.Video().Attende(elenco);
@@ -139,7 +142,7 @@ void tst_StrumentiSulloSchermo::dallElencoSiApronoLeProprieta()
 
 void tst_StrumentiSulloSchermo::tuttiICampiEliminati()
 {
-    Banco banco;
+    FatturaAperta banco;
     banco.Tasti({QStringLiteral("ctrl+a"), QStringLiteral("Delete")});
     banco.Risponde(QStringLiteral("alt+n")); // No
     banco.Tasti({QStringLiteral("Delete")});
