@@ -1,5 +1,6 @@
 #include "dialogs/FrmCornice.h"
 
+#include "dialogs/TavolozzaColori.h"
 #include "ui_FrmCornice.h"
 
 #include "finestre/Contrasto.h"
@@ -44,6 +45,8 @@ void FrmCornice::Form_Load()
 
 void FrmCornice::CollegaSegnali()
 {
+    OffreColori(ui_->TavolozzaTesto, ui_->ColoreTesto);
+    OffreColori(ui_->TavolozzaCorn, ui_->ColoreCorn);
     Collega(ui_->OptEtichetta, &QRadioButton::clicked, this, &FrmCornice::OptEtichetta_Click);
     Collega(ui_->OptCornice, &QRadioButton::clicked, this, &FrmCornice::OptCornice_Click);
     Collega(ui_->ColoreTesto, &QLineEdit::textChanged, this, &FrmCornice::ColoreTesto_Change);

@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include <algorithm>
 #include <cmath>
@@ -325,8 +326,9 @@ Ritratto DelDialogo(const QWidget &dialogo)
     for (const QWidget *controllo : controlli) {
         const QString nome = controllo->objectName();
         const QString spento = controllo->isEnabled() ? QString() : QStringLiteral(" spento");
-        if (nome.isEmpty() || nome.startsWith(QStringLiteral("qt_"))) {
-            continue;
+        if (nome.isEmpty() || nome.startsWith(QStringLiteral("qt_")) ||
+            qobject_cast<const QToolButton *>(controllo) != nullptr) {
+            continue; // a tool button holds nothing: what it does shows in the box beside it
         }
         if (const auto *casella = qobject_cast<const QLineEdit *>(controllo)) {
             const bool campione = nome == QStringLiteral("Testo");
