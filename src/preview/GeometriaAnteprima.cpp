@@ -13,7 +13,8 @@ constexpr int PixelMassimo = 30000; // X11 windows end at 32767
 constexpr double AltezzaStriscia = 5;
 constexpr double SpessoreScroll = 4.5;
 constexpr QSizeF MisuraLL{10, 5.5};
-constexpr QSizeF MisuraPX{20, AltezzaStriscia};
+constexpr QSizeF MisuraEtichettaPX{3, AltezzaStriscia};
+constexpr QSizeF MisuraPX{17, AltezzaStriscia};
 constexpr QSizeF MisuraLabel1{33, AltezzaStriscia};
 constexpr QSizeF MisuraTextZoom{12, AltezzaStriscia};
 
@@ -71,8 +72,10 @@ GeometriaAnteprima::Disposizione GeometriaAnteprima::Dispone(double larghezza, d
     d.ScrollY = {W - SpessoreScroll, 0, SpessoreScroll, H - SottoScrollY};
     d.ScrollX = {0, H - SpessoreScroll - SottoScrollX, W - ADestraDiScrollX, SpessoreScroll};
     d.Text1 = {0, H - AltezzaStriscia, W, AltezzaStriscia};
-    d.PX = {QPointF(0, H - MisuraPX.height()), MisuraPX};
-    d.PY = {QPointF(MisuraPX.width() + 1, H - MisuraPX.height()), MisuraPX};
+    d.EtichettaPX = {QPointF(0, d.Text1.top()), MisuraEtichettaPX};
+    d.PX = {QPointF(d.EtichettaPX.right() + 1, H - MisuraPX.height()), MisuraPX};
+    d.EtichettaPY = {QPointF(d.PX.right(), d.Text1.top()), MisuraEtichettaPX};
+    d.PY = {QPointF(d.EtichettaPY.right() + 1, H - MisuraPX.height()), MisuraPX};
     d.Label1 = {QPointF(d.PY.right() + 2, d.Text1.top()), MisuraLabel1};
     d.TextZoom = {QPointF(d.Label1.right(), d.Text1.top()), MisuraTextZoom};
     d.FinePulsanti = d.LL.left() - 1;

@@ -28,7 +28,9 @@ public:
         QRectF ScrollX;
         QRectF ScrollY;
         QRectF Text1;
+        QRectF EtichettaPX;
         QRectF PX;
+        QRectF EtichettaPY;
         QRectF PY;
         QRectF Label1;
         QRectF TextZoom;

@@ -115,6 +115,14 @@ void PartiAnteprima::CreaStriscia(QWidget *finestra)
                      QStringLiteral("posizione orizzontale del puntatore (mm di schermo)"), true);
     PY = CreaCasella(finestra, QStringLiteral("PY"),
                      QStringLiteral("posizione verticale del puntatore (mm di schermo)"), true);
+    const auto didascalia = [finestra](const QString &testo, QWidget *casella) {
+        auto *etichetta = new QLabel(testo, finestra);
+        etichetta->setObjectName(QStringLiteral("Etichetta") + casella->objectName());
+        etichetta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        return etichetta;
+    };
+    EtichettaPX = didascalia(QStringLiteral("X"), PX);
+    EtichettaPY = didascalia(QStringLiteral("Y"), PY);
     Label1 = new QLabel(QStringLiteral(" Zoom anteprima 1:"), finestra);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -123,7 +131,8 @@ void PartiAnteprima::CreaStriscia(QWidget *finestra)
     Label1->setBuddy(TextZoom);
     LL = CreaCasella(finestra, QStringLiteral("LL"), QStringLiteral("elemento in lavorazione"),
                      true);
-    for (QWidget *parte : std::initializer_list<QWidget *>{Text1, PX, PY, Label1, TextZoom, LL}) {
+    for (QWidget *parte : std::initializer_list<QWidget *>{Text1, EtichettaPX, PX, EtichettaPY, PY,
+                                                           Label1, TextZoom, LL}) {
         QFont carattere = parte->font();
         // The box in the corner is as narrow as the scroll bar and still shows "C1(100)".
         carattere.setPointSizeF(parte == LL ? PuntiAngolo : PuntiStriscia);
@@ -151,7 +160,9 @@ void PartiAnteprima::Dispone(QSize interna)
     colloca(ScrollX, d.ScrollX);
     colloca(ScrollY, d.ScrollY);
     colloca(Text1, d.Text1);
+    colloca(EtichettaPX, d.EtichettaPX);
     colloca(PX, d.PX);
+    colloca(EtichettaPY, d.EtichettaPY);
     colloca(PY, d.PY);
     colloca(Label1, d.Label1);
     colloca(TextZoom, d.TextZoom);

@@ -47,7 +47,9 @@ struct PartiAnteprima
     QScrollBar *ScrollY;
     EtichettaAbbreviata *Text1; ///< the strip at the bottom; shows the place of the element in hand
     PulsantiStriscia *Pulsanti;
+    QLabel *EtichettaPX;
     QLineEdit *PX;
+    QLabel *EtichettaPY;
     QLineEdit *PY;
     QLabel *Label1;
     QLineEdit *TextZoom;
