@@ -3,6 +3,7 @@
 #include "dialogs/TavolozzaColori.h"
 #include "ui_FrmCornice.h"
 
+#include "finestre/AvvisoCasella.h"
 #include "finestre/Contrasto.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
@@ -47,6 +48,7 @@ void FrmCornice::CollegaSegnali()
 {
     OffreColori(ui_->TavolozzaTesto, ui_->ColoreTesto);
     OffreColori(ui_->TavolozzaCorn, ui_->ColoreCorn);
+    Sorveglia(ui_->Bordo, Numeri::AvvisoDiLettura);
     Collega(ui_->OptEtichetta, &QRadioButton::clicked, this, &FrmCornice::OptEtichetta_Click);
     Collega(ui_->OptCornice, &QRadioButton::clicked, this, &FrmCornice::OptCornice_Click);
     Collega(ui_->ColoreTesto, &QLineEdit::textChanged, this, &FrmCornice::ColoreTesto_Change);

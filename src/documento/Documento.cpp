@@ -117,18 +117,26 @@ void Documento::Prende(Modello modello, bool variato)
             tocchi_.Aggiunge({genere, i});
         }
     }
-    variato_ = variato;
+    ImpostaVariato(variato);
     Avvisa(Cambiamento::Origine::Apertura);
+}
+
+void Documento::ImpostaVariato(bool variato)
+{
+    if (variato_ != variato) {
+        variato_ = variato;
+        emit VariatoCambiato();
+    }
 }
 
 void Documento::SegnaVariato()
 {
-    variato_ = true;
+    ImpostaVariato(true);
 }
 
 void Documento::Salvato()
 {
-    variato_ = false;
+    ImpostaVariato(false);
     // Steps after a save join none before it: undoing must be able to stop at what was saved.
     ChiudeUnione();
     storia_->setClean();
@@ -230,7 +238,7 @@ void Documento::Percorre(Differenza &differenza)
 {
     differenza.Scambia(stato_);
     differenza.Segnala(tocchi_);
-    variato_ = true;
+    ImpostaVariato(true);
     daConcludere_ = true;
     const QScopedValueRollback<bool> percorre(percorre_, true);
     Avvisa(Cambiamento::Origine::Storia);

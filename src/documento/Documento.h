@@ -76,6 +76,7 @@ signals:
     void Cambiato(const Cambiamento &cambiamento);
     /// A finished edit, undo or redo has changed the model.
     void ModificaConclusa();
+    void VariatoCambiato();
     /// PuoAnnullare, PuoRipristinare or their texts are others.
     void StoriaCambiata();
 
@@ -84,6 +85,7 @@ private:
     friend class StoriaSospesa;
     class Fatto;
 
+    void ImpostaVariato(bool variato);
     void Avvisa(Cambiamento::Origine origine);
     void Conclude();
     /// False when the model is as it was before.

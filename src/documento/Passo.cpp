@@ -48,7 +48,7 @@ void Passo::Rinuncia()
     differenza.Scambia(documento_.stato_);
     differenza.Segnala(documento_.tocchi_);
     documento_.daConcludere_ = primo.daConcluderePrima_;
-    documento_.variato_ = primo.variatoPrima_;
+    documento_.ImpostaVariato(primo.variatoPrima_);
     documento_.Avvisa(Cambiamento::Origine::Storia);
 }
 
@@ -60,7 +60,7 @@ void Passo::Mostra(Cambiamento::Origine origine)
 void Passo::SegnaVariato()
 {
     documento_.daConcludere_ = true;
-    documento_.variato_ = true;
+    documento_.ImpostaVariato(true);
 }
 
 void Passo::Tocca(Chiave chiave)

@@ -8,6 +8,7 @@
 #include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
 #include "editor/ComandoElenco.h"
+#include "editor/ComandoSalva.h"
 #include "editor/DomandeSulModello.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
@@ -107,7 +108,12 @@ bool Form2::Form_Load()
     Collega(elenco_.get(), &ComandoElenco::Creata, this, [this](QWidget *finestra) {
         appunti_->AggiungeFinestra(*finestra);
         scelta_->AggiungeFinestra(*finestra);
+        salva_->AggiungeFinestra(*finestra);
     });
+    salva_ = std::make_unique<ComandoSalva>(stato_.documento, *ui_->NonSalvato);
+    Collega(salva_.get(), &ComandoSalva::Richiesto, this, &Form2::Salva_Click);
+    salva_->AggiungeFinestra(*this);
+    salva_->AggiungeFinestra(*anteprima_);
     carta_ = std::make_unique<CartaDellaStampante>(*anteprima_, *this);
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);

@@ -14,6 +14,7 @@ class ComandiScelta;
 class ComandiAppunti;
 class ComandiStoria;
 class ComandoElenco;
+class ComandoSalva;
 class DomandeSulModello;
 class FrmCampo;
 class FrmCarattere;
@@ -134,6 +135,7 @@ private:
     std::unique_ptr<ComandiScelta> scelta_;
     std::unique_ptr<ComandiAppunti> appunti_;
     std::unique_ptr<ComandoElenco> elenco_;
+    std::unique_ptr<ComandoSalva> salva_;
     std::unique_ptr<CartaDellaStampante> carta_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;

@@ -4,6 +4,7 @@
 #include "documento/Passo.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
+#include "editor/PaginaRighe.h"
 #include "finestre/ApriManuale.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
@@ -43,6 +44,12 @@ bool Form2::SalvareVariazioni()
         const PuntatoreOccupato occupato;
         salvato = file_->Salva();
     });
+    const QStringList nonConfermati = righe_->NonConfermati();
+    if (salvato && !nonConfermati.isEmpty()) {
+        // The names first: on a narrow strip the end is what is left out.
+        anteprima_->Avverte(nonConfermati.join(QStringLiteral(", ")) +
+                            QStringLiteral(": non confermati, non salvati"));
+    }
     return salvato;
 }
 

@@ -4,9 +4,13 @@
 #include "documento/Passo.h"
 #include "editor/RigheSimulate.h"
 #include "editor/TestiEsplicativi.h"
+#include "finestre/AvvisoCasella.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
+#include "model/Numeri.h"
 #include "ui_PaginaRighe.h"
+
+#include <utility>
 
 PaginaRighe::PaginaRighe(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
     : QWidget(padre)
@@ -25,11 +29,18 @@ void PaginaRighe::Collegamenti()
 {
     Collega(ui_->ConfermaPosizioneRighe, &QPushButton::clicked, this,
             &PaginaRighe::ConfermaPosizioneRighe_Click);
-    for (const QLineEdit *casella :
-         {ui_->yInizio, ui_->yFine, ui_->Interlinea, ui_->InterlineaDescr, ui_->SeguePag}) {
+    const auto aggiunge = [this](QLineEdit *casella, QLabel *etichetta,
+                                 double ParametriRighe::*valore) {
+        tutte_.append({casella, etichetta, new AvvisoCasella(casella), valore});
         Collega(casella, &QLineEdit::returnPressed, this,
                 &PaginaRighe::ConfermaPosizioneRighe_Click);
-    }
+        connect(casella, &QLineEdit::textChanged, this, &PaginaRighe::SegnalaNonConfermati);
+    };
+    aggiunge(ui_->yInizio, ui_->EtichettaInizio, &ParametriRighe::yInizio);
+    aggiunge(ui_->yFine, ui_->EtichettaFine, &ParametriRighe::yFine);
+    aggiunge(ui_->Interlinea, ui_->EtichettaInterlinea, &ParametriRighe::Interlinea);
+    aggiunge(ui_->InterlineaDescr, ui_->EtichettaInterlineaDescr, &ParametriRighe::InterlineaDescr);
+    aggiunge(ui_->SeguePag, ui_->EtichettaSeguePag, nullptr);
     Collega(&stato_.documento, &Documento::Cambiato, this, &PaginaRighe::SegueDocumento);
     Collega(ui_->OptSimuloRighe, &QCheckBox::clicked, this, &PaginaRighe::OptSimuloRighe_Click);
 }
@@ -44,6 +55,8 @@ void PaginaRighe::SegueDocumento(const Cambiamento &cambiamento)
 {
     if (cambiamento.Righe && cambiamento.origine == Cambiamento::Origine::Storia) {
         RiempieCaselle();
+    } else if (cambiamento.Righe) {
+        SegnalaNonConfermati();
     }
     if (cambiamento.Righe || cambiamento.Contiene(Genere::Campo)) {
         SimuloRighe();
@@ -60,6 +73,47 @@ void PaginaRighe::RiempieCaselle()
     caselle_.Mostra(ui_->Interlinea, righe.Interlinea, colPunto);
     caselle_.Mostra(ui_->InterlineaDescr, righe.InterlineaDescr, colPunto);
     caselle_.Mostra(ui_->SeguePag, righe.SeguePag);
+    SegnalaNonConfermati();
+}
+
+bool PaginaRighe::Confermata(const Casella &casella) const
+{
+    const ParametriRighe &righe = stato_.Aperto().Righe;
+    if (casella.Valore == nullptr) {
+        return caselle_.Testo(casella.Testo) == righe.SeguePag;
+    }
+    try {
+        return caselle_.Val(casella.Testo) == righe.*casella.Valore;
+    } catch (const ErroreSistema &) {
+        return false; // beyond any number: the confirm says so
+    }
+}
+
+QStringList PaginaRighe::NonConfermati() const
+{
+    QStringList nomi;
+    for (const Casella &casella : tutte_) {
+        if (!Confermata(casella)) {
+            nomi.append(casella.Etichetta->text());
+        }
+    }
+    return nomi;
+}
+
+void PaginaRighe::SegnalaNonConfermati()
+{
+    for (const Casella &casella : std::as_const(tutte_)) {
+        QStringList avvisi;
+        if (casella.Valore != nullptr) {
+            avvisi.append(Numeri::AvvisoDiLettura(casella.Testo->text()));
+        }
+        if (!Confermata(casella)) {
+            avvisi.append(
+                QStringLiteral("non ancora nel modello: lo prende 'Conferma Posizione Righe'"));
+        }
+        avvisi.removeAll(QString());
+        casella.Avviso->Mostra(avvisi.join(QStringLiteral("; ")));
+    }
 }
 
 std::optional<double> PaginaRighe::Letto(const QLineEdit *casella, const QLabel *etichetta)

@@ -5,11 +5,13 @@
 #include "preview/Frm1.h"
 
 #include <QList>
+#include <QStringList>
 #include <QWidget>
 
 #include <memory>
 #include <optional>
 
+class AvvisoCasella;
 class QLabel;
 
 namespace Ui {
@@ -29,6 +31,8 @@ public:
 
     void ConfermaPosizioneRighe_Click();
     void OptSimuloRighe_Click();
+    /// The labels of the boxes whose values differ from the model's: typed, not confirmed yet.
+    QStringList NonConfermati() const;
     /// Removes the simulated rows and, when the box is ticked, draws them again; nothing when they
     /// would come out the same.
     void SimuloRighe();
@@ -38,6 +42,16 @@ private:
     /// Lenient reading of a box; a number beyond a double gives nothing, and a message that names
     /// the box by its label.
     std::optional<double> Letto(const QLineEdit *casella, const QLabel *etichetta);
+    /// A box with its label; those of numbers in the order of ParametriRighe.
+    struct Casella
+    {
+        QLineEdit *Testo;
+        QLabel *Etichetta;
+        AvvisoCasella *Avviso;
+        double ParametriRighe::*Valore; ///< null: the box of SeguePag
+    };
+    void SegnalaNonConfermati();
+    bool Confermata(const Casella &casella) const;
     void SegueDocumento(const Cambiamento &cambiamento);
     void RiempieCaselle();
 
@@ -45,5 +59,6 @@ private:
     StatoProgramma &stato_;
     Frm1 &anteprima_;
     MemoriaCaselle caselle_;
+    QList<Casella> tutte_;
     QList<Frm1::RigaSimulata> mostrate_;
 };

@@ -5,6 +5,7 @@
 #include "dialogs/Riduzione.h"
 #include "documento/Passo.h"
 #include "editor/TestiEsplicativi.h"
+#include "finestre/AvvisoCasella.h"
 #include "finestre/FiltroAnsi.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
@@ -65,6 +66,10 @@ void PaginaSfondo::Collegamenti()
     Collega(ui_->SfondoSpostaSu, &QToolButton::clicked, this, &PaginaSfondo::SfondoSpostaSu_Click);
     Collega(ui_->SfondoSpostaGiu, &QToolButton::clicked, this,
             &PaginaSfondo::SfondoSpostaGiu_Click);
+    for (QLineEdit *casella :
+         {ui_->SfondoXimmagine, ui_->SfondoYImmagine, ui_->SfondoXPosImm, ui_->SfondoYPosImm}) {
+        Sorveglia(casella, Numeri::AvvisoDiLettura);
+    }
     LegaTesto(ui_->SfondoFileImmagine, &ImmagineSfondo::File);
     LegaTesto(ui_->SfondoXimmagine, &ImmagineSfondo::Ximmagine);
     LegaTesto(ui_->SfondoYImmagine, &ImmagineSfondo::Yimmagine);

@@ -4,6 +4,7 @@
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/Passo.h"
 #include "editor/TestiEsplicativi.h"
+#include "finestre/AvvisoCasella.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
@@ -26,6 +27,7 @@ PaginaSpostamento::~PaginaSpostamento() = default;
 
 void PaginaSpostamento::Collegamenti()
 {
+    Sorveglia(ui_->Spostamento, Numeri::AvvisoDiLettura);
     Collega(ui_->Command2, &QPushButton::clicked, this, &PaginaSpostamento::Command2_Click);
     Collega(ui_->Command5, &QPushButton::clicked, this, &PaginaSpostamento::Command5_Click);
     Collega(ui_->Command6, &QPushButton::clicked, this, &PaginaSpostamento::Command6_Click);

@@ -41,6 +41,7 @@ public:
             if (!Ignorato(c) && !Accetta(c, puntoIniziale)) {
                 break;
             }
+            ++lunghezza_;
         }
         if (!cifre_) {
             accettato_.clear();
@@ -48,6 +49,11 @@ public:
             accettato_.resize(postoEsponente_);
         }
     }
+
+    /// Characters of the text that belong to it, ignored ones too; what follows is no number's.
+    qsizetype Lunghezza() const { return lunghezza_; }
+    bool Vuoto() const { return accettato_.isEmpty(); }
+    bool ConPunto() const { return punto_; }
 
     double Valore() const
     {
@@ -127,6 +133,7 @@ private:
 
     QVarLengthArray<char, 64> accettato_;
     qsizetype postoEsponente_ = 0;
+    qsizetype lunghezza_ = 0;
     bool cifre_ = false;
     bool punto_ = false;
     bool esponente_ = false;
@@ -165,6 +172,39 @@ QString Testo(double valore, int cifre, const QLocale &locale)
 double Numeri::Val(QStringView testo)
 {
     return NumeroIniziale(testo, true).Valore();
+}
+
+std::optional<double> Numeri::AltroNumero(QStringView testo)
+{
+    const NumeroIniziale numero(testo, true);
+    const QStringView resto = testo.mid(numero.Lunghezza()).trimmed();
+    const auto cifra = [](QChar c) { return Cifra(c.unicode()); };
+    if (numero.Vuoto()) {
+        return testo.trimmed().isEmpty() ? std::nullopt : std::optional(0.0);
+    }
+    const bool decimaliNulli =
+        resto.startsWith(u',') && !numero.ConPunto() &&
+        std::all_of(resto.begin() + 1, resto.end(), [](QChar c) { return c == u'0'; });
+    if (decimaliNulli || std::none_of(resto.begin(), resto.end(), cifra)) {
+        return std::nullopt; // "1,00" is 1, and so is "1 mm"
+    }
+    return numero.Valore();
+}
+
+QString Numeri::AvvisoDiLettura(const QString &testo)
+{
+    std::optional<double> letto;
+    try {
+        letto = AltroNumero(testo);
+    } catch (const ErroreSistema &) {
+        return {}; // beyond any number: whoever takes the box says so
+    }
+    if (!letto) {
+        return {};
+    }
+    return QStringLiteral("si legge ") + NumeroPiano(*letto, QLocale::c()) +
+           (testo.contains(u',') ? QStringLiteral(": usare il punto")
+                                 : QStringLiteral(": scrivere un numero"));
 }
 
 double Numeri::LeggeNumero(QByteArrayView riga)

@@ -18,6 +18,14 @@ namespace Numeri {
 /// here (".5"). A value beyond a double throws ErroreSistema 6.
 double Val(QStringView testo);
 
+/// What Val takes the text for where people would read another number in it: "1,5" gives 1, "uno"
+/// gives 0. Nothing where they agree, and for an empty text. Throws as Val.
+std::optional<double> AltroNumero(QStringView testo);
+
+/// What the user is told of such a text, for as long as it stands in its box; empty when there is
+/// nothing to say.
+QString AvvisoDiLettura(const QString &testo);
+
 /// The reading of a line of the model file, as its bytes: as Val, but a text that starts with no
 /// digit (after an optional sign) gives 0. Throws ErroreSistema 6 for a value beyond a double.
 double LeggeNumero(QByteArrayView riga);

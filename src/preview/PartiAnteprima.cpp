@@ -1,8 +1,10 @@
 #include "preview/PartiAnteprima.h"
 
 #include "documento/StatoProgramma.h"
+#include "finestre/AvvisoCasella.h"
 #include "finestre/EtichettaAbbreviata.h"
 #include "finestre/Finestre.h"
+#include "model/Numeri.h"
 #include "preview/CorniceFuoco.h"
 #include "preview/FoglioAccessibile.h"
 #include "preview/PulsantiStriscia.h"
@@ -129,6 +131,7 @@ void PartiAnteprima::CreaStriscia(QWidget *finestra)
     TextZoom = CreaCasella(finestra, QStringLiteral("TextZoom"),
                            QStringLiteral("riduzione dell'anteprima, da 1 a 3"), false);
     Label1->setBuddy(TextZoom);
+    Sorveglia(TextZoom, Numeri::AvvisoDiLettura);
     LL = CreaCasella(finestra, QStringLiteral("LL"), QStringLiteral("elemento in lavorazione"),
                      true);
     for (QWidget *parte : std::initializer_list<QWidget *>{Text1, EtichettaPX, PX, EtichettaPY, PY,

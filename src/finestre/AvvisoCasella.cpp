@@ -1,0 +1,78 @@
+#include "finestre/AvvisoCasella.h"
+
+#include "finestre/Suggerimenti.h"
+
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QTimer>
+#include <QToolTip>
+
+namespace {
+
+// Black on it stands 15:1 apart.
+constexpr QColor Fondo{255, 226, 140};
+
+} // namespace
+
+AvvisoCasella::AvvisoCasella(QLineEdit *casella)
+    : QObject(casella)
+    , casella_(casella)
+    , tavolozza_(casella->palette())
+{
+    casella->installEventFilter(this);
+}
+
+void AvvisoCasella::Mostra(const QString &testo)
+{
+    if (testo == testo_) {
+        return;
+    }
+    testo_ = testo;
+    QPalette tavolozza = tavolozza_;
+    if (!testo.isEmpty()) {
+        tavolozza.setColor(QPalette::Base, Fondo);
+        tavolozza.setColor(QPalette::Text, Qt::black);
+    }
+    casella_->setPalette(tavolozza);
+    casella_->setAccessibleDescription(testo);
+    if (casella_->hasFocus()) {
+        MostraFumetto(testo);
+    }
+}
+
+void AvvisoCasella::MostraFumetto(const QString &testo) const
+{
+    QToolTip::showText(casella_->mapToGlobal(QPoint(0, casella_->height() / 2)),
+                       PerSuggerimento(testo), casella_);
+}
+
+void AvvisoCasella::MostraEntrando() const
+{
+    if (casella_->hasFocus()) {
+        MostraFumetto(testo_);
+    }
+}
+
+bool AvvisoCasella::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (testo_.isEmpty()) {
+        return QObject::eventFilter(oggetto, evento);
+    }
+    if (evento->type() == QEvent::FocusIn) {
+        // What follows the keyboard's change closes every hint.
+        QTimer::singleShot(0, this, &AvvisoCasella::MostraEntrando);
+    } else if (evento->type() == QEvent::ToolTip) {
+        const QString suo = casella_->toolTip();
+        MostraFumetto(suo.isEmpty() ? testo_ : suo + u'\n' + testo_);
+        return true;
+    }
+    return QObject::eventFilter(oggetto, evento);
+}
+
+void Sorveglia(QLineEdit *casella, const std::function<QString(const QString &)> &avviso)
+{
+    auto *segno = new AvvisoCasella(casella);
+    const auto segue = [segno, avviso](const QString &testo) { segno->Mostra(avviso(testo)); };
+    QObject::connect(casella, &QLineEdit::textChanged, segno, segue);
+    segue(casella->text());
+}

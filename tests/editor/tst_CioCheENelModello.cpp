@@ -1,0 +1,204 @@
+#include "PagineDiProva.h"
+#include "documento/Passo.h"
+#include "model/Numeri.h"
+
+#include <QLabel>
+#include <QToolTip>
+
+namespace {
+
+constexpr QLatin1String
+    NonConfermato("non ancora nel modello: lo prende 'Conferma Posizione Righe'");
+
+QString Avviso(const QWidget &finestra, const char *casella)
+{
+    return Trova<QLineEdit>(finestra, casella)->accessibleDescription();
+}
+
+} // namespace
+
+/// What the editor says of work that is not in the model, or not in its file, yet.
+class tst_CioCheENelModello : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { QLocale::setDefault(QLocale(QLocale::Italian)); }
+
+    void IlSegnoDelleModifiche();
+    void CtrlSSalvaComeIlBottone();
+    void CtrlSNelMezzoDiUnGestoTace();
+    void LeRigheNonConfermate_data();
+    void LeRigheNonConfermate();
+    void AnnullataLaConfermaTuttoTorna();
+    void SalvandoSiDiceCheCosaManca();
+    void SalvandoTuttoNonSiDiceNulla();
+    void LetturaTollerante_data();
+    void LetturaTollerante();
+    void LetturaTolleranteDelleRighe();
+};
+
+void tst_CioCheENelModello::IlSegnoDelleModifiche()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    const auto *segno = Trova<QLabel>(*prova.editor, "NonSalvato");
+    QCOMPARE(segno->text(), QStringLiteral("modifiche non salvate"));
+    QVERIFY(!segno->isVisible());
+    const QRect posto = Trova<QWidget>(*prova.editor, "Salva")->geometry();
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    QVERIFY(segno->isVisible());
+    QCOMPARE(Trova<QWidget>(*prova.editor, "Salva")->geometry(), posto); // it has its own room
+    prova.prova.Stato().documento.Annulla();
+    QVERIFY(segno->isVisible()); // as the question at closing has it
+    Robot robot;
+    robot.Si();
+    Preme(*prova.editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!segno->isVisible());
+}
+
+void tst_CioCheENelModello::CtrlSSalvaComeIlBottone()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    prova.editor->Anteprima()->show();
+    for (QWidget *finestra : {static_cast<QWidget *>(prova.editor.get()),
+                              static_cast<QWidget *>(prova.editor->Anteprima())}) {
+        finestra->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(finestra));
+        Robot robot;
+        robot.No();
+        QTest::keyClick(finestra->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(robot.Testi(), QStringList{QStringLiteral("salvare le variazioni")});
+        QVERIFY(prova.editor->Variato());
+    }
+}
+
+void tst_CioCheENelModello::CtrlSNelMezzoDiUnGestoTace()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    prova.editor->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(prova.editor.get()));
+    Robot robot;
+    {
+        const Passo gesto(prova.prova.Stato().documento, QStringLiteral("sposta"));
+        QTest::keyClick(prova.editor->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+    }
+    QVERIFY(robot.Soddisfatto()); // nothing was asked
+}
+
+void tst_CioCheENelModello::LeRigheNonConfermate_data()
+{
+    QTest::addColumn<QString>("casella");
+    for (const char *nome : {"yInizio", "yFine", "Interlinea", "InterlineaDescr", "SeguePag"}) {
+        QTest::newRow(nome) << QString::fromLatin1(nome);
+    }
+}
+
+void tst_CioCheENelModello::LeRigheNonConfermate()
+{
+    QFETCH(QString, casella);
+    PagineDiProva prova;
+    prova.editor->show();
+    const QByteArray nome = casella.toLatin1();
+    const QString prima = prova.Testo(nome);
+    QVERIFY(Avviso(*prova.editor, nome).isEmpty());
+    prova.Scrive(nome, QStringLiteral("77"));
+    QCOMPARE(Avviso(*prova.editor, nome), NonConfermato);
+    // Typed back, or confirmed, it is in the model.
+    prova.Scrive(nome, prima);
+    QVERIFY(Avviso(*prova.editor, nome).isEmpty());
+    prova.Scrive(nome, QStringLiteral("77"));
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    QVERIFY(Avviso(*prova.editor, nome).isEmpty());
+}
+
+void tst_CioCheENelModello::AnnullataLaConfermaTuttoTorna()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    prova.Scrive("yInizio", QStringLiteral("77"));
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    prova.Scrive("yFine", QStringLiteral("99"));
+    prova.prova.Stato().documento.Annulla(); // fills the boxes from the model
+    QVERIFY(Avviso(*prova.editor, "yInizio").isEmpty());
+    QVERIFY(Avviso(*prova.editor, "yFine").isEmpty());
+}
+
+void tst_CioCheENelModello::SalvandoSiDiceCheCosaManca()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    prova.editor->Anteprima()->show();
+    prova.Scrive("yFine", QStringLiteral("77"));
+    prova.Scrive("SeguePag", QStringLiteral("continua"));
+    Robot robot;
+    robot.Si();
+    Preme(*prova.editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!prova.editor->Variato());
+    QCOMPARE(Trova<QLabel>(*prova.editor->Anteprima(), "Text1")->text(),
+             QStringLiteral("fine righe, scritta 'segue su pagina successiva': non confermati, "
+                            "non salvati"));
+    QVERIFY(prova.Aperto().Righe.yFine != 77);
+}
+
+void tst_CioCheENelModello::SalvandoTuttoNonSiDiceNulla()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    prova.Scrive("yFine", QStringLiteral("77"));
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    Robot robot;
+    robot.Si();
+    Preme(*prova.editor, "Salva");
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(!Trova<QLabel>(*prova.editor->Anteprima(), "Text1")
+                 ->text()
+                 .contains(QStringLiteral("confermati")));
+}
+
+void tst_CioCheENelModello::LetturaTollerante_data()
+{
+    QTest::addColumn<QString>("casella");
+    QTest::addColumn<bool>("nellAnteprima");
+    for (const char *nome :
+         {"Spostamento", "SfondoXimmagine", "SfondoYImmagine", "SfondoXPosImm", "SfondoYPosImm"}) {
+        QTest::newRow(nome) << QString::fromLatin1(nome) << false;
+    }
+    QTest::newRow("TextZoom") << QStringLiteral("TextZoom") << true;
+}
+
+void tst_CioCheENelModello::LetturaTollerante()
+{
+    QFETCH(QString, casella);
+    QFETCH(bool, nellAnteprima);
+    PagineDiProva prova;
+    const QByteArray nome = casella.toLatin1();
+    const QWidget &finestra =
+        nellAnteprima ? static_cast<const QWidget &>(*prova.editor->Anteprima()) : *prova.editor;
+    auto *riga = Trova<QLineEdit>(finestra, nome);
+    riga->selectAll();
+    riga->insert(QStringLiteral("1,5"));
+    QCOMPARE(riga->text(), QStringLiteral("1,5"));
+    QCOMPARE(Avviso(finestra, nome), QStringLiteral("si legge 1: usare il punto"));
+    riga->selectAll();
+    riga->insert(QStringLiteral("1.5"));
+    QVERIFY(Avviso(finestra, nome).isEmpty());
+}
+
+void tst_CioCheENelModello::LetturaTolleranteDelleRighe()
+{
+    PagineDiProva prova;
+    prova.Scrive("Interlinea", QStringLiteral("7,5"));
+    QCOMPARE(Avviso(*prova.editor, "Interlinea"),
+             QStringLiteral("si legge 7: usare il punto; ") + NonConfermato);
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    QCOMPARE(prova.Aperto().Righe.Interlinea, 7.0);
+    QCOMPARE(Avviso(*prova.editor, "Interlinea"), QStringLiteral("si legge 7: usare il punto"));
+    QCOMPARE(prova.Testo("Interlinea"), QStringLiteral("7,5"));
+}
+
+QTEST_MAIN(tst_CioCheENelModello)
+#include "tst_CioCheENelModello.moc"
