@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialogs/FrmCarattere.h"
-#include "dialogs/MaschereStampa.h"
+#include "model/MaschereStampa.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "dialogs/MaschereStampa.h"
+#include "model/MaschereStampa.h"
 #include "model/FileModello.h"
 
 #include <QDirIterator>

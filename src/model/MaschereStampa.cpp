@@ -1,4 +1,4 @@
-#include "dialogs/MaschereStampa.h"
+#include "model/MaschereStampa.h"
 
 #include <random>
 
@@ -63,11 +63,16 @@ bool MaschereStampa::Numerica(const QString &maschera)
     return maschera.contains(u'#');
 }
 
+QString MaschereStampa::Forma(const QString &maschera)
+{
+    return maschera.chopped(maschera.isEmpty() ? 0 : 1);
+}
+
 QString MaschereStampa::TestoDiProva(const QString &maschera, const SorgenteCasuale &casuale)
 {
     constexpr int Decine = 10;
     QString testo;
-    for (const QChar c : QStringView(maschera).chopped(maschera.isEmpty() ? 0 : 1)) {
+    for (const QChar c : Forma(maschera)) {
         if (c == u'#') {
             casuale();
             testo.append(QString::number(static_cast<int>(casuale() * Decine)));

@@ -28,9 +28,12 @@ bool DaNumericoAdAlfanumerico(const QString &mascheraDefault, const QString &voc
 /// True for a mask with digit places.
 bool Numerica(const QString &maschera);
 
-/// A sample text of a numeric mask: a random digit for each "#", the separators as they are. The
-/// last place of a mask is one more than its decimals and is left out. casuale is drawn twice for
-/// each digit, and the second number counts.
+/// What a numeric mask prints: the last place of a mask is one more than its decimals, and is left
+/// out.
+QString Forma(const QString &maschera);
+
+/// A sample text of a numeric mask: a random digit for each "#" of its Forma, the separators as
+/// they are. casuale is drawn twice for each digit, and the second number counts.
 QString TestoDiProva(const QString &maschera, const SorgenteCasuale &casuale);
 
 /// A generator of its own, seeded by the system.

@@ -1,4 +1,4 @@
-#include "dialogs/MaschereStampa.h"
+#include "model/MaschereStampa.h"
 
 #include <QSet>
 #include <QTest>
@@ -164,6 +164,7 @@ void TestMaschereStampa::TestoDiProva()
         return estratti % 2 == 1 ? 0.95 : estratti * 0.05 + 0.05;
     };
     QTEST(MaschereStampa::TestoDiProva(maschera, casuale), "testo");
+    QCOMPARE(MaschereStampa::Forma(maschera), maschera.chopped(1));
 }
 
 void TestMaschereStampa::OgniCifraEstraeDueVolteEUsaLaSeconda()
