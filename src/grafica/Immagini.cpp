@@ -29,6 +29,11 @@ QSizeF Immagini::DimensioniNaturali(const QString &percorso)
     return LettoreImmagine(percorso).Millimetri();
 }
 
+void Immagini::Verifica(const QString &percorso)
+{
+    LettoreImmagine(percorso).Verifica();
+}
+
 QImage Immagini::Carica(const QString &percorso)
 {
     return LettoreImmagine(percorso).Decodifica({});

@@ -21,6 +21,10 @@ public:
 /// states none), after EXIF rotation; decodes nothing. Throws ErroreSistema 53 or 481.
 QSizeF DimensioniNaturali(const QString &percorso);
 
+/// Throws what reading the picture would throw, ErroreSistema 53 or 481, without decoding it: the
+/// file is there, is a picture and holds it to the end.
+void Verifica(const QString &percorso);
+
 /// The picture at its own size in 32-bit pixels. Refuses (481) one whose pixels would not fit in
 /// reasonable memory (512 MiB). Throws ErroreSistema 53 or 481.
 QImage Carica(const QString &percorso);

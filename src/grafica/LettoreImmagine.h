@@ -33,6 +33,9 @@ public:
     /// Size after rotation, at the resolution that the file states.
     QSizeF Millimetri() const;
 
+    /// Throws what decoding would throw of a file that ends too early or takes too long.
+    void Verifica();
+
     /// Decodes the picture; when minimo is valid, possibly smaller than its own size but not below
     /// minimo in either direction, unless that were more pixels than a page may cost.
     QImage Decodifica(const QSize &minimo);
@@ -63,7 +66,9 @@ private:
     bool AlfaVuoto(const StrisceBmp &strisce) const;
 
     QImage DecodificaGif();
+    void VerificaGif(const QByteArray &byte) const;
 
+    void VerificaJpeg(const QByteArray &byte, const QSize &ridotta) const;
     QImage DecodificaJpeg(const QSize &minimo);
     /// Makes the file state a multiple of the size that it is reduced to: whole blocks are stored
     /// in any case. Qt would decode a size that is a pixel off to one larger by half and then scale

@@ -86,10 +86,37 @@ QImage LettoreImmagine::DecodificaBmp()
 QImage LettoreImmagine::DecodificaGif()
 {
     const QByteArray byte = Tutto();
+    VerificaGif(byte);
+    return Legge(byte);
+}
+
+void LettoreImmagine::VerificaGif(const QByteArray &byte) const
+{
     if (PixelImmagine::Troppi(pixel_) || !intestazione_.Intera(byte)) {
         NonValida();
     }
-    return Legge(byte);
+}
+
+void LettoreImmagine::VerificaJpeg(const QByteArray &byte, const QSize &ridotta) const
+{
+    if (intestazione_.TroppeScansioni(byte)) {
+        throw Immagini::TroppoGrande();
+    }
+    if (PixelImmagine::Troppi(ridotta) || !intestazione_.Intera(byte)) {
+        NonValida();
+    }
+}
+
+void LettoreImmagine::Verifica()
+{
+    if (intestazione_.Formato == "bmp") {
+        VerificaBmp();
+    } else if (intestazione_.Formato == "gif") {
+        VerificaGif(Tutto());
+    } else {
+        // As fine as it is decoded at most.
+        VerificaJpeg(Tutto(), pixel_ / Fattore(pixel_));
+    }
 }
 
 QImage LettoreImmagine::DecodificaJpeg(const QSize &minimo)
@@ -98,12 +125,7 @@ QImage LettoreImmagine::DecodificaJpeg(const QSize &minimo)
     const QSize ridotta((pixel_.width() + fattore - 1) / fattore,
                         (pixel_.height() + fattore - 1) / fattore);
     QByteArray byte = Tutto();
-    if (intestazione_.TroppeScansioni(byte)) {
-        throw Immagini::TroppoGrande();
-    }
-    if (PixelImmagine::Troppi(ridotta) || !intestazione_.Intera(byte)) {
-        NonValida();
-    }
+    VerificaJpeg(byte, ridotta);
     Arrotonda(byte, ridotta * fattore);
     if (!intestazione_.InchiostriDiritti()) {
         return Legge(byte, ridotta);

@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
+#include <QRawFont>
 #include <QStringList>
 
 #include <algorithm>
@@ -95,13 +96,18 @@ QStringList FontSostituitiAllaPari()
     return famiglie;
 }
 
-QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel)
+bool FontDisponibile(const QString &famiglia)
 {
     static FontNoti noti;
+    return noti.Disponibile(famiglia);
+}
+
+QFont CarattereDiTesto(const QString &famiglia, bool grassetto, int pixel)
+{
     QFont carattere;
     // As a list: a name is one family, whatever commas it has. A family that is missing is not left
     // to the system, whose choice would differ from what the dialogs announce.
-    carattere.setFamilies({noti.Disponibile(famiglia) ? famiglia : Arial});
+    carattere.setFamilies({FontDisponibile(famiglia) ? famiglia : Arial});
     carattere.setStyleHint(QFont::SansSerif);
     carattere.setPixelSize(pixel);
     carattere.setBold(grassetto);
@@ -124,6 +130,22 @@ QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool
     const QFontMetricsF metrica(CarattereDiTesto(font, grassetto, PixelDiRiferimento));
     const double scala = PuntiDiTesto(punti) * Unita::MillimetriPerPunto / PixelDiRiferimento;
     return QSizeF(metrica.horizontalAdvance(testo), metrica.height()) * scala;
+}
+
+QString CaratteriSenzaFigura(const QString &testo, const QString &font, bool grassetto)
+{
+    constexpr int PixelQualunque = 100;
+    const QRawFont figure =
+        QRawFont::fromFont(CarattereDiTesto(font, grassetto, PixelQualunque), QFontDatabase::Any);
+    QString senza;
+    for (const char32_t carattere : SuUnaRiga(testo).toUcs4()) {
+        const QString lettera = QString::fromUcs4(&carattere, 1);
+        if (!QChar::isSpace(carattere) && !figure.supportsCharacter(carattere) &&
+            !senza.contains(lettera)) {
+            senza += lettera;
+        }
+    }
+    return senza;
 }
 
 QString SuUnaRiga(const QString &testo)

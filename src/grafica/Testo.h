@@ -8,6 +8,10 @@
 /// True for the system's names of a kind of font ("Sans Serif"), which are no fonts.
 bool FontGenerico(const QString &famiglia);
 
+/// True for a family in which texts are set as asked: the system has it, or sets it with one of the
+/// same widths. Every other one is Arial on the screen and on paper.
+bool FontDisponibile(const QString &famiglia);
+
 /// The well-known families that the system does not have but sets with one of its own, made to the
 /// same widths: they are as good as installed.
 QStringList FontSostituitiAllaPari();
@@ -24,6 +28,10 @@ double PuntiDiTesto(double punti);
 /// depend neither on a screen nor on its resolution. Font and size follow CarattereDiTesto and
 /// PuntiDiTesto.
 QSizeF MisuraTesto(const QString &testo, const QString &font, double punti, bool grassetto);
+
+/// The characters of the text, each once, for which its font as CarattereDiTesto finds it has no
+/// shape of its own: the system takes them from another font, or leaves a box.
+QString CaratteriSenzaFigura(const QString &testo, const QString &font, bool grassetto);
 
 /// What a sheet can show of the text in one line: control characters and separators of lines are
 /// blanks, and what no sheet has room for, however small and narrow the letters, is left out.

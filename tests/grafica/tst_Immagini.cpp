@@ -298,6 +298,7 @@ void tst_Immagini::nonEsiste()
     const QString manca = dir_.filePath(QStringLiteral("manca.jpg"));
     QCOMPARE(Errore([&] { Immagini::Carica(manca); }), ErroreSistema::FileNonTrovato);
     QCOMPARE(Errore([&] { Immagini::DimensioniNaturali(manca); }), ErroreSistema::FileNonTrovato);
+    QCOMPARE(Errore([&] { Immagini::Verifica(manca); }), ErroreSistema::FileNonTrovato);
     QCOMPARE(Errore([&] {
                  Immagini::CaricaScalata(manca, {5, 5});
              }),
@@ -327,6 +328,7 @@ void tst_Immagini::nonValide()
     QFETCH(QByteArray, byte);
     const QString percorso = Scrivi(byte);
     QCOMPARE(Errore([&] { Immagini::Carica(percorso); }), ErroreSistema::ImmagineNonValida);
+    QCOMPARE(Errore([&] { Immagini::Verifica(percorso); }), ErroreSistema::ImmagineNonValida);
     QCOMPARE(Errore([&] {
                  Immagini::CaricaScalata(percorso, {9, 9});
              }),
@@ -347,6 +349,7 @@ void tst_Immagini::bombe()
     const QString percorso = Scrivi(byte);
     const TempoDiLavoro tempo;
     QCOMPARE(Errore([&] { Immagini::Carica(percorso); }), ErroreSistema::ImmagineNonValida);
+    QCOMPARE(Errore([&] { Immagini::Verifica(percorso); }), ErroreSistema::ImmagineNonValida);
     QCOMPARE(Errore([&] {
                  Immagini::CaricaScalata(percorso, {50, 50});
              }),
@@ -375,8 +378,10 @@ void tst_Immagini::troncata()
     for (qsizetype n = 0; n < ultimo; ++n) {
         const QString percorso = Scrive(dir_.filePath(QStringLiteral("troncata")), byte.left(n));
         QCOMPARE(Errore([&] { Immagini::Carica(percorso); }), ErroreSistema::ImmagineNonValida);
+        QCOMPARE(Errore([&] { Immagini::Verifica(percorso); }), ErroreSistema::ImmagineNonValida);
     }
     QVERIFY(!Immagini::Carica(Scrivi(byte)).isNull());
+    QCOMPARE(Errore([&] { Immagini::Verifica(Scrivi(byte)); }), 0);
 }
 
 QTEST_MAIN(tst_Immagini)

@@ -32,6 +32,8 @@ private slots:
     void UnFontCheNonEsisteEArial_data();
     void UnFontCheNonEsisteEArial();
     void SuUnaRigaSoloCioCheSiVede();
+    void UnFontSiSaSeCE();
+    void ICaratteriCheIlFontNonHa();
 };
 
 void TestTesto::MisuraComeLaStampante_data()
@@ -173,6 +175,31 @@ void TestTesto::SuUnaRigaSoloCioCheSiVede()
     // The narrowest letter in the smallest size still fills the widest sheet.
     const QString righe = SuUnaRiga(QString(100'000, u'i'));
     QVERIFY(MisuraTesto(righe, Arial, 1, false).width() > 300);
+}
+
+void TestTesto::UnFontSiSaSeCE()
+{
+    QVERIFY(FontDisponibile(Arial));
+    QVERIFY(FontDisponibile(QStringLiteral("DejaVu Sans")));
+    QVERIFY(!FontDisponibile(QStringLiteral("Font Mai Esistito")));
+    QVERIFY(!FontDisponibile(QStringLiteral("Sans Serif")));
+    QVERIFY(!FontDisponibile(QString()));
+}
+
+void TestTesto::ICaratteriCheIlFontNonHa()
+{
+    // Every character that a model file can hold, and control characters, which nobody sees.
+    QString ansi = QStringLiteral("\t€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ");
+    for (char16_t c = u' '; c <= u'ÿ'; ++c) {
+        ansi += QChar(c);
+    }
+    QCOMPARE(CaratteriSenzaFigura(ansi, Arial, false), QString());
+    QCOMPARE(CaratteriSenzaFigura(ansi, Arial, true), QString());
+    // Other fonts of the system have them, this one has not.
+    QCOMPARE(CaratteriSenzaFigura(QStringLiteral("a☃b☃漢"), Arial, false), QStringLiteral("☃漢"));
+    QCOMPARE(CaratteriSenzaFigura(QStringLiteral("a☃"), QStringLiteral("DejaVu Sans"), false),
+             QString());
+    QCOMPARE(CaratteriSenzaFigura(QStringLiteral("😀"), Arial, false), QStringLiteral("😀"));
 }
 
 QTEST_MAIN(TestTesto)
