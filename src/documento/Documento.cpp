@@ -13,6 +13,18 @@ namespace {
 constexpr int UnioneVietata = -1; // the history's own word for a step that joins none
 constexpr int UnionePossibile = 1;
 
+std::map<int, double> CampiFuoriRiga(const Modello &modello)
+{
+    std::map<int, double> fuori;
+    for (int i = 1; i <= modello.UltimoSlot(Genere::Campo); ++i) {
+        const Campo &campo = modello.Campi[i];
+        if (CampoDiRiga(campo) && campo.Y != modello.Righe.yInizio) {
+            fuori.emplace(i, campo.Y);
+        }
+    }
+    return fuori;
+}
+
 } // namespace
 
 /// A step of the history. It holds the other side of its change and swaps it with the document's.
@@ -107,6 +119,7 @@ void Documento::Prende(Modello modello, bool variato)
     DimenticaStoria();
     stato_ = {};
     stato_.modello = std::move(modello);
+    fuoriRiga_ = CampiFuoriRiga(Aperto());
     stato_.modello.ArrotondaTutti();
     tocchi_ = {};
     tocchi_.Tipo = tocchi_.Righe = tocchi_.Sfondo = true;
@@ -140,6 +153,9 @@ void Documento::Salvato()
     // Steps after a save join none before it: undoing must be able to stop at what was saved.
     ChiudeUnione();
     storia_->setClean();
+    if (!std::exchange(fuoriRiga_, {}).empty()) {
+        emit RigheRaddrizzate();
+    }
 }
 
 void Documento::DimenticaStoria()

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 
+#include <map>
 #include <memory>
 
 class Passo;
@@ -37,6 +38,11 @@ public:
 
     /// True when the sheet shows the element: it is there, or it is new and has no name yet.
     bool InVista(Chiave chiave) const;
+
+    /// The row fields that the model had elsewhere than at the start of the rows when it was
+    /// opened, by slot, with their Y then, mm; none once it has been saved. Opening has put them in
+    /// their row, but Vastrel prints what the file holds.
+    const std::map<int, double> &FuoriRiga() const { return fuoriRiga_; }
 
     /// Another model is open from now on: elements stand where placing puts them, the lists show
     /// their names, there is nothing to undo. variato: it holds work that no file holds.
@@ -77,6 +83,8 @@ signals:
     /// A finished edit, undo or redo has changed the model.
     void ModificaConclusa();
     void VariatoCambiato();
+    /// The file holds again what the document shows: FuoriRiga has been emptied.
+    void RigheRaddrizzate();
     /// PuoAnnullare, PuoRipristinare or their texts are others.
     void StoriaCambiata();
 
@@ -96,6 +104,7 @@ private:
     StatoDocumento stato_;
     bool variato_ = false;
     std::array<int, Generi.size()> ultimiAllApertura_{}; ///< slots
+    std::map<int, double> fuoriRiga_;
     std::unique_ptr<QUndoStack> storia_;
     int unioni_ = 0; ///< grows when earlier steps are closed to later ones
 

@@ -52,6 +52,7 @@ private slots:
     void ConLaStoriaSospesaNonSiAnnulla();
     void LArrotondamentoDiChiGuardaNonEUnPasso();
     void OgniVistaSentePerNomeCheCosaECambiato();
+    void ICampiFuoriRigaSiRicordanoFinoAlSalvataggio();
     void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data();
     void DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte();
     void UnPassoSuTrecentoElementiCostaPoco();
@@ -384,6 +385,28 @@ void tst_Documento::OgniVistaSentePerNomeCheCosaECambiato()
     QCOMPARE(sentiti[2].Elementi(), QList<Chiave>{Cornice1});
     QVERIFY(sentiti[2].Tipo);
     QVERIFY(!sentiti[2].Righe);
+}
+
+void tst_Documento::ICampiFuoriRigaSiRicordanoFinoAlSalvataggio()
+{
+    Modello modello;
+    modello.Righe = {95.5, 200, 5, 4, {}};
+    for (const auto &[nome, y] : {std::pair("R_Qta", 231.7), {"R_Um", 95.5}, {"Totale", 12.4}}) {
+        modello.Campi[modello.AggiungeCampo(10, y)].Nome = QString::fromLatin1(nome);
+    }
+    Documento documento;
+    const QSignalSpy raddrizzate(&documento, &Documento::RigheRaddrizzate);
+    documento.Prende(modello, false);
+    QCOMPARE(documento.Aperto().Campi[1].Y, 95.5);
+    QCOMPARE(documento.FuoriRiga(), (std::map<int, double>{{1, 231.7}}));
+    documento.Salvato();
+    QVERIFY(documento.FuoriRiga().empty());
+    QCOMPARE(raddrizzate.count(), 1);
+    documento.Salvato();
+    QCOMPARE(raddrizzate.count(), 1);
+    // What is opened now was written by the program.
+    documento.Prende(documento.Aperto(), false);
+    QVERIFY(documento.FuoriRiga().empty());
 }
 
 void tst_Documento::DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data()
