@@ -1,5 +1,6 @@
 #include "LineaDiComando.h"
 
+#include "ControlloDaRiga.h"
 #include "FileDiUscita.h"
 #include "base/ErroreSistema.h"
 #include "documento/StatoProgramma.h"
@@ -44,6 +45,11 @@ struct Opzioni
                                  QStringLiteral("file")};
     QCommandLineOption nomi{QStringLiteral("nomi"),
                             QStringLiteral("Stampa il nome dei campi invece del testo di prova.")};
+    QCommandLineOption controlla{
+        QStringLiteral("controlla"),
+        QStringLiteral("Controlla i modelli indicati, o tutti quelli di una cartella, e scrive una "
+                       "riga per ogni rilievo. Esito 0: nessun rilievo, 1: rilievi, 2: un modello "
+                       "che non si legge.")};
 };
 
 QString Errore(const QString &testo)
@@ -54,16 +60,27 @@ QString Errore(const QString &testo)
 /// The contradiction between the options, if any.
 QString Contraddizione(const Richieste &richieste)
 {
-    if (richieste.SenzaFinestre() && richieste.modello.isEmpty()) {
+    if (richieste.Stampa() && richieste.modello.isEmpty()) {
         return QStringLiteral("--pdf e --anteprima vogliono un --modello");
     }
-    if (!richieste.SenzaFinestre() && !richieste.modello.isEmpty()) {
+    if (!richieste.Stampa() && !richieste.modello.isEmpty()) {
         return QStringLiteral("--modello vuole --pdf o --anteprima");
     }
     if (richieste.nomi && richieste.pdf.isEmpty()) {
         return QStringLiteral("--nomi vuole --pdf");
     }
     return {};
+}
+
+/// What is wrong with a request to check models, if anything.
+QString ControlloImpossibile(const Richieste &richieste)
+{
+    if (richieste.daControllare.isEmpty()) {
+        return QStringLiteral("--controlla vuole almeno un modello o una cartella");
+    }
+    const Richieste solo{{}, {}, {}, {}, false, richieste.daControllare};
+    return richieste == solo ? QString()
+                             : QStringLiteral("--controlla non va con le altre opzioni");
 }
 
 void Avvisa(const QString &testo)
@@ -120,9 +137,15 @@ LetturaArgomenti LeggeArgomenti(const QStringList &argomenti)
     lettore.setApplicationDescription(
         QStringLiteral("Plakera - Modelli stampa per gestionale Vastrel"));
     lettore.addOptions({opzioni.aiuto, opzioni.versione, opzioni.dati, opzioni.modello, opzioni.pdf,
-                        opzioni.anteprima, opzioni.nomi});
-    if (!lettore.parse(argomenti)) {
-        return {std::nullopt, Errore(lettore.errorText()), 1};
+                        opzioni.anteprima, opzioni.nomi, opzioni.controlla});
+    lettore.addPositionalArgument(QStringLiteral("modelli"),
+                                  QStringLiteral("Per --controlla: file o cartelle."),
+                                  QStringLiteral("[modelli...]"));
+    const bool letti = lettore.parse(argomenti);
+    const bool controlla = lettore.isSet(opzioni.controlla);
+    const int statoErrore = controlla ? ControlloDaRiga::Illeggibile : 1;
+    if (!letti) {
+        return {std::nullopt, Errore(lettore.errorText()), statoErrore};
     }
     if (lettore.isSet(opzioni.aiuto)) {
         return {std::nullopt, lettore.helpText(), 0};
@@ -130,17 +153,19 @@ LetturaArgomenti LeggeArgomenti(const QStringList &argomenti)
     if (lettore.isSet(opzioni.versione)) {
         return {std::nullopt, QStringLiteral("plakera " PLAKERA_VERSIONE "\n"), 0};
     }
-    if (!lettore.positionalArguments().isEmpty()) {
+    if (!controlla && !lettore.positionalArguments().isEmpty()) {
         return {std::nullopt,
                 Errore(QStringLiteral("argomento inatteso: ") +
                        lettore.positionalArguments().constFirst()),
                 1};
     }
     Richieste richieste{lettore.value(opzioni.dati), lettore.value(opzioni.modello),
-                        lettore.value(opzioni.pdf), lettore.value(opzioni.anteprima),
-                        lettore.isSet(opzioni.nomi)};
-    if (const QString contraddizione = Contraddizione(richieste); !contraddizione.isEmpty()) {
-        return {std::nullopt, Errore(contraddizione), 1};
+                        lettore.value(opzioni.pdf),  lettore.value(opzioni.anteprima),
+                        lettore.isSet(opzioni.nomi), lettore.positionalArguments()};
+    const QString contraddizione =
+        controlla ? ControlloImpossibile(richieste) : Contraddizione(richieste);
+    if (!contraddizione.isEmpty()) {
+        return {std::nullopt, Errore(contraddizione), statoErrore};
     }
     return {std::move(richieste), {}, 0};
 }

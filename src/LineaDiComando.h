@@ -8,13 +8,17 @@
 /// What the user asked for on the command line.
 struct Richieste
 {
-    QString dati;      ///< stands in for Vastrel's data folder
-    QString modello;   ///< model file to print without windows
-    QString pdf;       ///< PDF to print it into
-    QString anteprima; ///< PNG of the preview
-    bool nomi = false; ///< print field names instead of test texts
+    QString dati;              ///< stands in for Vastrel's data folder
+    QString modello;           ///< model file to print without windows
+    QString pdf;               ///< PDF to print it into
+    QString anteprima;         ///< PNG of the preview
+    bool nomi = false;         ///< print field names instead of test texts
+    QStringList daControllare; ///< models and folders to check
 
-    bool SenzaFinestre() const { return !pdf.isEmpty() || !anteprima.isEmpty(); }
+    bool operator==(const Richieste &) const = default;
+
+    bool Stampa() const { return !pdf.isEmpty() || !anteprima.isEmpty(); }
+    bool SenzaFinestre() const { return Stampa() || !daControllare.isEmpty(); }
 };
 
 /// The result of reading the arguments: the requests, or the text to print and the exit status.

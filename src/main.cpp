@@ -1,3 +1,4 @@
+#include "ControlloDaRiga.h"
 #include "LineaDiComando.h"
 #include "Plakera.h"
 #include "finestre/ComboAccessibile.h"
@@ -56,6 +57,9 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Plakera"));
     QApplication::setApplicationVersion(QStringLiteral(PLAKERA_VERSIONE));
     ImpostaLingua();
+    if (!lettura.richieste->daControllare.isEmpty()) {
+        return ControlloDaRiga::Esegue(lettura.richieste->daControllare);
+    }
     if (lettura.richieste->SenzaFinestre()) {
         return StampaSenzaFinestre(*lettura.richieste);
     }

@@ -50,6 +50,7 @@ void CartaDellaStampante::Chiede()
         // Nobody has asked to print: who does is told why there is no printer.
     }
     anteprima_.MostraContorni(posti);
+    emit Chiesta(Foglio(posti));
 }
 
 ContorniCarta::Posti CartaDellaStampante::Contorni(const QPageLayout &pagina)
@@ -60,6 +61,12 @@ ContorniCarta::Posti CartaDellaStampante::Contorni(const QPageLayout &pagina)
     const QSizeF a4 =
         pagina.orientation() == QPageLayout::Landscape ? MisuraA4().transposed() : MisuraA4();
     return {QRectF(angolo, a4), QRectF(angolo, carta.size()), QRectF({0, 0}, stampabile.size())};
+}
+
+std::optional<FoglioStampante> CartaDellaStampante::Foglio(const ContorniCarta::Posti &posti)
+{
+    return posti.Carta.isEmpty() ? std::nullopt
+                                 : std::optional(FoglioStampante{posti.Carta, posti.Stampabile});
 }
 
 ContorniCarta::Posti CartaDellaStampante::SoloA4()

@@ -42,7 +42,7 @@ void tst_RigaDiComando::aiuto()
     QCOMPARE(esito.errori, QString());
     QVERIFY(esito.uscita.contains(QStringLiteral("Opzioni:")));
     for (const char *opzione : {"--help", "--version", "--dati <cartella>", "--modello <file>",
-                                "--pdf <file>", "--anteprima <file>", "--nomi"}) {
+                                "--pdf <file>", "--anteprima <file>", "--nomi", "--controlla"}) {
         QVERIFY2(esito.uscita.contains(QString::fromLatin1(opzione)), opzione);
     }
     QVERIFY(esito.uscita.contains(QStringLiteral("Modello da stampare senza aprire finestre.")));
