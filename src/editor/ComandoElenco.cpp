@@ -8,8 +8,6 @@
 #include "finestre/IconeElenco.h"
 #include "preview/Frm1.h"
 
-#include <QApplication>
-
 ComandoElenco::ComandoElenco(StatoProgramma &stato, QWidget &editore, Frm1 &anteprima,
                              ComandiStoria &storia)
     : stato_(stato)
@@ -46,11 +44,7 @@ void ComandoElenco::Esegue()
     if (!elenco_) {
         Crea();
     }
-    if (elenco_->isVisible() && QApplication::activeWindow() == elenco_.get()) {
-        elenco_->close();
-    } else {
-        elenco_->Apre();
-    }
+    elenco_->Alterna();
 }
 
 void ComandoElenco::Chiude()

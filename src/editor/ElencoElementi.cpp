@@ -8,19 +8,13 @@
 #include "preview/Frm1.h"
 #include "ui_ElencoElementi.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
-#include <QWindow>
 
 namespace {
-
-constexpr int LarghezzaMinima = 360; // device-independent pixels
 
 /// The box in which a place is edited says what it is about to those who do not see its column.
 class CasellaDiPosto : public QStyledItemDelegate
@@ -45,15 +39,13 @@ public:
 } // namespace
 
 ElencoElementi::ElencoElementi(StatoProgramma &stato, Frm1 &anteprima)
-    : QWidget(&anteprima, Qt::Tool)
+    : FinestraAttrezzi(anteprima)
     , ui_(std::make_unique<Ui::ElencoElementi>())
     , stato_(stato)
-    , anteprima_(anteprima)
     , righe_(new RigheElenco(stato.documento, this))
     , ordinate_(new QSortFilterProxyModel(this))
 {
     ui_->setupUi(this);
-    setAttribute(Qt::WA_AlwaysShowToolTips);
     ordinate_->setSourceModel(righe_);
     ordinate_->setFilterKeyColumn(-1);
     ordinate_->setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -91,7 +83,7 @@ void ElencoElementi::Collegamenti()
     Collega(ordinate_, &QAbstractItemModel::rowsInserted, this, [this] { MostraScelti(); });
     Collega(ordinate_, &QAbstractItemModel::modelReset, this, [this] { MostraScelti(); });
     Collega(&stato_.selezione, &Selezione::SceltiCambiati, this, &ElencoElementi::MostraScelti);
-    Collega(righe_, &RigheElenco::Avviso, &anteprima_, &Frm1::Avverte);
+    Collega(righe_, &RigheElenco::Avviso, &Anteprima(), &Frm1::Avverte);
 }
 
 void ElencoElementi::LarghezzeColonne()
@@ -122,31 +114,9 @@ void ElencoElementi::LarghezzeColonne()
     ui_->Elementi->verticalHeader()->setDefaultSectionSize(misure.height() + SopraESotto);
 }
 
-void ElencoElementi::Colloca()
+QWidget *ElencoElementi::Primo() const
 {
-    const QMargins cornice = anteprima_.windowHandle() == nullptr
-                                 ? QMargins()
-                                 : anteprima_.windowHandle()->frameMargins();
-    QRect posto = anteprima_.AccantoAlFoglio();
-    // Where the sheet leaves too little beside it the list lies on its right part.
-    posto.setLeft(qMin(posto.left(), posto.right() + 1 - LarghezzaMinima));
-    posto &= anteprima_.screen()->availableGeometry();
-    move(posto.topLeft());
-    resize(posto.marginsRemoved(cornice).size());
-}
-
-void ElencoElementi::Apre()
-{
-    if (!collocata_) {
-        Colloca();
-        collocata_ = true;
-    }
-    if (!isVisible()) {
-        ui_->Elementi->setFocus();
-    }
-    show();
-    raise();
-    activateWindow();
+    return ui_->Elementi;
 }
 
 Chiave ElencoElementi::ChiaveDi(const QModelIndex &indice) const
@@ -216,9 +186,9 @@ void ElencoElementi::Sceglie(const QModelIndex &indice)
         return;
     }
     if (stato_.selezione.Attivo(chiave.genere) != chiave.indice) {
-        anteprima_.Sceglie(chiave);
+        Anteprima().Sceglie(chiave);
     }
-    anteprima_.PortaInVista(chiave);
+    Anteprima().PortaInVista(chiave);
 }
 
 void ElencoElementi::ApreProprieta(const QModelIndex &indice)
@@ -243,9 +213,7 @@ void ElencoElementi::Filtra(const QString &testo)
 void ElencoElementi::keyPressEvent(QKeyEvent *evento)
 {
     const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
-    if (evento->key() == Qt::Key_Escape) {
-        close();
-    } else if (invio && ui_->Elementi->hasFocus()) {
+    if (invio && ui_->Elementi->hasFocus()) {
         // Not while a place is edited: there it confirms.
         Guardia(this, [this] { ApreProprieta(ui_->Elementi->currentIndex()); });
     } else if (invio && ui_->Filtro->hasFocus()) {
@@ -254,15 +222,6 @@ void ElencoElementi::keyPressEvent(QKeyEvent *evento)
             ui_->Elementi->selectRow(0);
         }
     } else {
-        QWidget::keyPressEvent(evento);
+        FinestraAttrezzi::keyPressEvent(evento);
     }
-}
-
-void ElencoElementi::closeEvent(QCloseEvent *evento)
-{
-    // A tool counts itself as active with the window that it belongs to.
-    if (QApplication::activeWindow() == this) {
-        anteprima_.activateWindow();
-    }
-    QWidget::closeEvent(evento);
 }
