@@ -34,6 +34,9 @@ dati=$prova/Dati
 cp -r sample "$dati"
 # The scan's path is taken as typed, so it can only be known here.
 sed -i "3s|.*|$dati/Contabilita/ini/ScansioneDDT.jpg\r|" "$dati/Contabilita/ini/DDT_prestampato.Mod"
+# One with something to be found.
+sed 's|^128/A\r|128/A della serie speciale\r|; s|^LogoCascinalta.gif|LogoNuovo.gif|' \
+  "$dati/Contabilita/ini/Fattura_Rossi.Mod" > "$dati/Contabilita/ini/Prova_Controlli.Mod"
 
 exec {numero}<> <(:)
 # -noreset: else the server starts afresh when its first client leaves, before the program is there.
@@ -190,6 +193,13 @@ pagina 5
 ritraeSchermo ImmagineSfondo
 chiudeEditor
 
+apreModello Prova_C
+tasti F7
+attiva '^Controlli del modello$'
+tasti Down
+ritraeSchermo Controlli
+chiudeEditor
+
 # The test print, without and with the names of the fields, side by side.
 fattura=$dati/Contabilita/ini/Fattura_Rossi.Mod
 "$programma" --modello "$fattura" --pdf "$prova/testi.pdf"
@@ -199,7 +209,7 @@ convert "$prova/testi.png" "$prova/nomi.png" -bordercolor gray -border 2 \
   -bordercolor white -border 12 +append "$figure/StampaProva.png"
 
 for f in FinestraIniziale NuovoModello FinestraLavoro ImpostazioniCampo ImpostazioniCornice \
-         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento ImmagineSfondo StampaProva; do
+         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento ImmagineSfondo Controlli StampaProva; do
   [ -s "$figure/$f.png" ] || { echo "FotografaFinestre: no $f" >&2; exit 1; }
 done
 echo "pictures in $figure"

@@ -7,6 +7,7 @@
 #include "editor/ComandiAppunti.h"
 #include "editor/ComandiScelta.h"
 #include "editor/ComandiStoria.h"
+#include "editor/ComandoControlli.h"
 #include "editor/ComandoElenco.h"
 #include "editor/ComandoSalva.h"
 #include "editor/DomandeSulModello.h"
@@ -114,7 +115,9 @@ bool Form2::Form_Load()
     Collega(salva_.get(), &ComandoSalva::Richiesto, this, &Form2::Salva_Click);
     salva_->AggiungeFinestra(*this);
     salva_->AggiungeFinestra(*anteprima_);
+    controlli_ = std::make_unique<ComandoControlli>(stato_, *ui_->Controlli, *anteprima_, *storia_);
     carta_ = std::make_unique<CartaDellaStampante>(*anteprima_, *this);
+    CollegaControlli();
     SistemaFinestre();
     sfondo_->ImpostaImmagineSfondo(false);
     anteprima_->MostraModello();
@@ -229,6 +232,18 @@ void Form2::CollegaAnteprima()
     connect(
         anteprima, &Frm1::ChiusuraRichiesta, this, [this] { Guardia(this, [this] { Chiude(); }); },
         Qt::QueuedConnection);
+}
+
+void Form2::CollegaControlli()
+{
+    connect(carta_.get(), &CartaDellaStampante::Chiesta, controlli_.get(),
+            &ComandoControlli::ImpostaFoglio);
+    Collega(controlli_.get(), &ComandoControlli::RichiestaProprieta, this, &Form2::ApreProprieta);
+    Collega(controlli_.get(), &ComandoControlli::RichiestaPagina, this,
+            [this](Rilievo::Luogo luogo) {
+                ui_->SSTab1->setCurrentWidget(
+                    luogo == Rilievo::Luogo::Righe ? static_cast<QWidget *>(righe_) : sfondo_);
+            });
 }
 
 void Form2::SSTab1_Click()

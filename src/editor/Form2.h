@@ -13,6 +13,7 @@ class CartaDellaStampante;
 class ComandiScelta;
 class ComandiAppunti;
 class ComandiStoria;
+class ComandoControlli;
 class ComandoElenco;
 class ComandoSalva;
 class DomandeSulModello;
@@ -99,6 +100,7 @@ private:
     void CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica, Procedura primoPiano,
                        Procedura fuocoPreso);
     void CollegaAnteprima();
+    void CollegaControlli();
     void CollegaDialogo(FrmElemento &dialogo);
     PaginaElementi &Pagina(Genere genere) const;
     /// The kind whose page shows; none on the others.
@@ -136,6 +138,7 @@ private:
     std::unique_ptr<ComandiAppunti> appunti_;
     std::unique_ptr<ComandoElenco> elenco_;
     std::unique_ptr<ComandoSalva> salva_;
+    std::unique_ptr<ComandoControlli> controlli_;
     std::unique_ptr<CartaDellaStampante> carta_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;

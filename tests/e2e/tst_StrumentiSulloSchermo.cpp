@@ -1,5 +1,6 @@
 #include "FatturaAperta.h"
 
+#include <QFile>
 #include <QTest>
 
 namespace {
@@ -25,6 +26,7 @@ private slots:
     void leGuideVannoEVengono();
     void loZoomVaETorna();
     void dallElencoSiApronoLeProprieta();
+    void daiControlliSiApronoLeProprieta();
     void tuttiICampiEliminati();
 };
 
@@ -138,6 +140,27 @@ void tst_StrumentiSulloSchermo::dallElencoSiApronoLeProprieta()
     // It is the chosen one now.
     banco.Tasti({QStringLiteral("shift+Down")});
     QCOMPARE(banco.Salvato().Riga(Ordine, Campo::Y), QByteArray("89"));
+}
+
+void tst_StrumentiSulloSchermo::daiControlliSiApronoLeProprieta()
+{
+    Scrivania scrivania;
+    QVERIFY(QFile::remove(scrivania.CartellaModelli() + QStringLiteral("LogoCascinalta.gif")));
+    scrivania.Avvia();
+    scrivania.ApreModello(Fattura);
+    scrivania.Anteprima();
+    const QString controlli = QStringLiteral("^Controlli del modello$");
+    scrivania.Video().Tasti({QStringLiteral("F7")});
+    scrivania.Video().Attende(controlli);
+    // The one finding, and what it is about.
+    scrivania.Video().Tasti({QStringLiteral("Return")});
+    scrivania.Video().Attende(Scrivania::TitoloImmagine);
+    scrivania.Video().Tasti({QStringLiteral("Escape")});
+    scrivania.Video().AttendeChiusa(Scrivania::TitoloImmagine);
+    scrivania.Video().Attende(controlli);
+    scrivania.Video().Tasti({QStringLiteral("F7")});
+    scrivania.Video().AttendeChiusa(controlli);
+    scrivania.ChiudeEditor();
 }
 
 void tst_StrumentiSulloSchermo::tuttiICampiEliminati()

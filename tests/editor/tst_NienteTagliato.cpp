@@ -32,6 +32,7 @@ private slots:
     void RuotaSuUnElenco();
     void Anteprima();
     void Elenco();
+    void Rilievi();
     void Dialogo_data();
     void Dialogo();
     void Sfogliando();
@@ -298,6 +299,23 @@ void tst_NienteTagliato::Elenco()
     // Rows beside the titles, even where the editor leaves little of the screen.
     const auto *righe = Trova<QAbstractItemView>(*elenco, "Elementi");
     QVERIFY(righe->viewport()->height() >= 2 * righe->sizeHintForRow(0));
+}
+
+void tst_NienteTagliato::Rilievi()
+{
+    EditoreDiProva prova;
+    // Three digits on the counter, and its window as it is then.
+    prova.Archivio.Riempie(100);
+    QVERIFY(prova.Apre());
+    auto *contatore = Trova<QToolButton>(*prova.Editor, "Controlli");
+    QTRY_VERIFY(contatore->text().size() == 3);
+    QVERIFY(Controlla(*prova.Editor) > 15);
+    contatore->click();
+    const auto *elenco = Trova<QWidget>(*prova.Editor->Anteprima(), "ElencoRilievi");
+    QVERIFY(QTest::qWaitForWindowExposed(const_cast<QWidget *>(elenco)));
+    QVERIFY(Controlla(*elenco) > 1);
+    const auto *righe = Trova<QAbstractItemView>(*elenco, "Rilievi");
+    QVERIFY(righe->viewport()->height() >= righe->visualRect(righe->model()->index(0, 0)).height());
 }
 
 void tst_NienteTagliato::Dialogo_data()

@@ -200,6 +200,7 @@ private slots:
     void Editor();
     void Anteprima();
     void Elenco();
+    void Rilievi();
     void Dialogo_data() { RigheDiGenere(); }
     void Dialogo();
     void Sfogliando();
@@ -344,6 +345,20 @@ void tst_NomiAccessibili::LeVociNonSonoIlNome()
                      .startsWith(QStringLiteral("elenco ")),
                  nome);
     }
+}
+
+void tst_NomiAccessibili::Rilievi()
+{
+    EditorAperto prova(1);
+    auto *contatore = Trova<QToolButton>(prova.Editor(), "Controlli");
+    contatore->click();
+    QCOMPARE(QAccessible::queryAccessibleInterface(contatore)->text(QAccessible::Name),
+             QStringLiteral("Controlli: un rilievo"));
+    const auto *elenco = Trova<QWidget>(*prova.Editor().Anteprima(), "ElencoRilievi");
+    QVERIFY(Controlla(*elenco) >= 1);
+    auto *righe = Trova<QAbstractItemView>(*elenco, "Rilievi");
+    QCOMPARE(QAccessible::queryAccessibleInterface(righe)->child(0)->text(QAccessible::Name),
+             righe->model()->index(0, 0).data().toString());
 }
 
 void tst_NomiAccessibili::IlFuocoSiVede()
