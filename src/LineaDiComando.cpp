@@ -1,7 +1,6 @@
 #include "LineaDiComando.h"
 
 #include "ControlloDaRiga.h"
-#include "FileDiUscita.h"
 #include "base/ErroreSistema.h"
 #include "documento/StatoProgramma.h"
 #include "finestre/Guardia.h"
@@ -10,6 +9,7 @@
 #include "model/Numeri.h"
 #include "preview/Frm1.h"
 #include "preview/SfondoDelModello.h"
+#include "print/FileDiUscita.h"
 #include "print/StampaProva.h"
 #include "print/Stampanti.h"
 #include "sistema/Disco.h"

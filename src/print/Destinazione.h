@@ -16,7 +16,12 @@ public:
 
     /// The sheet at true size; its margins are what the printer cannot reach.
     virtual QPagedPaintDevice &Dispositivo() = 0;
+    /// What the user knows it by: the printer's name, or the file's.
+    virtual QString Nome() const = 0;
     virtual void Titolo(const QString &titolo) = 0;
+    /// True where the sheet is looked at, smaller than it is: with its edges smoothed, so that none
+    /// vanishes, and with fewer pixels of its pictures.
+    virtual bool SulloSchermo() const { return false; }
     /// To be called before painting begins. Throws ErroreSistema when nothing could be printed.
     virtual void Prepara() {}
     /// What to throw when painting can be neither begun nor ended.

@@ -22,6 +22,8 @@ constexpr int UnitaPerPunto = 20;
 constexpr double UnitaPerPollice = 72.0 * UnitaPerPunto;
 /// More pixels than this per inch are lost on paper.
 constexpr double PuntiImmagine = 600;
+/// And on a screen, at the size of the paper and somewhat larger.
+constexpr double PuntiSulloSchermo = 200;
 /// What a picture and the part of the page that is computed from it may take together: the printer
 /// engine needs its own beside them.
 constexpr qint64 ByteInsieme = 235'000'000;
@@ -49,6 +51,8 @@ Pagina::Pagina(Destinazione &destinazione)
     if (!pittore_.begin(&dispositivo_)) {
         throw destinazione.Rifiuto();
     }
+    pittore_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform,
+                            destinazione.SulloSchermo());
     risoluzione_ = dispositivo_.logicalDpiX();
     pixelPerMillimetro_ = risoluzione_ / Unita::MillimetriPerPollice;
     area_ = QRectF(0, 0, InPixel(Larghezza()), InPixel(Altezza()));
@@ -66,9 +70,19 @@ Pagina::~Pagina()
     }
 }
 
-QSize Pagina::PixelPer(const QSizeF &millimetri)
+void Pagina::Avanza() const
 {
-    return (millimetri * (PuntiImmagine / Unita::MillimetriPerPollice))
+    if (avanza_) {
+        // What is computed after the last picture counts as one more.
+        const int tutte = std::max(figurePreviste_, figureFatte_) + 1;
+        avanza_(double(figureFatte_) / tutte);
+    }
+}
+
+QSize Pagina::PixelPer(const QSizeF &millimetri) const
+{
+    const double punti = destinazione_.SulloSchermo() ? PuntiSulloSchermo : PuntiImmagine;
+    return (millimetri * (punti / Unita::MillimetriPerPollice))
         .boundedTo(QSizeF(1e6, 1e6))
         .expandedTo(QSizeF(1, 1))
         .toSize();
@@ -139,10 +153,13 @@ void Pagina::Barra(double x, double y, double larghezza, double altezza, QRgb co
 void Pagina::PrevedeFigura(const QString &percorso, const QSizeF &millimetri)
 {
     figure_.Prevede(percorso, PixelPer(millimetri));
+    ++figurePreviste_;
 }
 
 void Pagina::FiguraAnd(const QString &percorso, const QRectF &millimetri)
 {
+    Avanza();
+    ++figureFatte_;
     const QSize pixel = PixelPer(millimetri.size());
     const FigureInMemoria::Figura figura = figure_.Carica(percorso, pixel);
     const QRectF posto(InPixel(millimetri.x()), InPixel(millimetri.y()),
@@ -160,6 +177,7 @@ void Pagina::DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &f
                                                       posto.height() / figura.Immagine.height()) *
                                 QTransform::fromTranslate(posto.x(), posto.y());
     for (const PartiDiFigura::Parte &parte : figura.Parti) {
+        Avanza();
         DipingeImmagine(daiPixel.mapRect(QRectF(parte.Posto)), parte.Immagine, !figura.ComeJpeg);
     }
 }
@@ -178,9 +196,11 @@ void Pagina::Dipinge()
     Sovrapposizione::Stende(
         foglio_, &dispositivo_, area_, risoluzione_, ByteInsieme - figure_.ByteAlMassimo(),
         [this](const Tracciati::Figura &figura) {
+            Avanza();
             return figure_.Carica(figura.Percorso, figura.Pixel).Immagine;
         },
         [this](const Sovrapposizione::Pezza &pezza) {
+            Avanza();
             DipingeImmagine(pezza.Posto, pezza.Immagine, true);
         });
 }
@@ -188,6 +208,7 @@ void Pagina::Dipinge()
 void Pagina::Fine()
 {
     Dipinge();
+    Avanza();
     finita_ = true;
     if (!pittore_.end()) {
         throw destinazione_.Rifiuto();

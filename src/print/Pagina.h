@@ -1,5 +1,6 @@
 #pragma once
 
+#include "print/Avanzamento.h"
 #include "print/Destinazione.h"
 #include "print/FigureInMemoria.h"
 #include "print/Tracciati.h"
@@ -23,6 +24,10 @@ public:
     /// Gives the document up unless Fine() was called.
     ~Pagina();
     Q_DISABLE_COPY_MOVE(Pagina)
+
+    /// Is told of every step that may take long: each picture, and each part of one that is
+    /// painted. What it throws leaves the page unfinished.
+    void Segue(const Avanzamento &avanza) { avanza_ = avanza; }
 
     double Larghezza() const; ///< printable width, mm
     double Altezza() const;   ///< printable height, mm
@@ -57,7 +62,8 @@ private:
     double InPixel(double millimetri) const { return millimetri * pixelPerMillimetro_; }
     void MisuraFont();
     void Dipinge();
-    static QSize PixelPer(const QSizeF &millimetri);
+    void Avanza() const;
+    QSize PixelPer(const QSizeF &millimetri) const;
     void DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &figura);
     void DipingeImmagine(const QRectF &posto, const QImage &immagine, bool senzaPerdita);
 
@@ -78,5 +84,8 @@ private:
     QRgb colore_ = 0xFF000000;
     Tracciati::Foglio foglio_;
     FigureInMemoria figure_;
+    Avanzamento avanza_;
+    int figurePreviste_ = 0;
+    int figureFatte_ = 0;
     bool finita_ = false;
 };

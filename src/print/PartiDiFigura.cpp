@@ -88,11 +88,15 @@ Parte AUnBit(const QImage &immagine, const QRect &posto)
     return {posto, bit};
 }
 
+/// Without a copy of the pixels: they stay as long as one of their parts does, which who shows the
+/// page on the screen keeps.
 Parte Ritaglio(const QImage &immagine, const QRect &posto)
 {
     const auto *byte = reinterpret_cast<const uchar *>(Riga(immagine, posto.top()) + posto.left());
-    return {posto, QImage(byte, posto.width(), posto.height(), immagine.bytesPerLine(),
-                          immagine.format())};
+    return {posto,
+            QImage(
+                byte, posto.width(), posto.height(), immagine.bytesPerLine(), immagine.format(),
+                [](void *intera) { delete static_cast<QImage *>(intera); }, new QImage(immagine))};
 }
 
 } // namespace

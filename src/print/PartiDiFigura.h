@@ -16,7 +16,7 @@ struct Parte
     QImage Immagine; ///< RGB32, or Mono with black as 0
 };
 
-/// The parts of the picture (opaque, RGB32), which share its memory and must not outlive it; none
+/// The parts of the picture (opaque, RGB32), which share its memory and keep it; none
 /// when all of it is white. Where two parts meet, they either leave white between them or share a
 /// row, and white of a pixel stands around them where the picture has it: a viewer that smooths
 /// edges shows the same as of the whole.

@@ -168,10 +168,12 @@ QString StampaProva::Diagnosi(const Immagine &immagine, const ErroreSistema &err
 }
 
 void StampaModello(const Modello &modello, const QString &cartellaModelli,
-                   Destinazione &destinazione, bool StampaNome, const Numeri::Avviso &avviso)
+                   Destinazione &destinazione, bool StampaNome, const Numeri::Avviso &avviso,
+                   const Avanzamento &avanza)
 {
     destinazione.Titolo(modello.NomeFile);
     Pagina pagina(destinazione);
+    pagina.Segue(avanza);
     StampaProva(modello, cartellaModelli, pagina, avviso).Stampa(StampaNome);
     pagina.Fine();
 }

@@ -2,6 +2,7 @@
 
 #include "model/Modello.h"
 #include "model/Numeri.h"
+#include "print/Avanzamento.h"
 
 #include <QRect>
 #include <QRgb>
@@ -67,6 +68,8 @@ private:
 };
 
 /// Prints the model on the printer. Messages about single elements go through avviso and do not
-/// stop the print; the destination's ErroreSistema is thrown when it does not take the sheet.
+/// stop the print; the destination's ErroreSistema is thrown when it does not take the sheet. What
+/// avanza throws gives the sheet up.
 void StampaModello(const Modello &modello, const QString &cartellaModelli,
-                   Destinazione &destinazione, bool StampaNome, const Numeri::Avviso &avviso);
+                   Destinazione &destinazione, bool StampaNome, const Numeri::Avviso &avviso,
+                   const Avanzamento &avanza = {});

@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QPdfWriter>
+#include <QPrinterInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,7 @@ public:
         scrittore_.setPageLayout(foglio);
     }
     QPagedPaintDevice &Dispositivo() override { return scrittore_; }
+    QString Nome() const override { return coda_; }
     void Titolo(const QString &titolo) override
     {
         titolo_ = titolo;
@@ -91,12 +93,28 @@ QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDel
 
 } // namespace
 
-QPageLayout Stampanti::PaginaPredefinita()
+namespace {
+
+/// For who only wants to know something, and prints nothing.
+void RispondeSubito()
 {
     constexpr int Attimo = 300; // ms
     if (!SistemaDiStampa::Risponde(Attimo)) {
         throw SistemaDiStampa::NonRisponde();
     }
+}
+
+} // namespace
+
+QString Stampanti::NomePredefinita()
+{
+    RispondeSubito();
+    return QPrinterInfo::defaultPrinterName();
+}
+
+QPageLayout Stampanti::PaginaPredefinita()
+{
+    RispondeSubito();
     return Predefinita()->Dispositivo().pageLayout();
 }
 

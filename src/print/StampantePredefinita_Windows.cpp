@@ -2,6 +2,8 @@
 
 #include "print/Stampanti.h"
 
+#include <QPrinterInfo>
+
 namespace {
 
 /// The spooler takes the sheet while it is painted, and the printer object knows of its failures.
@@ -13,6 +15,7 @@ public:
     {
     }
     QPagedPaintDevice &Dispositivo() override { return *stampante_; }
+    QString Nome() const override { return stampante_->printerName(); }
     void Titolo(const QString &titolo) override { stampante_->setDocName(titolo); }
     ErroreSistema Rifiuto() const override
     {
@@ -35,6 +38,11 @@ private:
 };
 
 } // namespace
+
+QString Stampanti::NomePredefinita()
+{
+    return QPrinterInfo::defaultPrinterName();
+}
 
 QPageLayout Stampanti::PaginaPredefinita()
 {

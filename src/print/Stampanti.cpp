@@ -34,15 +34,15 @@ bool PdfIntero(const QString &percorso)
 class FilePdf : public Destinazione
 {
 public:
-    explicit FilePdf(const QString &percorso)
+    FilePdf(const QString &percorso, const QPageLayout &pagina)
         : percorso_(percorso)
         , scrittore_(percorso)
     {
         scrittore_.setResolution(RisoluzionePdf);
-        scrittore_.setPageSize(QPageSize(QPageSize::A4));
-        scrittore_.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
+        scrittore_.setPageLayout(pagina);
     }
     QPagedPaintDevice &Dispositivo() override { return scrittore_; }
+    QString Nome() const override { return percorso_; }
     void Titolo(const QString &titolo) override { scrittore_.setTitle(titolo); }
     ErroreSistema Rifiuto() const override
     {
@@ -105,5 +105,11 @@ std::unique_ptr<QPrinter> Stampanti::NativaPredefinita()
 
 std::unique_ptr<Destinazione> Stampanti::SuPdf(const QString &percorso)
 {
-    return std::make_unique<FilePdf>(percorso);
+    return SuPdf(percorso,
+                 QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
+}
+
+std::unique_ptr<Destinazione> Stampanti::SuPdf(const QString &percorso, const QPageLayout &pagina)
+{
+    return std::make_unique<FilePdf>(percorso, pagina);
 }

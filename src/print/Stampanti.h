@@ -27,8 +27,14 @@ std::unique_ptr<Destinazione> Predefinita();
 /// print system that is silent up within a blink.
 QPageLayout PaginaPredefinita();
 
+/// The name of the default printer, empty when there is none. Gives a print system that is silent
+/// up within a blink, and throws ErroreSistema 482 then.
+QString NomePredefinita();
+
 /// Writes an A4 sheet without margins to a PDF file, pictures lossless. Asks no print system.
 std::unique_ptr<Destinazione> SuPdf(const QString &percorso);
+/// The same with another page, such as a printer's.
+std::unique_ptr<Destinazione> SuPdf(const QString &percorso, const QPageLayout &pagina);
 
 /// The system's default printer set to its own page and margins. Throws ErroreSistema 482 when
 /// there is none. It asks the print system, and waits for it as long as that takes.

@@ -1,4 +1,4 @@
-#include "FileDiUscita.h"
+#include "print/FileDiUscita.h"
 
 #include "base/ErroreSistema.h"
 #include "grafica/Immagini.h"

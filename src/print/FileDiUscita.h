@@ -7,7 +7,7 @@
 
 struct Modello;
 
-/// The files that the command line writes.
+/// The files that the program writes beside its models: PDF sheets and pictures.
 namespace FileDiUscita {
 
 /// Throws ErroreSistema 75, whose description names the file, when one of the files must not be
