@@ -3,7 +3,8 @@
 #
 # FotografaFinestre.sh [BUILD_FOLDER]   default: build/debug
 #
-# Needs Xvfb, openbox, xdotool, ImageMagick and poppler-utils. The pictures go to BUILD_FOLDER/manuale/figure; the
+# The print view needs a printer: run it as BUILD_FOLDER/tests/coda_di_stampa manual/FotografaFinestre.sh to have one;
+# without, that picture is left as it is. Needs Xvfb, openbox, xdotool, ImageMagick and poppler-utils. The pictures go to BUILD_FOLDER/manuale/figure; the
 # next build makes the manual with them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -191,6 +192,14 @@ apreModello DDT
 impostaZoom 1.5
 pagina 5
 ritraeSchermo ImmagineSfondo
+if [ -n "${PLAKERA_FOGLI:-}" ]; then
+  attiva '^Plakera: Modello'
+  xdotool key ctrl+shift+p
+  finestra '^Vedi stampa: ' >/dev/null
+  tasti alt+l
+  ritrae VediStampa '^Vedi stampa: '
+  annulla '^Vedi stampa: '
+fi
 chiudeEditor
 
 apreModello Prova_C

@@ -14,6 +14,7 @@ struct StatoProgramma
     QString CartellaModelli;        ///< at start-up the data folder; then the open archive's models
                                     ///< folder, ending in a separator
     QString ArchivioPredefinito;    ///< archive to select at start-up; empty = "Contabilita"
+    QString CartellaEsportazione;   ///< where the last PDF went in this run; empty: none did
     QStringList ElencoFont;         ///< the printer's font names, at most 2000
     double zoom = 1;                ///< preview scale 1:n, 1 to 3; outlives the preview window
 

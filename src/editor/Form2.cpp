@@ -6,6 +6,7 @@
 #include "editor/CartaDellaStampante.h"
 #include "editor/ComandiAppunti.h"
 #include "editor/ComandiScelta.h"
+#include "editor/ComandiStampa.h"
 #include "editor/ComandiStoria.h"
 #include "editor/ComandoControlli.h"
 #include "editor/ComandoElenco.h"
@@ -103,6 +104,9 @@ bool Form2::Form_Load()
                                               QList<QWidget *>{this, anteprima_.get()});
     scelta_ = std::make_unique<ComandiScelta>(
         stato_, *anteprima_, [this] { return GenereInPagina(); }, this);
+    stampa_ = std::make_unique<ComandiStampa>(
+        stato_, *this, *anteprima_, ComandiStampa::Bottoni{ui_->VediStampa, ui_->EsportaPdf});
+    Collega(stampa_.get(), &ComandiStampa::StampaRichiesta, this, &Form2::Stampa_Click);
     appunti_ = std::make_unique<ComandiAppunti>(stato_, *this, *anteprima_);
     elenco_ = std::make_unique<ComandoElenco>(stato_, *this, *anteprima_, *storia_);
     Collega(elenco_.get(), &ComandoElenco::RichiestaProprieta, this, &Form2::ApreProprieta);
@@ -110,6 +114,7 @@ bool Form2::Form_Load()
         appunti_->AggiungeFinestra(*finestra);
         scelta_->AggiungeFinestra(*finestra);
         salva_->AggiungeFinestra(*finestra);
+        stampa_->AggiungeFinestra(*finestra);
     });
     salva_ = std::make_unique<ComandoSalva>(stato_.documento, *ui_->NonSalvato);
     Collega(salva_.get(), &ComandoSalva::Richiesto, this, &Form2::Salva_Click);

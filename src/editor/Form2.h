@@ -12,6 +12,7 @@
 class CartaDellaStampante;
 class ComandiScelta;
 class ComandiAppunti;
+class ComandiStampa;
 class ComandiStoria;
 class ComandoControlli;
 class ComandoElenco;
@@ -135,6 +136,7 @@ private:
     PaginaSfondo *sfondo_ = nullptr;
     std::unique_ptr<ComandiStoria> storia_;
     std::unique_ptr<ComandiScelta> scelta_;
+    std::unique_ptr<ComandiStampa> stampa_;
     std::unique_ptr<ComandiAppunti> appunti_;
     std::unique_ptr<ComandoElenco> elenco_;
     std::unique_ptr<ComandoSalva> salva_;

@@ -2,6 +2,7 @@
 
 #include "documento/ModelloSuFile.h"
 #include "documento/Passo.h"
+#include "editor/ComandiStampa.h"
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
 #include "editor/PaginaRighe.h"
@@ -10,22 +11,6 @@
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
 #include "preview/Frm1.h"
-#include "print/Retino.h"
-#include "print/StampaProva.h"
-#include "print/Stampanti.h"
-
-#include <QCoreApplication>
-
-namespace {
-
-/// Lets the hourglass and the place of a closed question be painted before the program waits for
-/// the print system.
-void MostraAttesa()
-{
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-} // namespace
 
 void Form2::Salva_Click()
 {
@@ -85,25 +70,17 @@ void Form2::Command7_Click()
 void Form2::Stampa_Click()
 {
     const Messaggi::Scelta scelta = Messaggi::DomandaRinunciabile(
-        this, QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
+        stampa_->Davanti(),
+        QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'"),
         Messaggi::Risposta::No);
-    if (scelta == Messaggi::Scelta::Annulla) {
-        return;
+    if (scelta != Messaggi::Scelta::Annulla) {
+        stampa_->Stampa(scelta == Messaggi::Scelta::Si);
     }
-    const PuntatoreOccupato occupato;
-    MostraAttesa();
-    const auto stampante = Stampanti::Predefinita();
-    StampaModello(stato_.Aperto(), stato_.CartellaModelli, *stampante,
-                  scelta == Messaggi::Scelta::Si,
-                  [this](const QString &testo) { Messaggi::Mostra(this, testo); });
 }
 
 void Form2::StampaRetino_Click()
 {
-    const PuntatoreOccupato occupato;
-    MostraAttesa();
-    const auto stampante = Stampanti::Predefinita();
-    StampaRetino(*stampante);
+    stampa_->StampaGriglia();
 }
 
 void Form2::Image1_Click()

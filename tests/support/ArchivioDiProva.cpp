@@ -33,6 +33,7 @@ StatoProgramma ArchivioDiProva::AltroStato() const
             .NomeFile = stato_.NomeFile,
             .CartellaModelli = stato_.CartellaModelli,
             .ArchivioPredefinito = {},
+            .CartellaEsportazione = {},
             .ElencoFont = stato_.ElencoFont,
             .zoom = stato_.zoom};
 }

@@ -1,0 +1,225 @@
+#include "editor/ComandiStampa.h"
+
+#include "base/ErroreSistema.h"
+#include "documento/StatoProgramma.h"
+#include "editor/AttesaDiStampa.h"
+#include "editor/VediStampa.h"
+#include "finestre/Comandi.h"
+#include "finestre/Finestre.h"
+#include "finestre/Guardia.h"
+#include "finestre/IconeStampa.h"
+#include "finestre/Messaggi.h"
+#include "preview/Frm1.h"
+#include "print/FileDiUscita.h"
+#include "print/Retino.h"
+#include "print/StampaProva.h"
+#include "print/Stampanti.h"
+#include "sistema/Disco.h"
+#include "sistema/Percorsi.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QScopedValueRollback>
+#include <QStandardPaths>
+#include <QToolButton>
+
+#include <limits>
+#include <optional>
+
+namespace {
+
+constexpr int LatoIcona = 20; // device-independent pixels
+
+/// Lets the hourglass and the place of a closed question be painted before the program waits for
+/// the print system.
+void MostraAttesa()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// Nothing where there is no printer, or where the print system is silent.
+std::optional<QPageLayout> PaginaDellaStampante()
+{
+    try {
+        return Stampanti::PaginaPredefinita();
+    } catch (const ErroreSistema &) {
+        return std::nullopt; // a file needs no printer
+    }
+}
+
+/// Of Qt's own: the system's would not speak Italian everywhere.
+void Prepara(QFileDialog &finestra)
+{
+    finestra.setObjectName(QStringLiteral("FinestraEsportaPdf"));
+    finestra.setOption(QFileDialog::DontUseNativeDialog);
+    finestra.setOption(QFileDialog::DontConfirmOverwrite); // asked as everywhere else
+    finestra.setAcceptMode(QFileDialog::AcceptSave);
+    finestra.setFileMode(QFileDialog::AnyFile);
+    finestra.setNameFilters(
+        {QStringLiteral("Documenti PDF (*.pdf)"), QStringLiteral("Tutti i file (*)")});
+    finestra.setDefaultSuffix(QStringLiteral("pdf"));
+    finestra.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
+    finestra.setLabelText(QFileDialog::FileName, QStringLiteral("&Nome del file:"));
+    finestra.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
+    finestra.setLabelText(QFileDialog::Accept, QStringLiteral("&Salva"));
+    finestra.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
+}
+
+void Prepara(QToolButton *bottone, QAction *comando)
+{
+    bottone->setDefaultAction(comando);
+    bottone->setAccessibleName(comando->text());
+    bottone->setIconSize(QSize(LatoIcona, LatoIcona));
+}
+
+} // namespace
+
+ComandiStampa::ComandiStampa(StatoProgramma &stato, QWidget &editore, Frm1 &anteprima,
+                             const Bottoni &bottoni)
+    : stato_(stato)
+    , editore_(editore)
+    , anteprima_(anteprima)
+{
+    QAction *stampa = CreaComando(this, QStringLiteral("ComandoStampa"),
+                                  QStringLiteral("Stampa di prova"), {Qt::CTRL | Qt::Key_P});
+    QAction *vedi =
+        CreaComando(this, QStringLiteral("ComandoVediStampa"), QStringLiteral("Vedi stampa"),
+                    {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, IconaVediStampa(LatoIcona));
+    QAction *esportaPdf =
+        CreaComando(this, QStringLiteral("ComandoEsportaPdf"), QStringLiteral("Esporta PDF..."),
+                    {Qt::CTRL | Qt::Key_E}, IconaEsporta(LatoIcona));
+    Prepara(bottoni.Vedi, vedi);
+    Prepara(bottoni.Esporta, esportaPdf);
+    connect(stampa, &QAction::triggered, this, &ComandiStampa::StampaRichiesta);
+    Collega(vedi, &QAction::triggered, &editore_, [this] { Vedi(); });
+    Collega(esportaPdf, &QAction::triggered, &editore_, [this] { EsportaPdf(false); });
+    comandi_ = {stampa, vedi, esportaPdf};
+    AggiungeFinestra(editore_);
+    AggiungeFinestra(anteprima_);
+}
+
+void ComandiStampa::AggiungeFinestra(QWidget &finestra)
+{
+    finestra.addActions(comandi_);
+}
+
+QWidget *ComandiStampa::Davanti() const
+{
+    QWidget *aperta = QApplication::activeModalWidget();
+    return aperta != nullptr ? aperta : &editore_;
+}
+
+void ComandiStampa::Dice(const QString &testo)
+{
+    anteprima_.Avverte(testo);
+    if (vista_ != nullptr) {
+        vista_->Dice(testo);
+    }
+}
+
+void ComandiStampa::Dipinge(Destinazione &destinazione, bool StampaNome, const QString &attesa)
+{
+    AttesaDiStampa avanzamento(Davanti(), attesa);
+    StampaModello(
+        stato_.Aperto(), stato_.CartellaModelli, destinazione, StampaNome,
+        [this](const QString &testo) { Messaggi::Mostra(Davanti(), testo); },
+        [&](double parte) { avanzamento.Avanza(parte); });
+}
+
+void ComandiStampa::Stampa(bool StampaNome)
+{
+    const PuntatoreOccupato occupato;
+    MostraAttesa();
+    const auto stampante = Stampanti::Predefinita();
+    try {
+        Dipinge(*stampante, StampaNome, QStringLiteral("Preparazione della stampa di prova..."));
+    } catch (const StampaAnnullata &) {
+        Dice(QStringLiteral("Stampa di prova annullata: il foglio non uscirà"));
+        return;
+    }
+    Dice(QStringLiteral("Stampa di prova inviata a ") + stampante->Nome());
+}
+
+void ComandiStampa::Vedi()
+{
+    std::optional<VediStampa> vista;
+    {
+        const PuntatoreOccupato occupato;
+        MostraAttesa();
+        const auto stampante = Stampanti::Predefinita();
+        vista.emplace(stato_, stampante->Nome(), stampante->Dispositivo().pageLayout(), &editore_);
+    }
+    connect(&*vista, &VediStampa::StampaRichiesta, this, &ComandiStampa::StampaRichiesta);
+    Collega(&*vista, &VediStampa::EsportazioneRichiesta, &*vista,
+            [this](bool StampaNome) { EsportaPdf(StampaNome); });
+    try {
+        vista->Dipinge();
+    } catch (const StampaAnnullata &) {
+        return; // who would not wait wants to see nothing
+    }
+    const QScopedValueRollback aperta(vista_, &*vista);
+    vista->exec();
+}
+
+void ComandiStampa::StampaGriglia()
+{
+    const PuntatoreOccupato occupato;
+    MostraAttesa();
+    const auto stampante = Stampanti::Predefinita();
+    StampaRetino(*stampante);
+    Dice(QStringLiteral("Griglia millimetrata inviata a ") + stampante->Nome());
+}
+
+QString ComandiStampa::ChiedeFile()
+{
+    if (stato_.CartellaEsportazione.isEmpty()) {
+        // Not beside the models: that folder is Vastrel's.
+        stato_.CartellaEsportazione =
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    }
+    QFileDialog finestra(Davanti(), QStringLiteral("Esporta PDF"), stato_.CartellaEsportazione);
+    Prepara(finestra);
+    finestra.selectFile(QFileInfo(stato_.NomeFile).completeBaseName() + QStringLiteral(".pdf"));
+    ImpostaHelp(&finestra);
+    while (finestra.exec() == QDialog::Accepted) {
+        const QString file = finestra.selectedFiles().value(0);
+        stato_.CartellaEsportazione = QFileInfo(file).absolutePath();
+        if (!QFileInfo::exists(file) ||
+            Messaggi::Domanda(Davanti(),
+                              QFileInfo(file).fileName() +
+                                  QStringLiteral(" esiste già\nLO VUOI SOSTITUIRE?"),
+                              Messaggi::Risposta::No)) {
+            return file;
+        }
+    }
+    return {};
+}
+
+void ComandiStampa::EsportaPdf(bool StampaNome)
+{
+    const QString file = ChiedeFile();
+    if (file.isEmpty()) {
+        return;
+    }
+    const PuntatoreOccupato occupato;
+    MostraAttesa();
+    FileDiUscita::Verifica({file}, Percorsi::Risolve(stato_.CartellaModelli + stato_.NomeFile),
+                           stato_.Aperto());
+    const std::optional<QPageLayout> pagina = PaginaDellaStampante();
+    try {
+        FileDiUscita::Scrive(file, [&](const QString &appoggio) {
+            const auto foglio =
+                pagina ? Stampanti::SuPdf(appoggio, *pagina) : Stampanti::SuPdf(appoggio);
+            Dipinge(*foglio, StampaNome, QStringLiteral("Preparazione del PDF..."));
+            return Disco::Legge(appoggio, std::numeric_limits<qint64>::max());
+        });
+    } catch (const StampaAnnullata &) {
+        Dice(QStringLiteral("Esportazione annullata: nessun file è stato scritto"));
+        return;
+    }
+    Dice(QStringLiteral("Esportato in %1%2")
+             .arg(file,
+                  pagina ? QString() : QStringLiteral(" (A4 senza margini: nessuna stampante)")));
+}

@@ -1,0 +1,276 @@
+#include "StoriaDiProva.h"
+
+#include "editor/AttesaDiStampa.h"
+#include "print/Avanzamento.h"
+#include "support/LettorePdf.h"
+#include "support/Rettangoli.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace {
+
+const auto Domanda = QStringLiteral("stampo il 'NOME' dei campi invece del 'TESTO DI PROVA'");
+const auto SenzaStampante =
+    QStringLiteral("errore 482 Nessuna stampante predefinita è impostata.\nSceglierne una nelle "
+                   "impostazioni del sistema, alla voce Stampanti, e ripetere.");
+
+/// An editor, and a folder for the files that it writes.
+class Prova : public StoriaDiProva
+{
+public:
+    QString Striscia() const { return Trova<QLabel>(Anteprima(), "Text1")->text(); }
+    QString In(const QString &nome) const { return cartella_.filePath(nome); }
+    void Esporta() const { Bottone("EsportaPdf")->click(); }
+    /// What the command line, and the printer, would put on the same page.
+    LettorePdf Atteso(bool StampaNome = false) const
+    {
+        const QString pdf = In(QStringLiteral("atteso.pdf"));
+        StampaModello(Aperto(), Archivio.Stato().CartellaModelli, *Stampanti::SuPdf(pdf),
+                      StampaNome, [](const QString &) {});
+        return LettorePdf(pdf);
+    }
+
+private:
+    QTemporaryDir cartella_;
+};
+
+/// Writes a name into the window that asks for one, and saves.
+std::function<void(QDialog *)> Salva(const QString &nome)
+{
+    return [nome](QDialog *finestra) {
+        auto *casella = finestra->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        if (casella == nullptr) {
+            qFatal("no box for a name");
+        }
+        casella->setText(nome);
+        QTest::keyClick(casella, Qt::Key_Return);
+    };
+}
+
+QByteArray Byte(const QString &percorso)
+{
+    QFile file(percorso);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool StesseParole(const LettorePdf &uno, const LettorePdf &altro)
+{
+    return uno.Parole().size() == altro.Parole().size() && !uno.Parole().isEmpty() &&
+           std::equal(uno.Parole().begin(), uno.Parole().end(), altro.Parole().begin(),
+                      [](const auto &a, const auto &b) {
+                          return a.Testo == b.Testo && Vicini(a.Millimetri, b.Millimetri, 0.01);
+                      });
+}
+
+} // namespace
+
+/// The keys and buttons that put the model on paper or into a PDF, where there is no printer.
+class tst_ComandiStampa : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void ctrlPChiedeComeIlBottone_data();
+    void ctrlPChiedeComeIlBottone();
+    void ilPdfEQuelloDellaStampa();
+    void ilPdfProponeIlNomeDelModello();
+    void cartellaRicordataTraIModelli();
+    void sostituisceSoloSeSiVuole();
+    void maiUnModello_data();
+    void maiUnModello();
+    void cartellaNonScrivibile();
+    void rinunciaAlNome();
+    void unaLungaAttesaSiAnnulla();
+    void unaBreveAttesaNonSiVede();
+};
+
+void tst_ComandiStampa::initTestCase()
+{
+    qputenv("CUPS_SERVER", "/nessuno/cups.sock"); // whatever this machine prints on
+}
+
+void tst_ComandiStampa::ctrlPChiedeComeIlBottone_data()
+{
+    QTest::addColumn<bool>("dallAnteprima");
+    QTest::newRow("in the editor") << false;
+    QTest::newRow("in the preview") << true;
+}
+
+void tst_ComandiStampa::ctrlPChiedeComeIlBottone()
+{
+    QFETCH(bool, dallAnteprima);
+    const Prova prova;
+    Robot robot;
+    robot.No().Ok();
+    prova.Tasto(dallAnteprima ? static_cast<QWidget &>(prova.Anteprima()) : *prova.Editor,
+                Qt::Key_P, Qt::ControlModifier);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi(), (QStringList{Domanda, SenzaStampante}));
+    QCOMPARE(prova.Striscia(), QString());
+    QVERIFY(!prova.Archivio.Stato().documento.Variato());
+}
+
+void tst_ComandiStampa::ilPdfEQuelloDellaStampa()
+{
+    const Prova prova;
+    Robot robot;
+    const QString file = prova.In(QStringLiteral("uscita.pdf"));
+    // The one picture of the model has no file: told as while printing, and the rest is there.
+    robot.Agisce(Salva(file)).Ok();
+    prova.Tasto(prova.Anteprima(), Qt::Key_E, Qt::ControlModifier);
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(robot.Testi().constLast().startsWith(QStringLiteral("StampaImmagine: ")));
+    const LettorePdf pdf(file);
+    QCOMPARE(pdf.Pagine(), 1);
+    QVERIFY(Vicini(pdf.Foglio().width(), 210) && Vicini(pdf.Foglio().height(), 297));
+    QVERIFY(StesseParole(pdf, prova.Atteso()));
+    QVERIFY(pdf.Pixel() == prova.Atteso().Pixel());
+    QCOMPARE(prova.Striscia(),
+             QStringLiteral("Esportato in %1 (A4 senza margini: nessuna stampante)").arg(file));
+    QVERIFY(!prova.Archivio.Stato().documento.Variato());
+}
+
+void tst_ComandiStampa::ilPdfProponeIlNomeDelModello()
+{
+    const Prova prova;
+    Robot robot;
+    QString proposto;
+    robot.Agisce([&](QDialog *finestra) {
+        proposto = finestra->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text();
+        finestra->reject();
+    });
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(proposto, QStringLiteral("Prova.pdf"));
+}
+
+void tst_ComandiStampa::cartellaRicordataTraIModelli()
+{
+    Prova prova;
+    Robot robot;
+    robot.Agisce(Salva(prova.In(QStringLiteral("uno")))).Ok();
+    prova.Esporta();
+    QVERIFY(QFile::exists(prova.In(QStringLiteral("uno.pdf"))));
+    // The next editor of the same run begins there.
+    prova.Archivio.Stato().documento.Salvato();
+    Form2 altro(prova.Archivio.Stato());
+    QVERIFY(altro.Form_Load());
+    QString cartella;
+    robot.Agisce([&](QDialog *finestra) {
+        cartella = static_cast<QFileDialog *>(finestra)->directory().path();
+        finestra->reject();
+    });
+    ::Preme(altro, "EsportaPdf");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(cartella, QFileInfo(prova.In(QStringLiteral("uno"))).path());
+}
+
+void tst_ComandiStampa::sostituisceSoloSeSiVuole()
+{
+    const Prova prova;
+    const QString file = prova.In(QStringLiteral("vecchio.pdf"));
+    ImmaginiDiProva::Scrive(file, "quello di prima");
+    Robot robot;
+    // No asks for another name; Escape gives the whole up.
+    robot.Agisce(Salva(file)).No().Annulla();
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().at(1), QStringLiteral("vecchio.pdf esiste già\nLO VUOI SOSTITUIRE?"));
+    QCOMPARE(robot.Predefiniti().at(1), QStringLiteral("&No"));
+    QCOMPARE(Byte(file), QByteArray("quello di prima"));
+    QCOMPARE(prova.Striscia(), QString());
+    robot.Agisce(Salva(file)).Si().Ok();
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(StesseParole(LettorePdf(file), prova.Atteso()));
+}
+
+void tst_ComandiStampa::maiUnModello_data()
+{
+    QTest::addColumn<QString>("nome");
+    QTest::newRow("the open one") << QStringLiteral("Prova.Mod");
+    QTest::newRow("in another spelling") << QStringLiteral("PROVA.MOD");
+    QTest::newRow("a new one") << QStringLiteral("Altro.mod");
+}
+
+void tst_ComandiStampa::maiUnModello()
+{
+    QFETCH(QString, nome);
+    const Prova prova;
+    const QByteArray prima = prova.Archivio.ByteDelFile();
+    const QString file = prova.Archivio.Stato().CartellaModelli + nome;
+    const bool esiste = QFile::exists(file);
+    Robot robot;
+    robot.Agisce(Salva(file));
+    if (esiste) {
+        robot.Si();
+    }
+    robot.Ok();
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constLast(),
+             QStringLiteral("errore 75 il modello non può essere sovrascritto: ") + file);
+    QCOMPARE(prova.Archivio.ByteDelFile(), prima);
+    QCOMPARE(QFile::exists(file), esiste);
+}
+
+void tst_ComandiStampa::cartellaNonScrivibile()
+{
+    const Prova prova;
+    Robot robot;
+    robot.Agisce(Salva(QStringLiteral("/proc/uscita.pdf")))
+        .Ok(); // refused to the administrator too
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(robot.Testi().constLast().contains(
+        QStringLiteral("impossibile scrivere /proc/uscita.pdf: ")));
+    QCOMPARE(prova.Striscia(), QString());
+}
+
+void tst_ComandiStampa::rinunciaAlNome()
+{
+    const Prova prova;
+    Robot robot;
+    robot.Annulla();
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(prova.Striscia(), QString());
+    QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+}
+
+void tst_ComandiStampa::unaLungaAttesaSiAnnulla()
+{
+    QWidget finestra;
+    finestra.show();
+    Robot robot;
+    robot.Agisce([](QDialog *attesa) {
+        QCOMPARE(attesa->findChild<QLabel *>()->text(), QStringLiteral("Si aspetta"));
+        Trova<QProgressDialog>(*attesa->parentWidget(), "AttesaDiStampa")
+            ->findChild<QPushButton *>()
+            ->click();
+    });
+    AttesaDiStampa attesa(&finestra, QStringLiteral("Si aspetta"), 0);
+    const auto aspetta = [&] {
+        for (QDeadlineTimer fine(5000); !fine.hasExpired();) {
+            attesa.Avanza(0.5);
+        }
+    };
+    QVERIFY_EXCEPTION_THROWN(aspetta(), StampaAnnullata);
+    QVERIFY(robot.Soddisfatto());
+}
+
+void tst_ComandiStampa::unaBreveAttesaNonSiVede()
+{
+    QWidget finestra;
+    AttesaDiStampa attesa(&finestra, QStringLiteral("Si aspetta"));
+    attesa.Avanza(0);
+    attesa.Avanza(0.9);
+    QVERIFY(finestra.findChild<QProgressDialog *>() == nullptr);
+}
+
+QTEST_MAIN(tst_ComandiStampa)
+#include "tst_ComandiStampa.moc"
