@@ -182,6 +182,14 @@ ritraeSchermo PosizioneRighe
 tasti alt+a
 pagina 4
 ritrae Spostamento '^Plakera: Modello'
+tasti alt+o
+finestra '^Correggi da griglia$' >/dev/null
+for posto in 20 30 18 31; do
+  scrive "$posto"
+  tasti Tab
+done
+ritrae Correzione '^Correggi da griglia$'
+annulla '^Correggi da griglia$'
 impostaZoom 2
 sulFoglio 30 42
 sleep 2 # for the tooltip
@@ -218,7 +226,8 @@ convert "$prova/testi.png" "$prova/nomi.png" -bordercolor gray -border 2 \
   -bordercolor white -border 12 +append "$figure/StampaProva.png"
 
 for f in FinestraIniziale NuovoModello FinestraLavoro ImpostazioniCampo ImpostazioniCornice \
-         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento ImmagineSfondo Controlli StampaProva; do
+         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento Correzione ImmagineSfondo \
+         Controlli StampaProva; do
   [ -s "$figure/$f.png" ] || { echo "FotografaFinestre: no $f" >&2; exit 1; }
 done
 echo "pictures in $figure"

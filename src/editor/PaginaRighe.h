@@ -28,6 +28,8 @@ public:
 
     /// Shows the model's values; the simulation is off in a freshly opened model.
     void Mostra();
+    /// The boxes show the model; what was typed and not confirmed is lost.
+    void RiempieCaselle();
 
     void ConfermaPosizioneRighe_Click();
     void OptSimuloRighe_Click();
@@ -53,7 +55,6 @@ private:
     void SegnalaNonConfermati();
     bool Confermata(const Casella &casella) const;
     void SegueDocumento(const Cambiamento &cambiamento);
-    void RiempieCaselle();
 
     std::unique_ptr<Ui::PaginaRighe> ui_;
     StatoProgramma &stato_;

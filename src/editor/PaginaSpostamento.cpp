@@ -3,6 +3,7 @@
 #include "base/ErroreSistema.h"
 #include "dialogs/MemoriaCaselle.h"
 #include "documento/Passo.h"
+#include "editor/FrmCorrezione.h"
 #include "editor/TestiEsplicativi.h"
 #include "finestre/AvvisoCasella.h"
 #include "finestre/Finestre.h"
@@ -10,7 +11,23 @@
 #include "finestre/Messaggi.h"
 #include "model/Numeri.h"
 #include "preview/Frm1.h"
+#include "print/Stampanti.h"
+#include "sistema/CartellaStato.h"
 #include "ui_PaginaSpostamento.h"
+
+namespace {
+
+/// Empty without a printer, or with a print system that is silent: nothing is proposed then.
+QString StampanteSeCE()
+{
+    try {
+        return Stampanti::NomePredefinita();
+    } catch (const ErroreSistema &) {
+        return {};
+    }
+}
+
+} // namespace
 
 PaginaSpostamento::PaginaSpostamento(StatoProgramma &stato, Frm1 &anteprima, QWidget *padre)
     : QWidget(padre)
@@ -31,6 +48,8 @@ void PaginaSpostamento::Collegamenti()
     Collega(ui_->Command2, &QPushButton::clicked, this, &PaginaSpostamento::Command2_Click);
     Collega(ui_->Command5, &QPushButton::clicked, this, &PaginaSpostamento::Command5_Click);
     Collega(ui_->Command6, &QPushButton::clicked, this, &PaginaSpostamento::Command6_Click);
+    Collega(ui_->CorreggiDaGriglia, &QPushButton::clicked, this,
+            &PaginaSpostamento::CorreggiDaGriglia_Click);
 }
 
 void PaginaSpostamento::Mostra()
@@ -51,6 +70,22 @@ void PaginaSpostamento::Command5_Click()
 void PaginaSpostamento::Command6_Click()
 {
     Sposta(Genere::Immagine);
+}
+
+void PaginaSpostamento::CorreggiDaGriglia_Click()
+{
+    FrmCorrezione dialogo(stato_, StampanteSeCE(), CartellaStato(), window());
+    dialogo.exec();
+    if (dialogo.Detto().isEmpty()) {
+        return;
+    }
+    if (dialogo.Mosse().Righe) {
+        emit SpostateRighe();
+    }
+    if (dialogo.Mosse().Sfondo) {
+        emit SpostatoSfondo();
+    }
+    anteprima_.Avverte(dialogo.Detto());
 }
 
 void PaginaSpostamento::Sposta(Genere genere)

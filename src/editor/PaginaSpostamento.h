@@ -27,8 +27,14 @@ public:
     void Command5_Click(); ///< all frames and labels
     void Command6_Click(); ///< all images
 
+signals:
+    /// The row area, or the scan, has been moved: boxes that show it are to be filled again.
+    void SpostateRighe();
+    void SpostatoSfondo();
+
 private:
     void Collegamenti();
+    void CorreggiDaGriglia_Click();
     void Sposta(Genere genere);
 
     std::unique_ptr<Ui::PaginaSpostamento> ui_;

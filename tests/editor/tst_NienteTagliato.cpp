@@ -1,10 +1,14 @@
 #include "EditoreDiProva.h"
 #include "catalogue/SelezioneArchivifrm.h"
+#include "documento/UltimeCorrezioni.h"
+#include "editor/FrmCorrezione.h"
+#include "editor/VediStampa.h"
 #include "finestre/Sfoglia.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -35,6 +39,9 @@ private slots:
     void Rilievi();
     void Dialogo_data();
     void Dialogo();
+    void VediLaStampa();
+    void Correzione_data();
+    void Correzione();
     void Sfogliando();
 
 private:
@@ -348,6 +355,58 @@ void tst_NienteTagliato::Dialogo()
              genere == Genere::Immagine ? QStringLiteral("Descrizione") : QStringLiteral("Testo"));
     QCOMPARE(mancati, 0);
     QVERIFY(controllati > 15);
+}
+
+void tst_NienteTagliato::VediLaStampa()
+{
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    VediStampa finestra(prova.Archivio.Stato(), QStringLiteral("Stampante dell'ufficio/bolle"),
+                        QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                    QMarginsF(4, 5, 6, 7), QPageLayout::Millimeter),
+                        prova.Editor.get());
+    finestra.Dipinge();
+    finestra.show();
+    finestra.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&finestra));
+    QVERIFY(Controlla(finestra) > 10);
+    QCOMPARE(NonSiRaggiungono(finestra), 0);
+}
+
+void tst_NienteTagliato::Correzione_data()
+{
+    QTest::addColumn<bool>("scala");
+    QTest::newRow("a shift") << false;
+    QTest::newRow("the longest answer") << true;
+}
+
+void tst_NienteTagliato::Correzione()
+{
+    QFETCH(bool, scala);
+    EditoreDiProva prova;
+    QVERIFY(Apre(prova));
+    const auto stampante = QStringLiteral("Laser");
+    UltimeCorrezioni(prova.Archivio.CartellaStato())
+        .Ricorda(stampante, QStringLiteral("/altro.Mod"), {12, -11});
+    FrmCorrezione dialogo(prova.Archivio.Stato(), stampante, prova.Archivio.CartellaStato(),
+                          prova.Editor.get());
+    dialogo.show();
+    dialogo.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialogo));
+    QCOMPARE(dialogo.focusWidget()->objectName(), QStringLiteral("AttesoX1"));
+    Trova<QCheckBox>(dialogo, "DueSegni")->setChecked(scala);
+    const auto scrive = [&](const char *nome, const char *testo) {
+        Controlli::Digita(dialogo, nome, QString::fromLatin1(testo));
+    };
+    for (const char *nome : {"AttesoX1", "AttesoY1", "UscitoX1", "UscitoY1"}) {
+        scrive(nome, "20");
+    }
+    scrive("AttesoX2", "123.4");
+    scrive("AttesoY2", "234.5");
+    scrive("UscitoX2", "145.6");
+    scrive("UscitoY2", "256.7");
+    QVERIFY(Controlla(dialogo) > 25);
+    QCOMPARE(NonSiRaggiungono(dialogo), 0);
 }
 
 void tst_NienteTagliato::Sfogliando()

@@ -1,6 +1,9 @@
 #include "EditoreDiProva.h"
 #include "catalogue/SelezioneArchivifrm.h"
+#include "documento/UltimeCorrezioni.h"
+#include "editor/FrmCorrezione.h"
 #include "editor/FrmLavoroRimasto.h"
+#include "editor/VediStampa.h"
 #include "finestre/ComboAccessibile.h"
 #include "finestre/Contrasto.h"
 #include "finestre/Messaggi.h"
@@ -203,6 +206,8 @@ private slots:
     void Rilievi();
     void Dialogo_data() { RigheDiGenere(); }
     void Dialogo();
+    void VediLaStampa();
+    void Correzione();
     void Sfogliando();
     void NomeDiUnModello();
     void LavoroRimasto();
@@ -295,6 +300,29 @@ void tst_NomiAccessibili::Dialogo()
     prova.ApreProprieta(Genere(genere), 1);
     QVERIFY(robot.Soddisfatto());
     QVERIFY(controllati > 10);
+}
+
+void tst_NomiAccessibili::VediLaStampa()
+{
+    EditorAperto prova(1);
+    VediStampa finestra(prova.Stato(), QStringLiteral("Laser"),
+                        QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()),
+                        nullptr);
+    finestra.Dipinge();
+    finestra.show();
+    QVERIFY(Controlla(finestra) >= 10);
+    GiraColTabulatore(finestra);
+}
+
+void tst_NomiAccessibili::Correzione()
+{
+    EditorAperto prova(1);
+    UltimeCorrezioni(prova.CartellaStato())
+        .Ricorda(QStringLiteral("Laser"), QStringLiteral("/altro.Mod"), {2, -1});
+    FrmCorrezione dialogo(prova.Stato(), QStringLiteral("Laser"), prova.CartellaStato(), nullptr);
+    dialogo.show();
+    QVERIFY(Controlla(dialogo) >= 17);
+    GiraColTabulatore(dialogo);
 }
 
 void tst_NomiAccessibili::Sfogliando()
