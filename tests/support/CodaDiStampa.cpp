@@ -109,12 +109,13 @@ void CodaDiStampa::Prepara()
                           "PageLog %1/log/page\n")
                .arg(radice));
     Scrive(In(QStringLiteral("cupsd.conf")),
-           QStringLiteral("Listen %1\nLogLevel warn\nBrowsing Off\nWebInterface No\n"
-                          "DefaultAuthType None\n"
-                          "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
-                          "<Location /admin>\nOrder allow,deny\nAllow all\n</Location>\n"
-                          "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
-                          "<Limit All>\nOrder deny,allow\n</Limit>\n</Policy>\n")
+           QStringLiteral(
+               "Listen %1\nPreserveJobFiles Yes\nLogLevel warn\nBrowsing Off\nWebInterface No\n"
+               "DefaultAuthType None\n"
+               "<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+               "<Location /admin>\nOrder allow,deny\nAllow all\n</Location>\n"
+               "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n"
+               "<Limit All>\nOrder deny,allow\n</Limit>\n</Policy>\n")
                .arg(Server()));
     istanza_ = QStringLiteral("plakera-") + QString::number(getpid()) + QLatin1Char('-') +
                QFileInfo(radice).fileName().right(6);
@@ -250,6 +251,17 @@ void CodaDiStampa::SvuotaSpool()
                           {QStringLiteral("-l"), In(QStringLiteral("spool"))}) != 0) {
         Fallisce(QStringLiteral("cannot empty the spool"));
     }
+}
+
+QString CodaDiStampa::Documento() const
+{
+    const QDir spool(In(QStringLiteral("spool")));
+    // Numbered as the jobs are, with leading zeros.
+    const QStringList nomi = spool.entryList({QStringLiteral("d*-*")}, QDir::Files, QDir::Name);
+    if (nomi.isEmpty()) {
+        Fallisce(QStringLiteral("the server keeps no document"));
+    }
+    return spool.filePath(nomi.last());
 }
 
 QStringList CodaDiStampa::Fogli()

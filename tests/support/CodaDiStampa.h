@@ -63,6 +63,9 @@ public:
     /// Waits until no job is left, then names the sheets that have come since the last call, oldest
     /// first. Throws std::runtime_error when the queue does not come to rest.
     QStringList Fogli();
+    /// The document of the last job as it was handed over, before any filter: a PDF. Throws
+    /// std::runtime_error when there is none.
+    QString Documento() const;
 
 private:
     void Prepara();
