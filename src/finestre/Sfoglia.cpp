@@ -8,6 +8,7 @@
 #include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
+#include "finestre/MiniatureFile.h"
 #include "sistema/Percorsi.h"
 #include "sistema/PercorsoNellaCartella.h"
 #include "sistema/Volumi.h"
@@ -83,6 +84,7 @@ Sfoglia::Sfoglia(QWidget *padre)
 {
     ui_->setupUi(this);
     ui_->File1->setModel(file_);
+    miniature_ = new MiniatureFile(ui_->File1);
     resize(EntroLoSchermo(this, size()));
     FermaRotella(this);
     LimitaElenchi(this);
@@ -251,6 +253,7 @@ void Sfoglia::ElencaCartelle(const QStringList &figlie)
 
 void Sfoglia::Dir1_Change()
 {
+    miniature_->ImpostaCartella(cartella_);
     file_->setStringList(nomiFile_);
     ui_->CartellaInVista->setText(cartella_);
     ui_->CartellaInVista->setToolTip(cartella_);

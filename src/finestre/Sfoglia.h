@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class MiniatureFile;
 class QLabel;
 class QStringListModel;
 
@@ -61,6 +62,7 @@ private:
 
     std::unique_ptr<Ui::Sfoglia> ui_;
     QStringListModel *file_;
+    MiniatureFile *miniature_;
     QString cartella_;
     QString partenza_;
     QStringList nomiFile_;  ///< of the open folder, read together with it

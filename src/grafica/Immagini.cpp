@@ -52,6 +52,14 @@ QImage Immagini::CaricaScalata(const QString &percorso, const QSize &pixel)
     return scalata;
 }
 
+QImage Immagini::Miniatura(const QString &percorso, const QSize &entro)
+{
+    LettoreImmagine lettore(percorso);
+    const QSize propria = lettore.Pixel();
+    const QSize dentro = propria.scaled(entro, Qt::KeepAspectRatio).expandedTo({1, 1});
+    return lettore.DecodificaOpaca(dentro.boundedTo(propria));
+}
+
 Immagini::Opaca Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
 {
     if (massimo.isEmpty()) {

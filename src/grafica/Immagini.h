@@ -33,6 +33,10 @@ QImage Carica(const QString &percorso);
 /// read scaled where the format can. Throws ErroreSistema 53 or 481.
 QImage CaricaScalata(const QString &percorso, const QSize &pixel);
 
+/// The picture with its proportions, on white where it is transparent, as large as fits into entro
+/// (device pixels, both positive) but never above its own size. Throws ErroreSistema 53 or 481.
+QImage Miniatura(const QString &percorso, const QSize &entro);
+
 /// A picture without transparency, in RGB32.
 struct Opaca
 {
