@@ -2,11 +2,13 @@
 
 #include "ui_FrmImmagine.h"
 
+#include "dialogs/ImportaImmagine.h"
 #include "dialogs/Riduzione.h"
 #include "finestre/FiltroAnsi.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
+#include "finestre/MiniatureFile.h"
 #include "grafica/Immagini.h"
 #include "model/Numeri.h"
 #include "sistema/Percorsi.h"
@@ -33,6 +35,7 @@ QString NumeroSingolo(double valore)
 FrmImmagine::FrmImmagine(StatoProgramma &stato, QWidget *padre)
     : FrmElemento(Genere::Immagine, stato, padre)
     , ui_(std::make_unique<Ui::FrmImmagine>())
+    , importa_(std::make_unique<ImportaImmagine>(stato, this))
 {
     ui_->setupUi(this);
     Form_Load();
@@ -45,6 +48,7 @@ void FrmImmagine::Form_Load()
 {
     FrmElemento::Form_Load({ui_->Num, ui_->Nome, ui_->Descrizione, ui_->X, ui_->Y});
     ui_->FileImmagini->installEventFilter(this);
+    miniature_ = new MiniatureFile(ui_->FileImmagini);
     ui_->Label4->setText(Stato().CartellaModelli);
     ui_->Label4->setToolTip(Stato().CartellaModelli);
 }
@@ -52,6 +56,7 @@ void FrmImmagine::Form_Load()
 void FrmImmagine::CollegaSegnali()
 {
     Collega(ui_->FileImmagini, &QListWidget::itemClicked, this, &FrmImmagine::FileImmagini_Click);
+    Collega(ui_->Importa, &QPushButton::clicked, this, &FrmImmagine::Importa_Click);
     Collega(ui_->Command1, &QPushButton::clicked, this, &FrmImmagine::Command1_Click);
     Collega(ui_->Confema, &QPushButton::clicked, this, &FrmImmagine::Confema_Click);
     Collega(ui_->Elimina, &QPushButton::clicked, this, &FrmImmagine::Elimina_Click);
@@ -72,6 +77,7 @@ void FrmImmagine::Carica(int k)
 void FrmImmagine::RiempieFileImmagini()
 {
     ui_->FileImmagini->clear();
+    miniature_->ImpostaCartella(Stato().CartellaModelli);
     // The first pattern has no point: a name that only ends in "jpg" is a picture too.
     ui_->FileImmagini->addItems(
         Percorsi::FileConModello(Stato().CartellaModelli, QStringLiteral("*jpg;*.bmp;*.gif")));
@@ -80,13 +86,19 @@ void FrmImmagine::RiempieFileImmagini()
 
 void FrmImmagine::IndicaFileScelto()
 {
-    ui_->FileImmagini->setCurrentItem(nullptr);
+    ui_->FileImmagini->setCurrentItem(VoceDi(ui_->Nome->text()));
+}
+
+QListWidgetItem *FrmImmagine::VoceDi(const QString &nome) const
+{
+    QListWidgetItem *trovata = nullptr;
     for (int i = 0; i < ui_->FileImmagini->count(); ++i) {
         QListWidgetItem *voce = ui_->FileImmagini->item(i);
-        if (voce->text().compare(ui_->Nome->text(), Qt::CaseInsensitive) == 0) {
-            ui_->FileImmagini->setCurrentItem(voce);
+        if (voce->text().compare(nome, Qt::CaseInsensitive) == 0) {
+            trovata = voce;
         }
     }
+    return trovata;
 }
 
 bool FrmImmagine::eventFilter(QObject *oggetto, QEvent *evento)
@@ -128,6 +140,25 @@ void FrmImmagine::FileImmagini_Click(QListWidgetItem *voce)
 void FrmImmagine::Command1_Click()
 {
     ImpostaImmagine();
+}
+
+void FrmImmagine::Importa_Click()
+{
+    const QString nome = importa_->Importa();
+    if (nome.isEmpty()) {
+        return;
+    }
+    RiempieFileImmagini();
+    QListWidgetItem *voce = VoceDi(nome);
+    if (voce == nullptr) {
+        return; // taken away meanwhile
+    }
+    ui_->FileImmagini->setCurrentItem(voce);
+    FileImmagini_Click(voce);
+    const Immagine &immagine = Aperto().Immagini[Indice()];
+    if (immagine.Nome == nome) {
+        importa_->Adegua({immagine.Larghezza, immagine.Altezza});
+    }
 }
 
 void FrmImmagine::ImpostaImmagine()

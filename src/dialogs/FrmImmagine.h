@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class ImportaImmagine;
+class MiniatureFile;
 class QListWidgetItem;
 
 namespace Ui {
@@ -36,12 +38,14 @@ private:
     void CollegaSegnali();
     void FileImmagini_Click(QListWidgetItem *voce);
     void Command1_Click();
+    void Importa_Click();
     void Confema_Click();
     void Elimina_Click();
     void ImpostaImmagine();
 
     void RiempieFileImmagini();
     bool SceglieConTasto(int tasto);
+    QListWidgetItem *VoceDi(const QString &nome) const;
     /// Makes the file that the record names the current one of the list.
     void IndicaFileScelto();
     /// Natural size in mm, which the preview's scratch image Itmp would take; 0 x 0, as without a
@@ -56,4 +60,6 @@ private:
     void ScriveSubito();
 
     std::unique_ptr<Ui::FrmImmagine> ui_;
+    MiniatureFile *miniature_ = nullptr;
+    std::unique_ptr<ImportaImmagine> importa_;
 };

@@ -13,6 +13,7 @@ struct StatoProgramma
     QString NomeFile;               ///< of the model chosen in the catalogue, with ".Mod"
     QString CartellaModelli;        ///< at start-up the data folder; then the open archive's models
                                     ///< folder, ending in a separator
+    QString CartellaImportate;      ///< where the last picture brought in comes from; empty = none
     QString ArchivioPredefinito;    ///< archive to select at start-up; empty = "Contabilita"
     QString CartellaEsportazione;   ///< where the last PDF went in this run; empty: none did
     QStringList ElencoFont;         ///< the printer's font names, at most 2000

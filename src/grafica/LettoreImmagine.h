@@ -30,6 +30,10 @@ public:
     /// turned, or put together from its inks.
     qint64 Sostenibili(qint64 pixel) const;
 
+    /// Nothing about the file needs more than its pixels as they are stored: it is not to be
+    /// turned, nor put together from inks.
+    bool Semplice() const { return !copiata_ && intestazione_.Componenti <= 3; }
+
     /// Size after rotation, at the resolution that the file states.
     QSizeF Millimetri() const;
 

@@ -32,6 +32,7 @@ StatoProgramma ArchivioDiProva::AltroStato() const
     return {.documento = {},
             .NomeFile = stato_.NomeFile,
             .CartellaModelli = stato_.CartellaModelli,
+            .CartellaImportate = {},
             .ArchivioPredefinito = {},
             .CartellaEsportazione = {},
             .ElencoFont = stato_.ElencoFont,

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
 
@@ -87,7 +88,9 @@ Robot &Robot::Agisce(std::function<void(QDialog *)> azione)
 void Robot::Guarda()
 {
     auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (dialogo == nullptr || !dialogo->isVisible() || visti_.contains(dialogo)) {
+    // What only says that something takes its time asks nothing, and comes on slow machines only.
+    if (dialogo == nullptr || !dialogo->isVisible() || visti_.contains(dialogo) ||
+        qobject_cast<const QProgressDialog *>(dialogo) != nullptr) {
         return;
     }
     visti_.append(dialogo);

@@ -10,7 +10,7 @@ class QDialog;
 
 /// Answers the modal boxes that an action opens, in order, with the real buttons, and keeps what
 /// they said. A box that no answer waits for is closed and counted as unexpected; a test that looks
-/// neither at Soddisfatto nor at Testi fails for it.
+/// neither at Soddisfatto nor at Testi fails for it. Progress boxes go unanswered.
 class Robot : public QObject
 {
     Q_OBJECT
