@@ -3,6 +3,7 @@
 #include "ui_FrmImmagine.h"
 
 #include "dialogs/ImportaImmagine.h"
+#include "dialogs/Proporzioni.h"
 #include "dialogs/Riduzione.h"
 #include "finestre/FiltroAnsi.h"
 #include "finestre/Finestre.h"
@@ -49,6 +50,8 @@ void FrmImmagine::Form_Load()
     FrmElemento::Form_Load({ui_->Num, ui_->Nome, ui_->Descrizione, ui_->X, ui_->Y});
     ui_->FileImmagini->installEventFilter(this);
     miniature_ = new MiniatureFile(ui_->FileImmagini);
+    proporzioni_ = std::make_unique<Proporzioni>(
+        ui_->Proporzioni, Proporzioni::Caselle{ui_->Largh, ui_->Alt}, Caselle());
     ui_->Label4->setText(Stato().CartellaModelli);
     ui_->Label4->setToolTip(Stato().CartellaModelli);
 }
@@ -178,6 +181,13 @@ void FrmImmagine::ImpostaImmagine()
 }
 
 QSizeF FrmImmagine::MisuraImmagine()
+{
+    const QSizeF misura = LeggeMisura();
+    proporzioni_->ImpostaNaturale(misura);
+    return misura;
+}
+
+QSizeF FrmImmagine::LeggeMisura()
 {
     MostraAvviso({});
     const QString nome = Caselle().Testo(ui_->Nome);

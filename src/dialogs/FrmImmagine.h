@@ -8,6 +8,7 @@
 
 class ImportaImmagine;
 class MiniatureFile;
+class Proporzioni;
 class QListWidgetItem;
 
 namespace Ui {
@@ -51,6 +52,7 @@ private:
     /// Natural size in mm, which the preview's scratch image Itmp would take; 0 x 0, as without a
     /// picture in it, for one that cannot be loaded, which a line below the list then says.
     QSizeF MisuraImmagine();
+    QSizeF LeggeMisura();
     void MostraAvviso(const QString &testo);
     /// Proposes the percentage that makes a large picture fit and shows the reduced size; false
     /// when the user wants none.
@@ -61,5 +63,6 @@ private:
 
     std::unique_ptr<Ui::FrmImmagine> ui_;
     MiniatureFile *miniature_ = nullptr;
+    std::unique_ptr<Proporzioni> proporzioni_;
     std::unique_ptr<ImportaImmagine> importa_;
 };
