@@ -200,6 +200,18 @@ apreModello DDT
 impostaZoom 1.5
 pagina 5
 ritraeSchermo ImmagineSfondo
+# Two points on the upper line of the form, and how far they are from each other.
+tasti alt+l
+calibra=$(finestra "^Calibra l'immagine")
+tasti alt+p
+xdotool mousemove --sync --window "$calibra" 176 83 click 1
+quiete
+xdotool mousemove --sync --window "$calibra" 508 83 click 1
+quiete
+tasti alt+z
+scrive 190
+ritrae Calibra "^Calibra l'immagine"
+annulla "^Calibra l'immagine"
 if [ -n "${PLAKERA_FOGLI:-}" ]; then
   attiva '^Plakera: Modello'
   xdotool key ctrl+shift+p
@@ -226,7 +238,7 @@ convert "$prova/testi.png" "$prova/nomi.png" -bordercolor gray -border 2 \
   -bordercolor white -border 12 +append "$figure/StampaProva.png"
 
 for f in FinestraIniziale NuovoModello FinestraLavoro ImpostazioniCampo ImpostazioniCornice \
-         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento Correzione ImmagineSfondo \
+         ImpostazioniImmagine Anteprima Copertina PosizioneRighe Spostamento Correzione ImmagineSfondo Calibra \
          Controlli StampaProva; do
   [ -s "$figure/$f.png" ] || { echo "FotografaFinestre: no $f" >&2; exit 1; }
 done

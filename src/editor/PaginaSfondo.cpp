@@ -4,6 +4,8 @@
 #include "dialogs/MemoriaCaselle.h"
 #include "dialogs/Riduzione.h"
 #include "documento/Passo.h"
+#include "editor/Calibrazione.h"
+#include "editor/FrmCalibra.h"
 #include "editor/TestiEsplicativi.h"
 #include "finestre/AvvisoCasella.h"
 #include "finestre/FiltroAnsi.h"
@@ -60,6 +62,11 @@ void PaginaSfondo::Collegamenti()
     Collega(ui_->VisualizzaImmagineSfondo, &QCheckBox::clicked, this,
             &PaginaSfondo::VisualizzaImmagineSfondo_Click);
     Collega(ui_->Command8, &QPushButton::clicked, this, &PaginaSfondo::Command8_Click);
+    Collega(ui_->SfondoCalibra, &QPushButton::clicked, this, &PaginaSfondo::Calibra_Click);
+    Collega(ui_->SfondoOpacita, &QSpinBox::valueChanged, this, [this](int percento) {
+        constexpr double Intero = 100;
+        anteprima_.ImpostaOpacitaSfondo(percento / Intero);
+    });
     Collega(ui_->SfondoSfoglia, &QPushButton::clicked, this, &PaginaSfondo::SfondoSfoglia_Click);
     Collega(ui_->SfondoSpostaSx, &QToolButton::clicked, this, &PaginaSfondo::SfondoSpostaSx_Click);
     Collega(ui_->SfondoSpostaDx, &QToolButton::clicked, this, &PaginaSfondo::SfondoSpostaDx_Click);
@@ -110,6 +117,9 @@ void PaginaSfondo::RidisegnaSeScritta(const QLineEdit *casella)
     }
     ImpostaImmagineSfondo(false);
     stato_.documento.ChiudeUnione();
+    if (casella == ui_->SfondoFileImmagine) {
+        AvverteSeNascosta();
+    }
 }
 
 void PaginaSfondo::SegueDocumento(const Cambiamento &cambiamento)
@@ -242,6 +252,47 @@ void PaginaSfondo::SfondoSfoglia_Click()
     const Passo passo(stato_.documento, QStringLiteral("sceglie l'immagine di sfondo"));
     MostraDallInizio(ui_->SfondoFileImmagine, scelto);
     ImpostaImmagineSfondo(true);
+    AvverteSeNascosta();
+}
+
+void PaginaSfondo::AvverteSeNascosta() const
+{
+    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
+    if (!sfondo.File.isEmpty() && !SfondoDelModello::Visibile(sfondo)) {
+        anteprima_.Avverte(QStringLiteral("l'immagine di sfondo non si vede: spuntare Visualizza "
+                                          "Immagine di sfondo"));
+    }
+}
+
+void PaginaSfondo::Calibra_Click()
+{
+    const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
+    if (sfondo.File.isEmpty()) {
+        Messaggi::Mostra(window(), QStringLiteral("nessuna immagine di sfondo: sceglierla prima "
+                                                  "con Sfoglia"));
+        return;
+    }
+    RiprendeMessaggi();
+    try {
+        FrmCalibra calibra(FrmCalibra::Legge(sfondo), stato_.Aperto(), window());
+        if (calibra.exec() == QDialog::Accepted) {
+            ScrivePosto(calibra.Posto());
+        }
+    } catch (const SfondoDelModello::NumeroNonLetto &errore) {
+        SegnalaNumero(CasellaDi(errore.Membro), sfondo.*errore.Membro);
+    } catch (const ErroreSistema &errore) {
+        Messaggi::Mostra(window(), SfondoDelModello::NonCaricato(sfondo, errore));
+    }
+}
+
+void PaginaSfondo::ScrivePosto(const QRectF &posto)
+{
+    const Passo passo(stato_.documento, QStringLiteral("calibra l'immagine di sfondo"));
+    MostraDallInizio(ui_->SfondoXPosImm, Calibrazione::Testo(posto.x()));
+    MostraDallInizio(ui_->SfondoYPosImm, Calibrazione::Testo(posto.y()));
+    MostraDallInizio(ui_->SfondoXimmagine, Calibrazione::Testo(posto.width()));
+    MostraDallInizio(ui_->SfondoYImmagine, Calibrazione::Testo(posto.height()));
+    ImpostaImmagineSfondo(false);
 }
 
 void PaginaSfondo::SfondoSpostaSx_Click()

@@ -31,6 +31,8 @@ public:
     void SfondoSfoglia_Click();
     void VisualizzaImmagineSfondo_Click();
     void Command8_Click();
+    /// Lets the user set the scan right; what he takes is one step.
+    void Calibra_Click();
     void SfondoSpostaSx_Click();
     void SfondoSpostaDx_Click();
     void SfondoSpostaSu_Click();
@@ -54,6 +56,9 @@ private:
     void LegaTesto(QLineEdit *casella, QString ImmagineSfondo::*membro);
     void RidisegnaSeScritta(const QLineEdit *casella);
     void ChiedeDimensione();
+    void ScrivePosto(const QRectF &posto);
+    /// The strip says that what has been chosen is not shown.
+    void AvverteSeNascosta() const;
     const QLineEdit *CasellaDi(QString ImmagineSfondo::*membro) const;
     /// The box holds a number beyond a double; the message names it.
     void SegnalaNumero(const QLineEdit *casella, const QString &testo);

@@ -141,6 +141,8 @@ public:
     void PulisceSfondo();
     /// PulisceSfondo, and the next DipingeSfondo reads the file anew.
     void DimenticaSfondo();
+    /// How much of the picture behind the elements is seen, 0 to 1; 1 at first.
+    void ImpostaOpacitaSfondo(double opacita);
     /// Paints the picture behind the elements, stretched into a rectangle in mm of the sheet; it
     /// then follows the zoom by itself. A file already decoded at that size is not read again. An
     /// empty rectangle shows nothing. Throws ErroreSistema 53 or 481 and leaves no background.

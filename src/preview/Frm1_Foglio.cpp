@@ -167,6 +167,11 @@ void Frm1::DimenticaSfondo()
     parti_->P1->DimenticaSfondo();
 }
 
+void Frm1::ImpostaOpacitaSfondo(double opacita)
+{
+    parti_->P1->ImpostaOpacitaSfondo(opacita);
+}
+
 void Frm1::DipingeSfondo(const QString &percorso, const QRectF &millimetri)
 {
     parti_->P1->DipingeSfondo(percorso, millimetri);

@@ -110,6 +110,7 @@ void Sfondo::Dipinge(QPainter &penna, const QRectF &esposto, double zoom)
     penna.save();
     penna.setWorldTransform(QTransform());
     penna.setRenderHint(QPainter::SmoothPixmapTransform, !intera);
+    penna.setOpacity(opacita_);
     penna.drawImage(visibile, figura, origine);
     penna.restore();
 }

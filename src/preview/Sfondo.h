@@ -25,6 +25,8 @@ public:
     void Pulisce() { millimetri_ = {}; }
     /// Pulisce, and the next Imposta reads the file whatever is known of it.
     void Dimentica();
+    /// How much of it is seen: from 0, nothing, to 1.
+    void ImpostaOpacita(double opacita) { opacita_ = opacita; }
     bool Vuoto() const { return millimetri_.isNull(); }
     /// Paints the part that lies in esposto; the painter's unit is the mm of screen.
     void Dipinge(QPainter &penna, const QRectF &esposto, double zoom);
@@ -54,6 +56,7 @@ private:
     QSize pixel_; // asked of maestra_
     std::optional<Fallita> fallita_;
     QRectF millimetri_; // null: nothing is shown
+    double opacita_ = 1;
     QImage maestra_;
     QImage scalata_; // maestra_ at the size on the screen
 };

@@ -58,6 +58,12 @@ void VistaFoglio::DimenticaSfondo()
     viewport()->update();
 }
 
+void VistaFoglio::ImpostaOpacitaSfondo(double opacita)
+{
+    sfondo_.ImpostaOpacita(opacita);
+    viewport()->update();
+}
+
 void VistaFoglio::drawBackground(QPainter *penna, const QRectF &rettangolo)
 {
     penna->fillRect(rettangolo, backgroundBrush());

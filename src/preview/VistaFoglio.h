@@ -68,6 +68,8 @@ public:
     void PulisceSfondo();
     /// As Sfondo::Dimentica.
     void DimenticaSfondo();
+    /// As Sfondo::ImpostaOpacita.
+    void ImpostaOpacitaSfondo(double opacita);
 
 protected:
     void drawBackground(QPainter *penna, const QRectF &rettangolo) override;

@@ -43,6 +43,7 @@ private slots:
     void Correzione_data();
     void Correzione();
     void Sfogliando();
+    void Calibrando();
 
 private:
     QTemporaryDir esecuzione_;
@@ -431,6 +432,27 @@ void tst_NienteTagliato::Sfogliando()
     sfoglia.exec();
     QVERIFY(robot.Soddisfatto());
     QVERIFY(controllati > 8);
+}
+
+void tst_NienteTagliato::Calibrando()
+{
+    EditoreDiProva prova;
+    prova.Archivio.Riempie(2);
+    prova.Archivio.DaAprire().Sfondo.File = ScriveScansione(prova.Archivio, 210, 297);
+    QVERIFY(prova.Apre());
+    Robot robot;
+    int controllati = 0;
+    int mancati = -1;
+    robot.Agisce([&](QDialog *dialogo) {
+        QVERIFY(QTest::qWaitForWindowActive(dialogo));
+        controllati = Controlla(*dialogo);
+        mancati = NonSiRaggiungono(*dialogo);
+        dialogo->reject();
+    });
+    Trova<QAbstractButton>(*prova.Editor, "SfondoCalibra")->click();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(mancati, 0);
+    QVERIFY(controllati > 12);
 }
 
 QTEST_MAIN(tst_NienteTagliato)

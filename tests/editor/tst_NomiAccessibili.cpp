@@ -209,6 +209,7 @@ private slots:
     void VediLaStampa();
     void Correzione();
     void Sfogliando();
+    void Calibrando();
     void NomeDiUnModello();
     void LavoroRimasto();
     void LeVociNonSonoIlNome();
@@ -338,6 +339,23 @@ void tst_NomiAccessibili::Sfogliando()
     sfoglia.exec();
     QVERIFY(robot.Soddisfatto());
     QVERIFY(controllati > 4);
+}
+
+void tst_NomiAccessibili::Calibrando()
+{
+    EditoreDiProva prova;
+    prova.Archivio.DaAprire().Sfondo.File = ScriveScansione(prova.Archivio, 210, 297);
+    QVERIFY(prova.Apre());
+    Robot robot;
+    int controllati = 0;
+    robot.Agisce([&](QDialog *dialogo) {
+        controllati = Controlla(*dialogo);
+        GiraColTabulatore(*dialogo);
+        dialogo->reject();
+    });
+    Trova<QPushButton>(*prova.Editor, "SfondoCalibra")->click();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(controllati > 10);
 }
 
 void tst_NomiAccessibili::NomeDiUnModello()
