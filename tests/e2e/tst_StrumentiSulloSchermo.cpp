@@ -147,7 +147,7 @@ void tst_StrumentiSulloSchermo::daiControlliSiApronoLeProprieta()
     Scrivania scrivania;
     QVERIFY(QFile::remove(scrivania.CartellaModelli() + QStringLiteral("LogoCascinalta.gif")));
     scrivania.Avvia();
-    scrivania.ApreModello(Fattura);
+    scrivania.ApreModello(QStringLiteral("Fattura_Rossi"));
     scrivania.Anteprima();
     const QString controlli = QStringLiteral("^Controlli del modello$");
     scrivania.Video().Tasti({QStringLiteral("F7")});

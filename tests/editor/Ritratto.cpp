@@ -188,6 +188,9 @@ void AggiungeSpunte(Ritratto &ritratto, const QWidget &finestra,
     }
 }
 
+/// Controls of the dialogs that hold nothing of an element.
+const QStringList Aiuti{QStringLiteral("Importa"), QStringLiteral("Proporzioni")};
+
 /// What opening leaves of a place.
 QString Intero(double millimetri)
 {
@@ -327,8 +330,8 @@ Ritratto DelDialogo(const QWidget &dialogo)
         const QString nome = controllo->objectName();
         const QString spento = controllo->isEnabled() ? QString() : QStringLiteral(" spento");
         if (nome.isEmpty() || nome.startsWith(QStringLiteral("qt_")) ||
-            qobject_cast<const QToolButton *>(controllo) != nullptr) {
-            continue; // a tool button holds nothing: what it does shows in the box beside it
+            qobject_cast<const QToolButton *>(controllo) != nullptr || Aiuti.contains(nome)) {
+            continue; // what they do shows in the boxes beside them
         }
         if (const auto *casella = qobject_cast<const QLineEdit *>(controllo)) {
             const bool campione = nome == QStringLiteral("Testo");
