@@ -30,6 +30,7 @@ Esame::Esame(const Modello &modello, const Condizioni &condizioni)
     , condizioni_(condizioni)
 {
     RaccoglieTesti();
+    RaccoglieFigure();
 }
 
 void Esame::RaccoglieTesti()
@@ -52,6 +53,16 @@ void Esame::RaccoglieTesto(Chiave chiave, AspettoTesto aspetto, const QPointF &a
     if (!aspetto.Testo.isEmpty()) {
         const QRectF posto(angolo, condizioni_.Misura(aspetto));
         testi_.push_back({chiave, std::move(aspetto), posto});
+    }
+}
+
+void Esame::RaccoglieFigure()
+{
+    for (const Chiave &chiave : Presenti(Genere::Immagine)) {
+        const QRectF posto = Figura(modello_.Immagini[chiave.indice]);
+        if (posto.isValid()) {
+            figure_.push_back({chiave, posto});
+        }
     }
 }
 

@@ -16,6 +16,13 @@ struct TestoSulFoglio
     QRectF Posto;         ///< mm
 };
 
+/// A picture that the sheet will carry.
+struct FiguraSulFoglio
+{
+    Chiave Di;
+    QRectF Posto; ///< mm
+};
+
 /// One check of one model: what all rules need of it, and what they have found.
 class Esame
 {
@@ -28,12 +35,12 @@ public:
 
     /// The texts with something to be seen, fields that are not printed left out.
     const std::vector<TestoSulFoglio> &Testi() const { return testi_; }
+    /// The pictures that cover something; one that fills the page does so only with a printer.
+    const std::vector<FiguraSulFoglio> &Figure() const { return figure_; }
     /// The elements of the kind that are there.
     QList<Chiave> Presenti(Genere genere) const;
     /// What the border of a frame covers on paper, mm; empty for a label.
     static QRectF Bordo(const Cornice &cornice);
-    /// What a picture covers on paper, mm; one that fills the page is empty without a printer.
-    QRectF Figura(const Immagine &immagine) const;
 
     /// As the user calls the element: "campo Doc_Numero", "il campo Doc_Numero".
     QString Nome(Chiave chiave) const;
@@ -45,10 +52,14 @@ public:
 
 private:
     void RaccoglieTesti();
+    void RaccoglieFigure();
+    /// At whole millimetres, as it is printed.
+    QRectF Figura(const Immagine &immagine) const;
     void RaccoglieTesto(Chiave chiave, AspettoTesto aspetto, const QPointF &angolo);
 
     const Modello &modello_;
     const Condizioni &condizioni_;
     std::vector<TestoSulFoglio> testi_;
+    std::vector<FiguraSulFoglio> figure_;
     QList<Rilievo> trovati_;
 };

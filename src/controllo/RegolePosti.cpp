@@ -73,8 +73,8 @@ std::map<Chiave, QRectF> Ingombri(const Esame &esame, const QRectF &stampabile)
     for (const Chiave &chiave : esame.Presenti(Genere::Cornice)) {
         unisce(chiave, Esame::Bordo(esame.Aperto().Cornici[chiave.indice]));
     }
-    for (const Chiave &chiave : esame.Presenti(Genere::Immagine)) {
-        unisce(chiave, esame.Figura(esame.Aperto().Immagini[chiave.indice]));
+    for (const FiguraSulFoglio &figura : esame.Figure()) {
+        unisce(figura.Di, figura.Posto);
     }
     return ingombri;
 }
@@ -203,25 +203,19 @@ void Regole::TestiSovrapposti(Esame &esame)
 
 void Regole::ImmaginiSovrapposte(Esame &esame)
 {
-    const QList<Chiave> immagini = esame.Presenti(Genere::Immagine);
-    const auto figura = [&](Chiave chiave) {
-        return esame.Figura(esame.Aperto().Immagini[chiave.indice]);
-    };
-    for (const Chiave &chiave : immagini) {
-        const QRectF posto = figura(chiave);
-        const auto sopra = std::find_if(immagini.begin(), immagini.end(), [&](Chiave altra) {
-            const QRectF suo = figura(altra);
-            // Of two at the same place the later one is told.
-            return !(altra == chiave) && posto.isValid() && suo.isValid() && Dentro(posto, suo) &&
-                   (altra < chiave || !Dentro(suo, posto));
-        });
-        if (sopra != immagini.end()) {
-            esame.Aggiunge(
-                SpecieRilievo::Coperto, chiave,
-                QStringLiteral(
-                    "sta per intero dentro %1 e sulla carta le due figure si confondono: "
-                    "spostarla o eliminarne una.")
-                    .arg(esame.NomeConArticolo(*sopra)));
+    const std::vector<FiguraSulFoglio> &figure = esame.Figure();
+    for (const FiguraSulFoglio &figura : figure) {
+        const auto sopra =
+            std::find_if(figure.begin(), figure.end(), [&](const FiguraSulFoglio &altra) {
+                // Of two at the same place the later one is told.
+                return !(altra.Di == figura.Di) && Dentro(figura.Posto, altra.Posto) &&
+                       (altra.Di < figura.Di || !Dentro(altra.Posto, figura.Posto));
+            });
+        if (sopra != figure.end()) {
+            esame.Aggiunge(SpecieRilievo::Coperto, figura.Di,
+                           QStringLiteral("sta per intero dentro %1 e sulla carta le due figure si "
+                                          "confondono: spostarla o eliminarne una.")
+                               .arg(esame.NomeConArticolo(sopra->Di)));
         }
     }
 }
@@ -251,19 +245,17 @@ void Regole::CorniciUguali(Esame &esame)
 void Regole::SottoUnaFigura(Esame &esame)
 {
     constexpr double MezzoFoglio = 105; // mm: wider than a logo
-    const QList<Chiave> immagini = esame.Presenti(Genere::Immagine);
+    const std::vector<FiguraSulFoglio> &figure = esame.Figure();
     for (const TestoSulFoglio &testo : esame.Testi()) {
-        const auto sopra = std::find_if(immagini.begin(), immagini.end(), [&](Chiave chiave) {
-            const QRectF figura = esame.Figura(esame.Aperto().Immagini[chiave.indice]);
-            return figura.isValid() && figura.width() <= MezzoFoglio && Dentro(testo.Posto, figura);
-        });
-        if (sopra != immagini.end()) {
-            esame.Aggiunge(
-                SpecieRilievo::Coperto, testo.Di,
-                QStringLiteral(
-                    "sta per intero sotto %1 e sulla carta non si legge dove la figura è "
-                    "scura: spostare l'uno o l'altra.")
-                    .arg(esame.NomeConArticolo(*sopra)));
+        const auto sopra =
+            std::find_if(figure.begin(), figure.end(), [&](const FiguraSulFoglio &figura) {
+                return figura.Posto.width() <= MezzoFoglio && Dentro(testo.Posto, figura.Posto);
+            });
+        if (sopra != figure.end()) {
+            esame.Aggiunge(SpecieRilievo::Coperto, testo.Di,
+                           QStringLiteral("sta per intero sotto %1 e sulla carta non si legge dove "
+                                          "la figura è scura: spostare l'uno o l'altra.")
+                               .arg(esame.NomeConArticolo(sopra->Di)));
         }
     }
 }
