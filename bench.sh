@@ -10,7 +10,7 @@ export XDG_RUNTIME_DIR=$PWD/build/release/benchmarks/runtime LC_ALL=C.UTF-8
 mkdir -p -m 700 "$XDG_RUNTIME_DIR"
 misure=$(mktemp)
 trap 'rm -f "$misure"' EXIT
-for nome in Modello Documento Stampa Anteprima Editor Programma; do
+for nome in Modello Documento Controllo Stampa Anteprima Editor Programma; do
   uno=$(mktemp -p "$XDG_RUNTIME_DIR")
   stato=0
   timeout 300 xvfb-run -a -s '-screen 0 1366x768x24' build/release/benchmarks/bench_$nome >"$uno" 2>&1 || stato=$?
