@@ -7,6 +7,7 @@
 #include "finestre/Comandi.h"
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
+#include "finestre/Icone.h"
 #include "finestre/IconeStampa.h"
 #include "finestre/Messaggi.h"
 #include "preview/Frm1.h"
@@ -30,7 +31,7 @@
 
 namespace {
 
-constexpr int LatoIcona = 20; // device-independent pixels
+constexpr int LatoIcona = LatoIconaComandi;
 
 /// Lets the hourglass and the place of a closed question be painted before the program waits for
 /// the print system.
@@ -92,9 +93,17 @@ ComandiStampa::ComandiStampa(StatoProgramma &stato, QWidget &editore, Frm1 &ante
                     {Qt::CTRL | Qt::Key_E}, IconaEsporta(LatoIcona));
     Prepara(bottoni.Vedi, vedi);
     Prepara(bottoni.Esporta, esportaPdf);
-    connect(stampa, &QAction::triggered, this, &ComandiStampa::StampaRichiesta);
-    Collega(vedi, &QAction::triggered, &editore_, [this] { Vedi(); });
-    Collega(esportaPdf, &QAction::triggered, &editore_, [this] { EsportaPdf(false); });
+    // What somebody has in hand is in no state to be printed; its dialog would be below the box.
+    const auto seLibero = [this](void (ComandiStampa::*azione)()) {
+        return [this, azione] {
+            if (!stato_.documento.ModificaInCorso()) {
+                (this->*azione)();
+            }
+        };
+    };
+    Collega(stampa, &QAction::triggered, &editore_, seLibero(&ComandiStampa::StampaRichiesta));
+    Collega(vedi, &QAction::triggered, &editore_, seLibero(&ComandiStampa::Vedi));
+    Collega(esportaPdf, &QAction::triggered, &editore_, seLibero(&ComandiStampa::EsportaTesti));
     comandi_ = {stampa, vedi, esportaPdf};
     AggiungeFinestra(editore_);
     AggiungeFinestra(anteprima_);

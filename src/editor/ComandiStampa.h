@@ -52,6 +52,7 @@ signals:
 private:
     /// Paints the model. Throws StampaAnnullata when the user gives it up.
     void Dipinge(Destinazione &destinazione, bool StampaNome, const QString &attesa);
+    void EsportaTesti() { EsportaPdf(false); }
     /// The file to write; empty when the user wants none.
     QString ChiedeFile();
     void Dice(const QString &testo);

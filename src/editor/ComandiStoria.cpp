@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int LatoIcona = 20; // device-independent pixels
+constexpr int LatoIcona = LatoIconaComandi;
 
 void Prepara(QToolButton *bottone, const QPixmap &icona)
 {

@@ -5,6 +5,7 @@
 #include "editor/ElencoRilievi.h"
 #include "finestre/Comandi.h"
 #include "finestre/Guardia.h"
+#include "finestre/Icone.h"
 #include "finestre/IconeControlli.h"
 #include "preview/Frm1.h"
 #include "preview/SfondoDelModello.h"
@@ -16,7 +17,7 @@
 
 namespace {
 
-constexpr int LatoIcona = 20; // device-independent pixels
+constexpr int LatoIcona = LatoIconaComandi;
 const auto Nome = QStringLiteral("Controlli");
 
 } // namespace

@@ -6,6 +6,9 @@
 
 class QPainter;
 
+/// The icons in the editor's column of commands, device-independent pixels.
+inline constexpr int LatoIconaComandi = 18;
+
 /// What disegna draws in a square of side 1, lato device-independent pixels wide and high and as
 /// fine as the screen.
 QPixmap DisegnaIcona(int lato, const std::function<void(QPainter &)> &disegna);

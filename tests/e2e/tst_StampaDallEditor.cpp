@@ -182,7 +182,7 @@ void tst_StampaDallEditor::unaLungaStampaSiAnnulla()
     QVERIFY(prova.caricato);
     Robot robot;
     int centesimi = -1;
-    robot.No().Agisce(Smette(centesimi));
+    robot.No().AgisceSuAttesa(Smette(centesimi));
     ::Preme(*prova.editor, "Stampa");
     QVERIFY(robot.Soddisfatto());
     QVERIFY2(centesimi > 0 && centesimi < 100, QByteArray::number(centesimi));
@@ -200,7 +200,7 @@ void tst_StampaDallEditor::unLungoPdfSiAnnulla()
     const QStringList prima = QDir(cartella_.path()).entryList(QDir::Files);
     Robot robot;
     int centesimi = -1;
-    robot.Agisce(Salva(file)).Agisce(Smette(centesimi));
+    robot.Agisce(Salva(file)).AgisceSuAttesa(Smette(centesimi));
     ::Preme(*prova.editor, "EsportaPdf");
     QVERIFY(robot.Soddisfatto());
     QVERIFY2(centesimi > 0, QByteArray::number(centesimi));
@@ -215,7 +215,7 @@ void tst_StampaDallEditor::laVistaSiPuoNonAspettare()
     QVERIFY(prova.caricato);
     // Without waiting it comes at once or after its progress; either way it can be left.
     Robot robot;
-    robot.Agisce([](QDialog *finestra) {
+    robot.AgisceSuAttesa([](QDialog *finestra) {
         auto *annulla = finestra->objectName() == QStringLiteral("AttesaDiStampa")
                             ? finestra->findChild<QPushButton *>()
                             : Trova<QPushButton>(*finestra, "Chiudi");

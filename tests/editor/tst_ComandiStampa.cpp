@@ -247,7 +247,7 @@ void tst_ComandiStampa::unaLungaAttesaSiAnnulla()
     QWidget finestra;
     finestra.show();
     Robot robot;
-    robot.Agisce([](QDialog *attesa) {
+    robot.AgisceSuAttesa([](QDialog *attesa) {
         QCOMPARE(attesa->findChild<QLabel *>()->text(), QStringLiteral("Si aspetta"));
         Trova<QProgressDialog>(*attesa->parentWidget(), "AttesaDiStampa")
             ->findChild<QPushButton *>()

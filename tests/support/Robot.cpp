@@ -85,12 +85,18 @@ Robot &Robot::Agisce(std::function<void(QDialog *)> azione)
     return *this;
 }
 
+Robot &Robot::AgisceSuAttesa(std::function<void(QDialog *)> azione)
+{
+    guardaAttese_ = true;
+    return Agisce(std::move(azione));
+}
+
 void Robot::Guarda()
 {
     auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
     // What only says that something takes its time asks nothing, and comes on slow machines only.
     if (dialogo == nullptr || !dialogo->isVisible() || visti_.contains(dialogo) ||
-        qobject_cast<const QProgressDialog *>(dialogo) != nullptr) {
+        (!guardaAttese_ && qobject_cast<const QProgressDialog *>(dialogo) != nullptr)) {
         return;
     }
     visti_.append(dialogo);

@@ -10,7 +10,8 @@ class QDialog;
 
 /// Answers the modal boxes that an action opens, in order, with the real buttons, and keeps what
 /// they said. A box that no answer waits for is closed and counted as unexpected; a test that looks
-/// neither at Soddisfatto nor at Testi fails for it. Progress boxes go unanswered.
+/// neither at Soddisfatto nor at Testi fails for it. Progress boxes go unanswered
+/// but for a test that waits for one.
 class Robot : public QObject
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
     Robot &Annulla();
     /// Hands the next modal dialog of any class to azione, which must end it.
     Robot &Agisce(std::function<void(QDialog *)> azione);
+    /// The same for a progress box; from now on they count as boxes.
+    Robot &AgisceSuAttesa(std::function<void(QDialog *)> azione);
 
     /// Texts of the boxes seen so far (label text for an input box, object name for other dialogs).
     const QStringList &Testi() const
@@ -56,5 +59,6 @@ private:
     QStringList predefiniti_;
     QList<const QObject *> visti_;
     int inattesi_ = 0;
+    bool guardaAttese_ = false;
     mutable bool guardato_ = false;
 };
