@@ -1,5 +1,5 @@
-#include "model/MaschereStampa.h"
 #include "model/FileModello.h"
+#include "model/MaschereStampa.h"
 
 #include <QDirIterator>
 #include <QImageReader>
