@@ -97,6 +97,7 @@ ComandiStampa::ComandiStampa(StatoProgramma &stato, QWidget &editore, Frm1 &ante
     const auto seLibero = [this](void (ComandiStampa::*azione)()) {
         return [this, azione] {
             if (!stato_.documento.ModificaInCorso()) {
+                const TastiPrestati tasti;
                 (this->*azione)();
             }
         };

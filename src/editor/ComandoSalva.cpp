@@ -2,6 +2,7 @@
 
 #include "documento/Documento.h"
 #include "finestre/Comandi.h"
+#include "finestre/Finestre.h"
 
 #include <QLabel>
 
@@ -19,6 +20,7 @@ ComandoSalva::ComandoSalva(const Documento &documento, QLabel &segno)
             [this] { segno_.setVisible(documento_.Variato()); });
     connect(comando_, &QAction::triggered, this, [this] {
         if (!documento_.ModificaInCorso()) {
+            const TastiPrestati tasti;
             emit Richiesto();
         }
     });

@@ -7,14 +7,13 @@
 #include "editor/Form2.h"
 #include "editor/PaginaElementi.h"
 #include "finestre/DialogoScorrevole.h"
+#include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
 #include "model/Numeri.h"
 #include "preview/Frm1.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QPointer>
 #include <QScreen>
 
 void Form2::ApreProprieta(Genere genere, int indice)
@@ -94,15 +93,11 @@ void Form2::MostraDialogo(FrmElemento &dialogo, Chiave chiave)
     const int sopra = qMax(schermo.top(), qMin(anteprima_->frameGeometry().top(),
                                                schermo.bottom() - misura.height() - Distanza));
     dialogo.move(sinistra + cornice_.left(), sopra + cornice_.top());
-    const QPointer<QWidget> davanti = QApplication::activeWindow();
+    const TastiPrestati tasti; // the dialog is the editor's, whoever asked for it
     // A visit is one step, with all that it wrote at once.
     const Passo visita(stato_.documento,
                        FrmElemento::TestoModifica(stato_.documento.Denominazione(chiave)));
     dialogo.exec();
-    // The keys go back to where the dialog was asked for, not to the editor, whose dialog it is.
-    if (davanti != nullptr && davanti != this && davanti->isVisible()) {
-        davanti->activateWindow();
-    }
 }
 
 void Form2::SettaFont(FrmCarattere &dialogo, const QString &font, const QString &dimensione)

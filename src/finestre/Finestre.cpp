@@ -120,6 +120,18 @@ PuntatoreOccupato::~PuntatoreOccupato()
     QApplication::restoreOverrideCursor();
 }
 
+TastiPrestati::TastiPrestati()
+    : davanti_(QApplication::activeWindow())
+{
+}
+
+TastiPrestati::~TastiPrestati()
+{
+    if (davanti_ != nullptr && davanti_->isVisible() && !davanti_->isActiveWindow()) {
+        davanti_->activateWindow();
+    }
+}
+
 void LimitaAlCodice(QWidget *finestra)
 {
     for (QLineEdit *casella : finestra->findChildren<QLineEdit *>()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -37,6 +38,19 @@ public:
     ~PuntatoreOccupato();
     PuntatoreOccupato(const PuntatoreOccupato &) = delete;
     PuntatoreOccupato &operator=(const PuntatoreOccupato &) = delete;
+};
+
+/// A command that one window asks for and that opens boxes of another: at its end the keys go back
+/// to the one that had them, while that still shows.
+class TastiPrestati
+{
+public:
+    TastiPrestati();
+    ~TastiPrestati();
+    Q_DISABLE_COPY_MOVE(TastiPrestati)
+
+private:
+    QPointer<QWidget> davanti_;
 };
 
 /// Makes every text box below the window refuse characters that a model file cannot hold, typed or

@@ -19,7 +19,7 @@ public:
     };
     struct Cornice
     {
-        enum { Nome, Testo, X, Y, Altezza = 8, Larghezza };
+        enum { Nome, Testo, X, Y, Altezza = 8, Larghezza, Bordo, ColoreCornice, ColoreTesto };
     };
     struct Immagine
     {
