@@ -4,7 +4,6 @@
 
 #include <QHelpEvent>
 #include <QLineEdit>
-#include <QTimer>
 #include <QToolTip>
 
 namespace {
@@ -20,6 +19,8 @@ AvvisoCasella::AvvisoCasella(QLineEdit *casella)
     , tavolozza_(casella->palette())
 {
     casella->installEventFilter(this);
+    connect(this, &AvvisoCasella::Entrato, this, &AvvisoCasella::MostraEntrando,
+            Qt::QueuedConnection);
 }
 
 void AvvisoCasella::Mostra(const QString &testo)
@@ -60,7 +61,7 @@ bool AvvisoCasella::eventFilter(QObject *oggetto, QEvent *evento)
     }
     if (evento->type() == QEvent::FocusIn) {
         // What follows the keyboard's change closes every hint.
-        QTimer::singleShot(0, this, &AvvisoCasella::MostraEntrando);
+        emit Entrato();
     } else if (evento->type() == QEvent::ToolTip) {
         const QString suo = casella_->toolTip();
         MostraFumetto(suo.isEmpty() ? testo_ : suo + u'\n' + testo_);

@@ -22,6 +22,9 @@ public:
     void Mostra(const QString &testo);
     const QString &Testo() const { return testo_; }
 
+signals:
+    void Entrato(); ///< the keyboard has come to the marked box
+
 protected:
     bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
