@@ -53,14 +53,20 @@ void Esame::RaccoglieTesto(Chiave chiave, AspettoTesto aspetto, const QPointF &a
     if (!aspetto.Testo.isEmpty()) {
         const QRectF posto(angolo, condizioni_.Misura(aspetto));
         testi_.push_back({chiave, std::move(aspetto), posto});
+    } else if (chiave.genere == Genere::Campo) {
+        AspettoTesto unaCifra = aspetto;
+        unaCifra.Testo = u'0';
+        vuoti_.push_back({chiave, aspetto, QRectF(angolo, condizioni_.Misura(unaCifra))});
     }
 }
 
 void Esame::RaccoglieFigure()
 {
     for (const Chiave &chiave : Presenti(Genere::Immagine)) {
-        const QRectF posto = Figura(modello_.Immagini[chiave.indice]);
-        if (posto.isValid()) {
+        const Immagine &immagine = modello_.Immagini[chiave.indice];
+        const QRectF posto = Figura(immagine);
+        // Without its file nothing is printed there.
+        if (posto.isValid() && condizioni_.Immagine(immagine.Nome) == StatoFile::Buono) {
             figure_.push_back({chiave, posto});
         }
     }

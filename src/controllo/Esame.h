@@ -35,6 +35,9 @@ public:
 
     /// The texts with something to be seen, fields that are not printed left out.
     const std::vector<TestoSulFoglio> &Testi() const { return testi_; }
+    /// The fields that are printed and have no test text: where the text that Vastrel will put
+    /// there begins, as wide as a digit.
+    const std::vector<TestoSulFoglio> &Vuoti() const { return vuoti_; }
     /// The pictures that cover something; one that fills the page does so only with a printer.
     const std::vector<FiguraSulFoglio> &Figure() const { return figure_; }
     /// The elements of the kind that are there.
@@ -60,6 +63,7 @@ private:
     const Modello &modello_;
     const Condizioni &condizioni_;
     std::vector<TestoSulFoglio> testi_;
+    std::vector<TestoSulFoglio> vuoti_;
     std::vector<FiguraSulFoglio> figure_;
     QList<Rilievo> trovati_;
 };

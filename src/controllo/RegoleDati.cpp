@@ -33,7 +33,7 @@ QString Discordanza(const QString &maschera, const QString &testo)
         return {};
     }
     if (std::any_of(testo.begin(), testo.end(), [](QChar c) { return c.isLetter(); })) {
-        return QStringLiteral("il testo di prova contiene lettere, la maschera è numerica");
+        return QStringLiteral("il testo di prova contiene lettere mentre la maschera è numerica");
     }
     // The last place of a mask is one more than it prints.
     const qsizetype stampati = MaschereStampa::Forma(maschera).section(u',', 1).count(u'#');
@@ -57,23 +57,30 @@ bool AreaInUso(const Esame &esame)
            });
 }
 
+void GiudicaFont(Esame &esame, const TestoSulFoglio &testo)
+{
+    const QString font = SuUnaRiga(testo.Aspetto.Font);
+    if (font.isEmpty()) {
+        esame.Aggiunge(SpecieRilievo::FontMancante, testo.Di,
+                       QStringLiteral("il testo non ha un font e sulla carta esce in Arial: "
+                                      "sceglierne uno."));
+    } else if (!esame.Stanti().HaFont(testo.Aspetto.Font)) {
+        esame.Aggiunge(
+            SpecieRilievo::FontMancante, testo.Di,
+            QStringLiteral("il font \"%1\" manca su questo computer e sulla carta il testo "
+                           "esce in Arial, con altre larghezze: scegliere un font dell'elenco "
+                           "o installare questo.")
+                .arg(font));
+    }
+}
+
 } // namespace
 
 void Regole::FontMancanti(Esame &esame)
 {
-    for (const TestoSulFoglio &testo : esame.Testi()) {
-        const QString font = SuUnaRiga(testo.Aspetto.Font);
-        if (font.isEmpty()) {
-            esame.Aggiunge(SpecieRilievo::FontMancante, testo.Di,
-                           QStringLiteral("il testo non ha un font e sulla carta esce in Arial: "
-                                          "sceglierne uno."));
-        } else if (!esame.Stanti().HaFont(testo.Aspetto.Font)) {
-            esame.Aggiunge(
-                SpecieRilievo::FontMancante, testo.Di,
-                QStringLiteral("il font \"%1\" manca su questo computer e sulla carta il testo "
-                               "esce in Arial, con altre larghezze: scegliere un font dell'elenco "
-                               "o installare questo.")
-                    .arg(font));
+    for (const auto *testi : {&esame.Testi(), &esame.Vuoti()}) {
+        for (const TestoSulFoglio &testo : *testi) {
+            GiudicaFont(esame, testo);
         }
     }
 }
@@ -139,7 +146,7 @@ void Regole::MaschereETesti(Esame &esame)
                 SpecieRilievo::MascheraETesto, chiave,
                 discordanza +
                     QStringLiteral(
-                        " e il dato vero sulla carta esce diverso dalla prova: correggere il "
+                        ", e il dato vero sulla carta esce diverso dalla prova: correggere il "
                         "testo o la maschera."));
         }
     }
@@ -151,7 +158,7 @@ void Regole::CampiFuoriRiga(Esame &esame)
         const Chiave chiave{Genere::Campo, slot};
         if (slot > esame.Aperto().UltimoSlot(Genere::Campo) ||
             !esame.Aperto().Presente(Genere::Campo, slot) ||
-            !CampoDiRiga(esame.Aperto().Campi[slot])) {
+            !CampoDiRiga(esame.Aperto().Campi[slot]) || esame.Aperto().Campi[slot].NonStampato()) {
             continue;
         }
         esame.Aggiunge(SpecieRilievo::CampoFuoriRiga, chiave,
@@ -177,10 +184,18 @@ void Regole::AreaRighe(Esame &esame)
     }
     if (!(righe.Interlinea > 0)) {
         esame.Aggiunge(SpecieRilievo::InterlineaNulla, Rilievo::Luogo::Righe,
-                       QStringLiteral("l'interlinea è di %1 mm e sulla carta le righe escono una "
-                                      "sull'altra: scriverne una maggiore di zero nella pagina "
-                                      "\"Posizione righe\".")
+                       QStringLiteral("l'interlinea è di %1 mm e sulla carta le righe non scendono "
+                                      "una sotto l'altra: scriverne una maggiore di zero nella "
+                                      "pagina \"Posizione righe\".")
                            .arg(Numeri::Decimi(righe.Interlinea)));
+    }
+    if (!(righe.InterlineaDescr > 0)) {
+        esame.Aggiunge(SpecieRilievo::InterlineaNulla, Rilievo::Luogo::Righe,
+                       QStringLiteral("l'interlinea nelle descrizioni multilinea è di %1 mm e "
+                                      "sulla carta le righe di una descrizione lunga non scendono "
+                                      "una sotto l'altra: scriverne una maggiore di zero nella "
+                                      "pagina \"Posizione righe\".")
+                           .arg(Numeri::Decimi(righe.InterlineaDescr)));
     }
 }
 

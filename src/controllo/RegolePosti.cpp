@@ -57,12 +57,14 @@ Sporgenza MaggioreSporgenza(const QRectF &posto, const QRectF &area)
 std::map<Chiave, QRectF> Ingombri(const Esame &esame, const QRectF &stampabile)
 {
     std::map<Chiave, QRectF> ingombri;
-    for (const TestoSulFoglio &testo : esame.Testi()) {
-        QRectF posto = testo.Posto;
-        if (posto.left() < stampabile.right()) {
-            posto.setRight(std::min(posto.right(), stampabile.right()));
+    for (const auto *testi : {&esame.Testi(), &esame.Vuoti()}) {
+        for (const TestoSulFoglio &testo : *testi) {
+            QRectF posto = testo.Posto;
+            if (posto.left() < stampabile.right()) {
+                posto.setRight(std::min(posto.right(), stampabile.right()));
+            }
+            ingombri.emplace(testo.Di, posto);
         }
-        ingombri.emplace(testo.Di, posto);
     }
     const auto unisce = [&](Chiave chiave, const QRectF &posto) {
         if (posto.isValid()) {

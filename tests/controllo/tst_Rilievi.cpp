@@ -32,6 +32,8 @@ private slots:
     void UnCampoNonStampatoNonHaPosto();
     void GliElementiEliminatiTacciono();
     void SenzaStampanteNienteSullaCarta();
+    void SenzaIlFileNonCEFigura();
+    void UnCampoDiRigaNonStampatoTace();
     void UnRigoPerRilievo();
     void InOrdineDiElemento();
 };
@@ -68,6 +70,13 @@ void tst_Rilievi::OgniRilievoEIlSuoGemello_data()
         "field without a font", FontMancante, "campo Numero",
         [](S &m) { m.Aperto.Campi[1].Font.clear(); },
         [](S &m) { m.Aperto.Campi[1].Font = QStringLiteral("Times New Roman"); });
+    riga(
+        "font of a field without test text", FontMancante, "campo Numero",
+        [](S &m) {
+            m.Aperto.Campi[1].Testo.clear();
+            m.Aperto.Campi[1].Font = QStringLiteral("Font Mai Esistito");
+        },
+        [](S &m) { m.Aperto.Campi[1].Testo.clear(); });
     riga(
         "character that the font lacks", CaratteriMancanti, "campo Data",
         [](S &m) { m.Aperto.Campi[2].Testo = QStringLiteral("15 ☃"); },
@@ -111,6 +120,13 @@ void tst_Rilievi::OgniRilievoEIlSuoGemello_data()
     riga(
         "picture off the paper", FuoriDallaCarta, "immagine logo.bmp",
         [](S &m) { m.Aperto.Immagini[1].Y = 300; }, [](S &m) { m.Aperto.Immagini[1].Y = 200; });
+    riga(
+        "field without test text off the paper", FuoriDallaCarta, "campo Numero",
+        [](S &m) {
+            m.Aperto.Campi[1].Testo.clear();
+            m.Aperto.Campi[1].X = 300;
+        },
+        [](S &m) { m.Aperto.Campi[1].Testo.clear(); });
     riga(
         "field above the paper", FuoriDallaCarta, "campo Numero",
         [](S &m) { m.Aperto.Campi[1].Y = -7; }, [](S &m) { m.Aperto.Campi[1].Y = 0; });
@@ -216,7 +232,11 @@ void tst_Rilievi::OgniRilievoEIlSuoGemello_data()
     riga(
         "spacing below zero", InterlineaNulla, "righe",
         [](S &m) { m.Aperto.Righe.Interlinea = -5; },
-        [](S &m) { m.Aperto.Righe.InterlineaDescr = 0; });
+        [](S &m) { m.Aperto.Righe.Interlinea = 5.5; });
+    riga(
+        "spacing of long descriptions zero", InterlineaNulla, "righe",
+        [](S &m) { m.Aperto.Righe.InterlineaDescr = 0; },
+        [](S &m) { m.Aperto.Righe.InterlineaDescr = 0.5; });
     riga(
         "scan that is missing", Scansione, "immagine di sfondo",
         [](S &m) { QVERIFY(QFile::remove(m.In("scansione.bmp"))); },
@@ -276,6 +296,28 @@ void tst_Rilievi::SenzaStampanteNienteSullaCarta()
     sano.Aperto.Immagini[1].Y = 400;
     QCOMPARE(sano.Rilievi().size(), 3);
     sano.Controllo().ImpostaFoglio(std::nullopt);
+    QCOMPARE(sano.Righe(), QStringList());
+}
+
+void tst_Rilievi::SenzaIlFileNonCEFigura()
+{
+    // Under a picture, inside another and off the paper: of a missing one only that is told.
+    ModelloSano sano;
+    QVERIFY(QFile::remove(sano.In("logo.bmp")));
+    sano.Aperto.Campi[1].Y = 50;
+    sano.Aperto.Immagini[2].X = 38;
+    sano.Aperto.Immagini[2].Y = 40;
+    QCOMPARE(sano.Rilievi().size(), 1);
+    QCOMPARE(sano.Rilievi().constFirst().Specie, SpecieRilievo::FileImmagine);
+    sano.Aperto.Immagini[1].Y = 300;
+    QCOMPARE(sano.Rilievi().size(), 1);
+}
+
+void tst_Rilievi::UnCampoDiRigaNonStampatoTace()
+{
+    ModelloSano sano;
+    sano.Aperto.Campi[3].Y = 102.5;
+    sano.Aperto.Campi[3].Maschera = QStringLiteral("No");
     QCOMPARE(sano.Righe(), QStringList());
 }
 
