@@ -208,7 +208,6 @@ void Form2::Collegamenti()
                   &Form2::VariazioneImmagine_Click, &Form2::Command4_Click,
                   &Form2::ComboImmagini_GotFocus);
     Collega(&Pagina(Genere::Cornice), &PaginaElementi::EliminaTutte, this, &Form2::Command7_Click);
-    Collega(spostamento_, &PaginaSpostamento::SpostateRighe, righe_, &PaginaRighe::RiempieCaselle);
     Collega(spostamento_, &PaginaSpostamento::SpostatoSfondo, sfondo_, [this] {
         sfondo_->Mostra();
         sfondo_->ImpostaImmagineSfondo(false);

@@ -22,7 +22,12 @@ namespace {
 
 std::optional<double> Millimetri(const QLineEdit *casella)
 {
-    const std::optional<double> valore = Numeri::Numerico(casella->text().trimmed());
+    // A rule is read with a comma or with a point, whatever the system's own.
+    QString testo = casella->text();
+    if (!testo.contains(u'.')) {
+        testo.replace(u',', u'.');
+    }
+    const std::optional<double> valore = Numeri::Numerico(testo, QLocale::c());
     return valore && std::abs(*valore) <= MillimetriMassimi ? valore : std::nullopt;
 }
 
@@ -186,12 +191,16 @@ void FrmCorrezione::Aggiorna()
         }
     }
     ui_->Disegno->Mostra(segni);
-    Esito esito;
+    const bool completi = segni.size() == (due ? 2 : 1);
+    Esito esito = completi ? Giudica(segni) : Esito();
+    // To a sheet that no shift makes right none is offered, from wherever it comes.
+    const bool possibile = esito.Che == Giudizio::Sposta;
+    ui_->UsaProposta->setEnabled(possibile);
+    usata_ = usata_ && possibile;
     if (usata_) {
         esito.Quanto = *proposta_;
         ui_->Esito->setText(QStringLiteral("Spostamento: ") + Frase(*proposta_));
-    } else if (segni.size() == (due ? 2 : 1)) {
-        esito = Giudica(segni);
+    } else if (completi) {
         ui_->Esito->setText(Spiega(esito));
     } else {
         ui_->Esito->setText(due ? QStringLiteral("Scrivere i posti dei due segni, in millimetri.")

@@ -56,23 +56,40 @@ void PaginaRighe::SegueDocumento(const Cambiamento &cambiamento)
     if (cambiamento.Righe && cambiamento.origine == Cambiamento::Origine::Storia) {
         RiempieCaselle();
     } else if (cambiamento.Righe) {
-        SegnalaNonConfermati();
+        SegueModello();
     }
     if (cambiamento.Righe || cambiamento.Contiene(Genere::Campo)) {
         SimuloRighe();
     }
 }
 
+void PaginaRighe::Riempie(const Casella &casella)
+{
+    const ParametriRighe &righe = stato_.Aperto().Righe;
+    if (casella.Valore == nullptr) {
+        caselle_.Mostra(casella.Testo, righe.SeguePag);
+    } else {
+        // The boxes are read with "." as the decimal separator, so they are filled with it.
+        caselle_.Mostra(casella.Testo, righe.*casella.Valore, QLocale::c());
+    }
+}
+
 void PaginaRighe::RiempieCaselle()
 {
-    // The boxes are read with "." as the decimal separator, so they are filled with it.
-    const QLocale colPunto = QLocale::c();
-    const ParametriRighe &righe = stato_.Aperto().Righe;
-    caselle_.Mostra(ui_->yInizio, righe.yInizio, colPunto);
-    caselle_.Mostra(ui_->yFine, righe.yFine, colPunto);
-    caselle_.Mostra(ui_->Interlinea, righe.Interlinea, colPunto);
-    caselle_.Mostra(ui_->InterlineaDescr, righe.InterlineaDescr, colPunto);
-    caselle_.Mostra(ui_->SeguePag, righe.SeguePag);
+    for (const Casella &casella : std::as_const(tutte_)) {
+        Riempie(casella);
+    }
+    SegnalaNonConfermati();
+}
+
+void PaginaRighe::SegueModello()
+{
+    const QList<Casella> prima = tutte_; // filling one looks at all of them
+    for (const Casella &casella : prima) {
+        if (casella.InPari && !Confermata(casella)) {
+            Riempie(casella);
+        }
+    }
     SegnalaNonConfermati();
 }
 
@@ -102,12 +119,13 @@ QStringList PaginaRighe::NonConfermati() const
 
 void PaginaRighe::SegnalaNonConfermati()
 {
-    for (const Casella &casella : std::as_const(tutte_)) {
+    for (Casella &casella : tutte_) {
+        casella.InPari = Confermata(casella);
         QStringList avvisi;
         if (casella.Valore != nullptr) {
             avvisi.append(Numeri::AvvisoDiLettura(casella.Testo->text()));
         }
-        if (!Confermata(casella)) {
+        if (!casella.InPari) {
             avvisi.append(
                 QStringLiteral("non ancora nel modello: lo prende 'Conferma Posizione Righe'"));
         }

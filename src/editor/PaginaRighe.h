@@ -28,8 +28,6 @@ public:
 
     /// Shows the model's values; the simulation is off in a freshly opened model.
     void Mostra();
-    /// The boxes show the model; what was typed and not confirmed is lost.
-    void RiempieCaselle();
 
     void ConfermaPosizioneRighe_Click();
     void OptSimuloRighe_Click();
@@ -51,7 +49,13 @@ private:
         QLabel *Etichetta;
         AvvisoCasella *Avviso;
         double ParametriRighe::*Valore; ///< null: the box of SeguePag
+        bool InPari = true;             ///< the model had its value when last looked at
     };
+    void RiempieCaselle();
+    void Riempie(const Casella &casella);
+    /// Boxes that have waited for nothing follow a model that something else has changed; what is
+    /// typed into the others stays.
+    void SegueModello();
     void SegnalaNonConfermati();
     bool Confermata(const Casella &casella) const;
     void SegueDocumento(const Cambiamento &cambiamento);

@@ -79,9 +79,6 @@ void PaginaSpostamento::CorreggiDaGriglia_Click()
     if (dialogo.Detto().isEmpty()) {
         return;
     }
-    if (dialogo.Mosse().Righe) {
-        emit SpostateRighe();
-    }
     if (dialogo.Mosse().Sfondo) {
         emit SpostatoSfondo();
     }

@@ -28,8 +28,7 @@ public:
     void Command6_Click(); ///< all images
 
 signals:
-    /// The row area, or the scan, has been moved: boxes that show it are to be filled again.
-    void SpostateRighe();
+    /// The scan has been moved: the boxes that show it are to be filled again.
     void SpostatoSfondo();
 
 private:

@@ -30,6 +30,7 @@ private slots:
     void LeRigheNonConfermate_data();
     void LeRigheNonConfermate();
     void AnnullataLaConfermaTuttoTorna();
+    void UnAltroComandoLasciaCioCheEScritto();
     void SalvandoSiDiceCheCosaManca();
     void SalvandoTuttoNonSiDiceNulla();
     void LetturaTollerante_data();
@@ -124,6 +125,24 @@ void tst_CioCheENelModello::AnnullataLaConfermaTuttoTorna()
     prova.prova.Stato().documento.Annulla(); // fills the boxes from the model
     QVERIFY(Avviso(*prova.editor, "yInizio").isEmpty());
     QVERIFY(Avviso(*prova.editor, "yFine").isEmpty());
+}
+
+void tst_CioCheENelModello::UnAltroComandoLasciaCioCheEScritto()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    prova.Scrive("Interlinea", QStringLiteral("7,5"));
+    {
+        ParametriRighe righe = prova.Aperto().Righe;
+        righe.yInizio += 3;
+        Passo passo(prova.prova.Stato().documento, QStringLiteral("corregge"));
+        passo.ImpostaRighe(righe);
+    }
+    QCOMPARE(prova.Testo("yInizio"),
+             Numeri::NumeroPiano(prova.Aperto().Righe.yInizio, QLocale::c()));
+    QVERIFY(Avviso(*prova.editor, "yInizio").isEmpty());
+    QCOMPARE(prova.Testo("Interlinea"), QStringLiteral("7,5"));
+    QVERIFY(Avviso(*prova.editor, "Interlinea").contains(NonConfermato));
 }
 
 void tst_CioCheENelModello::SalvandoSiDiceCheCosaManca()

@@ -62,6 +62,7 @@ private slots:
     void nienteDaSpostare();
     void nullaDiScelto();
     void propostaAlProssimo();
+    void seLaStampanteRiduceNemmenoLaProposta();
     void propostaDimenticata();
     void scriverePrevaleSullaProposta();
     void senzaCartellaSiSpostaLoStesso();
@@ -187,6 +188,8 @@ void tst_FrmCorrezione::numeriComeSiScrivono_data()
     QTest::addColumn<QString>("testo");
     QTest::addColumn<bool>("numero");
     QTest::newRow("a point") << QStringLiteral("17.6") << true;
+    QTest::newRow("a comma, whatever the locale") << QStringLiteral("17,6") << true;
+    QTest::newRow("thousands") << QStringLiteral("1.017,6") << false;
     QTest::newRow("blanks around") << QStringLiteral(" 17.6 ") << true;
     QTest::newRow("negative") << QStringLiteral("-2") << true;
     QTest::newRow("nothing") << QString() << false;
@@ -293,6 +296,37 @@ void tst_FrmCorrezione::propostaAlProssimo()
              QStringLiteral("Spostamento: 2 mm a destra, 1 mm in alto"));
     Trova<QPushButton>(prossima, "Conferma")->click();
     QCOMPARE(prima.Aperto().Campi[1].X, 24.0);
+}
+
+void tst_FrmCorrezione::seLaStampanteRiduceNemmenoLaProposta()
+{
+    Correzione prima;
+    prima.Scrive(1, Posti("20 30 18 31"));
+    prima.Conferma()->click();
+    StatoProgramma &stato = prima.Archivio.Stato();
+    stato.NomeFile = QStringLiteral("Altro.Mod");
+    FrmCorrezione prossima(stato, Laser, prima.Archivio.CartellaStato(), prima.Editor.get());
+    prossima.show();
+    auto *usa = Trova<QPushButton>(prossima, "UsaProposta");
+    usa->click();
+    QVERIFY(Trova<QPushButton>(prossima, "Conferma")->isEnabled());
+    Trova<QCheckBox>(prossima, "DueSegni")->click();
+    constexpr std::array<std::pair<const char *, int>, 8> Misure{{{"AttesoX1", 20},
+                                                                  {"AttesoY1", 20},
+                                                                  {"UscitoX1", 24},
+                                                                  {"UscitoY1", 25},
+                                                                  {"AttesoX2", 20},
+                                                                  {"AttesoY2", 220},
+                                                                  {"UscitoX2", 24},
+                                                                  {"UscitoY2", 219}}};
+    for (const auto &[casella, millimetri] : Misure) {
+        Controlli::Digita(prossima, casella, QString::number(millimetri));
+    }
+    QVERIFY(!usa->isEnabled());
+    QVERIFY(!Trova<QPushButton>(prossima, "Conferma")->isEnabled());
+    Controlli::Digita(prossima, "UscitoY2", QStringLiteral("225")); // only shifted after all
+    QVERIFY(usa->isEnabled());
+    prossima.reject();
 }
 
 void tst_FrmCorrezione::propostaDimenticata()
