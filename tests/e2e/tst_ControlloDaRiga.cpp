@@ -67,7 +67,7 @@ void tst_ControlloDaRiga::UnaRigaPerRilievo()
     const QStringList righe = esito.uscita.split(u'\n');
     QCOMPARE(righe.size(), 3);
     QCOMPARE(righe[0], malato + QStringLiteral(": campo Doc_Numero: il testo di prova ha più "
-                                               "caratteri (5) della maschera (1) e il dato vero "
+                                               "caratteri (5) della maschera (1), e il dato vero "
                                                "sulla carta esce diverso dalla prova: correggere "
                                                "il testo o la maschera."));
     QVERIFY(righe[1].startsWith(malato +
