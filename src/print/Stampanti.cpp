@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QHash>
 #include <QPdfWriter>
 #include <QPrinterInfo>
 
@@ -14,12 +15,26 @@ namespace {
 
 constexpr int RisoluzionePdf = 1200;
 
-/// A family that two foundries ship is told twice, as "Name [foundry]"; both are asked for, and
-/// known to other systems, by the name alone.
-QString SenzaFonderia(const QString &famiglia)
+QString PrimaDellaFonderia(const QString &famiglia)
 {
-    const QString nome = famiglia.section(QLatin1String(" ["), 0, 0);
-    return famiglia.endsWith(u']') && QFontDatabase::hasFamily(nome) ? nome : famiglia;
+    return famiglia.endsWith(u']') ? famiglia.section(QLatin1String(" ["), 0, 0) : QString();
+}
+
+/// A family that two foundries ship is told twice, as "Name [foundry]"; both are asked for, and
+/// known to other systems, by the name alone. Told by its twin: asking the system for each would
+/// hold up the first window.
+QStringList SenzaFonderie(const QStringList &famiglie)
+{
+    QHash<QString, int> omonime;
+    for (const QString &famiglia : famiglie) {
+        ++omonime[PrimaDellaFonderia(famiglia)];
+    }
+    QStringList nomi;
+    for (const QString &famiglia : famiglie) {
+        const QString nome = PrimaDellaFonderia(famiglia);
+        nomi.append(!nome.isEmpty() && omonime.value(nome) > 1 ? nome : famiglia);
+    }
+    return nomi;
 }
 
 /// The writer of PDF files tells nobody when the disk is full: its last words must be there.
@@ -68,10 +83,10 @@ QStringList Stampanti::ElencoFont()
     const QStringList tutte = QFontDatabase::families();
     for (const QString &famiglia : tutte) {
         if (!QFontDatabase::isPrivateFamily(famiglia) && !FontGenerico(famiglia)) {
-            famiglie.append(SenzaFonderia(famiglia));
+            famiglie.append(famiglia);
         }
     }
-    famiglie += FontSostituitiAllaPari();
+    famiglie = SenzaFonderie(famiglie) + FontSostituitiAllaPari();
     famiglie.removeDuplicates();
     famiglie.sort(Qt::CaseInsensitive);
     return famiglie;
