@@ -189,5 +189,5 @@ void TestMaschereStampa::LaSorgenteUniformeStaFraZeroEUno()
     QCOMPARE(cifre.size(), 10);
 }
 
-QTEST_MAIN(TestMaschereStampa)
+QTEST_GUILESS_MAIN(TestMaschereStampa)
 #include "tst_MaschereStampa.moc"
