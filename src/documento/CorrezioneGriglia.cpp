@@ -3,7 +3,6 @@
 #include "documento/Passo.h"
 #include "model/Numeri.h"
 
-#include <QLineF>
 #include <QStringList>
 #include <QtMath>
 

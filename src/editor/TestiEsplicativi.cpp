@@ -51,7 +51,9 @@ QString TestiEsplicativi::Immagini()
 {
     return QStringLiteral(
         "Le 'IMMAGINI' sono figure stampate sul documento, per esempio il logo della ditta. Si "
-        "possono usare file JPG, BMP e GIF che stanno nella cartella dei modelli.\n"
+        "possono usare file JPG, BMP e GIF che stanno nella cartella dei modelli; 'Importa...', "
+        "nelle "
+        "impostazioni, vi porta una figura di altro tipo o di un'altra cartella.\n"
         "Sull'anteprima fai clic su un'immagine per selezionarla, trascina il quadratino del suo "
         "angolo per spostarla, il bordo destro, quello inferiore o l'angolo in basso a destra per "
         "ridimensionarla; con un doppio clic (o un clic con il tasto destro) scegli il file e le "
@@ -69,7 +71,9 @@ QString TestiEsplicativi::Spostamento()
         "spostare tutto il documento premili tutti e tre.\n"
         "Serve per esempio quando il modulo prestampato è cambiato, o quando la stampante lascia "
         "un margine diverso: stampa la griglia millimetrata, appoggiala sul modulo e leggi di "
-        "quanto spostare.\n"
+        "quanto spostare. Con 'Correggi da griglia...' si scrive dove un segno dovrebbe stare e "
+        "dove "
+        "è uscito, e il modello si sposta da sé.\n"
         "I decimali si scrivono con il punto (per esempio 2.5); campi e cornici si fermano "
         "comunque al millimetro intero. I campi delle righe ('R_') restano all'altezza di 'inizio "
         "righe'.");

@@ -20,7 +20,6 @@ public:
 
     /// Empty: no mark.
     void Mostra(const QString &testo);
-    const QString &Testo() const { return testo_; }
 
 signals:
     void Entrato(); ///< the keyboard has come to the marked box
