@@ -40,7 +40,7 @@ bool DiRiga(const Modello &elementi, Chiave chiave)
 
 /// How far the stretch is to be moved, in whole millimetres: rounding each element to its own would
 /// move them against each other.
-double Spostamento(const Tratto &tratto, double foglio, const Incolla::Dove &dove)
+double DiQuanto(const Tratto &tratto, double foglio, const Incolla::Dove &dove)
 {
     const bool fuori = tratto.a < 0 || tratto.da > foglio;
     if (tratto.vuoto || (dove.sulPosto && !fuori)) {
@@ -49,7 +49,7 @@ double Spostamento(const Tratto &tratto, double foglio, const Incolla::Dove &dov
     return std::max(std::ceil(-tratto.da), std::min(dove.scarto, std::floor(foglio - tratto.a)));
 }
 
-QPointF Spostamento(const ElementiCopiati &elementi, const Incolla::Dove &dove)
+QPointF DiQuanto(const ElementiCopiati &elementi, const Incolla::Dove &dove)
 {
     Tratto x;
     Tratto y;
@@ -62,7 +62,7 @@ QPointF Spostamento(const ElementiCopiati &elementi, const Incolla::Dove &dove)
             y.Unisce(Sensato(elemento.Y), Sensato(misura.height()));
         }
     }
-    return {Spostamento(x, dove.foglio.width(), dove), Spostamento(y, dove.foglio.height(), dove)};
+    return {DiQuanto(x, dove.foglio.width(), dove), DiQuanto(y, dove.foglio.height(), dove)};
 }
 
 /// The name, or the first of those with a number after it, that no element of the kind has.
@@ -147,7 +147,7 @@ Incolla::Esito Incolla::Aggiunge(Documento &documento, const ElementiCopiati &el
                                  const Parole &parole, const Dove &dove)
 {
     Esito esito;
-    const QPointF spostamento = Spostamento(elementi, dove);
+    const QPointF spostamento = DiQuanto(elementi, dove);
     Passo passo(documento, parole.verbo);
     for (const Chiave &chiave : elementi.Ordine) {
         const QString &nome = elementi.Elementi.Di(chiave).Nome;

@@ -31,8 +31,6 @@
 
 namespace {
 
-constexpr int LatoIcona = LatoIconaComandi;
-
 /// Lets the hourglass and the place of a closed question be painted before the program waits for
 /// the print system.
 void MostraAttesa()
@@ -72,7 +70,7 @@ void Prepara(QToolButton *bottone, QAction *comando)
 {
     bottone->setDefaultAction(comando);
     bottone->setAccessibleName(comando->text());
-    bottone->setIconSize(QSize(LatoIcona, LatoIcona));
+    bottone->setIconSize(QSize(LatoIconaComandi, LatoIconaComandi));
 }
 
 } // namespace
@@ -87,10 +85,10 @@ ComandiStampa::ComandiStampa(StatoProgramma &stato, QWidget &editore, Frm1 &ante
                                   QStringLiteral("Stampa di prova"), {Qt::CTRL | Qt::Key_P});
     QAction *vedi =
         CreaComando(this, QStringLiteral("ComandoVediStampa"), QStringLiteral("Vedi stampa"),
-                    {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, IconaVediStampa(LatoIcona));
+                    {Qt::CTRL | Qt::SHIFT | Qt::Key_P}, IconaVediStampa(LatoIconaComandi));
     QAction *esportaPdf =
         CreaComando(this, QStringLiteral("ComandoEsportaPdf"), QStringLiteral("Esporta PDF..."),
-                    {Qt::CTRL | Qt::Key_E}, IconaEsporta(LatoIcona));
+                    {Qt::CTRL | Qt::Key_E}, IconaEsporta(LatoIconaComandi));
     Prepara(bottoni.Vedi, vedi);
     Prepara(bottoni.Esporta, esportaPdf);
     // What somebody has in hand is in no state to be printed; its dialog would be below the box.

@@ -12,12 +12,10 @@
 
 namespace {
 
-constexpr int LatoIcona = LatoIconaComandi;
-
 void Prepara(QToolButton *bottone, const QPixmap &icona)
 {
     bottone->setIcon(icona);
-    bottone->setIconSize(QSize(LatoIcona, LatoIcona));
+    bottone->setIconSize(QSize(LatoIconaComandi, LatoIconaComandi));
 }
 
 void MostraPasso(QToolButton *bottone, const QString &verbo, bool possibile, const QString &passo)
@@ -37,8 +35,8 @@ ComandiStoria::ComandiStoria(Documento &documento, QToolButton *annulla, QToolBu
     , ripristina_(ripristina)
     , finestre_(finestre)
 {
-    Prepara(annulla_, IconaAnnulla(LatoIcona));
-    Prepara(ripristina_, IconaRipristina(LatoIcona));
+    Prepara(annulla_, IconaAnnulla(LatoIconaComandi));
+    Prepara(ripristina_, IconaRipristina(LatoIconaComandi));
     connect(&documento_, &Documento::StoriaCambiata, this, &ComandiStoria::Mostra);
     Collega(annulla_, &QToolButton::clicked, annulla_, [this] { documento_.Annulla(); });
     Collega(ripristina_, &QToolButton::clicked, ripristina_, [this] { documento_.Ripristina(); });

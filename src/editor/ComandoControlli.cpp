@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int LatoIcona = LatoIconaComandi;
 const auto Nome = QStringLiteral("Controlli");
 
 } // namespace
@@ -31,9 +30,9 @@ ComandoControlli::ComandoControlli(StatoProgramma &stato, QToolButton &contatore
     , comando_(CreaComando(this, QStringLiteral("MostraControlli"), Nome, {Qt::Key_F7}))
     , controllo_(stato.CartellaModelli, SfondoDelModello::File)
 {
-    contatore_.setIconSize(QSize(LatoIcona, LatoIcona));
+    contatore_.setIconSize(QSize(LatoIconaComandi, LatoIconaComandi));
     contatore_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    contatore_.setIcon(IconaSenzaRilievi(LatoIcona));
+    contatore_.setIcon(IconaSenzaRilievi(LatoIconaComandi));
     // Room for two digits, so that the buttons stay where they are while the number changes.
     contatore_.setText(QStringLiteral("00"));
     contatore_.setMinimumWidth(contatore_.sizeHint().width());
@@ -119,7 +118,8 @@ void ComandoControlli::MostraConto()
     const bool nessuno = rilievi_.isEmpty();
     const QString conto =
         iniziato_ ? Nome + QStringLiteral(": ") + ElencoRilievi::Conto(rilievi_.size()) : Nome;
-    contatore_.setIcon(nessuno ? IconaSenzaRilievi(LatoIcona) : IconaConRilievi(LatoIcona));
+    contatore_.setIcon(nessuno ? IconaSenzaRilievi(LatoIconaComandi)
+                               : IconaConRilievi(LatoIconaComandi));
     contatore_.setText(nessuno ? QString() : QString::number(rilievi_.size()));
     contatore_.setToolTip(TestoConTasti(conto, comando_->shortcuts()));
     contatore_.setAccessibleName(conto);

@@ -15,7 +15,7 @@ constexpr QColor Azzurro(0x1f, 0x6f, 0xb5);
 constexpr QColor Rosso(0xb0, 0x1e, 0x1e);
 /// Around the sheet, for the numbers of the axes; device-independent pixels, as all below.
 constexpr double Margine = 30;
-constexpr double Raggio = 5;
+constexpr double RaggioSegno = 5;
 constexpr double PuntaFreccia = 6;
 /// A shift of a few millimetres would not be seen: arrows show the way, not how far.
 constexpr double FrecciaMinima = 26;
@@ -46,8 +46,8 @@ QSize DisegnoCorrezione::minimumSizeHint() const
 
 double DisegnoCorrezione::Scala() const
 {
-    return qMin((width() - Margine - Raggio) / Foglio.width(),
-                (height() - Margine - Raggio) / Foglio.height());
+    return qMin((width() - Margine - RaggioSegno) / Foglio.width(),
+                (height() - Margine - RaggioSegno) / Foglio.height());
 }
 
 QPointF DisegnoCorrezione::Punto(QPointF millimetri) const
@@ -100,12 +100,12 @@ void DisegnoCorrezione::DipingeSegno(QPainter &pittore, const Segno &segno,
     }
     constexpr double Tratto = 2;
     pittore.setPen(QPen(Azzurro, Tratto));
-    pittore.drawLine(atteso - QPointF(Raggio, 0), atteso + QPointF(Raggio, 0));
-    pittore.drawLine(atteso - QPointF(0, Raggio), atteso + QPointF(0, Raggio));
-    pittore.drawText(atteso + QPointF(Raggio + 2, -Raggio), nome);
+    pittore.drawLine(atteso - QPointF(RaggioSegno, 0), atteso + QPointF(RaggioSegno, 0));
+    pittore.drawLine(atteso - QPointF(0, RaggioSegno), atteso + QPointF(0, RaggioSegno));
+    pittore.drawText(atteso + QPointF(RaggioSegno + 2, -RaggioSegno), nome);
     pittore.setPen(QPen(Rosso, Tratto));
-    pittore.drawEllipse(via.p1(), Raggio, Raggio);
-    if (via.length() > Raggio) {
+    pittore.drawEllipse(via.p1(), RaggioSegno, RaggioSegno);
+    if (via.length() > RaggioSegno) {
         pittore.drawLine(via);
         for (const double giro : {150.0, 210.0}) {
             QLineF ala = QLineF::fromPolar(PuntaFreccia, via.angle() + giro);

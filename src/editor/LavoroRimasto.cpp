@@ -107,9 +107,9 @@ bool GettaVia(QWidget *padre, const Rimasta &rimasta)
     return true;
 }
 
-enum class Esito { ChiedeAncora, Tenuta, Salvata, GettataVia };
+enum class Sorte { ChiedeAncora, Tenuta, Salvata, GettataVia };
 
-Esito Offre(QWidget *padre, const Rimasta &rimasta, const StatoProgramma &stato)
+Sorte Offre(QWidget *padre, const Rimasta &rimasta, const StatoProgramma &stato)
 {
     const QString testo =
         QStringLiteral(
@@ -127,13 +127,13 @@ Esito Offre(QWidget *padre, const Rimasta &rimasta, const StatoProgramma &stato)
                                      Tieni)) {
     case Guarda:
         FrmLavoroRimasto(rimasta.modello, rimasta.percorso, padre).exec();
-        return Esito::ChiedeAncora;
+        return Sorte::ChiedeAncora;
     case Salva:
-        return SalvaComeNuovo(padre, rimasta, stato) ? Esito::Salvata : Esito::ChiedeAncora;
+        return SalvaComeNuovo(padre, rimasta, stato) ? Sorte::Salvata : Sorte::ChiedeAncora;
     case Getta:
-        return GettaVia(padre, rimasta) ? Esito::GettataVia : Esito::ChiedeAncora;
+        return GettaVia(padre, rimasta) ? Sorte::GettataVia : Sorte::ChiedeAncora;
     default:
-        return Esito::Tenuta;
+        return Sorte::Tenuta;
     }
 }
 
@@ -147,12 +147,12 @@ bool OffreLavoroRimasto(QWidget *padre, const StatoProgramma &stato)
     }
     bool salvata = false;
     for (const Rimasta &rimasta : trovate.rimaste) {
-        Esito esito = Esito::ChiedeAncora;
-        while (esito == Esito::ChiedeAncora) {
+        Sorte sorte = Sorte::ChiedeAncora;
+        while (sorte == Sorte::ChiedeAncora) {
             // A failure is told, and the question comes again: the work is still there.
-            Guardia(padre, [&] { esito = Offre(padre, rimasta, stato); });
+            Guardia(padre, [&] { sorte = Offre(padre, rimasta, stato); });
         }
-        salvata = salvata || esito == Esito::Salvata;
+        salvata = salvata || sorte == Sorte::Salvata;
     }
     return salvata;
 }

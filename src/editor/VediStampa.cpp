@@ -42,7 +42,7 @@ private:
     QPrinter &foglio_;
 };
 
-std::unique_ptr<QPrinter> Foglio(const QPageLayout &pagina)
+std::unique_ptr<QPrinter> StampanteInMemoria(const QPageLayout &pagina)
 {
     auto foglio = std::make_unique<QPrinter>(QPrinter::HighResolution);
     // Any paper, whatever the print system would say of it now.
@@ -55,7 +55,7 @@ std::unique_ptr<QPrinter> Foglio(const QPageLayout &pagina)
 /// The edge of what the printer reaches, dashed.
 void TratteggiaBordo(Pagina &pagina)
 {
-    constexpr QRgb Azzurro = 0xFF1F6FB5;
+    constexpr QRgb AzzurroBordo = 0xFF1F6FB5;
     constexpr double Tratto = 3; // mm, as all here
     constexpr double Periodo = 5;
     constexpr double Spessore = 0.3;
@@ -63,13 +63,13 @@ void TratteggiaBordo(Pagina &pagina)
     const double h = pagina.Altezza();
     for (double x = 0; x < w; x += Periodo) {
         const double lungo = qMin(Tratto, w - x);
-        pagina.Barra(x, -Spessore / 2, lungo, Spessore, Azzurro);
-        pagina.Barra(x, h - Spessore / 2, lungo, Spessore, Azzurro);
+        pagina.Barra(x, -Spessore / 2, lungo, Spessore, AzzurroBordo);
+        pagina.Barra(x, h - Spessore / 2, lungo, Spessore, AzzurroBordo);
     }
     for (double y = 0; y < h; y += Periodo) {
         const double lungo = qMin(Tratto, h - y);
-        pagina.Barra(-Spessore / 2, y, Spessore, lungo, Azzurro);
-        pagina.Barra(w - Spessore / 2, y, Spessore, lungo, Azzurro);
+        pagina.Barra(-Spessore / 2, y, Spessore, lungo, AzzurroBordo);
+        pagina.Barra(w - Spessore / 2, y, Spessore, lungo, AzzurroBordo);
     }
 }
 
@@ -96,7 +96,7 @@ VediStampa::VediStampa(const StatoProgramma &stato, const QString &stampante,
     : QDialog(padre)
     , ui_(std::make_unique<Ui::VediStampa>())
     , stato_(stato)
-    , foglio_(Foglio(pagina))
+    , foglio_(StampanteInMemoria(pagina))
 {
     ui_->setupUi(this);
     auto *posto = new QVBoxLayout(ui_->Posto);

@@ -20,11 +20,12 @@ namespace {
 
 constexpr QColor ColoreElementi(0x1f, 0x4f, 0xb5);
 constexpr QColor ColorePunti(0xc0, 0x00, 0x30);
-constexpr int Raggio = 9;      // of a point on the screen, device-independent pixels
-constexpr double Margine = 60; // mm that the scan can be moved beyond the sheet and still be seen
+constexpr int RaggioPunto = 9; // of a point on the screen, device-independent pixels
+constexpr double OltreIlFoglio =
+    60; // mm that the scan can be moved beyond the sheet and still be seen
 constexpr double ScalaMassima = 60; // pixels a millimetre
 
-QRectF Foglio()
+QRectF Carta()
 {
     return {0, 0, FoglioCarta::Larghezza, FoglioCarta::Altezza};
 }
@@ -56,10 +57,10 @@ void VistaCalibrazione::Prepara(const QImage &immagine, const QSize &pixel, cons
     pixel_ = pixel;
     QPen bordo(Qt::black);
     bordo.setCosmetic(true);
-    scene()->addRect(Foglio(), QPen(Qt::NoPen), Qt::white);
+    scene()->addRect(Carta(), QPen(Qt::NoPen), Qt::white);
     scansione_ = scene()->addPixmap(QPixmap::fromImage(immagine));
     scansione_->setTransformationMode(Qt::SmoothTransformation);
-    scene()->addRect(Foglio(), bordo);
+    scene()->addRect(Carta(), bordo);
     AggiungeElementi(modello);
 }
 
@@ -103,8 +104,9 @@ void VistaCalibrazione::MostraScansione(const QRectF &posto)
     scansione_->setTransform(QTransform(posto.width() / pixel.width(), 0, 0,
                                         posto.height() / pixel.height(), posto.x(), posto.y()));
     scansione_->setVisible(!posto.isEmpty());
-    const QRectF tutto = Foglio().united(posto).adjusted(-Margine, -Margine, Margine, Margine);
-    if (!scene()->sceneRect().contains(Foglio().united(posto))) {
+    const QRectF tutto = Carta().united(posto).adjusted(-OltreIlFoglio, -OltreIlFoglio,
+                                                        OltreIlFoglio, OltreIlFoglio);
+    if (!scene()->sceneRect().contains(Carta().united(posto))) {
         scene()->setSceneRect(tutto); // a drag within it scrolls nothing
     }
     if (altraMisura && adattata_) {
@@ -143,7 +145,7 @@ void VistaCalibrazione::Segnala(Mobile mobile)
 void VistaCalibrazione::Adatta()
 {
     constexpr double Bordo = 5; // mm
-    fitInView(Foglio().united(posto_).adjusted(-Bordo, -Bordo, Bordo, Bordo), Qt::KeepAspectRatio);
+    fitInView(Carta().united(posto_).adjusted(-Bordo, -Bordo, Bordo, Bordo), Qt::KeepAspectRatio);
     adattata_ = true;
 }
 
@@ -176,7 +178,7 @@ std::optional<std::size_t> VistaCalibrazione::PuntoSotto(QPoint pixel) const
 {
     for (std::size_t i = 0; accetta_ && i < punti_.size(); ++i) {
         if (punti_.at(i) &&
-            (mapFromScene(SulFoglio(*punti_.at(i))) - pixel).manhattanLength() <= 2 * Raggio) {
+            (mapFromScene(SulFoglio(*punti_.at(i))) - pixel).manhattanLength() <= 2 * RaggioPunto) {
             return i;
         }
     }
@@ -317,11 +319,11 @@ void VistaCalibrazione::drawForeground(QPainter *penna, const QRectF & /*rettang
         const bool inMano = mobile_ != Mobile::Scansione && Numero(mobile_) == i;
         penna->setPen(QPen(ColorePunti, inMano ? 3 : 1.5));
         penna->setBrush(Qt::NoBrush);
-        penna->drawEllipse(centro, Raggio, Raggio);
+        penna->drawEllipse(centro, RaggioPunto, RaggioPunto);
         penna->setPen(QPen(ColorePunti, 1));
-        penna->drawLine(centro - QPointF(2 * Raggio, 0), centro + QPointF(2 * Raggio, 0));
-        penna->drawLine(centro - QPointF(0, 2 * Raggio), centro + QPointF(0, 2 * Raggio));
-        penna->drawText(centro + QPointF(Raggio + 2, -Raggio), QString::number(i + 1));
+        penna->drawLine(centro - QPointF(2 * RaggioPunto, 0), centro + QPointF(2 * RaggioPunto, 0));
+        penna->drawLine(centro - QPointF(0, 2 * RaggioPunto), centro + QPointF(0, 2 * RaggioPunto));
+        penna->drawText(centro + QPointF(RaggioPunto + 2, -RaggioPunto), QString::number(i + 1));
     }
     penna->restore();
 }

@@ -7,9 +7,8 @@
 namespace {
 
 constexpr QColor Azzurro(0x1f, 0x6f, 0xb5);
-constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
 
-QPen Tratto(const QColor &colore)
+QPen TrattoTondo(const QColor &colore)
 {
     return {colore, 0.1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
@@ -37,6 +36,11 @@ QPainterPath FrecciaIndietro()
 
 } // namespace
 
+QPen TrattoIcona(double spessore)
+{
+    return {BluScuro, spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
+
 QPixmap DisegnaIcona(int lato, const std::function<void(QPainter &)> &disegna)
 {
     // Drawn rather than set in a font, so that it looks the same on every machine.
@@ -57,7 +61,7 @@ QPixmap IconaGuida(int lato)
         pittore.setPen(Qt::NoPen);
         pittore.setBrush(Azzurro);
         pittore.drawEllipse(QRectF(0.04, 0.04, 0.92, 0.92));
-        pittore.strokePath(Gancio(), Tratto(Qt::white));
+        pittore.strokePath(Gancio(), TrattoTondo(Qt::white));
         pittore.setBrush(Qt::white);
         pittore.drawEllipse(QPointF(0.50, 0.77), 0.06, 0.06);
     });
@@ -65,8 +69,9 @@ QPixmap IconaGuida(int lato)
 
 QPixmap IconaAnnulla(int lato)
 {
-    return DisegnaIcona(
-        lato, [](QPainter &pittore) { pittore.strokePath(FrecciaIndietro(), Tratto(BluScuro)); });
+    return DisegnaIcona(lato, [](QPainter &pittore) {
+        pittore.strokePath(FrecciaIndietro(), TrattoTondo(BluScuro));
+    });
 }
 
 QPixmap IconaRipristina(int lato)
@@ -74,6 +79,6 @@ QPixmap IconaRipristina(int lato)
     return DisegnaIcona(lato, [](QPainter &pittore) {
         pittore.translate(1, 0);
         pittore.scale(-1, 1);
-        pittore.strokePath(FrecciaIndietro(), Tratto(BluScuro));
+        pittore.strokePath(FrecciaIndietro(), TrattoTondo(BluScuro));
     });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QColor>
+#include <QPen>
 #include <QPixmap>
 
 #include <functional>
@@ -8,6 +10,12 @@ class QPainter;
 
 /// The icons in the editor's column of commands, device-independent pixels.
 inline constexpr int LatoIconaComandi = 18;
+
+/// The colour that nearly all icons are drawn with.
+inline constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
+
+/// Straight lines with square corners in that colour; spessore in sides of the icon.
+QPen TrattoIcona(double spessore);
 
 /// What disegna draws in a square of side 1, lato device-independent pixels wide and high and as
 /// fine as the screen.

@@ -6,8 +6,7 @@
 
 namespace {
 
-constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
-constexpr QColor Azzurro(0x5b, 0x8f, 0xc7);
+constexpr QColor Celeste(0x5b, 0x8f, 0xc7);
 constexpr double Spessore = 0.08;
 
 /// What is drawn for sideways is turned over the diagonal for up and down.
@@ -16,11 +15,6 @@ void Orienta(QPainter &pittore, Qt::Orientation verso)
     if (verso == Qt::Vertical) {
         pittore.setTransform(QTransform(0, 1, 1, 0, 0, 0), true);
     }
-}
-
-QPen Tratto()
-{
-    return {BluScuro, Spessore, Qt::SolidLine, Qt::FlatCap};
 }
 
 void DoppiaFreccia(QPainter &pittore)
@@ -45,11 +39,11 @@ QPixmap IconaAllinea(Qt::Orientation verso, Bordo bordo, int lato)
         const double frazione = bordo == Bordo::Vicino ? 0 : bordo == Bordo::Mezzo ? 0.5 : 1;
         const auto barra = [&](double alto, double larghezza) {
             const double sinistra = linea - larghezza * frazione;
-            pittore.fillRect(QRectF(sinistra, alto, larghezza, 0.24), Azzurro);
+            pittore.fillRect(QRectF(sinistra, alto, larghezza, 0.24), Celeste);
         };
         barra(0.18, 0.8);
         barra(0.58, 0.5);
-        pittore.setPen(Tratto());
+        pittore.setPen(TrattoIcona(Spessore));
         pittore.drawLine(QPointF(linea, 0.02), QPointF(linea, 0.98));
     });
 }
@@ -58,9 +52,9 @@ QPixmap IconaDistribuisce(Qt::Orientation verso, int lato)
 {
     return DisegnaIcona(lato, [verso](QPainter &pittore) {
         Orienta(pittore, verso);
-        pittore.setPen(Tratto());
+        pittore.setPen(TrattoIcona(Spessore));
         for (const double linea : {0.12, 0.5, 0.88}) {
-            pittore.fillRect(QRectF(linea - 0.09, 0.25, 0.18, 0.5), Azzurro);
+            pittore.fillRect(QRectF(linea - 0.09, 0.25, 0.18, 0.5), Celeste);
             pittore.drawLine(QPointF(linea, 0.05), QPointF(linea, 0.95));
         }
     });
@@ -69,7 +63,7 @@ QPixmap IconaDistribuisce(Qt::Orientation verso, int lato)
 QPixmap IconaStessaMisura(Qt::Orientations versi, int lato)
 {
     return DisegnaIcona(lato, [versi](QPainter &pittore) {
-        pittore.setPen(Tratto());
+        pittore.setPen(TrattoIcona(Spessore));
         if (versi & Qt::Horizontal) {
             DoppiaFreccia(pittore);
         }

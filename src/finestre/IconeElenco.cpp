@@ -7,7 +7,6 @@
 QPixmap IconaElenco(int lato)
 {
     return DisegnaIcona(lato, [](QPainter &pittore) {
-        constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
         pittore.setPen({BluScuro, 0.1, Qt::SolidLine, Qt::RoundCap});
         for (const double y : {0.22, 0.50, 0.78}) {
             pittore.drawPoint(QPointF(0.14, y));

@@ -7,13 +7,6 @@
 
 namespace {
 
-constexpr QColor BluScuro(0x2b, 0x4a, 0x72);
-
-QPen Tratto(double spessore = 0.08)
-{
-    return {BluScuro, spessore, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
-}
-
 /// A sheet with a folded corner; fondo is where it ends.
 QPainterPath Foglio(double fondo)
 {
@@ -32,11 +25,11 @@ QPixmap IconaVediStampa(int lato)
     return DisegnaIcona(lato, [](QPainter &pittore) {
         QPainterPath foglio = Foglio(0.92);
         foglio.closeSubpath();
-        pittore.strokePath(foglio, Tratto());
-        pittore.setPen(Tratto(0.09));
+        pittore.strokePath(foglio, TrattoIcona(0.08));
+        pittore.setPen(TrattoIcona(0.09));
         pittore.setBrush(Qt::white);
         pittore.drawEllipse(QPointF(0.58, 0.58), 0.20, 0.20);
-        pittore.setPen(Tratto(0.14));
+        pittore.setPen(TrattoIcona(0.14));
         pittore.drawLine(QPointF(0.73, 0.73), QPointF(0.94, 0.94));
     });
 }
@@ -44,8 +37,8 @@ QPixmap IconaVediStampa(int lato)
 QPixmap IconaEsporta(int lato)
 {
     return DisegnaIcona(lato, [](QPainter &pittore) {
-        pittore.strokePath(Foglio(0.62), Tratto());
-        pittore.setPen(Tratto(0.12));
+        pittore.strokePath(Foglio(0.62), TrattoIcona(0.08));
+        pittore.setPen(TrattoIcona(0.12));
         pittore.drawLine(QPointF(0.45, 0.34), QPointF(0.45, 0.66));
         QPainterPath punta(QPointF(0.24, 0.60));
         punta.lineTo(0.66, 0.60);

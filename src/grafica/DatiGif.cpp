@@ -7,7 +7,7 @@
 namespace {
 
 /// Blocks that are walked over before the picture at most: no picture has more.
-constexpr int BlocchiMassimi = 1 << 14;
+constexpr int PassiMassimi = 1 << 14;
 /// Data beyond the picture's last pixel that a careless writer may leave.
 constexpr qint64 PixelDiTroppo = 1'000'000;
 
@@ -149,7 +149,7 @@ bool DatiGif::Interi(QByteArrayView file)
         return false;
     }
     qint64 posto = DopoTavola(ByteTesta, ByteA(file, 10));
-    for (int passo = 0; passo < BlocchiMassimi; ++passo) {
+    for (int passo = 0; passo < PassiMassimi; ++passo) {
         const int blocco = ByteA(file, posto);
         if (blocco == 0x21) { // extension: label, then sub-blocks
             posto = DopoSottoblocchi(file, posto + 2);

@@ -1,6 +1,5 @@
 #include "grafica/FiguraEsterna.h"
 
-#include "base/ErroreSistema.h"
 #include "base/Unita.h"
 #include "grafica/DisegnoSvg.h"
 #include "grafica/Immagini.h"
@@ -27,16 +26,9 @@ namespace {
 constexpr double PuntiSuCarta = 600 / Unita::MillimetriPerPollice; // a millimetre
 constexpr qint64 ByteMassimi = 268'435'456;
 constexpr qint64 ByteMassimiSvg = 16'777'216;
-/// What a picture has at most, as on a printed page.
-constexpr qint64 PixelMassimi = 36'000'000;
 /// A drawing of more pixels would make a file of which only photographs are worth.
 constexpr double PixelSenzaPerdita = 12'000'000;
 constexpr int Qualita = 95;
-
-[[noreturn]] void NonValida()
-{
-    throw ErroreSistema(ErroreSistema::ImmagineNonValida);
-}
 
 /// A file in memory that ends, for who decodes it, when nobody waits for the picture any more.
 class Sorgente : public QBuffer
@@ -99,7 +91,7 @@ QByteArray Codifica(const QImage &immagine, FiguraEsterna::Tipo tipo)
     QImageWriter scrittore(&buffer, tipo == FiguraEsterna::Tipo::Fotografia ? "jpeg" : "bmp");
     scrittore.setQuality(Qualita);
     if (!scrittore.write(immagine)) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     return byte;
 }
@@ -162,7 +154,7 @@ FiguraEsterna::FiguraEsterna(const QString &percorso)
     }
     // What a packed drawing unpacks to cannot be judged before.
     if (formato_.isEmpty() || formato_ == "svgz") {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
 }
 
@@ -191,7 +183,8 @@ QSize FiguraEsterna::PixelPer(const QSize &propri, const QSizeF &millimetri,
                               const Riquadro &riquadro) const
 {
     const QSize sufficienti = (Copre(millimetri, riquadro(millimetri)) * PuntiSuCarta).toSize();
-    return PixelImmagine::Entro(propri.boundedTo(sufficienti).expandedTo({1, 1}), PixelMassimi);
+    return PixelImmagine::Entro(propri.boundedTo(sufficienti).expandedTo({1, 1}),
+                                PixelImmagine::Stampati);
 }
 
 std::optional<FiguraEsterna::File> FiguraEsterna::ComeSta(const Riquadro &riquadro) const
@@ -222,7 +215,7 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaNota(const Riquadro &riquad
     LettoreImmagine lettore(percorso_);
     const QSizeF millimetri = lettore.Millimetri();
     const QSize pixel = PixelImmagine::Entro(PixelPer(lettore.Pixel(), millimetri, riquadro),
-                                             lettore.Sostenibili(PixelMassimi));
+                                             lettore.Sostenibili(PixelImmagine::Stampati));
     return {lettore.DecodificaOpaca(pixel), millimetri};
 }
 
@@ -241,14 +234,14 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaSvg(const Riquadro &riquadr
                      IntestazioneImmagine::PuntiPerPollicePredefiniti;
     }
     if (millimetri.isEmpty()) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     const QSize pixel = (Copre(millimetri, riquadro(millimetri)) * PuntiSuCarta).toSize();
-    lettore.setScaledSize(PixelImmagine::Entro(pixel.expandedTo({1, 1}), PixelMassimi));
+    lettore.setScaledSize(PixelImmagine::Entro(pixel.expandedTo({1, 1}), PixelImmagine::Stampati));
     lettore.setBackgroundColor(Qt::white);
     QImage immagine = lettore.read();
     if (immagine.isNull()) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     PixelImmagine::A32Bit(immagine);
     Opacita::SuBianco(immagine);
@@ -271,7 +264,7 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaAltra(const Riquadro &riqua
         return {};
     }
     if (immagine.isNull()) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     const QSizeF millimetri = Naturali(immagine, girata);
     PixelImmagine::A32Bit(immagine);

@@ -7,18 +7,6 @@
 
 #include <QDir>
 
-namespace {
-
-/// What a picture has at most on a printed page, in pixels.
-constexpr qint64 PixelStampati = 36'000'000;
-
-[[noreturn]] void NonValida()
-{
-    throw ErroreSistema(ErroreSistema::ImmagineNonValida);
-}
-
-} // namespace
-
 Immagini::TroppoGrande::TroppoGrande()
     : ErroreSistema(ImmagineNonValida, QStringLiteral("Immagine troppo grande"))
 {
@@ -42,12 +30,12 @@ QImage Immagini::Carica(const QString &percorso)
 QImage Immagini::CaricaScalata(const QString &percorso, const QSize &pixel)
 {
     if (pixel.isEmpty() || PixelImmagine::Troppi(pixel)) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     const QImage scalata =
         PixelImmagine::Scalata(LettoreImmagine(percorso).Decodifica(pixel), pixel);
     if (scalata.isNull()) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     return scalata;
 }
@@ -63,11 +51,11 @@ QImage Immagini::Miniatura(const QString &percorso, const QSize &entro)
 Immagini::Opaca Immagini::CaricaEntro(const QString &percorso, const QSize &massimo)
 {
     if (massimo.isEmpty()) {
-        NonValida();
+        LettoreImmagine::NonValida();
     }
     LettoreImmagine lettore(percorso);
     const QSize pixel = PixelImmagine::Entro(lettore.Pixel().boundedTo(massimo),
-                                             lettore.Sostenibili(PixelStampati));
+                                             lettore.Sostenibili(PixelImmagine::Stampati));
     const QImage immagine = lettore.DecodificaOpaca(pixel);
     return {immagine, lettore.ComeJpeg(immagine), lettore.Ingombro(immagine)};
 }

@@ -29,10 +29,10 @@ constexpr int ScansioniMassime = 64;
 
 // What is decoded within a second. A3 at 600 dots per inch has 70 million pixels; only a JPEG can
 // be decoded reduced, so it may be larger: A3 at 1200, or A4 where it has to be decoded twice.
-constexpr qint64 PixelMassimi = 80'000'000;
+constexpr qint64 PixelInteriMassimi = 80'000'000;
 constexpr qint64 PixelJpegMassimi = 300'000'000;
 constexpr qint64 PixelInchiostriMassimi = PixelJpegMassimi / 2;
-constexpr qint64 ByteMassimi = 64'000'000;
+constexpr qint64 ByteInteriMassimi = 64'000'000;
 constexpr qint64 ByteCompressiMassimi = 40'000'000;
 /// Of all scans together, where there are several.
 constexpr qint64 PixelScansioniMassimi = 1'500'000'000;
@@ -47,7 +47,7 @@ QByteArray Byte(QIODevice &file, qint64 posto, qint64 quanti)
 }
 
 template <typename Numero>
-Numero Piccolo(const QByteArray &byte, qsizetype posto)
+Numero PiccoloSeCe(const QByteArray &byte, qsizetype posto)
 {
     return posto >= 0 && posto + qsizetype(sizeof(Numero)) <= byte.size()
                ? qFromLittleEndian<Numero>(byte.constData() + posto)
@@ -55,7 +55,7 @@ Numero Piccolo(const QByteArray &byte, qsizetype posto)
 }
 
 template <typename Numero>
-Numero Grande(const QByteArray &byte, qsizetype posto)
+Numero GrandeSeCe(const QByteArray &byte, qsizetype posto)
 {
     return posto >= 0 && posto + qsizetype(sizeof(Numero)) <= byte.size()
                ? qFromBigEndian<Numero>(byte.constData() + posto)
@@ -78,22 +78,23 @@ bool Imposta(QSizeF &puntiPerPollice, double orizzontali, double verticali)
 void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
 {
     const QByteArray testa = Byte(file, 0, 54);
-    esito.InizioDati = Piccolo<quint32>(testa, 10);
-    const bool corta = Piccolo<quint32>(testa, 14) < 40;
-    const qint64 larghezza = corta ? Piccolo<quint16>(testa, 18) : Piccolo<qint32>(testa, 18);
+    esito.InizioDati = PiccoloSeCe<quint32>(testa, 10);
+    const bool corta = PiccoloSeCe<quint32>(testa, 14) < 40;
+    const qint64 larghezza =
+        corta ? PiccoloSeCe<quint16>(testa, 18) : PiccoloSeCe<qint32>(testa, 18);
     // A negative height: the first row stored is the uppermost.
-    const qint64 altezza =
-        qAbs(corta ? qint64(Piccolo<quint16>(testa, 20)) : qint64(Piccolo<qint32>(testa, 22)));
-    const qint64 bit = corta ? Piccolo<quint16>(testa, 24) : Piccolo<quint16>(testa, 28);
+    const qint64 altezza = qAbs(corta ? qint64(PiccoloSeCe<quint16>(testa, 20))
+                                      : qint64(PiccoloSeCe<qint32>(testa, 22)));
+    const qint64 bit = corta ? PiccoloSeCe<quint16>(testa, 24) : PiccoloSeCe<quint16>(testa, 28);
     if (testa.size() < 26 || larghezza <= 0 || altezza > std::numeric_limits<int>::max() ||
         bit > 32) {
         return;
     }
     esito.Pixel = QSize(int(larghezza), int(altezza));
-    const quint32 compressione = corta ? 0 : Piccolo<quint32>(testa, 30);
+    const quint32 compressione = corta ? 0 : PiccoloSeCe<quint32>(testa, 30);
     esito.Compressa = compressione == 1 || compressione == 2;
     if (esito.Compressa) {
-        esito.FineRighe = esito.FineDati = esito.InizioDati + Piccolo<quint32>(testa, 34);
+        esito.FineRighe = esito.FineDati = esito.InizioDati + PiccoloSeCe<quint32>(testa, 34);
     } else {
         const qint64 riga = (larghezza * bit + 31) / 32 * 4;
         const qint64 riempitivo = riga - (larghezza * bit + 7) / 8;
@@ -106,8 +107,8 @@ void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
     }
     if (!corta) {
         const double perMetro = Unita::MillimetriPerPollice / 1000;
-        Imposta(esito.PuntiPerPollice, Piccolo<qint32>(testa, 38) * perMetro,
-                Piccolo<qint32>(testa, 42) * perMetro);
+        Imposta(esito.PuntiPerPollice, PiccoloSeCe<qint32>(testa, 38) * perMetro,
+                PiccoloSeCe<qint32>(testa, 42) * perMetro);
     }
 }
 
@@ -116,7 +117,7 @@ void LeggeBmp(QIODevice &file, IntestazioneImmagine &esito)
 double RazionaleExif(const QByteArray &tiff, quint32 posto, bool intel)
 {
     const auto numero = [&](qsizetype p) {
-        return intel ? Piccolo<quint32>(tiff, p) : Grande<quint32>(tiff, p);
+        return intel ? PiccoloSeCe<quint32>(tiff, p) : GrandeSeCe<quint32>(tiff, p);
     };
     const quint32 divisore = numero(qsizetype(posto) + 4);
     return divisore == 0 ? 0 : double(numero(posto)) / divisore;
@@ -137,10 +138,10 @@ void LeggeExif(const QByteArray &segmento, QSizeF &puntiPerPollice)
     const QByteArray tiff = segmento.mid(6);
     const bool intel = tiff.startsWith("II");
     const auto corto = [&](qsizetype p) {
-        return intel ? Piccolo<quint16>(tiff, p) : Grande<quint16>(tiff, p);
+        return intel ? PiccoloSeCe<quint16>(tiff, p) : GrandeSeCe<quint16>(tiff, p);
     };
     const auto lungo = [&](qsizetype p) {
-        return intel ? Piccolo<quint32>(tiff, p) : Grande<quint32>(tiff, p);
+        return intel ? PiccoloSeCe<quint32>(tiff, p) : GrandeSeCe<quint32>(tiff, p);
     };
     const qsizetype cartella = lungo(4);
     double orizzontali = 0;
@@ -177,8 +178,8 @@ bool LeggeJfif(const QByteArray &segmento, QSizeF &puntiPerPollice)
     }
     const int unita = quint8(segmento.at(7));
     const double perPollice = unita == 1 ? 1 : unita == 2 ? Unita::MillimetriPerPollice / 10 : 0;
-    return Imposta(puntiPerPollice, Grande<quint16>(segmento, 8) * perPollice,
-                   Grande<quint16>(segmento, 10) * perPollice);
+    return Imposta(puntiPerPollice, GrandeSeCe<quint16>(segmento, 8) * perPollice,
+                   GrandeSeCe<quint16>(segmento, 10) * perPollice);
 }
 
 void LeggeFormato(qint64 posto, const QByteArray &segmento, IntestazioneImmagine &esito)
@@ -186,7 +187,7 @@ void LeggeFormato(qint64 posto, const QByteArray &segmento, IntestazioneImmagine
     const int componenti = segmento.size() < 6 ? 0 : quint8(segmento.at(5));
     if (esito.PostoFormato == 0 && segmento.size() >= 6 + 3 * componenti) {
         esito.PostoFormato = posto;
-        esito.Pixel = QSize(Grande<quint16>(segmento, 3), Grande<quint16>(segmento, 1));
+        esito.Pixel = QSize(GrandeSeCe<quint16>(segmento, 3), GrandeSeCe<quint16>(segmento, 1));
         esito.Componenti = componenti;
         constexpr int ByteComponente = 3;
         int maggiore = 1;
@@ -220,7 +221,7 @@ void LeggeJpeg(QIODevice &file, IntestazioneImmagine &esito)
             ++riempitivi;
             continue;
         }
-        const int lunghezza = Grande<quint16>(testa, 2);
+        const int lunghezza = GrandeSeCe<quint16>(testa, 2);
         if (lunghezza < 2) {
             return;
         }
@@ -282,7 +283,7 @@ IntestazioneImmagine IntestazioneImmagine::Legge(QIODevice &file)
     } else if (inizio.startsWith("GIF8")) {
         esito.Formato = QByteArrayLiteral("gif");
         const QByteArray testa = Byte(file, 6, 4);
-        esito.Pixel = {Piccolo<quint16>(testa, 0), Piccolo<quint16>(testa, 2)};
+        esito.Pixel = {PiccoloSeCe<quint16>(testa, 0), PiccoloSeCe<quint16>(testa, 2)};
         esito.InizioDati = 13;
     } else if (inizio.startsWith("\xFF\xD8\xFF")) {
         esito.Formato = QByteArrayLiteral("jpeg");
@@ -319,13 +320,13 @@ bool IntestazioneImmagine::TroppoGrande(qint64 byte) const
 {
     const qint64 pixel = qint64(Pixel.width()) * Pixel.height();
     const bool bmp = Formato == "bmp";
-    const qint64 massimi = bmp                   ? PixelMassimi
+    const qint64 massimi = bmp                   ? PixelInteriMassimi
                            : Formato == "gif"    ? DatiGif::PixelMassimi
                            : InchiostriDiritti() ? PixelInchiostriMassimi
                                                  : PixelJpegMassimi;
     return pixel > massimi || (PiuScansioni && Coefficienti > CoefficientiMassimi) ||
            (bmp && Compressa && byte - InizioDati > ByteCompressiMassimi) ||
-           (!bmp && byte > ByteMassimi);
+           (!bmp && byte > ByteInteriMassimi);
 }
 
 bool IntestazioneImmagine::Credibile(qint64 byte) const

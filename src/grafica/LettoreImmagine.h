@@ -51,9 +51,10 @@ public:
     /// Bytes that decoding the picture to this, which has just been done, took at most.
     qint64 Ingombro(const QImage &esito) const;
 
-private:
+    /// Throws that a picture cannot be read.
     [[noreturn]] static void NonValida();
 
+private:
     QSize Ruota(const QSize &misura) const { return ruotata_ ? misura.transposed() : misura; }
     void Prepara(QImageReader &lettore, QIODevice &dispositivo) const;
     /// Null for what Qt cannot read.

@@ -10,6 +10,9 @@ namespace PixelImmagine {
 inline constexpr int LimiteMiB = 512;
 inline constexpr qint64 BytePerPixel = 4;
 
+/// What a picture has at most on a printed page, in pixels.
+inline constexpr qint64 Stampati = 36'000'000;
+
 /// True for more pixels than fit into that.
 bool Troppi(const QSize &pixel);
 

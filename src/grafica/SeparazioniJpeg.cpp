@@ -11,7 +11,7 @@ namespace {
 constexpr int Inchiostri = 4;
 constexpr int Nero = 3;
 constexpr int Tavole = 4;
-constexpr int Coefficienti = 64;
+constexpr int CoefficientiTavola = 64;
 
 /// Offset of the number of the quantisation table of an ink.
 qint64 PostoTavola(const IntestazioneImmagine &intestazione, int inchiostro)
@@ -23,8 +23,8 @@ QByteArray TavolaNulla(int numero)
 {
     QByteArray segmento;
     segmento.append('\xFF').append(char(MarcatoriJpeg::Dqt));
-    segmento.append('\0').append(char(3 + Coefficienti));
-    return segmento.append(char(numero)).append(QByteArray(Coefficienti, '\0'));
+    segmento.append('\0').append(char(3 + CoefficientiTavola));
+    return segmento.append(char(numero)).append(QByteArray(CoefficientiTavola, '\0'));
 }
 
 /// An ink whose quantisation table is nothing but zeros comes out as 128 everywhere.

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr double Piano = 2.5e9; // in front of the guides and of the lines that mark a drag
-constexpr QColor Colore(208, 16, 48);
+constexpr double PianoAggancio = 2.5e9; // in front of the guides and of the lines that mark a drag
+constexpr QColor ColoreLinea(208, 16, 48);
 
 void AggiungeTratto(QList<double> &linee, double inizio, double lunghezza)
 {
@@ -30,7 +30,7 @@ Aggancio::Aggancio(const StatoProgramma &stato, const GeometriaAnteprima &geomet
     , lineaY_(new LineaGuida(QStringLiteral("LineaAgganciaY")))
 {
     for (LineaGuida *linea : {lineaX_, lineaY_}) {
-        linea->setZValue(Piano);
+        linea->setZValue(PianoAggancio);
         scena.addItem(linea);
     }
 }
@@ -74,11 +74,11 @@ void Aggancio::MostraLinee(std::optional<double> x, std::optional<double> y)
     lineaX_->setVisible(x.has_value());
     if (x) {
         const double posto = *x / stato_.zoom;
-        lineaX_->Mostra({posto, 0}, {posto, geometria_.AltezzaFoglio()}, Colore);
+        lineaX_->Mostra({posto, 0}, {posto, geometria_.AltezzaFoglio()}, ColoreLinea);
     }
     lineaY_->setVisible(y.has_value());
     if (y) {
         const double posto = *y / stato_.zoom;
-        lineaY_->Mostra({0, posto}, {geometria_.LarghezzaFoglio(), posto}, Colore);
+        lineaY_->Mostra({0, posto}, {geometria_.LarghezzaFoglio(), posto}, ColoreLinea);
     }
 }

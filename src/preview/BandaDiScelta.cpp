@@ -12,7 +12,7 @@
 namespace {
 
 constexpr double PianoBanda = 2e9;
-constexpr QColor Colore(0x1f, 0x6f, 0xb5);
+constexpr QColor ColoreBanda(0x1f, 0x6f, 0xb5);
 constexpr int Velatura = 40; // of 255
 
 } // namespace
@@ -25,11 +25,11 @@ Banda::Banda()
 
 void Banda::paint(QPainter *penna, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    QColor velo = Colore;
+    QColor velo = ColoreBanda;
     velo.setAlpha(Velatura);
     const Tratti tratti(*penna);
     tratti.Pieno(Locale(), velo);
-    tratti.Riquadro(Locale(), Colore);
+    tratti.Riquadro(Locale(), ColoreBanda);
 }
 
 BandaDiScelta::BandaDiScelta(const ContestoGesto &contesto, const EventoMouse &pressione)

@@ -18,9 +18,8 @@
 
 namespace {
 
-constexpr int UnitaPerScatto = 120;
 constexpr double ScattiPerUnita = 10; // of zoom
-constexpr double Briciola = 1e-9;
+constexpr double BriciolaZoom = 1e-9;
 
 /// The same number without what adding tenths leaves behind the comma.
 double Pulito(double zoom)
@@ -54,7 +53,7 @@ double ComandiZoom::ZoomCheAdatta(const QSizeF &vista)
     }
     const double serve =
         std::max(FoglioCarta::Larghezza / vista.width(), FoglioCarta::Altezza / vista.height());
-    return std::clamp(std::ceil(serve * ScattiPerUnita - Briciola) / ScattiPerUnita,
+    return std::clamp(std::ceil(serve * ScattiPerUnita - BriciolaZoom) / ScattiPerUnita,
                       GeometriaAnteprima::ZoomMinimo, GeometriaAnteprima::ZoomMassimo);
 }
 
@@ -69,8 +68,8 @@ void ComandiZoom::ApplicaAdatta()
 void ComandiZoom::Gira(const QWheelEvent &evento)
 {
     giro_ += evento.angleDelta().y();
-    const int scatti = giro_ / UnitaPerScatto;
-    giro_ -= scatti * UnitaPerScatto;
+    const int scatti = giro_ / QWheelEvent::DefaultDeltasPerStep;
+    giro_ -= scatti * QWheelEvent::DefaultDeltasPerStep;
     if (scatti != 0) {
         ZoomAttorno(std::clamp(Pulito(stato_.zoom - scatti / ScattiPerUnita),
                                GeometriaAnteprima::ZoomMinimo, GeometriaAnteprima::ZoomMassimo),

@@ -10,7 +10,7 @@
 namespace {
 
 /// Elements that are sent to the back are numbered downwards from 0 and never get so far.
-constexpr double Piano = -1e9;
+constexpr double PianoCarta = -1e9;
 /// Sheets of the same name differ by as much, in points or in whole millimetres.
 constexpr double StessoFoglio = 0.5; // mm
 
@@ -32,7 +32,7 @@ ContorniCarta::ContorniCarta(QGraphicsScene &scena)
       }
 {
     for (ContornoCarta *contorno : contorni_) {
-        contorno->setZValue(Piano);
+        contorno->setZValue(PianoCarta);
         scena.addItem(contorno);
     }
 }

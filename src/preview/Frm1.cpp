@@ -28,8 +28,7 @@
 namespace {
 
 constexpr double MillimetriPerScatto = 15; // of screen, one notch of the wheel
-constexpr int UnitaPerScatto = 120;
-constexpr int CifreSingole = 7; // of a single-precision number
+constexpr int CifreSingole = 7;            // of a single-precision number
 constexpr qsizetype NomeLeggibile = 60;
 
 QString NumeroSingolo(double valore)
@@ -162,7 +161,7 @@ void Frm1::wheelEvent(QWheelEvent *evento)
     const bool traverso = evento->modifiers() & Qt::ShiftModifier;
     const QPoint giro = traverso ? evento->angleDelta().transposed() : evento->angleDelta();
     // A touch pad turns by less than a millimetre at a time; what is left over adds up.
-    giroRuota_ -= QPointF(giro) * MillimetriPerScatto / UnitaPerScatto;
+    giroRuota_ -= QPointF(giro) * MillimetriPerScatto / QWheelEvent::DefaultDeltasPerStep;
     const QPoint interi(static_cast<int>(giroRuota_.x()), static_cast<int>(giroRuota_.y()));
     giroRuota_ -= interi;
     parti_->ScrollX->setValue(parti_->ScrollX->value() + interi.x());

@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr double Piano = 1.5e9;   // in front of elements and rows, behind the lines of a drag
+constexpr double PianoGuideFoglio =
+    1.5e9;                        // in front of elements and rows, behind the lines of a drag
 constexpr double ZonaDiPresa = 3; // pixels
 
 constexpr std::array Versi{Qt::Vertical, Qt::Horizontal};
@@ -228,7 +229,7 @@ LineaGuida &GuideFoglio::Linea(int k)
 {
     if (k == linee_.size()) {
         auto *linea = new LineaGuida(QStringLiteral("Guida(%1)").arg(k + 1));
-        linea->setZValue(Piano);
+        linea->setZValue(PianoGuideFoglio);
         scena_.addItem(linea);
         linee_.append(linea);
     }

@@ -9,7 +9,7 @@ bool SulBordo(double misura, double posto, double zona, double fuori)
     return posto >= misura - std::min(zona, misura / 3) && posto <= misura + fuori;
 }
 
-double Lato(double posto, double misura, double bordo, double minimo, double foglio)
+double MisuraTirata(double posto, double misura, double bordo, double minimo, double foglio)
 {
     const double massimo = foglio - posto;
     return massimo < minimo ? misura : std::clamp(bordo, minimo, std::max(massimo, misura));
@@ -64,10 +64,12 @@ QSizeF Ridimensionamento::Misura(const QRectF &posto, Presa presa, QPointF bordo
 {
     QSizeF misura = posto.size();
     if (InLarghezza(presa)) {
-        misura.setWidth(Lato(posto.left(), posto.width(), bordo.x(), minimo, foglio.width()));
+        misura.setWidth(
+            MisuraTirata(posto.left(), posto.width(), bordo.x(), minimo, foglio.width()));
     }
     if (InAltezza(presa)) {
-        misura.setHeight(Lato(posto.top(), posto.height(), bordo.y(), minimo, foglio.height()));
+        misura.setHeight(
+            MisuraTirata(posto.top(), posto.height(), bordo.y(), minimo, foglio.height()));
     }
     return misura;
 }

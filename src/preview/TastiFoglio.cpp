@@ -5,16 +5,14 @@
 #include "preview/Frm1.h"
 #include "preview/MisuraSuCarta.h"
 #include "preview/PartiAnteprima.h"
+#include "preview/PassiTasti.h"
 
 #include <QKeyEvent>
 #include <QScrollBar>
 
 namespace {
 
-// mm of paper
-constexpr double Passetto = 0.1;
-constexpr double Passo1 = 1;
-constexpr double Passone = 10;
+constexpr double Passetto = 0.1; // mm of paper
 
 QPoint Verso(int tasto)
 {
@@ -132,7 +130,7 @@ bool TastiFoglio::ApreProprieta()
 bool TastiFoglio::Freccia(QPoint verso, Qt::KeyboardModifiers modi)
 {
     const QList<Chiave> scelti = stato_.selezione.Scelti();
-    const double lungo = modi & Qt::ShiftModifier ? Passone : Passo1;
+    const double lungo = modi & Qt::ShiftModifier ? PassiTasti::Dieci : PassiTasti::Uno;
     const Qt::KeyboardModifiers altri = modi & ~Qt::ShiftModifier;
     if (scelti.isEmpty()) {
         if (altri != Qt::NoModifier) {

@@ -4,16 +4,10 @@
 #include "model/Numeri.h"
 #include "preview/GuideFoglio.h"
 #include "preview/PartiAnteprima.h"
+#include "preview/PassiTasti.h"
 #include "preview/VistaFoglio.h"
 
 #include <QKeyEvent>
-
-namespace {
-
-constexpr int Passo1 = 1;   // mm of paper
-constexpr int Passone = 10; // mm of paper
-
-} // namespace
 
 TastiGuide::TastiGuide(GuideFoglio &guide, const StatoProgramma &stato, PartiAnteprima &parti)
     : guide_(guide)
@@ -54,7 +48,8 @@ bool TastiGuide::PremeConGuida(const QKeyEvent &tasto)
     case Qt::Key_Up:
     case Qt::Key_Right:
     case Qt::Key_Down:
-        return Muove(tasto.key(), tasto.modifiers() & Qt::ShiftModifier ? Passone : Passo1);
+        return Muove(tasto.key(),
+                     tasto.modifiers() & Qt::ShiftModifier ? PassiTasti::Dieci : PassiTasti::Uno);
     case Qt::Key_Return:
     case Qt::Key_Enter:
         guide_.Lascia();

@@ -11,7 +11,7 @@
 namespace {
 
 /// Millimetres as the diagnostic shows them.
-QString Testo(double millimetri)
+QString Millimetri(double millimetri)
 {
     return Numeri::NumeroPiano(millimetri, QLocale::c());
 }
@@ -155,15 +155,15 @@ QSizeF StampaProva::MisuraFigura(double larghezza, double altezza) const
 
 QString StampaProva::Diagnosi(const Immagine &immagine, const ErroreSistema &errore) const
 {
-    const auto intero = [](double v) { return Testo(Numeri::PariPiuVicino(v)); };
+    const auto intero = [](double v) { return Millimetri(Numeri::PariPiuVicino(v)); };
     const QSizeF misura = MisuraFigura(Numeri::PariPiuVicino(immagine.Larghezza),
                                        Numeri::PariPiuVicino(immagine.Altezza));
     return QStringLiteral("StampaImmagine:  pos. mm. x,y=%1,%2\n"
                           " area stampabile Width,Height = %3, %4\n"
                           " xtar=%5, %6\n"
                           "ERRORE %7 %8\n%9")
-        .arg(intero(immagine.X), intero(immagine.Y), Testo(pagina_.Larghezza()),
-             Testo(pagina_.Altezza()), Testo(misura.width()), Testo(misura.height()),
+        .arg(intero(immagine.X), intero(immagine.Y), Millimetri(pagina_.Larghezza()),
+             Millimetri(pagina_.Altezza()), Millimetri(misura.width()), Millimetri(misura.height()),
              QString::number(errore.numero), errore.descrizione, cartellaModelli_ + immagine.Nome);
 }
 
