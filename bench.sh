@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds with the optimiser on, and prints one table: figure, measured,
 # goal, measured/goal. Exit status 1 when a goal is missed.
+# bench.sh --un-giro   each figure once, to see that all can still be taken; goals do not count
 set -euo pipefail
 cd "$(dirname "$0")"
+ungiro=0
+if [ "${1:-}" = --un-giro ]; then
+  ungiro=1
+  export PLAKERA_UN_GIRO=1
+fi
 cmake/installa.sh build test
 cmake --preset release -DPLAKERA_BENCHMARKS=ON >/dev/null
 cmake --build --preset release --target benchmarks
@@ -24,7 +30,7 @@ for nome in Modello Documento Controllo Stampa Anteprima Editor Programma; do
   fi
   rm "$uno"
 done
-awk -F';' '/misura;/ {
+awk -v ungiro=$ungiro -F';' '/misura;/ {
     rapporto = $4 > 0 ? sprintf("%.2f", $3 / $4) : "-"
     esito = $3 + 0 <= $4 + 0 ? "" : "MISSED"
     if (esito != "") mancate++
@@ -33,6 +39,7 @@ awk -F';' '/misura;/ {
   }
   /^FAIL!/ { falliti++ }
   END {
+    if (ungiro) mancate = 0
     if (falliti > mancate) print "a figure is missing: a benchmark failed before it was measured"
     exit n == 0 || falliti > mancate ? 2 : mancate > 0
   }' "$misure"

@@ -154,7 +154,7 @@ void bench_Programma::initTestCase()
 
 void bench_Programma::Avvio()
 {
-    constexpr int Prove = 15;
+    const int Prove = UnGiro() ? 1 : 15;
     std::vector<double> nostre;
     std::vector<double> vuote;
     long memoria = 0;
