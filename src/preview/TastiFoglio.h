@@ -28,6 +28,7 @@ public:
     /// False when the key means nothing here.
     bool Preme(const QKeyEvent &tasto) override;
     bool Trattiene(const QKeyEvent &tasto) const override { return guide_.Trattiene(tasto); }
+    void Perde() override { guide_.Perde(); }
 
 signals:
     void RichiestaProprieta(Genere genere, int i);

@@ -41,6 +41,13 @@ bool TastiGuide::Trattiene(const QKeyEvent &tasto) const
     return guide_.InManoAiTasti() && tasto.key() == Qt::Key_Delete;
 }
 
+void TastiGuide::Perde()
+{
+    if (guide_.InManoAiTasti()) {
+        guide_.Lascia();
+    }
+}
+
 bool TastiGuide::PremeConGuida(const QKeyEvent &tasto)
 {
     switch (tasto.key()) {

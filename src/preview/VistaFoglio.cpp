@@ -85,6 +85,10 @@ bool VistaFoglio::event(QEvent *evento)
         evento->accept();
         return true;
     }
+    if (evento->type() == QEvent::FocusOut && tasti_ != nullptr &&
+        static_cast<const QFocusEvent *>(evento)->reason() != Qt::PopupFocusReason) {
+        Guardia(this, [&] { tasti_->Perde(); });
+    }
     return QGraphicsView::event(evento);
 }
 

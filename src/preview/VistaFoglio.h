@@ -46,6 +46,8 @@ public:
     virtual bool Preme(const QKeyEvent &tasto) = 0;
     /// True for a key that must come to Preme although a command has it as its shortcut.
     virtual bool Trattiene(const QKeyEvent &tasto) const = 0;
+    /// The sheet has lost the keyboard to something else than a menu.
+    virtual void Perde() = 0;
 };
 
 /// The sheet `P1`: a view of the whole scene, one scene unit to the millimetre of screen. It never

@@ -50,6 +50,8 @@ private slots:
     void UnAltroTastoLaLasciaEFaIlSuo();
     void IlMouseSuiRighelliNonLaToglie();
     void AllAltraFinestraResta();
+    void AdAltraCasellaResta_data();
+    void AdAltraCasellaResta();
     void MentreIlMouseNeHaUnaTace();
     void SullaCartaConLoZoom();
     void LaStrisciaDiceITasti();
@@ -216,6 +218,37 @@ void tst_TastiGuide::AllAltraFinestraResta()
     QVERIFY(QTest::qWaitForWindowActive(banco.frm.get()));
     banco.Tasto(Qt::Key_Right);
     QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 20")));
+    QCOMPARE(banco.modello.Campi[1].X, 21.0);
+}
+
+void tst_TastiGuide::AdAltraCasellaResta_data()
+{
+    QTest::addColumn<bool>("conIlMouse");
+    QTest::newRow("by the mouse") << true;
+    QTest::newRow("by itself") << false;
+}
+
+void tst_TastiGuide::AdAltraCasellaResta()
+{
+    QFETCH(bool, conIlMouse);
+    Foglio banco;
+    banco.ScegliIlCampo();
+    banco.Tasto(Qt::Key_F8);
+    banco.Freccia(Qt::Key_Right, 3);
+    auto *zoom = Trova<QLineEdit>(*banco.frm, "TextZoom");
+    if (conIlMouse) {
+        QTest::mouseClick(banco.frm->windowHandle(), Qt::LeftButton, {},
+                          zoom->mapTo(banco.frm.get(), zoom->rect().center()));
+    } else {
+        zoom->setFocus();
+    }
+    QVERIFY(zoom->hasFocus());
+    QVERIFY(!banco.Striscia().contains(QStringLiteral("Invio")));
+    // Back on the sheet the keys are the element's again, and Escape puts no guide back.
+    Trova<QGraphicsView>(*banco.frm, "P1")->setFocus();
+    banco.Tasto(Qt::Key_Right);
+    banco.Tasto(Qt::Key_Escape);
+    QCOMPARE(banco.Guide(), QStringList(QStringLiteral("X 23")));
     QCOMPARE(banco.modello.Campi[1].X, 21.0);
 }
 
