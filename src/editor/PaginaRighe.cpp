@@ -53,10 +53,8 @@ void PaginaRighe::Mostra()
 
 void PaginaRighe::SegueDocumento(const Cambiamento &cambiamento)
 {
-    if (cambiamento.Righe && cambiamento.origine == Cambiamento::Origine::Storia) {
-        RiempieCaselle();
-    } else if (cambiamento.Righe) {
-        SegueModello();
+    if (cambiamento.Righe) {
+        SegueModello(cambiamento.origine);
     }
     if (cambiamento.Righe || cambiamento.Contiene(Genere::Campo)) {
         SimuloRighe();
@@ -79,18 +77,28 @@ void PaginaRighe::RiempieCaselle()
     for (const Casella &casella : std::as_const(tutte_)) {
         Riempie(casella);
     }
+    seguite_ = stato_.Aperto().Righe;
     SegnalaNonConfermati();
 }
 
-void PaginaRighe::SegueModello()
+void PaginaRighe::SegueModello(Cambiamento::Origine origine)
 {
+    const bool storia = origine == Cambiamento::Origine::Storia;
     const QList<Casella> prima = tutte_; // filling one looks at all of them
     for (const Casella &casella : prima) {
-        if (casella.InPari && !Confermata(casella)) {
+        if ((casella.InPari && !Confermata(casella)) || (storia && Cambiata(casella))) {
             Riempie(casella);
         }
     }
+    seguite_ = stato_.Aperto().Righe;
     SegnalaNonConfermati();
+}
+
+bool PaginaRighe::Cambiata(const Casella &casella) const
+{
+    const ParametriRighe &righe = stato_.Aperto().Righe;
+    return casella.Valore == nullptr ? righe.SeguePag != seguite_.SeguePag
+                                     : righe.*casella.Valore != seguite_.*casella.Valore;
 }
 
 bool PaginaRighe::Confermata(const Casella &casella) const

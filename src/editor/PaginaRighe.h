@@ -53,9 +53,10 @@ private:
     };
     void RiempieCaselle();
     void Riempie(const Casella &casella);
-    /// Boxes that have waited for nothing follow a model that something else has changed; what is
-    /// typed into the others stays.
-    void SegueModello();
+    /// Boxes that have waited for nothing follow a model that something else has changed, and those
+    /// whose own value undo or redo has changed show it; what is typed into the others stays.
+    void SegueModello(Cambiamento::Origine origine);
+    bool Cambiata(const Casella &casella) const;
     void SegnalaNonConfermati();
     bool Confermata(const Casella &casella) const;
     void SegueDocumento(const Cambiamento &cambiamento);
@@ -65,5 +66,6 @@ private:
     Frm1 &anteprima_;
     MemoriaCaselle caselle_;
     QList<Casella> tutte_;
+    ParametriRighe seguite_; ///< the model's when the boxes last followed it
     QList<Frm1::RigaSimulata> mostrate_;
 };

@@ -29,7 +29,8 @@ private slots:
     void CtrlSNelMezzoDiUnGestoTace();
     void LeRigheNonConfermate_data();
     void LeRigheNonConfermate();
-    void AnnullataLaConfermaTuttoTorna();
+    void AnnullandoTornaSoloCioCheCambia();
+    void AnnullandoTornaCioCheEStatoRiscritto();
     void UnAltroComandoLasciaCioCheEScritto();
     void SalvandoSiDiceCheCosaManca();
     void SalvandoTuttoNonSiDiceNulla();
@@ -115,16 +116,49 @@ void tst_CioCheENelModello::LeRigheNonConfermate()
     QVERIFY(Avviso(*prova.editor, nome).isEmpty());
 }
 
-void tst_CioCheENelModello::AnnullataLaConfermaTuttoTorna()
+void tst_CioCheENelModello::AnnullandoTornaSoloCioCheCambia()
 {
     PagineDiProva prova;
     prova.editor->show();
+    Documento &documento = prova.prova.Stato().documento;
+    const QString prima = prova.Testo("yInizio");
     prova.Scrive("yInizio", QStringLiteral("77"));
     Preme(*prova.editor, "ConfermaPosizioneRighe");
-    prova.Scrive("yFine", QStringLiteral("99"));
-    prova.prova.Stato().documento.Annulla(); // fills the boxes from the model
+    prova.Scrive("yFine", QStringLiteral("99,5"));
+    prova.Scrive("SeguePag", QStringLiteral("continua"));
+    const auto scrittiRestano = [&] {
+        return prova.Testo("yFine") == QStringLiteral("99,5") &&
+               prova.Testo("SeguePag") == QStringLiteral("continua") &&
+               Avviso(*prova.editor, "yFine").contains(NonConfermato) &&
+               Avviso(*prova.editor, "SeguePag") == NonConfermato;
+    };
+    QVERIFY(scrittiRestano());
+    documento.Annulla();
+    QCOMPARE(prova.Testo("yInizio"), prima);
     QVERIFY(Avviso(*prova.editor, "yInizio").isEmpty());
-    QVERIFY(Avviso(*prova.editor, "yFine").isEmpty());
+    QVERIFY(scrittiRestano());
+    documento.Ripristina();
+    QCOMPARE(prova.Testo("yInizio"), QStringLiteral("77"));
+    QVERIFY(scrittiRestano());
+    // Confirmed after all, they are in the model, and go with their own step.
+    documento.Annulla();
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    QCOMPARE(prova.Aperto().Righe.SeguePag, QStringLiteral("continua"));
+    documento.Annulla();
+    QVERIFY(prova.Testo("SeguePag") != QStringLiteral("continua"));
+}
+
+void tst_CioCheENelModello::AnnullandoTornaCioCheEStatoRiscritto()
+{
+    PagineDiProva prova;
+    prova.editor->show();
+    const QString prima = prova.Testo("yInizio");
+    prova.Scrive("yInizio", QStringLiteral("77"));
+    Preme(*prova.editor, "ConfermaPosizioneRighe");
+    prova.Scrive("yInizio", QStringLiteral("88"));
+    prova.prova.Stato().documento.Annulla();
+    QCOMPARE(prova.Testo("yInizio"), prima); // the place that the undo is about
+    QVERIFY(Avviso(*prova.editor, "yInizio").isEmpty());
 }
 
 void tst_CioCheENelModello::UnAltroComandoLasciaCioCheEScritto()
