@@ -1,7 +1,7 @@
 #include "editor/AttesaDiStampa.h"
 
+#include "finestre/Attesa.h"
 #include "finestre/Messaggi.h"
-#include "print/Avanzamento.h"
 
 #include <QApplication>
 #include <QProgressDialog>
@@ -56,4 +56,13 @@ void AttesaDiStampa::Avanza(double parte)
     if (riquadro_->wasCanceled()) {
         throw StampaAnnullata();
     }
+}
+
+void AttesaDiStampa::Aspetta(const LavoroDelSistema &lavoro)
+{
+    riquadro_.reset();
+    if (!EsegueConAttesa(padre_, QStringLiteral("In attesa del sistema di stampa..."), lavoro)) {
+        throw StampaAnnullata();
+    }
+    trascorso_.restart();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "print/Avanzamento.h"
+
 #include <QElapsedTimer>
 #include <QString>
 
@@ -9,8 +11,8 @@ class QProgressDialog;
 class QWidget;
 
 /// Lets the user wait for a sheet that is being painted: what lasts longer than a second shows how
-/// far it is and can be given up. Until then no event is run; from then on the windows are painted,
-/// but nothing in them can be worked.
+/// far it is and can be given up. Until then painting runs no event; from then on the windows are
+/// painted, but nothing in them can be worked.
 class AttesaDiStampa
 {
 public:
@@ -23,6 +25,9 @@ public:
 
     /// An Avanzamento. Throws StampaAnnullata.
     void Avanza(double parte);
+    /// An AttesaDelSistema: the windows are painted meanwhile, and what lasts longer than a second
+    /// can be given up. Painting is not under way then.
+    void Aspetta(const LavoroDelSistema &lavoro);
 
 private:
     QWidget *padre_;

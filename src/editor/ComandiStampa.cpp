@@ -38,11 +38,16 @@ void MostraAttesa()
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+AttesaDelSistema Aspetta(AttesaDiStampa &attesa)
+{
+    return [&attesa](const LavoroDelSistema &lavoro) { attesa.Aspetta(lavoro); };
+}
+
 /// Nothing where there is no printer, or where the print system is silent.
-std::optional<QPageLayout> PaginaDellaStampante()
+std::optional<QPageLayout> PaginaDellaStampante(AttesaDiStampa &attesa)
 {
     try {
-        return Stampanti::PaginaPredefinita();
+        return Stampanti::PaginaPredefinita(Aspetta(attesa));
     } catch (const ErroreSistema &) {
         return std::nullopt; // a file needs no printer
     }
@@ -127,42 +132,52 @@ void ComandiStampa::Dice(const QString &testo)
     }
 }
 
-void ComandiStampa::Dipinge(Destinazione &destinazione, bool StampaNome, const QString &attesa)
+void ComandiStampa::Dipinge(Destinazione &destinazione, bool StampaNome, AttesaDiStampa &attesa)
 {
-    AttesaDiStampa avanzamento(Davanti(), attesa);
     StampaModello(
         stato_.Aperto(), stato_.CartellaModelli, destinazione, StampaNome,
         [this](const QString &testo) { Messaggi::Mostra(Davanti(), testo); },
-        [&](double parte) { avanzamento.Avanza(parte); });
+        [&](double parte) { attesa.Avanza(parte); });
+}
+
+void ComandiStampa::Invia(const QString &cosa, AttesaDiStampa &attesa,
+                          const std::function<void(Destinazione &)> &stampa)
+{
+    const PuntatoreOccupato occupato;
+    MostraAttesa();
+    try {
+        const auto stampante = Stampanti::Predefinita(Aspetta(attesa));
+        stampa(*stampante);
+        Dice(cosa + QStringLiteral(" inviata a ") + stampante->Nome());
+    } catch (const ConsegnaAbbandonata &) {
+        Dice(cosa + QStringLiteral(" interrotta: non si sa se il foglio uscirà"));
+    } catch (const StampaAnnullata &) {
+        Dice(cosa + QStringLiteral(" annullata: il foglio non uscirà"));
+    }
 }
 
 void ComandiStampa::Stampa(bool StampaNome)
 {
-    const PuntatoreOccupato occupato;
-    MostraAttesa();
-    const auto stampante = Stampanti::Predefinita();
-    try {
-        Dipinge(*stampante, StampaNome, QStringLiteral("Preparazione della stampa di prova..."));
-    } catch (const StampaAnnullata &) {
-        Dice(QStringLiteral("Stampa di prova annullata: il foglio non uscirà"));
-        return;
-    }
-    Dice(QStringLiteral("Stampa di prova inviata a ") + stampante->Nome());
+    AttesaDiStampa attesa(Davanti(), QStringLiteral("Preparazione della stampa di prova..."));
+    Invia(QStringLiteral("Stampa di prova"), attesa,
+          [&](Destinazione &stampante) { Dipinge(stampante, StampaNome, attesa); });
 }
 
 void ComandiStampa::Vedi()
 {
     std::optional<VediStampa> vista;
-    {
-        const PuntatoreOccupato occupato;
-        MostraAttesa();
-        const auto stampante = Stampanti::Predefinita();
-        vista.emplace(stato_, stampante->Nome(), stampante->Dispositivo().pageLayout(), &editore_);
-    }
-    connect(&*vista, &VediStampa::StampaRichiesta, this, &ComandiStampa::StampaRichiesta);
-    Collega(&*vista, &VediStampa::EsportazioneRichiesta, &*vista,
-            [this](bool StampaNome) { EsportaPdf(StampaNome); });
     try {
+        {
+            const PuntatoreOccupato occupato;
+            MostraAttesa();
+            AttesaDiStampa attesa(Davanti(), QString());
+            const auto stampante = Stampanti::Predefinita(Aspetta(attesa));
+            vista.emplace(stato_, stampante->Nome(), stampante->Dispositivo().pageLayout(),
+                          &editore_);
+        }
+        connect(&*vista, &VediStampa::StampaRichiesta, this, &ComandiStampa::StampaRichiesta);
+        Collega(&*vista, &VediStampa::EsportazioneRichiesta, &*vista,
+                [this](bool StampaNome) { EsportaPdf(StampaNome); });
         vista->Dipinge();
     } catch (const StampaAnnullata &) {
         return; // who would not wait wants to see nothing
@@ -173,11 +188,8 @@ void ComandiStampa::Vedi()
 
 void ComandiStampa::StampaGriglia()
 {
-    const PuntatoreOccupato occupato;
-    MostraAttesa();
-    const auto stampante = Stampanti::Predefinita();
-    StampaRetino(*stampante);
-    Dice(QStringLiteral("Griglia millimetrata inviata a ") + stampante->Nome());
+    AttesaDiStampa attesa(Davanti(), QString());
+    Invia(QStringLiteral("Griglia millimetrata"), attesa, StampaRetino);
 }
 
 QString ComandiStampa::ChiedeFile()
@@ -215,12 +227,14 @@ void ComandiStampa::EsportaPdf(bool StampaNome)
     MostraAttesa();
     FileDiUscita::Verifica({file}, Percorsi::Risolve(stato_.CartellaModelli + stato_.NomeFile),
                            stato_.Aperto());
-    const std::optional<QPageLayout> pagina = PaginaDellaStampante();
+    std::optional<QPageLayout> pagina;
+    AttesaDiStampa attesa(Davanti(), QStringLiteral("Preparazione del PDF..."));
     try {
+        pagina = PaginaDellaStampante(attesa);
         FileDiUscita::Scrive(file, [&](const QString &appoggio) {
             const auto foglio =
                 pagina ? Stampanti::SuPdf(appoggio, *pagina) : Stampanti::SuPdf(appoggio);
-            Dipinge(*foglio, StampaNome, QStringLiteral("Preparazione del PDF..."));
+            Dipinge(*foglio, StampaNome, attesa);
             return Disco::Legge(appoggio, std::numeric_limits<qint64>::max());
         });
     } catch (const StampaAnnullata &) {

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class AttesaDiStampa;
 class Destinazione;
 class Frm1;
 class QAction;
@@ -51,7 +52,10 @@ signals:
 
 private:
     /// Paints the model. Throws StampaAnnullata when the user gives it up.
-    void Dipinge(Destinazione &destinazione, bool StampaNome, const QString &attesa);
+    void Dipinge(Destinazione &destinazione, bool StampaNome, AttesaDiStampa &attesa);
+    /// Lets stampa put something on the default printer, and says what has come of it.
+    void Invia(const QString &cosa, AttesaDiStampa &attesa,
+               const std::function<void(Destinazione &)> &stampa);
     void EsportaTesti() { EsportaPdf(false); }
     /// The file to write; empty when the user wants none.
     QString ChiedeFile();

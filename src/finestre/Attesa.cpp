@@ -3,6 +3,7 @@
 #include "finestre/Finestre.h"
 #include "finestre/Messaggi.h"
 
+#include <QApplication>
 #include <QEventLoop>
 #include <QLabel>
 #include <QProgressDialog>
@@ -25,6 +26,15 @@ void AttendeInSilenzio(const LavoroInDisparte &lavoro)
     attesa.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
+/// The pointer that waits would say that the button does not work.
+class PuntatoreLibero
+{
+public:
+    PuntatoreLibero() { QApplication::setOverrideCursor(Qt::BusyCursor); }
+    ~PuntatoreLibero() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(PuntatoreLibero)
+};
+
 /// False when the user gives up.
 bool AttendeConAvviso(QWidget *padre, const QString &testo, const LavoroInDisparte &lavoro)
 {
@@ -36,9 +46,11 @@ bool AttendeConAvviso(QWidget *padre, const QString &testo, const LavoroInDispar
     avviso.setLabel(etichetta);
     avviso.setCancelButtonText(QStringLiteral("Annulla"));
     avviso.setRange(0, 0); // how much is left nobody knows
-    avviso.setWindowModality(Qt::WindowModal);
+    avviso.setWindowModality(
+        Qt::ApplicationModal); // what is waited for is no other window's either
     QObject::connect(&lavoro, &LavoroInDisparte::Finito, &avviso, &QDialog::accept);
     QObject::connect(&avviso, &QProgressDialog::canceled, &avviso, &QDialog::reject);
+    const PuntatoreLibero puntatore;
     return avviso.exec() == QDialog::Accepted;
 }
 

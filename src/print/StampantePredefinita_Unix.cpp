@@ -9,8 +9,28 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <memory>
 
 namespace {
+
+/// The default printer as the print system tells it.
+struct Trovata
+{
+    QString Coda;
+    QPageLayout Foglio;
+    int PuntiPerPollice = 0;
+    SistemaDiStampa::Impostazioni DellUtente;
+};
+
+void Attende(const AttesaDelSistema &attende, const LavoroDelSistema &lavoro)
+{
+    if (attende) {
+        attende(lavoro);
+    } else {
+        lavoro([] { return false; });
+    }
+}
 
 /// The whole sheet is made in memory, where no temporary folder can be full, and then given to the
 /// print system in one conversation. Qt's own printer object would do the same by way of a file,
@@ -18,15 +38,15 @@ namespace {
 class CodaCups : public Destinazione
 {
 public:
-    CodaCups(const QString &coda, const QPageLayout &foglio, int puntiPerPollice,
-             SistemaDiStampa::Impostazioni impostazioni)
-        : coda_(coda)
-        , impostazioni_(std::move(impostazioni))
+    CodaCups(const Trovata &trovata, AttesaDelSistema attende)
+        : coda_(trovata.Coda)
+        , impostazioni_(trovata.DellUtente)
+        , attende_(std::move(attende))
         , scrittore_(&pdf_)
     {
         pdf_.open(QIODevice::WriteOnly);
-        scrittore_.setResolution(puntiPerPollice);
-        scrittore_.setPageLayout(foglio);
+        scrittore_.setResolution(trovata.PuntiPerPollice);
+        scrittore_.setPageLayout(trovata.Foglio);
     }
     QPagedPaintDevice &Dispositivo() override { return scrittore_; }
     QString Nome() const override { return coda_; }
@@ -35,16 +55,32 @@ public:
         titolo_ = titolo;
         scrittore_.setTitle(titolo);
     }
-    void Prepara() override { SistemaDiStampa::Prepara(coda_); }
+    void Prepara() override
+    {
+        Attende(attende_, [coda = coda_](const std::function<bool()> & /*abbandonato*/) {
+            SistemaDiStampa::Prepara(coda);
+        });
+    }
     ErroreSistema Rifiuto() const override { return ErroreSistema(ErroreSistema::Stampante); }
     void Consegna() override
     {
-        SistemaDiStampa::Consegna(coda_, titolo_, impostazioni_, pdf_.data());
+        try {
+            Attende(attende_, [coda = coda_, titolo = titolo_, impostazioni = impostazioni_,
+                               pdf = pdf_.data()](const std::function<bool()> &abbandonato) {
+                if (!abbandonato()) {
+                    SistemaDiStampa::Consegna(coda, titolo, impostazioni, pdf);
+                }
+            });
+        } catch (const StampaAnnullata &) {
+            // What has gone to a print system that is silent cannot be fetched back.
+            throw ConsegnaAbbandonata();
+        }
     }
 
 private:
     QString coda_;
     SistemaDiStampa::Impostazioni impostazioni_;
+    AttesaDelSistema attende_;
     QString titolo_;
     QBuffer pdf_;
     QPdfWriter scrittore_;
@@ -91,42 +127,50 @@ QPageLayout FoglioDi(const QPrinter &stampante, const SistemaDiStampa::FoglioDel
             Girati(margini, coda.Pagina), QPageLayout::Point};
 }
 
-} // namespace
-
-namespace {
-
-/// For who only wants to know something, and prints nothing.
-void RispondeSubito()
+/// silenzio: ms after which a print system that does not answer is given up.
+Trovata Cerca(int silenzio, const std::function<bool()> &abbandonato)
 {
-    constexpr int Attimo = 300; // ms
-    if (!SistemaDiStampa::Risponde(Attimo)) {
+    // Before Qt asks, which cannot be given up once it has begun.
+    if (!SistemaDiStampa::Risponde(silenzio)) {
         throw SistemaDiStampa::NonRisponde();
     }
+    if (abbandonato()) {
+        throw StampaAnnullata(); // nobody hears it
+    }
+    const std::unique_ptr<QPrinter> stampante = Stampanti::NativaPredefinita();
+    const QString coda = stampante->printerName();
+    const SistemaDiStampa::FoglioDellaCoda foglio = SistemaDiStampa::ChiedeFoglio(coda);
+    return {coda, FoglioDi(*stampante, foglio), stampante->resolution(), foglio.DellUtente};
 }
+
+Trovata CercaAttendendo(int silenzio, const AttesaDelSistema &attende)
+{
+    const auto trovata = std::make_shared<Trovata>(); // the work's own too, when it is given up
+    Attende(attende, [trovata, silenzio](const std::function<bool()> &abbandonato) {
+        *trovata = Cerca(silenzio, abbandonato);
+    });
+    return *trovata;
+}
+
+constexpr int Attimo = 300;    // ms, for who only wants to know something, and prints nothing
+constexpr int Pazienza = 3000; // ms
 
 } // namespace
 
 QString Stampanti::NomePredefinita()
 {
-    RispondeSubito();
+    if (!SistemaDiStampa::Risponde(Attimo)) {
+        throw SistemaDiStampa::NonRisponde();
+    }
     return QPrinterInfo::defaultPrinterName();
 }
 
-QPageLayout Stampanti::PaginaPredefinita()
+QPageLayout Stampanti::PaginaPredefinita(const AttesaDelSistema &attende)
 {
-    RispondeSubito();
-    return Predefinita()->Dispositivo().pageLayout();
+    return CercaAttendendo(Attimo, attende).Foglio;
 }
 
-std::unique_ptr<Destinazione> Stampanti::Predefinita()
+std::unique_ptr<Destinazione> Stampanti::Predefinita(const AttesaDelSistema &attende)
 {
-    // Before Qt asks, which cannot be given up once it has begun.
-    if (!SistemaDiStampa::Risponde()) {
-        throw SistemaDiStampa::NonRisponde();
-    }
-    const std::unique_ptr<QPrinter> stampante = NativaPredefinita();
-    const QString coda = stampante->printerName();
-    const SistemaDiStampa::FoglioDellaCoda foglio = SistemaDiStampa::ChiedeFoglio(coda);
-    return std::make_unique<CodaCups>(coda, FoglioDi(*stampante, foglio), stampante->resolution(),
-                                      foglio.DellUtente);
+    return std::make_unique<CodaCups>(CercaAttendendo(Pazienza, attende), attende);
 }

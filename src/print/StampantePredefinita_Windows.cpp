@@ -44,12 +44,13 @@ QString Stampanti::NomePredefinita()
     return QPrinterInfo::defaultPrinterName();
 }
 
-QPageLayout Stampanti::PaginaPredefinita()
+// The spooler is on this computer, and its printer object belongs to the thread that paints.
+QPageLayout Stampanti::PaginaPredefinita(const AttesaDelSistema & /*attende*/)
 {
     return NativaPredefinita()->pageLayout();
 }
 
-std::unique_ptr<Destinazione> Stampanti::Predefinita()
+std::unique_ptr<Destinazione> Stampanti::Predefinita(const AttesaDelSistema & /*attende*/)
 {
     return std::make_unique<CodaDiSistema>(NativaPredefinita());
 }

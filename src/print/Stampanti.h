@@ -1,5 +1,6 @@
 #pragma once
 
+#include "print/Avanzamento.h"
 #include "print/Destinazione.h"
 
 #include <QPageLayout>
@@ -21,11 +22,14 @@ QStringList ElencoFont();
 /// The default printer's own page at its highest resolution, origin at the printable corner, no
 /// fitting. Throws ErroreSistema 482 when there is none or when the print system is silent, which a
 /// few seconds tell; the sheet's delivery, last of all, waits for its answer up to ten seconds.
-std::unique_ptr<Destinazione> Predefinita();
+/// attende: does all that waits for the print system, now and when the sheet is printed; without
+/// one it is done as it comes. Where it throws, so do this and the Destinazione, which says
+/// ConsegnaAbbandonata of a sheet that may have been taken.
+std::unique_ptr<Destinazione> Predefinita(const AttesaDelSistema &attende = {});
 
 /// The page of Predefinita, for who only shows it. Throws ErroreSistema 482 as it does, and gives a
 /// print system that is silent up within a blink.
-QPageLayout PaginaPredefinita();
+QPageLayout PaginaPredefinita(const AttesaDelSistema &attende = {});
 
 /// The name of the default printer, empty when there is none. Gives a print system that is silent
 /// up within a blink, and throws ErroreSistema 482 then.

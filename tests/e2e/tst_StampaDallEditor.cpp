@@ -7,6 +7,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QScopeGuard>
+#include <QTimer>
 
 namespace {
 
@@ -36,6 +38,26 @@ QImage Rumore(int lato, quint32 seme)
     return rumore;
 }
 
+/// Beats while the windows answer.
+class Battito
+{
+public:
+    Battito()
+    {
+        QObject::connect(&orologio_, &QTimer::timeout, &orologio_, [this] { ++colpi_; });
+        orologio_.start(10);
+    }
+    bool HaBattuto() const { return colpi_ > 10; }
+
+private:
+    QTimer orologio_;
+    int colpi_ = 0;
+};
+
+const auto NonRisponde =
+    QStringLiteral("errore 482 Il sistema di stampa non risponde.\nControllare la stampante e "
+                   "ripetere; nulla è stato stampato.");
+
 } // namespace
 
 /// What the editor's print commands bring to a real queue.
@@ -52,6 +74,11 @@ private slots:
     void unaLungaStampaSiAnnulla();
     void unLungoPdfSiAnnulla();
     void laVistaSiPuoNonAspettare();
+    void ilSistemaBloccatoSiLascia_data();
+    void ilSistemaBloccatoSiLascia();
+    void ilSistemaBloccatoNonFermaLeFinestre();
+    void laConsegnaSiLasciaSenzaSapere();
+    void laConsegnaCheNonRispondeSiDice();
 
 private:
     /// Six pictures that take seconds to be put on a page.
@@ -225,6 +252,120 @@ void tst_StampaDallEditor::laVistaSiPuoNonAspettare()
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
     QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampaDallEditor::ilSistemaBloccatoSiLascia_data()
+{
+    QTest::addColumn<QString>("bottone");
+    QTest::addColumn<QString>("detto");
+    QTest::newRow("test print") << QStringLiteral("Stampa")
+                                << QStringLiteral(
+                                       "Stampa di prova annullata: il foglio non uscirà");
+    QTest::newRow("grid") << QStringLiteral("StampaRetino")
+                          << QStringLiteral("Griglia millimetrata annullata: il foglio non uscirà");
+    QTest::newRow("view") << QStringLiteral("VediStampa") << QString();
+}
+
+void tst_StampaDallEditor::ilSistemaBloccatoSiLascia()
+{
+    QFETCH(QString, bottone);
+    QFETCH(QString, detto);
+    EditorAperto prova;
+    Robot robot;
+    if (bottone == QStringLiteral("Stampa")) {
+        robot.No();
+    }
+    QString attesa;
+    robot.AgisceSuAttesa([&](QDialog *riquadro) {
+        attesa = riquadro->findChild<QLabel *>()->text();
+        riquadro->findChild<QPushButton *>()->click();
+    });
+    coda_->SiBlocca();
+    const auto riprende = qScopeGuard([this] { coda_->Riprende(); });
+    const Battito battito;
+    ::Preme(prova.Editor(), qPrintable(bottone));
+    QVERIFY(battito.HaBattuto());
+    coda_->Riprende();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(attesa, QStringLiteral("In attesa del sistema di stampa..."));
+    QCOMPARE(Striscia(prova.Editor()), detto);
+    QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+    QVERIFY(coda_->Fogli().isEmpty());
+}
+
+void tst_StampaDallEditor::ilSistemaBloccatoNonFermaLeFinestre()
+{
+    EditorAperto prova;
+    Robot robot;
+    bool modale = false;
+    robot.No()
+        .AgisceSuAttesa(
+            [&](QDialog *riquadro) { modale = riquadro->windowModality() == Qt::ApplicationModal; })
+        .Ok();
+    coda_->SiBlocca();
+    const auto riprende = qScopeGuard([this] { coda_->Riprende(); });
+    const Battito battito;
+    ::Preme(prova.Editor(), "Stampa");
+    QVERIFY(battito.HaBattuto());
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(modale); // the model that is printed is not to change
+    QCOMPARE(robot.Testi().constLast(), NonRisponde);
+    QCOMPARE(Striscia(prova.Editor()), QString());
+}
+
+void tst_StampaDallEditor::laConsegnaSiLasciaSenzaSapere()
+{
+    EditorSulModello prova([](ArchivioDiProva &archivio) {
+        archivio.AggiungeCampo(QStringLiteral("Fuori"), 500, 10);
+    });
+    QVERIFY(prova.caricato);
+    Robot robot;
+    robot.No()
+        .Agisce([this](QDialog *avviso) { // while the sheet is painted
+            coda_->SiBlocca();
+            avviso->accept();
+        })
+        .AgisceSuAttesa([](QDialog *riquadro) { riquadro->findChild<QPushButton *>()->click(); });
+    const auto riprende = qScopeGuard([this] { coda_->Riprende(); });
+    const Battito battito;
+    ::Preme(*prova.editor, "Stampa");
+    QVERIFY(battito.HaBattuto());
+    coda_->Riprende();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().at(1), QStringLiteral("x"));
+    QCOMPARE(Striscia(*prova.editor),
+             QStringLiteral("Stampa di prova interrotta: non si sa se il foglio uscirà"));
+    coda_->Fogli(); // it may have come
+    robot.No().Ok();
+    ::Preme(*prova.editor, "Stampa");
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(Striscia(*prova.editor), QStringLiteral("Stampa di prova inviata a Prova"));
+    QVERIFY(!coda_->Fogli().isEmpty());
+}
+
+void tst_StampaDallEditor::laConsegnaCheNonRispondeSiDice()
+{
+    EditorSulModello prova([](ArchivioDiProva &archivio) {
+        archivio.AggiungeCampo(QStringLiteral("Fuori"), 500, 10);
+    });
+    QVERIFY(prova.caricato);
+    Robot robot;
+    robot.No()
+        .Agisce([this](QDialog *avviso) {
+            coda_->SiBlocca();
+            avviso->accept();
+        })
+        .Ok();
+    const auto riprende = qScopeGuard([this] { coda_->Riprende(); });
+    const Battito battito;
+    ::Preme(*prova.editor, "Stampa");
+    QVERIFY(battito.HaBattuto());
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(robot.Testi().constLast(),
+             QStringLiteral("errore 482 Il sistema di stampa non risponde: non si sa se il foglio "
+                            "uscirà.\nControllare la stampante e ripetere."));
+    coda_->Riprende();
+    coda_->Fogli();
 }
 
 QTEST_MAIN(tst_StampaDallEditor)
