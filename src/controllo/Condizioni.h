@@ -34,7 +34,7 @@ struct FoglioStampante
     QRectF Stampabile; ///< what the printer reaches of it
 };
 
-enum class StatoFile { Buono, Mancante, Illeggibile };
+enum class StatoFile { Buono, Mancante, Cartella, Illeggibile };
 
 /// What a check has to know besides the model. It is asked for every element at every step: whoever
 /// answers remembers what the system takes long to tell.

@@ -24,20 +24,24 @@ StatoFile Giudica(const QString &percorso)
 
 } // namespace
 
+StatoFile FileVisti::Esiste(const QString &percorso)
+{
+    const QFileInfo file(percorso);
+    return file.isFile()  ? StatoFile::Buono
+           : file.isDir() ? StatoFile::Cartella
+                          : StatoFile::Mancante;
+}
+
 StatoFile FileVisti::Immagine(const QString &percorso)
 {
     const QFileInfo file(percorso);
     Visto &visto = visti_[percorso];
     if (!file.isFile()) {
         visto = {};
+        visto.stato = Esiste(percorso);
     } else if (visto.stato == StatoFile::Mancante || visto.modificato != file.lastModified() ||
                visto.byte != file.size()) {
         visto = {file.lastModified(), file.size(), Giudica(percorso)};
     }
     return visto.stato;
-}
-
-StatoFile FileVisti::Esiste(const QString &percorso)
-{
-    return QFileInfo(percorso).isFile() ? StatoFile::Buono : StatoFile::Mancante;
 }

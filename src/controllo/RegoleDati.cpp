@@ -108,6 +108,10 @@ void Regole::FileDelleImmagini(Esame &esame)
                            QStringLiteral("il file manca dalla cartella dei modelli e sulla carta "
                                           "il posto resta vuoto: rimetterlo nella cartella o "
                                           "scegliere un'altra immagine."));
+        } else if (stato == StatoFile::Cartella) {
+            esame.Aggiunge(SpecieRilievo::FileImmagine, chiave,
+                           QStringLiteral("è una cartella, non un file, e sulla carta il posto "
+                                          "resta vuoto: scegliere un'immagine."));
         } else if (stato == StatoFile::Illeggibile) {
             esame.Aggiunge(SpecieRilievo::FileImmagine, chiave,
                            QStringLiteral("il file non si può leggere come immagine e sulla carta "
@@ -202,11 +206,16 @@ void Regole::AreaRighe(Esame &esame)
 void Regole::ScansioneMancante(Esame &esame)
 {
     const ImmagineSfondo &sfondo = esame.Aperto().Sfondo;
-    if (!sfondo.File.isEmpty() && esame.Stanti().Scansione(sfondo) != StatoFile::Buono) {
+    const StatoFile stato =
+        sfondo.File.isEmpty() ? StatoFile::Buono : esame.Stanti().Scansione(sfondo);
+    if (stato != StatoFile::Buono) {
         esame.Aggiunge(SpecieRilievo::Scansione, Rilievo::Luogo::Sfondo,
-                       QStringLiteral("il file %1 manca; sulla carta non cambia nulla, ma "
+                       QStringLiteral("%1; sulla carta non cambia nulla, ma "
                                       "l'anteprima resta senza il modulo: sceglierlo di nuovo "
                                       "nella pagina \"Immagine sfondo\" o cancellarne il nome.")
-                           .arg(SuUnaRiga(sfondo.File)));
+                           .arg((stato == StatoFile::Cartella
+                                     ? QStringLiteral("%1 è una cartella, non un file")
+                                     : QStringLiteral("il file %1 manca"))
+                                    .arg(SuUnaRiga(sfondo.File))));
     }
 }

@@ -205,6 +205,9 @@ QSizeF FrmImmagine::LeggeMisura()
                                     "mostrata né stampata")
                          .arg(nome));
         return {0, 0};
+    } catch (const Immagini::Cartella &) {
+        MostraAvviso(QStringLiteral("«%1»: è una cartella, non un file d'immagine").arg(nome));
+        return {0, 0};
     } catch (const ErroreSistema &errore) {
         // A picture that is missing or damaged asks nothing: the size in the boxes stands.
         MostraAvviso(errore.numero == ErroreSistema::FileNonTrovato

@@ -12,6 +12,12 @@ Immagini::TroppoGrande::TroppoGrande()
 {
 }
 
+Immagini::Cartella::Cartella()
+    : ErroreSistema(FileNonTrovato,
+                    DescrizioneErrore(FileNonTrovato) + QStringLiteral(": è una cartella"))
+{
+}
+
 QSizeF Immagini::DimensioniNaturali(const QString &percorso)
 {
     return LettoreImmagine(percorso).Millimetri();

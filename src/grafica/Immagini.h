@@ -17,6 +17,13 @@ public:
     TroppoGrande();
 };
 
+/// The 53 of a name that is a folder's.
+class Cartella : public ErroreSistema
+{
+public:
+    Cartella();
+};
+
 /// Natural size in mm, from the pixel size and the resolution that the file states (96 dpi when it
 /// states none), after EXIF rotation; decodes nothing. Throws ErroreSistema 53 or 481.
 QSizeF DimensioniNaturali(const QString &percorso);

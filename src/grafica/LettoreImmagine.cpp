@@ -25,7 +25,11 @@ LettoreImmagine::LettoreImmagine(const QString &percorso)
     : file_(percorso)
 {
     // Only regular files: opening a pipe or a device could wait for ever.
-    if (!QFileInfo(percorso).isFile()) {
+    const QFileInfo informazioni(percorso);
+    if (informazioni.isDir()) {
+        throw Immagini::Cartella();
+    }
+    if (!informazioni.isFile()) {
         throw ErroreSistema(ErroreSistema::FileNonTrovato);
     }
     // A file of the system that is made while it is read has no size, and may never end.

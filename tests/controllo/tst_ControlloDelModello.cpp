@@ -4,6 +4,7 @@
 #include "support/FileDiProva.h"
 #include "support/Tempi.h"
 
+#include <QDir>
 #include <QDirIterator>
 #include <QTest>
 
@@ -110,6 +111,11 @@ void tst_ControlloDelModello::UnFileUgualeNonSiRilegge()
     QCOMPARE(visti.Immagine(file), StatoFile::Illeggibile);
     QVERIFY(QFile::remove(file));
     QCOMPARE(visti.Immagine(file), StatoFile::Mancante);
+    QVERIFY(QDir().mkdir(file));
+    QCOMPARE(visti.Immagine(file), StatoFile::Cartella);
+    QVERIFY(QDir().rmdir(file));
+    ImmaginiDiProva::Scrive(file, ImmaginiDiProva::JpegCmyk());
+    QCOMPARE(visti.Immagine(file), StatoFile::Buono);
 }
 
 void tst_ControlloDelModello::TrecentoElementiCostanoPoco()

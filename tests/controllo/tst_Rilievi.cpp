@@ -2,6 +2,7 @@
 
 #include "grafica/Testo.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -29,6 +30,7 @@ private slots:
     void UnModelloSanoNonHaRilievi();
     void OgniRilievoEIlSuoGemello_data();
     void OgniRilievoEIlSuoGemello();
+    void UnaCartellaNonMancaMaNonEUnFile();
     void UnCampoNonStampatoNonHaPosto();
     void GliElementiEliminatiTacciono();
     void SenzaStampanteNienteSullaCarta();
@@ -238,6 +240,9 @@ void tst_Rilievi::OgniRilievoEIlSuoGemello_data()
         [](S &m) { m.Aperto.Righe.InterlineaDescr = 0; },
         [](S &m) { m.Aperto.Righe.InterlineaDescr = 0.5; });
     riga(
+        "folder instead of a scan", Scansione, "immagine di sfondo",
+        [](S &m) { m.Aperto.Sfondo.File = m.In("."); }, [](S &m) { m.Aperto.Sfondo.File.clear(); });
+    riga(
         "scan that is missing", Scansione, "immagine di sfondo",
         [](S &m) { QVERIFY(QFile::remove(m.In("scansione.bmp"))); },
         [](S &m) { m.Aperto.Sfondo.File.clear(); });
@@ -261,6 +266,20 @@ void tst_Rilievi::OgniRilievoEIlSuoGemello()
     ModelloSano sana;
     gemello(sana);
     QCOMPARE(sana.Righe(), QStringList());
+}
+
+void tst_Rilievi::UnaCartellaNonMancaMaNonEUnFile()
+{
+    ModelloSano sana;
+    QVERIFY(QFile::remove(sana.In("logo.bmp")) && QDir().mkdir(sana.In("logo.bmp")));
+    sana.Aperto.Sfondo.File = sana.In("logo.bmp");
+    const QStringList righe = sana.Righe();
+    QCOMPARE(righe.size(), 2);
+    for (const QString &riga : righe) {
+        QVERIFY2(riga.contains(QStringLiteral("è una cartella, non un file")) &&
+                     !riga.contains(QStringLiteral("manca")),
+                 qPrintable(riga));
+    }
 }
 
 void tst_Rilievi::UnCampoNonStampatoNonHaPosto()

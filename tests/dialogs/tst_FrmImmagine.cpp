@@ -130,6 +130,11 @@ void tst_FrmImmagine::IlleggibileDettaSottoLElenco()
     const QWidget *elenco = Trova<QListWidget>(p.dialogo, "FileImmagini");
     QCoreApplication::processEvents();
     QVERIFY(avviso->y() >= elenco->geometry().bottom());
+    QVERIFY(QDir(p.cartella.path()).mkdir(QStringLiteral("sparita.bmp")));
+    p.Clicca("sparita.bmp");
+    QCOMPARE(avviso->text(),
+             QStringLiteral("«sparita.bmp»: è una cartella, non un file d'immagine"));
+    QVERIFY(QDir(p.cartella.path()).rmdir(QStringLiteral("sparita.bmp")));
     p.Clicca("sparita.bmp");
     QVERIFY(avviso->text().startsWith(QStringLiteral("«sparita.bmp»: il file non si trova")));
     p.Clicca("buona.bmp");
