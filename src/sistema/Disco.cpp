@@ -29,6 +29,9 @@ QFileInfo Bersaglio(const QString &percorso)
 
 void Apre(QFile &file)
 {
+    if (file.fileName().isEmpty()) {
+        throw ErroreSistema(ErroreSistema::FileNonTrovato); // Qt would say so besides
+    }
     const QFileInfo info(file);
     // A folder, and a pipe on which opening would wait for ever.
     if (info.exists() && !info.isFile()) {

@@ -25,6 +25,7 @@ private slots:
     void UnaRigaPerRilievo();
     void PiuFile();
     void UnFileIllegibileNonFermaGliAltri();
+    void UnNomeVuotoSiDiceUnaVoltaSola();
     void TuttiIModelliDiUnaCartella();
     void LaCartellaDiUnArchivio();
     void CartellaSenzaModelli();
@@ -99,6 +100,16 @@ void tst_ControlloDaRiga::UnFileIllegibileNonFermaGliAltri()
                  esito.errori.contains(QStringLiteral("impossibile leggere file Corto.Mod 62 ")),
              qPrintable(esito.errori));
     QVERIFY(esito.uscita.startsWith(malato));
+}
+
+void tst_ControlloDaRiga::UnNomeVuotoSiDiceUnaVoltaSola()
+{
+    const Esito esito = Esegue({Controlla, QString()}, SenzaStampe);
+    QCOMPARE(esito.stato, 2);
+    QCOMPARE(esito.uscita, QString());
+    QVERIFY2(esito.errori.startsWith(QStringLiteral("impossibile leggere file")) &&
+                 esito.errori.count(u'\n') == 1,
+             qPrintable(esito.errori));
 }
 
 void tst_ControlloDaRiga::TuttiIModelliDiUnaCartella()
