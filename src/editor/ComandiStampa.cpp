@@ -19,6 +19,7 @@
 #include "sistema/Percorsi.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPageLayout>
@@ -199,7 +200,10 @@ QString ComandiStampa::ChiedeFile()
         stato_.CartellaEsportazione =
             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     }
-    QFileDialog finestra(Davanti(), QStringLiteral("Esporta PDF"), stato_.CartellaEsportazione);
+    // Taken away meanwhile, it leaves the one above it.
+    const QString partenza = Percorsi::CartellaEsistente(stato_.CartellaEsportazione);
+    QFileDialog finestra(Davanti(), QStringLiteral("Esporta PDF"),
+                         partenza.isEmpty() ? QDir::homePath() : partenza);
     Prepara(finestra);
     finestra.selectFile(QFileInfo(stato_.NomeFile).completeBaseName() + QStringLiteral(".pdf"));
     ImpostaHelp(&finestra);

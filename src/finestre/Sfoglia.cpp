@@ -44,20 +44,6 @@ QString PercorsoPieno(const QString &cartella)
         QDir::cleanPath(QFileInfo(Percorsi::Risolve(intera)).absoluteFilePath()));
 }
 
-/// The folder itself or the nearest one above it that exists; empty when there is none.
-QString CartellaEsistente(QString cartella)
-{
-    cartella = Percorsi::Risolve(cartella);
-    while (!cartella.isEmpty() && !QFileInfo(cartella).isDir()) {
-        while (cartella.endsWith(QDir::separator())) {
-            cartella.chop(1);
-        }
-        const QString sopra = Percorsi::EstraeUltimaBarra(cartella);
-        cartella = sopra == cartella ? QString() : sopra;
-    }
-    return cartella;
-}
-
 /// From the root down to the folder itself.
 QStringList Antenati(const QString &cartella)
 {
@@ -161,10 +147,10 @@ bool Sfoglia::ApreCartellaIniziale()
     const QString percorso = Percorsi::EstraeUltimaBarra(ui_->Percorso->text());
     // A name alone says nothing about a folder.
     const bool conCartella = percorso != ui_->NomeFile->text();
-    if (conCartella && ApreCartella(CartellaEsistente(percorso))) {
+    if (conCartella && ApreCartella(Percorsi::CartellaEsistente(percorso))) {
         return QFileInfo(Percorsi::Risolve(percorso)).isDir();
     }
-    if (!ApreCartella(CartellaEsistente(partenza_)) && !ApreCartella(cartella_)) {
+    if (!ApreCartella(Percorsi::CartellaEsistente(partenza_)) && !ApreCartella(cartella_)) {
         ApreCartella(QDir::homePath());
     }
     return !conCartella;

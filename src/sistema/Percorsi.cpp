@@ -150,6 +150,19 @@ QString Percorsi::Risolve(const QString &percorso)
     return risolto + nativo.mid(scritti);
 }
 
+QString Percorsi::CartellaEsistente(const QString &cartella)
+{
+    QString esistente = Risolve(cartella);
+    while (!esistente.isEmpty() && !QFileInfo(esistente).isDir()) {
+        while (esistente.endsWith(QDir::separator())) {
+            esistente.chop(1);
+        }
+        const QString sopra = EstraeUltimaBarra(esistente);
+        esistente = sopra == esistente ? QString() : sopra;
+    }
+    return esistente;
+}
+
 QStringList Percorsi::SottoCartelle(const QString &cartella)
 {
     QString prefisso = Nativo(cartella);

@@ -16,6 +16,10 @@ QString Separatore();
 /// not exist stays as given, so the result can also name a file to be created.
 QString Risolve(const QString &percorso);
 
+/// The folder itself, or the nearest one above it that exists, in any case; empty when there is
+/// none.
+QString CartellaEsistente(const QString &cartella);
+
 /// Full native paths of the sub-folders, in name order without regard to case. Throws ErroreSistema
 /// 76 when the folder does not exist, 75 when it cannot be read.
 QStringList SottoCartelle(const QString &cartella);

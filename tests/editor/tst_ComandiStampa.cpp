@@ -83,6 +83,7 @@ private slots:
     void maiUnModello_data();
     void maiUnModello();
     void cartellaNonScrivibile();
+    void cartellaSparitaQuellaSopra();
     void rinunciaAlNome();
     void unaLungaAttesaSiAnnulla();
     void unaBreveAttesaNonSiVede();
@@ -229,6 +230,21 @@ void tst_ComandiStampa::cartellaNonScrivibile()
     QVERIFY(robot.Testi().constLast().contains(
         QStringLiteral("impossibile scrivere /proc/uscita.pdf: ")));
     QCOMPARE(prova.Striscia(), QString());
+}
+
+void tst_ComandiStampa::cartellaSparitaQuellaSopra()
+{
+    Prova prova;
+    prova.Archivio.Stato().CartellaEsportazione = prova.In(QStringLiteral("sparita/anche questa"));
+    Robot robot;
+    QString cartella;
+    robot.Agisce([&](QDialog *finestra) {
+        cartella = static_cast<QFileDialog *>(finestra)->directory().path();
+        finestra->reject();
+    });
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(cartella, QFileInfo(prova.In(QStringLiteral("x"))).path());
 }
 
 void tst_ComandiStampa::rinunciaAlNome()

@@ -26,6 +26,7 @@ private slots:
     void Risolve_rispettaIlCollegamentoRotto();
     void Risolve_migliaiaDiCartelle_data();
     void Risolve_migliaiaDiCartelle();
+    void CartellaEsistente();
     void SottoCartelle();
     void SottoCartelle_nessuna();
     void SottoCartelle_mancante_data();
@@ -193,6 +194,20 @@ void tst_Percorsi::Risolve_migliaiaDiCartelle()
     const TempoDiLavoro tempo;
     QCOMPARE(Percorsi::Risolve(lungo), QString(lungo).replace(u'\\', QDir::separator()));
     QVERIFY(tempo.Entro(1000));
+}
+
+void tst_Percorsi::CartellaEsistente()
+{
+    QVERIFY(QDir(cartella_->path()).mkpath(QStringLiteral("a/b")));
+    Scrive(QStringLiteral("a/file"));
+    QCOMPARE(Percorsi::CartellaEsistente(In(QStringLiteral("a/b"))), In(QStringLiteral("a/b")));
+    QCOMPARE(Percorsi::CartellaEsistente(In(QStringLiteral("A/B"))), In(QStringLiteral("a/b")));
+    for (const char *sotto : {"a/c", "a/c/d/e", "a/file", "a/file/d"}) {
+        const QString trovata = Percorsi::CartellaEsistente(In(QString::fromLatin1(sotto)));
+        QCOMPARE(QDir::cleanPath(trovata), In(QStringLiteral("a")));
+    }
+    QCOMPARE(Percorsi::CartellaEsistente(QString()), QString());
+    QCOMPARE(Percorsi::CartellaEsistente(QStringLiteral("nessuna")), QString());
 }
 
 void tst_Percorsi::SottoCartelle()
