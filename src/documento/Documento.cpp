@@ -39,9 +39,12 @@ public:
         , unione_(std::move(unione))
         , entroMillisecondi_(entroMillisecondi)
         , unioni_(documento.unioni_)
+        , numero_(++documento.passi_)
     {
         eta_.start();
     }
+
+    int Numero() const { return numero_; }
 
     void undo() override { documento_.Percorre(differenza_); }
 
@@ -76,6 +79,7 @@ private:
     QString unione_;
     int entroMillisecondi_;
     int unioni_;
+    int numero_;
     QElapsedTimer eta_;
     bool nuovo_ = true;
 };
@@ -183,12 +187,25 @@ QString Documento::TestoRipristina() const
     return storia_->redoText();
 }
 
+int Documento::NumeroDelPasso(int indice) const
+{
+    const auto *passo = static_cast<const Fatto *>(storia_->command(indice));
+    return passo == nullptr ? 0 : passo->Numero();
+}
+
+int Documento::UltimoPasso() const
+{
+    return NumeroDelPasso(storia_->index() - 1);
+}
+
 void Documento::Annulla()
 {
     if (PuoAnnullare()) {
+        const int numero = UltimoPasso();
         ChiudeUnione();
         storia_->undo();
         Conclude();
+        emit PassoPercorso(numero, true);
     }
 }
 
@@ -198,6 +215,7 @@ void Documento::Ripristina()
         ChiudeUnione();
         storia_->redo();
         Conclude();
+        emit PassoPercorso(UltimoPasso(), false);
     }
 }
 

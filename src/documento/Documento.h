@@ -65,6 +65,8 @@ public:
     /// What the next undo or redo is about ("sposta Doc_Numero"); empty when there is none.
     QString TestoAnnulla() const;
     QString TestoRipristina() const;
+    /// Which step of the history stands last: no other ever has its number. 0 for none.
+    int UltimoPasso() const;
     /// Takes the last step back, or does it again. Nothing in the middle of an edit: a dialog or a
     /// gesture has to end first.
     void Annulla();
@@ -85,6 +87,8 @@ signals:
     void VariatoCambiato();
     /// The file holds again what the document shows: FuoriRiga has been emptied.
     void RigheRaddrizzate();
+    /// The step of that number has been taken back, or (annullato false) done again.
+    void PassoPercorso(int numero, bool annullato);
     /// PuoAnnullare, PuoRipristinare or their texts are others.
     void StoriaCambiata();
 
@@ -100,12 +104,14 @@ private:
     bool Registra(const StatoDocumento &prima, const QString &testo, const QString &unione,
                   int entroMillisecondi);
     void Percorre(Differenza &differenza);
+    int NumeroDelPasso(int indice) const;
 
     StatoDocumento stato_;
     bool variato_ = false;
     std::array<int, Generi.size()> ultimiAllApertura_{}; ///< slots
     std::map<int, double> fuoriRiga_;
     std::unique_ptr<QUndoStack> storia_;
+    int passi_ = 0;  ///< the number of the youngest step
     int unioni_ = 0; ///< grows when earlier steps are closed to later ones
 
     Cambiamento tocchi_; ///< not yet told to the views

@@ -73,11 +73,17 @@ std::optional<Spostamento> UltimeCorrezioni::Proposta(const QString &stampante,
     return spostamento && !spostamento->Nullo() ? spostamento : std::nullopt;
 }
 
-void UltimeCorrezioni::Ricorda(const QString &stampante, const QString &modello,
-                               const Spostamento &spostamento) const
+void UltimeCorrezioni::Scrive(const QJsonObject &tutte) const
+{
+    Disco::CreaCartellaPrivata(cartella_);
+    Disco::SostituisceInPrivato(Percorso(), QJsonDocument(tutte).toJson());
+}
+
+UltimeCorrezioni::Cambio UltimeCorrezioni::Ricorda(const QString &stampante, const QString &modello,
+                                                   const Spostamento &spostamento) const
 {
     if (cartella_.isEmpty() || stampante.isEmpty()) {
-        return;
+        return {};
     }
     QJsonObject tutte = Letto(Percorso());
     const QJsonObject prima = tutte.value(stampante).toObject();
@@ -90,11 +96,26 @@ void UltimeCorrezioni::Ricorda(const QString &stampante, const QString &modello,
     while (modelli.size() > ModelliMassimi) {
         modelli.removeFirst();
     }
-    tutte.insert(stampante, QJsonObject{{ChiaveX, spostamento.Dx},
-                                        {ChiaveY, spostamento.Dy},
-                                        {ChiaveModelli, modelli}});
-    Disco::CreaCartellaPrivata(cartella_);
-    Disco::SostituisceInPrivato(Percorso(), QJsonDocument(tutte).toJson());
+    const QJsonObject dopo{
+        {ChiaveX, spostamento.Dx}, {ChiaveY, spostamento.Dy}, {ChiaveModelli, modelli}};
+    tutte.insert(stampante, dopo);
+    Scrive(tutte);
+    return {prima, dopo};
+}
+
+void UltimeCorrezioni::Ritira(const QString &stampante, const Cambio &cambio) const
+{
+    QJsonObject tutte = Letto(Percorso());
+    // Also where nothing was ever remembered, for want of a folder or a printer.
+    if (cambio.Dopo.isEmpty() || tutte.value(stampante).toObject() != cambio.Dopo) {
+        return;
+    }
+    if (cambio.Prima.isEmpty()) {
+        tutte.remove(stampante);
+    } else {
+        tutte.insert(stampante, cambio.Prima);
+    }
+    Scrive(tutte);
 }
 
 void UltimeCorrezioni::Dimentica(const QString &stampante) const
@@ -104,5 +125,5 @@ void UltimeCorrezioni::Dimentica(const QString &stampante) const
         return;
     }
     tutte.remove(stampante);
-    Disco::SostituisceInPrivato(Percorso(), QJsonDocument(tutte).toJson());
+    Scrive(tutte);
 }

@@ -218,7 +218,9 @@ void FrmCorrezione::Conferma()
     mosse_ = parti;
     detto_ = QStringLiteral("Modello spostato: ") + Frase(spostamento_);
     try {
-        ultime_.Ricorda(stampante_, stato_.CartellaModelli + stato_.NomeFile, spostamento_);
+        const QString modello = stato_.CartellaModelli + stato_.NomeFile;
+        ricordata_ = {ultime_, stampante_, modello, spostamento_,
+                      ultime_.Ricorda(stampante_, modello, spostamento_)};
     } catch (const ErroreSistema &errore) {
         // Nothing depends on it, and the model has been moved.
         detto_ +=

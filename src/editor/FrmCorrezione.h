@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documento/CorrezioneGriglia.h"
+#include "documento/CorrezioniInStoria.h"
 #include "documento/UltimeCorrezioni.h"
 
 #include <QDialog>
@@ -30,6 +31,8 @@ public:
 
     /// What has been moved; nothing before it is confirmed.
     const CorrezioneGriglia::Parti &Mosse() const { return mosse_; }
+    /// What has been remembered of it; nothing where that could not be, or before it is confirmed.
+    const std::optional<CorrezioniInStoria::Correzione> &Ricordata() const { return ricordata_; }
     /// What the user is to be told when the dialog has closed; empty when it was given up.
     const QString &Detto() const { return detto_; }
 
@@ -53,5 +56,6 @@ private:
     bool usata_ = false; ///< the proposal counts, not the marks
     CorrezioneGriglia::Spostamento spostamento_;
     CorrezioneGriglia::Parti mosse_;
+    std::optional<CorrezioniInStoria::Correzione> ricordata_;
     QString detto_;
 };

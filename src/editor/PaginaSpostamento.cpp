@@ -15,6 +15,8 @@
 #include "sistema/CartellaStato.h"
 #include "ui_PaginaSpostamento.h"
 
+#include <utility>
+
 namespace {
 
 /// Empty without a printer, or with a print system that is silent: nothing is proposed then.
@@ -34,6 +36,7 @@ PaginaSpostamento::PaginaSpostamento(StatoProgramma &stato, Frm1 &anteprima, QWi
     , ui_(std::make_unique<Ui::PaginaSpostamento>())
     , stato_(stato)
     , anteprima_(anteprima)
+    , correzioni_(stato.documento)
 {
     ui_->setupUi(this);
     ui_->Text5->setPlainText(TestiEsplicativi::Spostamento());
@@ -50,6 +53,11 @@ void PaginaSpostamento::Collegamenti()
     Collega(ui_->Command6, &QPushButton::clicked, this, &PaginaSpostamento::Command6_Click);
     Collega(ui_->CorreggiDaGriglia, &QPushButton::clicked, this,
             &PaginaSpostamento::CorreggiDaGriglia_Click);
+    Collega(&stato_.documento, &Documento::StoriaCambiata, this, &PaginaSpostamento::RitiraDetto);
+    Collega(&correzioni_, &CorrezioniInStoria::NonAggiornate, this, [this](const QString &motivo) {
+        anteprima_.Avverte(
+            QStringLiteral("L'ultima correzione ricordata non è aggiornata (%1)").arg(motivo));
+    });
 }
 
 void PaginaSpostamento::Mostra()
@@ -82,7 +90,19 @@ void PaginaSpostamento::CorreggiDaGriglia_Click()
     if (dialogo.Mosse().Sfondo) {
         emit SpostatoSfondo();
     }
-    anteprima_.Avverte(dialogo.Detto());
+    if (dialogo.Ricordata()) {
+        correzioni_.Aggiunge(*dialogo.Ricordata());
+    }
+    detta_ = stato_.documento.UltimoPasso();
+    detto_ = dialogo.Detto();
+    anteprima_.Avverte(detto_);
+}
+
+void PaginaSpostamento::RitiraDetto()
+{
+    if (!detto_.isEmpty() && stato_.documento.UltimoPasso() != detta_) {
+        anteprima_.RitiraAvviso(std::exchange(detto_, {}));
+    }
 }
 
 void PaginaSpostamento::Sposta(Genere genere)

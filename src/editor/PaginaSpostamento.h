@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documento/CorrezioniInStoria.h"
 #include "documento/StatoProgramma.h"
 
 #include <QWidget>
@@ -34,9 +35,14 @@ signals:
 private:
     void Collegamenti();
     void CorreggiDaGriglia_Click();
+    /// What the strip says of the correction goes with it, or with what is done next.
+    void RitiraDetto();
     void Sposta(Genere genere);
 
     std::unique_ptr<Ui::PaginaSpostamento> ui_;
     StatoProgramma &stato_;
     Frm1 &anteprima_;
+    CorrezioniInStoria correzioni_;
+    int detta_ = 0; ///< the step that detto_ is about
+    QString detto_; ///< what the strip says of it; empty: nothing any more
 };

@@ -335,6 +335,14 @@ void Frm1::Avverte(const QString &testo)
     parti_->Text1->setText(testo);
 }
 
+void Frm1::RitiraAvviso(const QString &testo)
+{
+    if (parti_->Text1->text() == testo) {
+        avvisato_ = false;
+        parti_->Text1->clear();
+    }
+}
+
 int Frm1::ScorrimentoX() const
 {
     return parti_->ScrollX->value();

@@ -133,6 +133,8 @@ public:
     /// The strip says it until an element is in hand again, or others are chosen. Nothing that
     /// needs an answer.
     void Avverte(const QString &testo);
+    /// What the strip says by Avverte goes, where it is still that text.
+    void RitiraAvviso(const QString &testo);
     int ScorrimentoX() const; ///< value of ScrollX, mm of screen
     int ScorrimentoY() const; ///< value of ScrollY, mm of screen
     /// Size of the control of element i; a field's follows its text.

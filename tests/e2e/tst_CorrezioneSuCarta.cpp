@@ -1,6 +1,8 @@
 #include "ProvaInCoda.h"
 #include "base/Unita.h"
+#include "documento/UltimeCorrezioni.h"
 #include "editor/EditoreDiProva.h"
+#include "sistema/CartellaStato.h"
 #include "support/Rettangoli.h"
 
 #include <QCheckBox>
@@ -34,6 +36,7 @@ private slots:
     void tornaAlSuoPosto_data();
     void tornaAlSuoPosto();
     void laStampanteCheRiduceNonSiCorregge();
+    void annullataNonSiPropone();
 
 private:
     /// Where the ink of the mark near the point begins on the sheet, mm from its corner.
@@ -186,6 +189,23 @@ void tst_CorrezioneSuCarta::laStampanteCheRiduceNonSiCorregge()
              qPrintable(risposta.Detto));
     QVERIFY(!risposta.Offerta);
     QVERIFY(prova.Aperto() == prima);
+}
+
+void tst_CorrezioneSuCarta::annullataNonSiPropone()
+{
+    coda_->Aggiunge(Prova, {});
+    coda_->Predefinita(Prova);
+    EditorSulModello prova(Compone);
+    QVERIFY(prova.caricato);
+    const auto proposta = [&] {
+        return UltimeCorrezioni(CartellaStato()).Proposta(Prova, QStringLiteral("/un/altro.Mod"));
+    };
+    QVERIFY(Corregge(*prova.editor, {{20, 20}}, {{22, 20}}, false).Offerta);
+    QCOMPARE(proposta(), (CorrezioneGriglia::Spostamento{-2, 0}));
+    ::Preme(*prova.editor, "Annulla");
+    QVERIFY(!proposta());
+    ::Preme(*prova.editor, "Ripristina");
+    QCOMPARE(proposta(), (CorrezioneGriglia::Spostamento{-2, 0}));
 }
 
 QTEST_MAIN(tst_CorrezioneSuCarta)

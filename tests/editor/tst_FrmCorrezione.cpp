@@ -67,6 +67,8 @@ private slots:
     void scriverePrevaleSullaProposta();
     void senzaCartellaSiSpostaLoStesso();
     void rinuncia();
+    void laStrisciaLoDiceFinoAlProssimoPasso_data();
+    void laStrisciaLoDiceFinoAlProssimoPasso();
 };
 
 void tst_FrmCorrezione::initTestCase()
@@ -383,6 +385,39 @@ void tst_FrmCorrezione::rinuncia()
     QVERIFY(prova.Aperto() == prova.Prima);
     QVERIFY(!prova.Archivio.Stato().documento.Variato());
     QVERIFY(!QFile::exists(prova.Archivio.CartellaStato() + QStringLiteral("/correzioni.json")));
+}
+
+void tst_FrmCorrezione::laStrisciaLoDiceFinoAlProssimoPasso_data()
+{
+    QTest::addColumn<QString>("bottone");
+    QTest::newRow("taken back") << QStringLiteral("Annulla");
+    QTest::newRow("another step") << QStringLiteral("Command2");
+}
+
+void tst_FrmCorrezione::laStrisciaLoDiceFinoAlProssimoPasso()
+{
+    QFETCH(QString, bottone);
+    StoriaDiProva prova;
+    Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(4);
+    Robot robot;
+    robot.Agisce([](QDialog *dialogo) {
+        for (const char *nome : {"AttesoX1", "AttesoY1", "UscitoY1"}) {
+            Controlli::Digita(*dialogo, nome, QStringLiteral("20"));
+        }
+        Controlli::Digita(*dialogo, "UscitoX1", QStringLiteral("23"));
+        Trova<QPushButton>(*dialogo, "Conferma")->click();
+    });
+    ::Preme(*prova.Editor, "CorreggiDaGriglia");
+    QVERIFY(robot.Soddisfatto());
+    const auto *striscia = Trova<QLabel>(prova.Anteprima(), "Text1");
+    QCOMPARE(striscia->text(), QStringLiteral("Modello spostato: 3 mm a sinistra"));
+    Trova<QAbstractButton>(*prova.Editor, qPrintable(bottone))->click();
+    QVERIFY2(!striscia->text().contains(QStringLiteral("Modello spostato")),
+             qPrintable(striscia->text()));
+    // What the strip says of something else stays.
+    prova.Anteprima().Avverte(QStringLiteral("altro"));
+    prova.Annulla();
+    QCOMPARE(striscia->text(), QStringLiteral("altro"));
 }
 
 QTEST_MAIN(tst_FrmCorrezione)
