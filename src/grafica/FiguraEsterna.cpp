@@ -8,13 +8,13 @@
 #include "grafica/Opacita.h"
 #include "grafica/PerditaDiColore.h"
 #include "grafica/PixelImmagine.h"
+#include "grafica/PocheTinte.h"
 #include "grafica/Rimpicciolimento.h"
 #include "sistema/Disco.h"
 
 #include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QSet>
 #include <QtEndian>
 
 #include <algorithm>
@@ -59,28 +59,23 @@ QByteArray FormatoQt(const QByteArray &byte)
     return QImageReader::imageFormat(&buffer);
 }
 
-/// A few colours, mostly even ones, or sharp ones that the JPEG which Qt writes would smear, since
-/// there four pixels share one: what a firm draws rather than what a camera sees.
+/// Mostly even colours, or sharp ones that the JPEG which Qt writes would smear, since there four
+/// pixels share one: what a firm draws rather than what a camera sees.
 bool Disegnata(const QImage &immagine)
 {
-    constexpr qsizetype PocheTinte = 256;
     constexpr double ParteUguale = 0.6;
-    QSet<QRgb> tinte;
+    const double pixel = double(immagine.width()) * immagine.height();
+    if (pixel > PixelSenzaPerdita) {
+        return false;
+    }
     qint64 uguali = 0;
     for (int y = 0; y < immagine.height(); ++y) {
         const auto *riga = reinterpret_cast<const QRgb *>(immagine.constScanLine(y));
-        for (int x = 0; x < immagine.width(); ++x) {
-            const bool uguale = x > 0 && riga[x] == riga[x - 1];
-            uguali += uguale ? 1 : 0;
-            if (!uguale && tinte.size() <= PocheTinte) {
-                tinte.insert(riga[x]);
-            }
+        for (int x = 1; x < immagine.width(); ++x) {
+            uguali += riga[x] == riga[x - 1] ? 1 : 0;
         }
     }
-    const double pixel = double(immagine.width()) * immagine.height();
-    return tinte.size() <= PocheTinte ||
-           (pixel <= PixelSenzaPerdita &&
-            (double(uguali) >= ParteUguale * pixel || PerdeColore(immagine)));
+    return double(uguali) >= ParteUguale * pixel || PerdeColore(immagine);
 }
 
 QByteArray Codifica(const QImage &immagine, FiguraEsterna::Tipo tipo)
@@ -169,8 +164,13 @@ FiguraEsterna::File FiguraEsterna::Converte(const Riquadro &riquadro, const Annu
         return {};
     }
     QImage &immagine = decodificata.Immagine;
+    const QImage dipinta = tipo == Tipo::Fotografia ? QImage() : PocheTinte::ConTavolozza(immagine);
+    const bool poche = !dipinta.isNull();
     File file;
-    file.tipo = tipo.value_or(Disegnata(immagine) ? Tipo::Disegno : Tipo::Fotografia);
+    file.tipo = tipo.value_or(poche || Disegnata(immagine) ? Tipo::Disegno : Tipo::Fotografia);
+    if (poche) {
+        immagine = dipinta; // a third of the bytes, or less
+    }
     file.Pixel = immagine.size();
     file.Millimetri = decodificata.Millimetri;
     immagine.setDotsPerMeterX(PuntiPerMetro(immagine.width(), file.Millimetri.width()));

@@ -35,10 +35,10 @@ public:
     explicit FiguraEsterna(const QString &percorso);
 
     /// The file: with 600 dots per inch at most of a box of the picture's own proportions that just
-    /// covers the one given; a drawing of lines has just these. A file that is one already stays as
-    /// it is to the byte. The type is decided by the pixels unless it is given. Throws
-    /// ErroreSistema 481 for what cannot be decoded, Immagini::TroppoGrande, std::bad_alloc. Empty
-    /// once annullato says so.
+    /// covers the one given; a drawing of lines has just these. Few colours are kept by a palette.
+    /// A file that is one already stays as it is to the byte. The type is decided by the pixels
+    /// unless it is given. Throws ErroreSistema 481 for what cannot be decoded,
+    /// Immagini::TroppoGrande, std::bad_alloc. Empty once annullato says so.
     File Converte(const Riquadro &riquadro, const Annullato &annullato,
                   std::optional<Tipo> tipo = {}) const;
 

@@ -77,6 +77,9 @@ private slots:
     void Ostili_data();
     void Ostili();
     void AnnullataNonDaNulla();
+    void PocheTintePerTavolozza_data();
+    void PocheTintePerTavolozza();
+    void DisegnoSvgDiPocheTinteGrandeMaLeggero();
 
 private:
     QString Scrive(const QString &nome, const QByteArray &byte) const
@@ -137,8 +140,7 @@ void tst_FiguraEsterna::TrasparenteSuBianco()
         Converte(Scrive(QStringLiteral("a.png"), ImmaginiDiProva::InFormato(figura, "png")));
     QCOMPARE(file.tipo, Tipo::Disegno);
     QVERIFY(file.Byte.startsWith("BM"));
-    QCOMPARE(QImage::fromData(file.Byte).depth(), 32); // Qt's reading of 24 bits
-    QCOMPARE(int(quint8(file.Byte.at(28))), 24);
+    QVERIFY(!QImage::fromData(file.Byte).hasAlphaChannel());
     QCOMPARE(immagine_.pixel(30, 10), qRgb(255, 255, 255));
     QVERIFY(Scarto(immagine_.pixel(10, 10), qRgb(127, 127, 127)) <= 1);
 }
@@ -340,6 +342,52 @@ void tst_FiguraEsterna::AnnullataNonDaNulla()
     int domande = 0;
     const auto subito = [&domande] { return ++domande > 3; };
     QVERIFY(figura.Converte(Naturale, subito).Byte.isEmpty());
+}
+
+void tst_FiguraEsterna::PocheTintePerTavolozza_data()
+{
+    QTest::addColumn<int>("tinte");
+    QTest::addColumn<int>("bit");
+    for (const auto &[tinte, bit] :
+         {std::pair(1, 1), {2, 1}, {3, 4}, {16, 4}, {17, 8}, {256, 8}, {257, 24}}) {
+        QTest::addRow("%d colours", tinte) << tinte << bit;
+    }
+}
+
+void tst_FiguraEsterna::PocheTintePerTavolozza()
+{
+    QFETCH(int, tinte);
+    QFETCH(int, bit);
+    QImage figura(211, 90, QImage::Format_RGB32); // rows that end within a byte
+    for (int y = 0; y < figura.height(); ++y) {
+        for (int x = 0; x < figura.width(); ++x) {
+            const int tinta = (x / 7 + y * 31) % tinte;
+            figura.setPixel(x, y, qRgb(tinta % 16 * 16, tinta / 16, 200 - tinta / 2));
+        }
+    }
+    const FiguraEsterna::File file =
+        Converte(Scrive(QStringLiteral("f.png"), ImmaginiDiProva::InFormato(figura, "png", 300)));
+    QCOMPARE(file.tipo, Tipo::Disegno);
+    QCOMPARE(int(file.Byte.at(28)), bit);
+    QVERIFY(file.Byte.size() < 1100 + (figura.width() * bit / 8 + 4) * figura.height());
+    QCOMPARE(immagine_.convertToFormat(QImage::Format_RGB32), figura);
+    QVERIFY(qAbs(Immagini::DimensioniNaturali(esito_).width() - file.Millimetri.width()) < 0.1);
+    QCOMPARE(Immagini::CaricaEntro(esito_, figura.size()).Immagine, figura); // as it is printed
+}
+
+void tst_FiguraEsterna::DisegnoSvgDiPocheTinteGrandeMaLeggero()
+{
+    // 30 x 20 mm, and then as wide as a sheet.
+    const QString percorso = Scrive(
+        QStringLiteral("logo.svg"),
+        "<svg xmlns='http://www.w3.org/2000/svg' width='30mm' height='20mm' viewBox='0 0 30 20'>"
+        "<circle cx='15' cy='10' r='9' fill='#003366'/></svg>");
+    const FiguraEsterna::File file = Converte(percorso, Di({195, 130}));
+    QCOMPARE(file.Pixel, QSize(4606, 3071)); // 600 dots per inch of what shows on paper
+    QVERIFY2(file.Byte.size() < 15'000'000, QByteArray::number(file.Byte.size()));
+    QCOMPARE(immagine_.pixel(2303, 1535), qRgb(0, 0x33, 0x66));
+    QCOMPARE(immagine_.pixel(5, 5), qRgb(255, 255, 255));
+    QVERIFY(qAbs(Immagini::DimensioniNaturali(esito_).width() - 30) < 0.1);
 }
 
 QTEST_MAIN(tst_FiguraEsterna)
