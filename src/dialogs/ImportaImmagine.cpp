@@ -78,6 +78,7 @@ QString ImportaImmagine::ChiedeFile()
     Sfoglia sfoglia(finestra_);
     sfoglia.FileEntrata()->setText(QString());
     sfoglia.ImpostaPartenza(stato_.CartellaImportate);
+    sfoglia.ImpostaMiniature(FiguraEsterna::Miniatura); // of all that can be brought in
     RisultatoSfoglia().clear();
     sfoglia.exec();
     const QString scelto = RisultatoSfoglia();

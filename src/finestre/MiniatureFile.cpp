@@ -8,6 +8,9 @@
 #include <QListView>
 #include <QPainter>
 #include <QPixmap>
+#include <QScrollBar>
+
+#include <new>
 
 namespace {
 
@@ -15,12 +18,16 @@ constexpr int RighePerMiniatura = 2; // as high as so many lines of text
 constexpr double LarghezzaPerAltezza = 1.5;
 
 /// Null for a file that is no picture which the program can show.
-QImage Legge(const QString &percorso, const QSize &entro)
+QImage Legge(const LettoreMiniature &lettore, const QString &percorso, const QSize &entro,
+             const LavoroInDisparte::Annullato &annullato)
 {
+    // Without a picture the row has its name.
     try {
-        return Immagini::Miniatura(percorso, entro);
+        return lettore(percorso, entro, annullato);
     } catch (const ErroreSistema &) {
-        return {}; // the row has its name
+        return {};
+    } catch (const std::bad_alloc &) {
+        return {};
     }
 }
 
@@ -43,11 +50,17 @@ QPixmap NelMezzo(QImage immagine, const QSize &misura, double scala)
 MiniatureFile::MiniatureFile(QListView *elenco)
     : QStyledItemDelegate(elenco)
     , elenco_(elenco)
+    , lettore_([](const QString &percorso, const QSize &entro,
+                  const LavoroInDisparte::Annullato & /*annullato*/) {
+        return Immagini::Miniatura(percorso, entro);
+    })
 {
     avvio_.setSingleShot(true);
     avvio_.setInterval(0);
     Collega(&avvio_, &QTimer::timeout, elenco, [this] { LeggeLaProssima(); });
     Collega(&lavoro_, &LavoroInDisparte::Finito, elenco, [this] { Mostra(); });
+    Collega(elenco->verticalScrollBar(), &QScrollBar::valueChanged, elenco,
+            [this] { LasciaSeFuoriVista(); });
     elenco->setIconSize(Misura());
     elenco->setItemDelegate(this);
 }
@@ -108,19 +121,33 @@ void MiniatureFile::LeggeLaProssima()
 {
     while (!attese_.isEmpty() && !lavoro_.InCorso()) {
         const QPersistentModelIndex indice = attese_.takeFirst();
-        if (!indice.isValid() ||
-            !elenco_->visualRect(indice).intersects(elenco_->viewport()->rect())) {
+        if (!InVista(indice)) {
             continue; // asked for again when it comes back into sight
         }
+        rigaInLettura_ = indice;
         inLettura_ = indice.data().toString();
         const QString percorso = QDir(cartella_).filePath(inLettura_);
         const QSize entro = Misura() * elenco_->devicePixelRatioF();
         letta_ = std::make_shared<QImage>();
-        lavoro_.Avvia([letta = letta_, percorso, entro](const LavoroInDisparte::Annullato &via) {
+        lavoro_.Avvia([letta = letta_, lettore = lettore_, percorso,
+                       entro](const LavoroInDisparte::Annullato &via) {
             if (!via()) {
-                *letta = Legge(percorso, entro);
+                *letta = Legge(lettore, percorso, entro, via);
             }
         });
+    }
+}
+
+bool MiniatureFile::InVista(const QPersistentModelIndex &indice) const
+{
+    return indice.isValid() && elenco_->visualRect(indice).intersects(elenco_->viewport()->rect());
+}
+
+void MiniatureFile::LasciaSeFuoriVista()
+{
+    if (lavoro_.InCorso() && !InVista(rigaInLettura_)) {
+        lavoro_.Annulla();
+        avvio_.start(); // once the rows that have come into sight have been painted
     }
 }
 

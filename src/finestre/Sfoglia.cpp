@@ -8,7 +8,6 @@
 #include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
-#include "finestre/MiniatureFile.h"
 #include "sistema/Percorsi.h"
 #include "sistema/PercorsoNellaCartella.h"
 #include "sistema/Volumi.h"
@@ -103,6 +102,11 @@ void Sfoglia::CollegaSegnali()
 QLabel *Sfoglia::FileEntrata() const
 {
     return ui_->FileEntrata;
+}
+
+void Sfoglia::ImpostaMiniature(const LettoreMiniature &lettore)
+{
+    miniature_->ImpostaLettore(lettore);
 }
 
 void Sfoglia::showEvent(QShowEvent *evento)

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "finestre/MiniatureFile.h"
+
 #include <QDialog>
 #include <QStringList>
 
 #include <memory>
 
-class MiniatureFile;
 class QLabel;
 class QStringListModel;
 
@@ -30,6 +31,8 @@ public:
     QLabel *FileEntrata() const;
     /// The folder to start in when the name handed in tells none; without it, the user's own.
     void ImpostaPartenza(const QString &cartella) { partenza_ = cartella; }
+    /// As MiniatureFile::ImpostaLettore, before the browser is shown.
+    void ImpostaMiniature(const LettoreMiniature &lettore);
     /// The open folder, as the folder list shows it; a root ends in a separator.
     QString CartellaAperta() const { return cartella_; }
 

@@ -13,6 +13,7 @@
 #include "sistema/Disco.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QtEndian>
@@ -205,9 +206,20 @@ std::optional<FiguraEsterna::File> FiguraEsterna::ComeSta(const Riquadro &riquad
 FiguraEsterna::Decodificata FiguraEsterna::Decodifica(const Riquadro &riquadro,
                                                       const Annullato &annullato) const
 {
-    return nota_               ? DecodificaNota(riquadro)
-           : formato_ == "svg" ? DecodificaSvg(riquadro)
-                               : DecodificaAltra(riquadro, annullato);
+    if (nota_) {
+        return DecodificaNota(riquadro);
+    }
+    return DecodificaAltra(
+        [&](const QSize &propri, const QSizeF &millimetri) {
+            return PixelPer(propri, millimetri, riquadro);
+        },
+        annullato);
+}
+
+FiguraEsterna::Decodificata FiguraEsterna::DecodificaAltra(const Finezza &finezza,
+                                                           const Annullato &annullato) const
+{
+    return formato_ == "svg" ? DecodificaSvg(finezza) : DecodificaPunti(finezza, annullato);
 }
 
 FiguraEsterna::Decodificata FiguraEsterna::DecodificaNota(const Riquadro &riquadro) const
@@ -219,7 +231,7 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaNota(const Riquadro &riquad
     return {lettore.DecodificaOpaca(pixel), millimetri};
 }
 
-FiguraEsterna::Decodificata FiguraEsterna::DecodificaSvg(const Riquadro &riquadro) const
+FiguraEsterna::Decodificata FiguraEsterna::DecodificaSvg(const Finezza &finezza) const
 {
     if (byte_.size() > ByteMassimiSvg) {
         throw Immagini::TroppoGrande();
@@ -236,8 +248,8 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaSvg(const Riquadro &riquadr
     if (millimetri.isEmpty()) {
         LettoreImmagine::NonValida();
     }
-    const QSize pixel = (Copre(millimetri, riquadro(millimetri)) * PuntiSuCarta).toSize();
-    lettore.setScaledSize(PixelImmagine::Entro(pixel.expandedTo({1, 1}), PixelImmagine::Stampati));
+    constexpr QSize SenzaPixel(1 << 24, 1 << 24); // as fine as one likes
+    lettore.setScaledSize(finezza(SenzaPixel, millimetri));
     lettore.setBackgroundColor(Qt::white);
     QImage immagine = lettore.read();
     if (immagine.isNull()) {
@@ -248,7 +260,7 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaSvg(const Riquadro &riquadr
     return {immagine, millimetri};
 }
 
-FiguraEsterna::Decodificata FiguraEsterna::DecodificaAltra(const Riquadro &riquadro,
+FiguraEsterna::Decodificata FiguraEsterna::DecodificaPunti(const Finezza &finezza,
                                                            const Annullato &annullato) const
 {
     Sorgente sorgente(byte_, annullato);
@@ -269,6 +281,28 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaAltra(const Riquadro &riqua
     const QSizeF millimetri = Naturali(immagine, girata);
     PixelImmagine::A32Bit(immagine);
     Opacita::SuBianco(immagine);
-    Rimpicciolisce(immagine, PixelPer(immagine.size(), millimetri, riquadro));
+    Rimpicciolisce(immagine, finezza(immagine.size(), millimetri));
     return {immagine, millimetri};
+}
+
+QImage FiguraEsterna::Miniatura(const QString &percorso, const QSize &entro,
+                                const Annullato &annullato)
+{
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw ErroreSistema(ErroreSistema::FileNonTrovato);
+    }
+    if (!IntestazioneImmagine::Legge(file).Formato.isEmpty()) {
+        return Immagini::Miniatura(percorso, entro);
+    }
+    // Most files of a folder are no pictures: their first bytes tell.
+    file.seek(0);
+    if (QImageReader::imageFormat(&file).isEmpty()) {
+        LettoreImmagine::NonValida();
+    }
+    const auto ridotta = [&entro](const QSize &propri, const QSizeF &millimetri) {
+        const QSize intera = millimetri.scaled(entro, Qt::KeepAspectRatio).toSize();
+        return intera.boundedTo(propri).expandedTo({1, 1});
+    };
+    return FiguraEsterna(percorso).DecodificaAltra(ridotta, annullato).Immagine;
 }

@@ -42,6 +42,12 @@ public:
     File Converte(const Riquadro &riquadro, const Annullato &annullato,
                   std::optional<Tipo> tipo = {}) const;
 
+    /// The picture in that file, of any of these formats, small, opaque, with the proportions that
+    /// it has on paper: as large as fits into entro (pixels, both positive), no larger than it is.
+    /// Throws as the others; null once annullato says so.
+    static QImage Miniatura(const QString &percorso, const QSize &entro,
+                            const Annullato &annullato);
+
 private:
     struct Decodificata
     {
@@ -49,11 +55,15 @@ private:
         QSizeF Millimetri;
     };
 
+    /// How many pixels there shall be of a picture of so many of its own, and of that natural size.
+    using Finezza = std::function<QSize(const QSize &propri, const QSizeF &millimetri)>;
+
     QSize PixelPer(const QSize &propri, const QSizeF &millimetri, const Riquadro &riquadro) const;
     Decodificata Decodifica(const Riquadro &riquadro, const Annullato &annullato) const;
     Decodificata DecodificaNota(const Riquadro &riquadro) const;
-    Decodificata DecodificaSvg(const Riquadro &riquadro) const;
-    Decodificata DecodificaAltra(const Riquadro &riquadro, const Annullato &annullato) const;
+    Decodificata DecodificaAltra(const Finezza &finezza, const Annullato &annullato) const;
+    Decodificata DecodificaSvg(const Finezza &finezza) const;
+    Decodificata DecodificaPunti(const Finezza &finezza, const Annullato &annullato) const;
     std::optional<File> ComeSta(const Riquadro &riquadro) const;
 
     QString percorso_;

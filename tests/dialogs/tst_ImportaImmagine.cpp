@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QImageReader>
 #include <QLabel>
 #include <QListView>
 #include <QListWidget>
@@ -58,6 +59,7 @@ private slots:
     void CartellaProtettaDettaENienteARovescio();
     void DiscoPienoNienteResta();
     void LungaSiVedeESiAnnulla();
+    void MiniatureDiCioCheSiImporta();
 
 private:
     QString Fonte(const QString &nome, const QByteArray &byte) const
@@ -332,6 +334,40 @@ void tst_ImportaImmagine::LungaSiVedeESiAnnulla()
     QVERIFY2(detto.startsWith(QStringLiteral("Importazione di ")), qPrintable(detto));
     QVERIFY(p.Seconda() == prima);
     QCOMPARE(File(p), file);
+}
+
+void tst_ImportaImmagine::MiniatureDiCioCheSiImporta()
+{
+    QStringList nomi;
+    for (const char *formato : {"png", "webp", "tiff", "bmp"}) {
+        if (QImageReader::supportedImageFormats().contains(formato)) {
+            nomi.append(QStringLiteral("a.") + QString::fromLatin1(formato));
+            Fonte(nomi.last(), Figura(formato, 15, 10));
+        }
+    }
+    nomi.append(QStringLiteral("a.svg"));
+    Fonte(nomi.last(), "<svg xmlns='http://www.w3.org/2000/svg' width='9mm' height='9mm'/>");
+    DialogoImmagine p;
+    p.stato.CartellaImportate = fonti_->path();
+    p.robot.Agisce([&](QDialog *dialogo) {
+        const auto *elenco = Trova<QListView>(*dialogo, "File1");
+        const auto *miniature = qobject_cast<MiniatureFile *>(elenco->itemDelegate());
+        for (const QString &nome : nomi) {
+            QTRY_VERIFY2(!miniature->Miniatura(nome).isNull(), qPrintable(nome));
+        }
+        dialogo->reject();
+    });
+    Preme(p.dialogo, "Importa");
+    QVERIFY(p.robot.Soddisfatto());
+    // Elsewhere only what a model can name is shown.
+    Sfoglia scansioni;
+    scansioni.FileEntrata()->setText(fonti_->filePath(QStringLiteral("a.bmp")));
+    scansioni.show();
+    const auto *elenco = Trova<QListView>(scansioni, "File1");
+    const auto *miniature = qobject_cast<MiniatureFile *>(elenco->itemDelegate());
+    QTRY_VERIFY(!miniature->Miniatura(QStringLiteral("a.bmp")).isNull());
+    QTRY_VERIFY(miniature->Fermo());
+    QVERIFY(miniature->Miniatura(QStringLiteral("a.png")).isNull());
 }
 
 QTEST_MAIN(tst_ImportaImmagine)

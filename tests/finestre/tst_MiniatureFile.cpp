@@ -7,6 +7,9 @@
 #include <QStringListModel>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+
+#include <atomic>
 
 #include <memory>
 
@@ -25,6 +28,7 @@ private slots:
     void AltraCartellaAltreImmagini();
     void ChiusaMentreLegge();
     void LaListaRispondeMentreLegge();
+    void ScorrendoSiLasciaCioCheSiLegge();
 
 private:
     void Scrive(const QString &nome, const QByteArray &byte) const
@@ -219,6 +223,40 @@ void tst_MiniatureFile::LaListaRispondeMentreLegge()
     QCOMPARE(lista_->currentIndex().row(), nomi.size() - 1);
     QVERIFY(miniature_->Miniatura(nomi.first()).isNull()); // still being read
     QTRY_VERIFY(miniature_->Fermo() && !miniature_->Miniatura(nomi.last()).isNull());
+}
+
+void tst_MiniatureFile::ScorrendoSiLasciaCioCheSiLegge()
+{
+    // The first picture is never done; the others are at once.
+    struct Prima
+    {
+        std::atomic<bool> iniziata{false};
+        std::atomic<bool> lasciata{false};
+    };
+    const auto prima = std::make_shared<Prima>();
+    miniature_->ImpostaLettore([prima](const QString &percorso, const QSize &entro,
+                                       const LavoroInDisparte::Annullato &annullato) {
+        while (percorso.endsWith(QStringLiteral("/00.bmp")) && !prima->lasciata) {
+            prima->iniziata = true;
+            prima->lasciata = annullato();
+            QThread::yieldCurrentThread();
+        }
+        return ImmaginiDiProva::Tinta(entro, qRgb(255, 0, 0));
+    });
+    QStringList nomi;
+    for (int i = 0; i < 60; ++i) {
+        nomi.append(QStringLiteral("%1.bmp").arg(i, 2, 10, QLatin1Char('0')));
+    }
+    Elenca(nomi);
+    Mostra();
+    lista_->grab();
+    QTRY_VERIFY(prima->iniziata);
+    lista_->scrollToBottom();
+    QTRY_VERIFY(!miniature_->Miniatura(nomi.last()).isNull());
+    QTRY_VERIFY(prima->lasciata);
+    QVERIFY(miniature_->Miniatura(nomi.first()).isNull());
+    lista_->scrollToTop(); // it is asked for again
+    QTRY_VERIFY(!miniature_->Miniatura(nomi.first()).isNull());
 }
 
 QTEST_MAIN(tst_MiniatureFile)
