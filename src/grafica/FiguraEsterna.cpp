@@ -267,7 +267,9 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaPunti(const Finezza &finezz
     QImageReader lettore(&sorgente, formato_);
     lettore.setAutoTransform(true);
     QImageReader::setAllocationLimit(PixelImmagine::LimiteMiB);
-    if (PixelImmagine::Troppi(lettore.size())) {
+    const int bit = QImage::toPixelFormat(lettore.imageFormat()).bitsPerPixel();
+    if (PixelImmagine::Troppi(lettore.size(),
+                              std::max<qint64>(PixelImmagine::BytePerPixel, bit / 8))) {
         throw Immagini::TroppoGrande();
     }
     const bool girata = lettore.transformation() & QImageIOHandler::TransformationRotate90;

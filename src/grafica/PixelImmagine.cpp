@@ -7,10 +7,9 @@
 #include <cmath>
 #include <new>
 
-bool PixelImmagine::Troppi(const QSize &pixel)
+bool PixelImmagine::Troppi(const QSize &pixel, qint64 bytePerPixel)
 {
-    constexpr qint64 PixelMassimi = LimiteMiB * 1024LL * 1024 / BytePerPixel;
-    return qint64(pixel.width()) * pixel.height() > PixelMassimi;
+    return qint64(pixel.width()) * pixel.height() > LimiteMiB * 1024LL * 1024 / bytePerPixel;
 }
 
 QSize PixelImmagine::Entro(const QSize &pixel, qint64 massimi)

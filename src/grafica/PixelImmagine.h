@@ -14,7 +14,7 @@ inline constexpr qint64 BytePerPixel = 4;
 inline constexpr qint64 Stampati = 36'000'000;
 
 /// True for more pixels than fit into that.
-bool Troppi(const QSize &pixel);
+bool Troppi(const QSize &pixel, qint64 bytePerPixel = BytePerPixel);
 
 /// The size with its proportions, made smaller where it has more than massimi pixels in all.
 QSize Entro(const QSize &pixel, qint64 massimi);

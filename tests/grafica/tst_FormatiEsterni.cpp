@@ -65,6 +65,19 @@ QByteArray Tiff(const QSize &pixel, const QList<int> &campioni, int bit, int fot
     return testa;
 }
 
+/// As PNG has it, bit by bit.
+quint32 Somma(const QByteArray &byte)
+{
+    quint32 somma = 0xFFFFFFFF;
+    for (const char c : byte) {
+        somma ^= quint8(c);
+        for (int i = 0; i < 8; ++i) {
+            somma = (somma >> 1) ^ (somma & 1 ? 0xEDB88320 : 0);
+        }
+    }
+    return ~somma;
+}
+
 int Scarto(QRgb a, QRgb b)
 {
     return qMax(qAbs(qRed(a) - qRed(b)),
@@ -80,6 +93,7 @@ class tst_FormatiEsterni : public QObject
 private slots:
     void TiffRari_data();
     void TiffRari();
+    void SediciBitTroppoGrande();
     void MiniaturaDiOgniFormato_data();
     void MiniaturaDiOgniFormato();
     void MiniaturaDiCioCheNonEUnaFigura();
@@ -171,6 +185,27 @@ void tst_FormatiEsterni::MiniaturaDiCioCheNonEUnaFigura()
     QVERIFY(FiguraEsterna::Miniatura(png, {60, 40}, [] { return true; }).isNull());
 }
 
+void tst_FormatiEsterni::SediciBitTroppoGrande()
+{
+    // 80 million pixels of eight bytes, of which only the head is there.
+    QByteArray testa;
+    QDataStream scrive(&testa, QIODevice::WriteOnly);
+    scrive << quint32(10000) << quint32(8000) << quint8(16) << quint8(6) << quint8(0) << quint8(0)
+           << quint8(0);
+    QByteArray byte("\x89PNG\r\n\x1a\n", 8);
+    const auto parte = [&byte](const char *nome, const QByteArray &dati) {
+        QDataStream parti(&byte, QIODevice::Append);
+        parti << quint32(dati.size());
+        byte += nome + dati;
+        QDataStream fine(&byte, QIODevice::Append);
+        fine << Somma(nome + dati);
+    };
+    parte("IHDR", testa);
+    parte("IDAT", QByteArray(1000, '\0'));
+    const FiguraEsterna figura(Scrive(QStringLiteral("grande.png"), byte));
+    QVERIFY_EXCEPTION_THROWN(figura.Converte([](const QSizeF &naturale) { return naturale; }, Mai),
+                             Immagini::TroppoGrande);
+}
 
 QTEST_MAIN(tst_FormatiEsterni)
 #include "tst_FormatiEsterni.moc"
