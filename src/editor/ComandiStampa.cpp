@@ -5,7 +5,9 @@
 #include "editor/AttesaDiStampa.h"
 #include "editor/VediStampa.h"
 #include "finestre/Comandi.h"
+#include "finestre/FileInItaliano.h"
 #include "finestre/Finestre.h"
+#include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "finestre/Icone.h"
 #include "finestre/IconeStampa.h"
@@ -19,6 +21,7 @@
 #include "sistema/Percorsi.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -29,6 +32,7 @@
 
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -60,6 +64,7 @@ void Prepara(QFileDialog &finestra)
     finestra.setObjectName(QStringLiteral("FinestraEsportaPdf"));
     finestra.setOption(QFileDialog::DontUseNativeDialog);
     finestra.setOption(QFileDialog::DontConfirmOverwrite); // asked as everywhere else
+    finestra.setProxyModel(new FileInItaliano(&finestra));
     finestra.setAcceptMode(QFileDialog::AcceptSave);
     finestra.setFileMode(QFileDialog::AnyFile);
     finestra.setNameFilters(
@@ -70,6 +75,15 @@ void Prepara(QFileDialog &finestra)
     finestra.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo di file:"));
     finestra.setLabelText(QFileDialog::Accept, QStringLiteral("&Salva"));
     finestra.setLabelText(QFileDialog::Reject, QStringLiteral("&Annulla"));
+    // Qt ties the labels to other boxes, or to none.
+    using Nome = std::pair<const char *, QString>;
+    for (const auto &[casella, nome] : {Nome("lookInCombo", QStringLiteral("Cerca in")),
+                                        Nome("fileTypeCombo", QStringLiteral("Tipo di file"))}) {
+        if (auto *combo = finestra.findChild<QComboBox *>(QLatin1String(casella))) {
+            combo->setAccessibleName(nome);
+        }
+    }
+    MostraFuoco(&finestra);
 }
 
 void Prepara(QToolButton *bottone, QAction *comando)

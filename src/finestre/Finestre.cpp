@@ -2,13 +2,13 @@
 
 #include "base/Unita.h"
 #include "finestre/FiltroAnsi.h"
+#include "finestre/TestiDiQt.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QPlainTextEdit>
 #include <QScreen>
-#include <QTranslator>
 
 #include <limits>
 
@@ -99,7 +99,7 @@ int ArgomentoDi(const QWidget *controllo)
 void ImpostaLingua()
 {
     CaricaRisorse();
-    auto *testi = new QTranslator(QCoreApplication::instance());
+    auto *testi = new TestiDiQt(QCoreApplication::instance());
     if (testi->load(QStringLiteral(":/qtbase_it.qm"))) {
         QCoreApplication::installTranslator(testi);
     }

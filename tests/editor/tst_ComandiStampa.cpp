@@ -1,6 +1,7 @@
 #include "StoriaDiProva.h"
 
 #include "editor/AttesaDiStampa.h"
+#include "finestre/Finestre.h"
 #include "print/Avanzamento.h"
 #include "support/LettorePdf.h"
 #include "support/Rettangoli.h"
@@ -10,6 +11,8 @@
 #include <QLabel>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QTreeView>
 
 namespace {
 
@@ -84,6 +87,7 @@ private slots:
     void maiUnModello();
     void cartellaNonScrivibile();
     void cartellaSparitaQuellaSopra();
+    void laFinestraDeiFileParlaItaliano();
     void rinunciaAlNome();
     void unaLungaAttesaSiAnnulla();
     void unaBreveAttesaNonSiVede();
@@ -92,6 +96,7 @@ private slots:
 void tst_ComandiStampa::initTestCase()
 {
     qputenv("CUPS_SERVER", "/nessuno/cups.sock"); // whatever this machine prints on
+    ImpostaLingua();                              // as the program does
 }
 
 void tst_ComandiStampa::ctrlPChiedeComeIlBottone_data()
@@ -245,6 +250,65 @@ void tst_ComandiStampa::cartellaSparitaQuellaSopra()
     prova.Esporta();
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(cartella, QFileInfo(prova.In(QStringLiteral("x"))).path());
+}
+
+void tst_ComandiStampa::laFinestraDeiFileParlaItaliano()
+{
+    Prova prova;
+    QVERIFY(QDir(prova.In({})).mkdir(QStringLiteral("sotto")));
+    ImmaginiDiProva::Scrive(prova.In(QStringLiteral("uno.pdf")), "abc");
+    ImmaginiDiProva::Scrive(prova.In(QStringLiteral("due")), QByteArray(3000, 'x'));
+    prova.Archivio.Stato().CartellaEsportazione = prova.In({});
+    Robot robot;
+    QStringList testi;
+    QHash<QString, QStringList> righe;
+    robot.Agisce([&](QDialog *finestra) {
+        auto *elenco = Trova<QTreeView>(*finestra, "treeView");
+        static_cast<QFileDialog *>(finestra)->setNameFilter(QStringLiteral("Tutti i file (*)"));
+        const QAbstractItemModel *file = elenco->model();
+        QTRY_COMPARE(file->rowCount(elenco->rootIndex()), 3);
+        const auto cella = [&](int riga, int colonna) {
+            return file->index(riga, colonna, elenco->rootIndex()).data().toString();
+        };
+        for (int riga = 0; riga < 3; ++riga) {
+            QTRY_VERIFY(!cella(riga, 2).isEmpty());
+            righe[cella(riga, 0)] = {cella(riga, 1), cella(riga, 2)};
+        }
+        for (int colonna = 0; colonna < file->columnCount(); ++colonna) {
+            testi.append(file->headerData(colonna, Qt::Horizontal).toString());
+        }
+        for (const auto *bottone : finestra->findChildren<QAbstractButton *>()) {
+            testi << bottone->text().remove(u'&') << bottone->toolTip()
+                  << bottone->accessibleName();
+        }
+        for (const auto *etichetta : finestra->findChildren<QLabel *>()) {
+            testi.append(etichetta->text().remove(u'&'));
+        }
+        for (const auto *comando : finestra->findChildren<QAction *>()) {
+            testi.append(comando->text().remove(u'&'));
+        }
+        finestra->reject();
+    });
+    prova.Esporta();
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(righe.value(QStringLiteral("sotto")),
+             (QStringList{QString(), QStringLiteral("Cartella")}));
+    QCOMPARE(righe.value(QStringLiteral("uno.pdf")),
+             (QStringList{QStringLiteral("3 byte"), QStringLiteral("File PDF")}));
+    QCOMPARE(righe.value(QStringLiteral("due")),
+             (QStringList{QStringLiteral("2,9 kB"), QStringLiteral("File")}));
+    for (const char *testo : {"Nome", "Dimensione", "Tipo", "Data di modifica", "Salva", "Annulla",
+                              "Indietro", "Cartella superiore", "Crea nuova cartella", "Cerca in:",
+                              "Nome del file:", "Tipo di file:", "Rinomina", "Elimina"}) {
+        QVERIFY2(testi.contains(QString::fromUtf8(testo)), testo);
+    }
+    const QRegularExpression inglese(
+        QStringLiteral("\\b(name|file type|size|type|date|folder|cancel|save|open|back|parent|"
+                       "show|delete|rename|look|forward|view|list|new)\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    for (const QString &testo : std::as_const(testi)) {
+        QVERIFY2(!inglese.match(testo).hasMatch(), qPrintable(testo));
+    }
 }
 
 void tst_ComandiStampa::rinunciaAlNome()

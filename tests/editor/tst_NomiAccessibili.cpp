@@ -210,6 +210,7 @@ private slots:
     void Correzione();
     void Sfogliando();
     void Calibrando();
+    void Esportando();
     void NomeDiUnModello();
     void LavoroRimasto();
     void LeVociNonSonoIlNome();
@@ -354,6 +355,21 @@ void tst_NomiAccessibili::Calibrando()
         dialogo->reject();
     });
     Trova<QPushButton>(*prova.Editor, "SfondoCalibra")->click();
+    QVERIFY(robot.Soddisfatto());
+    QVERIFY(controllati > 10);
+}
+
+void tst_NomiAccessibili::Esportando()
+{
+    EditorAperto prova(1);
+    Robot robot;
+    int controllati = 0;
+    robot.Agisce([&](QDialog *dialogo) {
+        controllati = Controlla(*dialogo);
+        GiraColTabulatore(*dialogo);
+        dialogo->reject();
+    });
+    ::Preme(prova.Editor(), "EsportaPdf");
     QVERIFY(robot.Soddisfatto());
     QVERIFY(controllati > 10);
 }

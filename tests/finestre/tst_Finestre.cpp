@@ -6,6 +6,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFileIconProvider>
+#include <QFileInfo>
 #include <QIntValidator>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,6 +16,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -36,6 +40,7 @@ private slots:
     void ArgomentoDi_elencoAperto();
     void ArgomentoDi_nessuno();
     void ImpostaLingua_bottoni();
+    void ImpostaLingua_generiDiFile();
     void PixelPerMillimetro_daRisoluzione();
     void PuntatoreOccupato_finoAllaFine();
     void LimitaAlCodice_digitato();
@@ -148,6 +153,18 @@ void tst_Finestre::ImpostaLingua_bottoni()
              QStringLiteral("Annulla"));
     QCOMPARE(bottoni.button(QDialogButtonBox::Close)->text().remove(u'&'),
              QStringLiteral("Chiudi"));
+}
+
+void tst_Finestre::ImpostaLingua_generiDiFile()
+{
+    ImpostaLingua();
+    const QTemporaryDir cartella;
+    const QFileIconProvider icone;
+    QCOMPARE(icone.type(QFileInfo(cartella.path())), QStringLiteral("Cartella"));
+    QCOMPARE(icone.type(QFileInfo(QDir::rootPath())), QStringLiteral("Unità"));
+    // Nothing else takes the place of what is not translated.
+    QCOMPARE(QCoreApplication::translate("QAltro", "Folder", "All other platforms"),
+             QStringLiteral("Folder"));
 }
 
 void tst_Finestre::PixelPerMillimetro_daRisoluzione()
