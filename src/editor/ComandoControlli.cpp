@@ -138,6 +138,9 @@ void ComandoControlli::Crea()
 
 void ComandoControlli::Esegue()
 {
+    if (stato_.documento.ModificaInCorso()) {
+        return; // a window that comes to the front would end the drag under way
+    }
     if (!elenco_) {
         Crea();
     }

@@ -41,6 +41,9 @@ void ComandoElenco::Crea()
 
 void ComandoElenco::Esegue()
 {
+    if (stato_.documento.ModificaInCorso()) {
+        return; // a window that comes to the front would end the drag under way
+    }
     if (!elenco_) {
         Crea();
     }
