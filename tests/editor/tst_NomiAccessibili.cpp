@@ -1,9 +1,11 @@
 #include "EditoreDiProva.h"
 #include "catalogue/SelezioneArchivifrm.h"
 #include "documento/UltimeCorrezioni.h"
+#include "editor/AttesaDiStampa.h"
 #include "editor/FrmCorrezione.h"
 #include "editor/FrmLavoroRimasto.h"
 #include "editor/VediStampa.h"
+#include "finestre/Attesa.h"
 #include "finestre/ComboAccessibile.h"
 #include "finestre/Contrasto.h"
 #include "finestre/Messaggi.h"
@@ -11,12 +13,14 @@
 #include "finestre/Sfoglia.h"
 #include "model/Tavolozza.h"
 #include "preview/Controlli.h"
+#include "print/Avanzamento.h"
 #include "support/DocumentoDiProva.h"
 
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -24,6 +28,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QThread>
 #include <QToolButton>
 
 namespace {
@@ -211,6 +216,7 @@ private slots:
     void Sfogliando();
     void Calibrando();
     void Esportando();
+    void Aspettando();
     void NomeDiUnModello();
     void LavoroRimasto();
     void LeVociNonSonoIlNome();
@@ -372,6 +378,38 @@ void tst_NomiAccessibili::Esportando()
     ::Preme(prova.Editor(), "EsportaPdf");
     QVERIFY(robot.Soddisfatto());
     QVERIFY(controllati > 10);
+}
+
+void tst_NomiAccessibili::Aspettando()
+{
+    QWidget finestra;
+    finestra.show();
+    Robot robot;
+    int controllati = 0;
+    QString detto;
+    const auto guarda = [&](QDialog *attesa) {
+        controllati += Controlla(*attesa);
+        const QAccessibleInterface *parte = QAccessible::queryAccessibleInterface(attesa);
+        detto += parte->text(QAccessible::Name) + u' ' + attesa->findChild<QLabel *>()->text();
+        attesa->findChild<QPushButton *>()->click();
+    };
+    robot.AgisceSuAttesa(guarda).AgisceSuAttesa(guarda);
+    const auto senzaFine = [](const LavoroInDisparte::Annullato &annullato) {
+        while (!annullato()) {
+            QThread::yieldCurrentThread();
+        }
+    };
+    QVERIFY(!EsegueConAttesa(&finestra, QStringLiteral("Si legge"), senzaFine));
+    AttesaDiStampa stampa(&finestra, QStringLiteral("Si dipinge"), 0);
+    const auto dipinge = [&] {
+        for (QDeadlineTimer fine(5000); !fine.hasExpired();) {
+            stampa.Avanza(0.5);
+        }
+    };
+    QVERIFY_EXCEPTION_THROWN(dipinge(), StampaAnnullata);
+    QVERIFY(robot.Soddisfatto());
+    QCOMPARE(controllati, 2);
+    QCOMPARE(detto, QStringLiteral("Plakera Si leggePlakera Si dipinge"));
 }
 
 void tst_NomiAccessibili::NomeDiUnModello()
