@@ -257,6 +257,7 @@ FiguraEsterna::Decodificata FiguraEsterna::DecodificaSvg(const Finezza &finezza)
     }
     PixelImmagine::A32Bit(immagine);
     Opacita::SuBianco(immagine);
+    PocheTinte::UnisceOrli(immagine);
     return {immagine, millimetri};
 }
 

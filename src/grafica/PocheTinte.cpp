@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QList>
 
+#include <algorithm>
+#include <cstdlib>
 #include <optional>
 
 namespace {
@@ -39,7 +41,94 @@ QList<QRgb> Tavolozza(const QHash<QRgb, uchar> &tinte)
     return tavolozza;
 }
 
+/// How many pixels there are of each colour; empty for a picture with shades everywhere.
+QHash<QRgb, qint64> Conto(const QImage &immagine)
+{
+    constexpr qsizetype TinteContate = 20'000;
+    QHash<QRgb, qint64> conto;
+    for (int y = 0; y < immagine.height(); ++y) {
+        const auto *riga = reinterpret_cast<const QRgb *>(immagine.constScanLine(y));
+        for (int inizio = 0, x = 1; x <= immagine.width(); ++x) {
+            if (x == immagine.width() || riga[x] != riga[inizio]) {
+                conto[riga[inizio]] += x - inizio;
+                inizio = x;
+            }
+        }
+        if (conto.size() > TinteContate) {
+            return {};
+        }
+    }
+    return conto;
+}
+
+/// From the one that most pixels have to the rarest.
+QList<QRgb> PerFrequenza(const QHash<QRgb, qint64> &conto)
+{
+    QList<QRgb> tinte = conto.keys();
+    std::sort(tinte.begin(), tinte.end(), [&](QRgb a, QRgb b) {
+        const qint64 na = conto.value(a);
+        const qint64 nb = conto.value(b);
+        return na != nb ? na > nb : a < b;
+    });
+    return tinte;
+}
+
+int Scarto(QRgb a, QRgb b)
+{
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                     std::abs(qBlue(a) - qBlue(b))});
+}
+
+/// For the shades along edges the colour, among 256, that takes their place: one that hardly
+/// differs. Empty where that does not do.
+QHash<QRgb, QRgb> Sostituti(const QHash<QRgb, qint64> &conto, double pixel)
+{
+    constexpr double ParteUguale = 0.001; // of the picture: what is no shade
+    constexpr double ParteDegliOrli = 0.01;
+    constexpr int ScartoMassimo = 16; // of 255: less than paper shows of a pixel at an edge
+    QList<QRgb> tenute;
+    QHash<QRgb, QRgb> sostituti;
+    double sostituiti = 0; // pixels
+    for (const QRgb tinta : PerFrequenza(conto)) {
+        const auto vicina =
+            std::min_element(tenute.cbegin(), tenute.cend(), [tinta](QRgb a, QRgb b) {
+                return Scarto(a, tinta) < Scarto(b, tinta);
+            });
+        const auto pixelSuoi = double(conto.value(tinta));
+        if (vicina == tenute.cend() || pixelSuoi >= ParteUguale * pixel ||
+            Scarto(*vicina, tinta) > ScartoMassimo) {
+            tenute.append(tinta);
+        } else {
+            sostituti.insert(tinta, *vicina);
+            sostituiti += pixelSuoi;
+        }
+        if (tenute.size() > TinteMassime || sostituiti > ParteDegliOrli * pixel) {
+            return {};
+        }
+    }
+    return sostituti;
+}
+
 } // namespace
+
+void PocheTinte::UnisceOrli(QImage &immagine)
+{
+    const QHash<QRgb, qint64> conto = Conto(immagine);
+    if (conto.size() <= TinteMassime) {
+        return;
+    }
+    const QHash<QRgb, QRgb> sostituti =
+        Sostituti(conto, double(immagine.width()) * immagine.height());
+    for (int y = 0; !sostituti.isEmpty() && y < immagine.height(); ++y) {
+        auto *riga = reinterpret_cast<QRgb *>(immagine.scanLine(y));
+        for (int x = 0; x < immagine.width(); ++x) {
+            if (x > 0 && riga[x] == riga[x - 1]) {
+                continue; // it is one that stays
+            }
+            riga[x] = sostituti.value(riga[x], riga[x]);
+        }
+    }
+}
 
 QImage PocheTinte::ConTavolozza(const QImage &immagine)
 {

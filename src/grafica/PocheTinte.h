@@ -9,4 +9,9 @@ namespace PocheTinte {
 /// where there are two colours; null for one of more than 256, or without memory for it.
 QImage ConTavolozza(const QImage &immagine);
 
+/// Of a drawing without pixels of its own, painted as RGB32: where it has more than 256 colours
+/// only by the shades along its edges, shades that hardly differ become one. What is even keeps its
+/// colour; a picture with shades of its own stays as it is.
+void UnisceOrli(QImage &immagine);
+
 } // namespace PocheTinte

@@ -94,6 +94,8 @@ private slots:
     void TiffRari_data();
     void TiffRari();
     void SediciBitTroppoGrande();
+    void SvgDiPiuTinteConGliOrliUniti_data();
+    void SvgDiPiuTinteConGliOrliUniti();
     void MiniaturaDiOgniFormato_data();
     void MiniaturaDiOgniFormato();
     void MiniaturaDiCioCheNonEUnaFigura();
@@ -133,6 +135,41 @@ void tst_FormatiEsterni::TiffRari()
     QVERIFY2(Scarto(immagine.pixel(30, 20), colore) < 6,
              QByteArray::number(immagine.pixel(30, 20), 16));
     QVERIFY(qAbs(file.Millimetri.width() - 60 * 25.4 / 300) < 0.01);
+}
+
+void tst_FormatiEsterni::SvgDiPiuTinteConGliOrliUniti_data()
+{
+    QTest::addColumn<QByteArray>("disegno");
+    QTest::addColumn<int>("bit");
+    QTest::newRow("even colours") << QByteArray("<circle cx='11' cy='10' r='9' fill='#003366'/>"
+                                                "<circle cx='20' cy='9' r='8' fill='#cc6600'/>"
+                                                "<circle cx='15' cy='14' r='5' fill='#118833'/>"
+                                                "<circle cx='8' cy='6' r='3' fill='#ffe010'/>"
+                                                "<circle cx='22' cy='6' r='4' fill='#b01060'/>")
+                                  << 8;
+    QTest::newRow("shades")
+        << QByteArray("<defs><linearGradient id='g' x1='0' y1='0' x2='1' y2='0'><stop offset='0' "
+                      "stop-color='#ff0'/>"
+                      "<stop offset='0.5' stop-color='#036'/><stop offset='1' stop-color='#f00'/>"
+                      "</linearGradient></defs><rect width='30' height='20' fill='url(#g)'/>"
+                      "<circle cx='11' cy='10' r='3' fill='#003366'/>")
+        << 24;
+}
+
+void tst_FormatiEsterni::SvgDiPiuTinteConGliOrliUniti()
+{
+    QFETCH(QByteArray, disegno);
+    QFETCH(int, bit);
+    const QString svg = Scrive(QStringLiteral("logo.svg"),
+                               "<svg xmlns='http://www.w3.org/2000/svg' width='30mm' height='20mm' "
+                               "viewBox='0 0 30 20'>" +
+                                   disegno + "</svg>");
+    const FiguraEsterna::File file = FiguraEsterna(svg).Converte(
+        [](const QSizeF &) { return QSizeF(90, 60); }, Mai, FiguraEsterna::Tipo::Disegno);
+    QCOMPARE(file.Pixel, QSize(2126, 1417));
+    QCOMPARE(int(file.Byte.at(28)), bit);
+    const QImage immagine = QImage::fromData(file.Byte);
+    QCOMPARE(immagine.pixel(2126 * 11 / 30, 1417 / 2), qRgb(0, 0x33, 0x66)); // to the last bit
 }
 
 void tst_FormatiEsterni::MiniaturaDiOgniFormato_data()
