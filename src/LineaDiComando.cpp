@@ -52,13 +52,23 @@ struct Opzioni
                        "che non si legge.")};
 };
 
+/// What follows the options in the help.
+constexpr auto Esiti =
+    "\nLa cartella indicata con --dati vale per questa volta sola; senza, vale dirtxt\n"
+    "di Vastrel. --pdf, --anteprima e --controlla non aprono finestre e vanno anche\n"
+    "senza schermo.\n"
+    "\n"
+    "Esito: 0 se tutto va bene; 1 se un argomento è sbagliato, se il modello non si\n"
+    "apre o non si stampa com'è, se il programma è già in esecuzione o se mancano lo\n"
+    "schermo o dirtxt; il messaggio dice quale. Dopo --controlla vedi sopra.\n";
+
 QString Errore(const QString &testo)
 {
     return QStringLiteral("plakera: ") + testo + u'\n';
 }
 
-/// The contradiction between the options, if any.
-QString Contraddizione(const Richieste &richieste)
+/// The contradiction between the options and the other arguments, if any.
+QString Contraddizione(const Richieste &richieste, const QStringList &altri)
 {
     if (richieste.Stampa() && richieste.modello.isEmpty()) {
         return QStringLiteral("--pdf e --anteprima vogliono un --modello");
@@ -69,6 +79,12 @@ QString Contraddizione(const Richieste &richieste)
     if (richieste.nomi && richieste.pdf.isEmpty()) {
         return QStringLiteral("--nomi vuole --pdf");
     }
+    if (!altri.isEmpty() && (richieste.Stampa() || altri.constFirst().isEmpty())) {
+        return QStringLiteral("argomento inatteso: ") + altri.constFirst();
+    }
+    if (altri.size() > 1) {
+        return QStringLiteral("si apre un solo modello alla volta");
+    }
     return {};
 }
 
@@ -78,7 +94,7 @@ QString ControlloImpossibile(const Richieste &richieste)
     if (richieste.daControllare.isEmpty()) {
         return QStringLiteral("--controlla vuole almeno un modello o una cartella");
     }
-    const Richieste solo{{}, {}, {}, {}, false, richieste.daControllare};
+    const Richieste solo{{}, {}, {}, {}, false, richieste.daControllare, {}};
     return richieste == solo ? QString()
                              : QStringLiteral("--controlla non va con le altre opzioni");
 }
@@ -138,9 +154,12 @@ LetturaArgomenti LeggeArgomenti(const QStringList &argomenti)
         QStringLiteral("Plakera - Modelli stampa per gestionale Vastrel"));
     lettore.addOptions({opzioni.aiuto, opzioni.versione, opzioni.dati, opzioni.modello, opzioni.pdf,
                         opzioni.anteprima, opzioni.nomi, opzioni.controlla});
-    lettore.addPositionalArgument(QStringLiteral("modelli"),
-                                  QStringLiteral("Per --controlla: file o cartelle."),
-                                  QStringLiteral("[modelli...]"));
+    lettore.addPositionalArgument(
+        QStringLiteral("modello"),
+        QStringLiteral("Il modello da aprire nell'editor, uno solo: le sue immagini sono nella sua "
+                       "cartella. Senza, si apre la finestra iniziale. Dopo --controlla: i file e "
+                       "le cartelle da controllare, uno o più."),
+        QStringLiteral("[modello...]"));
     const bool letti = lettore.parse(argomenti);
     const bool controlla = lettore.isSet(opzioni.controlla);
     const int statoErrore = controlla ? ControlloDaRiga::Illeggibile : 1;
@@ -148,22 +167,21 @@ LetturaArgomenti LeggeArgomenti(const QStringList &argomenti)
         return {std::nullopt, Errore(lettore.errorText()), statoErrore};
     }
     if (lettore.isSet(opzioni.aiuto)) {
-        return {std::nullopt, lettore.helpText(), 0};
+        return {std::nullopt, lettore.helpText() + QString::fromUtf8(Esiti), 0};
     }
     if (lettore.isSet(opzioni.versione)) {
         return {std::nullopt, QStringLiteral("plakera " PLAKERA_VERSIONE "\n"), 0};
     }
-    if (!controlla && !lettore.positionalArguments().isEmpty()) {
-        return {std::nullopt,
-                Errore(QStringLiteral("argomento inatteso: ") +
-                       lettore.positionalArguments().constFirst()),
-                1};
-    }
-    Richieste richieste{lettore.value(opzioni.dati), lettore.value(opzioni.modello),
-                        lettore.value(opzioni.pdf),  lettore.value(opzioni.anteprima),
-                        lettore.isSet(opzioni.nomi), lettore.positionalArguments()};
+    const QStringList altri = lettore.positionalArguments();
+    Richieste richieste{lettore.value(opzioni.dati),
+                        lettore.value(opzioni.modello),
+                        lettore.value(opzioni.pdf),
+                        lettore.value(opzioni.anteprima),
+                        lettore.isSet(opzioni.nomi),
+                        controlla ? altri : QStringList(),
+                        controlla ? QString() : altri.value(0)};
     const QString contraddizione =
-        controlla ? ControlloImpossibile(richieste) : Contraddizione(richieste);
+        controlla ? ControlloImpossibile(richieste) : Contraddizione(richieste, altri);
     if (!contraddizione.isEmpty()) {
         return {std::nullopt, Errore(contraddizione), statoErrore};
     }

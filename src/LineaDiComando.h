@@ -14,6 +14,7 @@ struct Richieste
     QString anteprima;         ///< PNG of the preview
     bool nomi = false;         ///< print field names instead of test texts
     QStringList daControllare; ///< models and folders to check
+    QString daAprire;          ///< model file to open in the editor
 
     bool operator==(const Richieste &) const = default;
 

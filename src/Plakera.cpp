@@ -22,7 +22,7 @@ Plakera::Plakera(QObject *padre)
 
 Plakera::~Plakera() = default;
 
-bool Plakera::Avvia(const QString &datiIndicati)
+bool Plakera::Avvia(const QString &datiIndicati, const QString &modello)
 {
     scelta_ = std::make_unique<SelezioneArchivifrm>(stato_);
     bool avviato = false;
@@ -30,22 +30,32 @@ bool Plakera::Avvia(const QString &datiIndicati)
         return false;
     }
     connect(scelta_.get(), &SelezioneArchivifrm::ModelloScelto, this, &Plakera::ApreEditor);
+    if (!modello.isEmpty()) {
+        return Guardia(nullptr, [&] { scelta_->Indica(modello); }) && MostraEditor();
+    }
     scelta_->show();
     return true;
 }
 
 void Plakera::ApreEditor()
 {
+    if (!MostraEditor()) {
+        ChiudeEditor();
+    }
+}
+
+bool Plakera::MostraEditor()
+{
     editor_ = std::make_unique<Form2>(stato_);
     bool caricato = false;
     if (!Guardia(nullptr, [&] { caricato = editor_->Form_Load(); }) || !caricato) {
-        ChiudeEditor();
-        return;
+        return false;
     }
     connect(editor_.get(), &Form2::Chiuso, this, &Plakera::ChiudeEditor);
     editor_->Anteprima()->show();
     editor_->show();
     editor_->activateWindow();
+    return true;
 }
 
 void Plakera::ChiudeEditor()

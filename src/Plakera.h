@@ -18,9 +18,10 @@ public:
     explicit Plakera(QObject *padre = nullptr);
     ~Plakera() override;
 
-    /// Loads and shows the start window. datiIndicati stands in for Vastrel's data folder when it
-    /// is not empty. False when the program must end; the reason has been shown.
-    bool Avvia(const QString &datiIndicati);
+    /// Loads and shows the start window, or, with a modello, the editor with that file, which the
+    /// start window follows. datiIndicati stands in for Vastrel's data folder when it is not empty.
+    /// False when the program must end; the reason has been shown.
+    bool Avvia(const QString &datiIndicati, const QString &modello = {});
 
 signals:
     /// Something is about to be painted for the first time.
@@ -35,6 +36,8 @@ protected:
 
 private:
     void ApreEditor();
+    /// False when the model of stato_ cannot be opened or the user does not go on.
+    bool MostraEditor();
     void ChiudeEditor();
     void DopoLaPrimaPittura();
     void OffreLavoro();

@@ -65,7 +65,7 @@ int main(int argc, char *argv[])
     }
     InstallaComboAccessibili();
     Plakera plakera;
-    if (!plakera.Avvia(lettura.richieste->dati)) {
+    if (!plakera.Avvia(lettura.richieste->dati, lettura.richieste->daAprire)) {
         return 1;
     }
     return QApplication::exec();

@@ -3,6 +3,7 @@
 #include "ui_SelezioneArchivifrm.h"
 
 #include "base/ErroreSistema.h"
+#include "catalogue/ModelloIndicato.h"
 #include "catalogue/TabellaFont.h"
 #include "finestre/ApriManuale.h"
 #include "finestre/Finestre.h"
@@ -26,7 +27,6 @@
 namespace {
 
 constexpr QLatin1String ArchivioAbituale("Contabilita");
-constexpr QLatin1String CartellaIni("ini");
 constexpr double CarattereRidotto = 0.85; ///< of the window's own font size
 
 } // namespace
@@ -167,7 +167,8 @@ void SelezioneArchivifrm::showEvent(QShowEvent *evento)
         GuardaCornice();
         if (riapertura_) {
             riapertura_ = false;
-            RiprendeElenchi(stato_.NomeFile);
+            // A model from elsewhere may have the name of one of theirs.
+            RiprendeElenchi(inElenco_ ? stato_.NomeFile : QString());
         }
         if (ArchivioScelto()) {
             ui_->List2->setFocus();
@@ -302,9 +303,52 @@ bool SelezioneArchivifrm::ModelloSelezionato() const
     return !ui_->List2->selectedItems().isEmpty();
 }
 
+void SelezioneArchivifrm::Indica(const QString &percorso)
+{
+    QStringList archivi;
+    for (int i = 0; i < ui_->List1->count(); ++i) {
+        archivi.append(ui_->List1->item(i)->text());
+    }
+    const ModelloIndicato modello = TrovaModello(percorso, archivi);
+    inElenco_ = !modello.archivio.isEmpty() && modello.ConEstensione();
+    if (inElenco_) {
+        ui_->List1->setCurrentRow(static_cast<int>(archivi.indexOf(modello.archivio)));
+        RiprendeModello(modello.nomeFile);
+    } else {
+        stato_.CartellaModelli = modello.cartella;
+        AvvisaFuoriArchivio(modello);
+    }
+    // The lists know neither names that differ from another only by case nor files that are
+    // missing.
+    const QString scelto = Percorsi::Risolve(stato_.CartellaModelli + stato_.NomeFile);
+    if (!inElenco_ || !ModelloSelezionato() || QFileInfo(scelto).fileName() != modello.nomeFile) {
+        stato_.NomeFile = modello.nomeFile;
+    }
+    riapertura_ = true;
+}
+
+void SelezioneArchivifrm::AvvisaFuoriArchivio(const ModelloIndicato &modello)
+{
+    if (const QFileInfo file(modello.Percorso()); !file.isFile() || !file.isReadable()) {
+        return; // which is about to be told
+    }
+    const QString manca =
+        modello.archivio.isEmpty()
+            ? QStringLiteral("non sta in un archivio:\nmanca una cartella ini in una sottocartella "
+                             "di\n%1")
+                  .arg(cartellaDati_)
+            : QStringLiteral("non è tra i modelli del suo archivio:\nmanca l'estensione .Mod");
+    Messaggi::Mostra(this,
+                     QStringLiteral("%1 %2\n\nVastrel non lo trova quando stampa e la finestra "
+                                    "iniziale non lo elenca.\nSi apre lo stesso, con le "
+                                    "immagini della sua cartella:\n%3")
+                         .arg(modello.nomeFile, manca, modello.cartella));
+}
+
 void SelezioneArchivifrm::Consegna()
 {
     riapertura_ = true;
+    inElenco_ = true;
     close();
     emit ModelloScelto();
 }

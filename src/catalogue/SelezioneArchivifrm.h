@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 
+struct ModelloIndicato;
+
 namespace Ui {
 class SelezioneArchivifrm;
 }
@@ -25,6 +27,11 @@ public:
     /// The start-up steps. datiIndicati, when not empty, stands in for Vastrel's setting of the
     /// data folder. False when the program must end; the user has been told why.
     bool Form_Load(const QString &datiIndicati);
+
+    /// Chooses the model file at the path, in the lists too when it is of one of their archives,
+    /// and sets CartellaModelli and NomeFile as Apri does. The user is told what a file that is
+    /// none of theirs is missing. For the time before the window is first shown.
+    void Indica(const QString &percorso);
 
     /// Lists archives and models afresh; what was chosen stays chosen.
     void AggiornaElenchi();
@@ -64,6 +71,7 @@ private:
     void RiprendeElenchi(const QString &nomeFile);
     void RiprendeArchivio();
     void RiprendeModello(const QString &nomeFile);
+    void AvvisaFuoriArchivio(const ModelloIndicato &modello);
 
     void List1_Click();
     /// The end of a click on an archive: lists its models again when the click has not done so by
@@ -89,4 +97,5 @@ private:
     bool elencatoColClic_ = false; ///< the models were listed since the mouse was pressed on List1
     bool conCornice_ = false;      ///< centred with its frame; the place is the user's afterwards
     bool riapertura_ = false;      ///< the next showing follows the editor's closing
+    bool inElenco_ = true;         ///< the model handed over is one of the lists
 };

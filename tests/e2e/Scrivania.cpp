@@ -95,9 +95,9 @@ std::unique_ptr<QProcess> Scrivania::Nuovo(const QStringList &argomenti) const
     return programma;
 }
 
-void Scrivania::Avvia()
+void Scrivania::Avvia(const QStringList &argomenti)
 {
-    programma_ = Nuovo();
+    programma_ = Nuovo(argomenti);
 }
 
 int Scrivania::EsitoDi(QProcess &programma)
@@ -135,6 +135,12 @@ void Scrivania::ApreModello(const QString &nome)
 {
     SceglieModello(nome);
     schermo_->Attende(TitoloEditor + nome + QStringLiteral("\\.Mod$"));
+    AttendeFoglio();
+}
+
+void Scrivania::AttendeFoglio()
+{
+    schermo_->Attende(TitoloEditor); // it takes the keys last
     zoom_ = 1;
     CercaFoglio();
 }

@@ -34,7 +34,7 @@ public:
     /// A started program; ended with the object at the latest.
     std::unique_ptr<QProcess> Nuovo(const QStringList &argomenti = {}) const;
     /// The one program of this desk.
-    void Avvia();
+    void Avvia(const QStringList &argomenti = {});
     QProcess &Programma() { return *programma_; }
     /// Waits for the end of the program and gives its exit status, -1 after a crash.
     static int EsitoDi(QProcess &programma);
@@ -50,6 +50,8 @@ public:
     void SceglieModello(const QString &nome);
     /// The same, when nothing is asked.
     void ApreModello(const QString &nome);
+    /// Waits for the sheet of a model that was opened in any other way.
+    void AttendeFoglio();
     Schermo::Finestra Editor() { return schermo_->Attiva(TitoloEditor); }
     Schermo::Finestra Anteprima() { return schermo_->Attiva(TitoloAnteprima); }
     /// Closes the editor, which must not ask anything.

@@ -41,7 +41,8 @@ void tst_RigaDiComando::aiuto()
     QCOMPARE(esito.stato, 0);
     QCOMPARE(esito.errori, QString());
     QVERIFY(esito.uscita.contains(QStringLiteral("Opzioni:")));
-    for (const char *opzione : {"--help", "--version", "--dati <cartella>", "--modello <file>",
+    for (const char *opzione : {"[modello...]", "uno solo", "Esito: 0", "dirtxt", "--help",
+                                "--version", "--dati <cartella>", "--modello <file>",
                                 "--pdf <file>", "--anteprima <file>", "--nomi", "--controlla"}) {
         QVERIFY2(esito.uscita.contains(QString::fromLatin1(opzione)), opzione);
     }
@@ -182,10 +183,14 @@ void tst_RigaDiComando::immagineMancante()
 
 void tst_RigaDiComando::finestreSenzaSchermo()
 {
-    const Esito esito = Esegue({QStringLiteral("--dati"), dir_->path()});
-    QCOMPARE(esito.stato, 1);
-    QCOMPARE(esito.errori,
-             QStringLiteral("plakera: nessuno schermo; per stampare senza finestre vedi --help\n"));
+    const QStringList inizio{QStringLiteral("--dati"), dir_->path()};
+    for (const QStringList &argomenti : {inizio, QStringList{Modello()}}) {
+        const Esito esito = Esegue(argomenti);
+        QCOMPARE(esito.stato, 1);
+        QCOMPARE(
+            esito.errori,
+            QStringLiteral("plakera: nessuno schermo; per stampare senza finestre vedi --help\n"));
+    }
 }
 
 void tst_RigaDiComando::finestreSuUnoSchermoCheNonRisponde_data()
@@ -257,7 +262,10 @@ void tst_RigaDiComando::opzioniSbagliate_data()
     riga("names of nothing", "--nomi", "--nomi vuole --pdf");
     riga("names on a picture", "--modello a.Mod --anteprima a.png --nomi", "--nomi vuole --pdf");
     riga("unknown option", "--stampa", "Opzione sconosciuta 'stampa'.");
-    riga("stray argument", "Fattura.Mod", "argomento inatteso: Fattura.Mod");
+    riga("stray argument", "--modello a.Mod --pdf a.pdf Fattura.Mod",
+         "argomento inatteso: Fattura.Mod");
+    riga("two models", "Fattura.Mod DDT.Mod", "si apre un solo modello alla volta");
+    riga("model without a name", "", "argomento inatteso: ");
 }
 
 void tst_RigaDiComando::opzioniSbagliate()
