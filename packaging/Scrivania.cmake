@@ -1,0 +1,78 @@
+# What desktops and Debian want to find beside the program, below the prefix's share/.
+string(TIMESTAMP DATA_ISO "%Y-%m-%d" UTC) # of SOURCE_DATE_EPOCH, where it is set
+string(TIMESTAMP DATA_RFC "%a, %d %b %Y %H:%M:%S +0000" UTC)
+
+set(GENERATI ${CMAKE_CURRENT_BINARY_DIR}/generati)
+set(COMPILATI "") # files that the build makes, beside those that the configuration makes
+
+# compresso(FILE DESTINATION): installs FILE.gz, the same bytes whenever it is made.
+function(compresso file destinazione)
+  get_filename_component(nome ${file} NAME)
+  string(MD5 cartella ${destinazione})
+  set(uscita ${CMAKE_CURRENT_BINARY_DIR}/compressi/${cartella}/${nome}.gz)
+  file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/compressi/${cartella})
+  add_custom_command(OUTPUT ${uscita} COMMAND gzip -9nc ${file} > ${uscita} DEPENDS ${file} VERBATIM)
+  install(FILES ${uscita} DESTINATION ${destinazione})
+  set(COMPILATI ${COMPILATI} ${uscita} PARENT_SCOPE)
+endfunction()
+
+configure_file(debian/changelog.in ${GENERATI}/changelog.Debian @ONLY)
+configure_file(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${GENERATI}/changelog COPYONLY)
+configure_file(man/plakera.1.in ${GENERATI}/plakera.1 @ONLY)
+configure_file(man/it/plakera.1.in ${GENERATI}/it/plakera.1 @ONLY)
+configure_file(org.example.plakera.metainfo.xml.in ${GENERATI}/org.example.plakera.metainfo.xml @ONLY)
+compresso(${GENERATI}/changelog.Debian share/doc/plakera)
+compresso(${GENERATI}/changelog share/doc/plakera)
+compresso(${GENERATI}/plakera.1 share/man/man1)
+compresso(${GENERATI}/it/plakera.1 share/man/it/man1)
+install(FILES debian/copyright DESTINATION share/doc/plakera)
+install(FILES ${GENERATI}/org.example.plakera.metainfo.xml DESTINATION share/metainfo)
+install(FILES plakera.desktop DESTINATION share/applications)
+install(FILES plakera.xml DESTINATION share/mime/packages)
+
+# The drawing is for large sizes; two more are drawn for the pixels of small ones. That of 22 is the one
+# of 24 without its margin.
+set(ICONE share/icons/hicolor)
+install(FILES plakera.svg DESTINATION ${ICONE}/scalable/apps)
+find_program(RSVG_CONVERT rsvg-convert)
+if(RSVG_CONVERT)
+  function(icona lato disegno)
+    set(uscita ${CMAKE_CURRENT_BINARY_DIR}/icone/${lato}/plakera.png)
+    file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/icone/${lato})
+    add_custom_command(OUTPUT ${uscita}
+                       COMMAND ${RSVG_CONVERT} ${ARGN} -o ${uscita} ${CMAKE_CURRENT_SOURCE_DIR}/${disegno}
+                       DEPENDS ${disegno} VERBATIM)
+    install(FILES ${uscita} DESTINATION ${ICONE}/${lato}x${lato}/apps)
+    set(COMPILATI ${COMPILATI} ${uscita} PARENT_SCOPE)
+  endfunction()
+  icona(16 plakera-16.svg)
+  icona(22 plakera-24.svg --page-width=22 --page-height=22 --left=-1 --top=-1)
+  icona(24 plakera-24.svg)
+  foreach(lato 32 48 64 128 256)
+    icona(${lato} plakera.svg -w ${lato} -h ${lato})
+  endforeach()
+else()
+  message(STATUS "rsvg-convert is missing: icons of few sizes only")
+  install(FILES plakera.png DESTINATION ${ICONE}/128x128/apps)
+endif()
+add_custom_target(scrivania ALL DEPENDS ${COMPILATI})
+
+if(PLAKERA_TESTS)
+  set(mancanti "")
+  foreach(strumento desktop-file-validate appstreamcli update-mime-database gio xdg-mime man)
+    find_program(STRUMENTO_${strumento} ${strumento})
+    if(NOT STRUMENTO_${strumento})
+      list(APPEND mancanti ${strumento})
+    endif()
+  endforeach()
+  if(mancanti)
+    message(WARNING "${mancanti}: missing, what desktops are told is not tried")
+  else()
+    add_executable(tipo_del_file TipoDelFile.cpp)
+    target_link_libraries(tipo_del_file PRIVATE Qt6::Core)
+    set_target_properties(tipo_del_file PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    add_test(NAME scrivania COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/provaScrivania.sh ${GENERATI}
+                                    $<TARGET_FILE:tipo_del_file>)
+    set_tests_properties(scrivania PROPERTIES TIMEOUT 300)
+  endif()
+endif()
