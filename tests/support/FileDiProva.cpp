@@ -46,37 +46,3 @@ QByteArray LucchettoDiUnMorto()
     return QByteArray::number(MaiEsistito) + '\n' + QCoreApplication::applicationName().toUtf8() +
            '\n' + QSysInfo::machineHostName().toUtf8() + '\n';
 }
-
-LimiteFile::LimiteFile(qint64 byte)
-{
-    segnale_ = std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &prima_);
-    rlimit limite = prima_;
-    limite.rlim_cur = static_cast<rlim_t>(byte);
-    setrlimit(RLIMIT_FSIZE, &limite);
-}
-
-LimiteFile::~LimiteFile()
-{
-    setrlimit(RLIMIT_FSIZE, &prima_);
-    std::signal(SIGXFSZ, segnale_);
-}
-
-UtenteComune::UtenteComune()
-{
-    constexpr uid_t Nessuno = 65534;
-    if (geteuid() == 0) {
-        // The saved user stays, so that the way back is open.
-        cambiato_ = setresuid(Nessuno, Nessuno, 0) == 0;
-        if (!cambiato_) {
-            QTest::qFail("cannot give up the administrator's rights", __FILE__, __LINE__);
-        }
-    }
-}
-
-UtenteComune::~UtenteComune()
-{
-    if (cambiato_ && setresuid(0, 0, 0) != 0) {
-        qFatal("cannot take the administrator's rights back");
-    }
-}

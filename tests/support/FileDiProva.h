@@ -4,12 +4,10 @@
 #include <QString>
 #include <QStringList>
 
-#include <csignal>
+#include <memory>
 
-#include <sys/resource.h>
-#include <unistd.h>
-
-/// Files and limits of the system that tests set up. For POSIX systems.
+/// Files and limits of the system that tests set up. LimiteFile and UtenteComune are for POSIX
+/// systems alone.
 
 /// The bytes of the file; a failure fails the running test and gives nothing.
 QByteArray ByteDi(const QString &percorso);
@@ -33,8 +31,8 @@ public:
     LimiteFile &operator=(const LimiteFile &) = delete;
 
 private:
-    rlimit prima_{};
-    void (*segnale_)(int) = nullptr;
+    struct Prima;
+    std::unique_ptr<Prima> prima_;
 };
 
 /// While it lives the process has no rights that an ordinary user lacks, even when the tests are
