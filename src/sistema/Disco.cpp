@@ -1,6 +1,7 @@
 #include "sistema/Disco.h"
 
 #include "sistema/FileTemporaneo.h"
+#include "sistema/SuDisco.h"
 #include "sistema/SulSupporto.h"
 
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <filesystem>
 
 namespace {
 
@@ -37,7 +37,7 @@ void Apre(QFile &file)
     if (info.exists() && !info.isFile()) {
         throw ErroreSistema(ErroreSistema::AccessoFile);
     }
-    errno = 0;
+    SuDisco::DimenticaErrore();
     if (!file.open(QIODevice::ReadOnly)) {
         const int numero = info.exists() ? ErroreSistema::AccessoFile
                                          : Disco::NumeroErrore(SulSupporto::Causa(info.path()));
@@ -64,19 +64,12 @@ bool SoloSulPosto(const std::error_code &codice)
     return codice == std::errc::permission_denied || codice == std::errc::operation_not_permitted;
 }
 
-bool HaAltriNomi(const QFileInfo &file)
-{
-    std::error_code codice;
-    const auto nomi = std::filesystem::hard_link_count(file.filesystemFilePath(), codice);
-    return !codice && nomi > 1;
-}
-
 /// False when the old file has to be rewritten instead.
 bool MetteIlNuovo(const QFileInfo &bersaglio, const QByteArray &byte, FileTemporaneo::Per chi,
                   Altrimenti altrimenti)
 {
     const bool puoRiscrivere = altrimenti == Altrimenti::SiRiscrive && bersaglio.exists();
-    if (puoRiscrivere && HaAltriNomi(bersaglio)) {
+    if (puoRiscrivere && SuDisco::HaAltriNomi(bersaglio.filePath())) {
         return false;
     }
     FileTemporaneo nuovo(bersaglio);
@@ -117,7 +110,7 @@ void RimetteIVecchi(QFile &file, const QByteArray &vecchi, const ErroreSistema &
 void Riscrive(const QFileInfo &bersaglio, const QByteArray &byte)
 {
     QFile file(bersaglio.filePath());
-    errno = 0;
+    SuDisco::DimenticaErrore();
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
         SulSupporto::Fallisce(SulSupporto::Causa(bersaglio.path()));
     }

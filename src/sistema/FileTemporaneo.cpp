@@ -8,7 +8,6 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
-#include <cerrno>
 
 namespace {
 
@@ -59,7 +58,7 @@ std::error_code FileTemporaneo::Apre(Per chi)
 {
     // Unbuffered: a failing write is seen where it happens, not when a buffer is flushed.
     constexpr auto modo = QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered;
-    errno = 0;
+    SuDisco::DimenticaErrore();
     // Until it carries the old file's permissions, nobody else may look into the new one.
     creato_ = bersaglio_.exists() || chi == Per::Utente
                   ? file_.open(modo, QFile::ReadOwner | QFile::WriteOwner)

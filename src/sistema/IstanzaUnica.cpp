@@ -1,11 +1,26 @@
 #include "sistema/IstanzaUnica.h"
 
+#include "sistema/CartellaStato.h"
+
 #include <QDir>
 #include <QStandardPaths>
 
 namespace {
 
-QString FileLucchetto()
+#ifdef Q_OS_WIN
+
+QString Cartella()
+{
+    // What Qt calls the runtime folder is the user's home, which may be on a server and shared by
+    // two machines; local data never is.
+    QString cartella = CartellaStato();
+    QDir().mkpath(cartella);
+    return cartella;
+}
+
+#else
+
+QString Cartella()
 {
     // The runtime folder is the user's own and goes with the machine, so two users of one machine
     // and one user's home shared by two machines do not block each other.
@@ -14,7 +29,14 @@ QString FileLucchetto()
         cartella = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
         QDir().mkpath(cartella);
     }
-    return QDir(cartella).filePath(QStringLiteral("plakera.lock"));
+    return cartella;
+}
+
+#endif
+
+QString FileLucchetto()
+{
+    return QDir(Cartella()).filePath(QStringLiteral("plakera.lock"));
 }
 
 } // namespace

@@ -2,13 +2,13 @@
 
 #include "base/ErroreSistema.h"
 #include "sistema/Disco.h"
+#include "sistema/SuDisco.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace {
 
@@ -92,9 +92,7 @@ void VerificaElencabile(const QString &cartella)
     }
     // Only really opening the folder tells whether it can be listed: Qt's listing of one that
     // cannot is merely empty.
-    std::error_code codice;
-    const std::filesystem::directory_iterator elenco(QDir(cartella).filesystemPath(), codice);
-    if (codice) {
+    if (SuDisco::SiElenca(cartella)) {
         throw ErroreSistema(ErroreSistema::AccessoFile);
     }
 }

@@ -8,14 +8,12 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
-#include <cerrno>
-
 std::error_code SulSupporto::Causa(const QString &cartella)
 {
-    if (errno != 0) {
-        return {errno, std::generic_category()};
+    if (const std::error_code codice = SuDisco::UltimoErrore()) {
+        return codice;
     }
-    // Where Qt does not go through the C library, what can be seen must tell.
+    // Where the system did not say, what can be seen must tell.
     const QFileInfo posto(cartella);
     if (!posto.exists()) {
         return std::make_error_code(std::errc::no_such_file_or_directory);
@@ -39,7 +37,7 @@ void SulSupporto::Fallisce(const std::error_code &codice)
 
 void SulSupporto::Scrive(QFile &file, const QByteArray &byte)
 {
-    errno = 0;
+    SuDisco::DimenticaErrore();
     if (file.write(byte) != byte.size() || file.error() != QFileDevice::NoError ||
         !file.resize(byte.size())) {
         Fallisce(Causa(QFileInfo(file).path()));

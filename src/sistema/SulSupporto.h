@@ -10,7 +10,8 @@ class QFile;
 /// Writing through to the medium, and why it failed. For the functions of Disco.
 namespace SulSupporto {
 
-/// Why the operation just tried on a file in the folder failed; errno was 0 before it.
+/// Why the operation just tried on a file in the folder failed, before which
+/// SuDisco::DimenticaErrore was called.
 std::error_code Causa(const QString &cartella);
 
 /// Throws the ErroreSistema of that cause, for an operation that may create its file.

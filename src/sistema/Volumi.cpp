@@ -76,10 +76,12 @@ QStringList VolumiDaTabella(const QByteArray &tabella)
 
 QStringList Volumi()
 {
+#ifndef Q_OS_WIN
     QFile tabella(QStringLiteral("/proc/self/mounts"));
     if (tabella.open(QIODevice::ReadOnly)) {
         return VolumiDaTabella(tabella.readAll());
     }
+#endif
     QStringList volumi;
     for (const QFileInfo &radice : QDir::drives()) {
         QString percorso = QDir::toNativeSeparators(radice.filePath());

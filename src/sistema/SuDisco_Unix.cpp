@@ -9,20 +9,14 @@
 #include <filesystem>
 #include <optional>
 
-#ifdef _WIN32
-#include <io.h>
-#include <windows.h>
-#else
 #include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#endif
 #ifdef __linux__
 #include <sys/xattr.h>
 #endif
 
-#ifndef _WIN32
 namespace {
 
 void TieneProprietario(int descrittore, const struct stat &prima)
@@ -125,29 +119,46 @@ bool TieneAttributi(int, const QByteArray &)
 #endif
 
 } // namespace
-#endif
+
+void SuDisco::DimenticaErrore()
+{
+    errno = 0;
+}
+
+std::error_code SuDisco::UltimoErrore()
+{
+    return {errno, std::generic_category()};
+}
+
+bool SuDisco::HaAltriNomi(const QString &percorso)
+{
+    std::error_code codice;
+    const auto nomi =
+        std::filesystem::hard_link_count(QFileInfo(percorso).filesystemFilePath(), codice);
+    return !codice && nomi > 1;
+}
+
+std::error_code SuDisco::SiElenca(const QString &cartella)
+{
+    std::error_code codice;
+    const std::filesystem::directory_iterator elenco(QDir(cartella).filesystemPath(), codice);
+    return codice;
+}
 
 std::error_code SuDisco::Sincronizza(int descrittore)
 {
-#ifdef _WIN32
-    const int esito = _commit(descrittore);
-#else
     int esito = 0;
     do {
         esito = fsync(descrittore);
     } while (esito != 0 && errno == EINTR);
-#endif
     if (esito == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP) {
         return {};
     }
     return {errno, std::generic_category()};
 }
 
-std::error_code SuDisco::SincronizzaCartella([[maybe_unused]] const QString &cartella)
+std::error_code SuDisco::SincronizzaCartella(const QString &cartella)
 {
-#ifdef _WIN32
-    return {};
-#else
     const int descrittore =
         open(QFile::encodeName(cartella).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descrittore < 0) {
@@ -157,15 +168,10 @@ std::error_code SuDisco::SincronizzaCartella([[maybe_unused]] const QString &car
     const std::error_code codice = Sincronizza(descrittore);
     close(descrittore);
     return codice;
-#endif
 }
 
-bool SuDisco::TieneProprieta([[maybe_unused]] int descrittore,
-                             [[maybe_unused]] const QString &vecchio)
+bool SuDisco::TieneProprieta(int descrittore, const QString &vecchio)
 {
-#ifdef _WIN32
-    return true;
-#else
     const QByteArray percorso = QFile::encodeName(vecchio);
     struct stat prima
     {
@@ -181,32 +187,18 @@ bool SuDisco::TieneProprieta([[maybe_unused]] int descrittore,
     TieneModo(descrittore, prima);
     return attributi && fstat(descrittore, &adesso) == 0 && prima.st_uid == adesso.st_uid &&
            prima.st_gid == adesso.st_gid && prima.st_mode == adesso.st_mode;
-#endif
 }
 
 std::error_code SuDisco::PrendeIlPosto(const QString &nuovo, const QString &vecchio)
 {
-#ifdef _WIN32
-    const std::wstring da = QDir::toNativeSeparators(nuovo).toStdWString();
-    const std::wstring a = QDir::toNativeSeparators(vecchio).toStdWString();
-    if (ReplaceFileW(a.c_str(), da.c_str(), nullptr, 0, nullptr, nullptr) != 0 ||
-        (GetLastError() == ERROR_FILE_NOT_FOUND &&
-         MoveFileExW(da.c_str(), a.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
-             0)) {
-        return {};
-    }
-    return {static_cast<int>(GetLastError()), std::system_category()};
-#else
     std::error_code codice;
     std::filesystem::rename(QFileInfo(nuovo).filesystemFilePath(),
                             QFileInfo(vecchio).filesystemFilePath(), codice);
     return codice;
-#endif
 }
 
 void SuDisco::FallisceOltreIlLimite()
 {
-#ifndef _WIN32
     struct sigaction azione
     {
     };
@@ -214,5 +206,4 @@ void SuDisco::FallisceOltreIlLimite()
     azione.sa_handler = [](int) {};
     azione.sa_flags = SA_RESTART;
     sigaction(SIGXFSZ, &azione, nullptr);
-#endif
 }
