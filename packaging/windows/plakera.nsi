@@ -1,0 +1,208 @@
+; The installer. costruisci.sh calls makensis with
+;   VERSIONE  1.0.0            PROGRAMMA  folder with what "cmake --install" put there
+;   LICENZE   Qt's licences    CARTELLA   this folder     USCITA  the installer to be written
+; Command line: /S without windows, /AllUsers or /CurrentUser, /MOD=1 opens .Mod files with Plakera,
+; /D=C:\folder (last, without quotes).
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+ManifestDPIAware true
+ManifestSupportedOS Win10
+
+!define NOME "Plakera"
+!define CHIAVE_DISINSTALLA "Software\Microsoft\Windows\CurrentVersion\Uninstall\Plakera"
+!define CHIAVE_PROGRAMMA "Software\Plakera"
+!define TIPO "Plakera.Modello"
+; What .Mod files were opened with before the user gave them to Plakera.
+!define PRIMA "AltroProgramma"
+
+!define MULTIUSER_EXECUTIONLEVEL Highest
+!define MULTIUSER_MUI
+!define MULTIUSER_INSTALLMODE_COMMANDLINE
+!define MULTIUSER_INSTALLMODE_INSTDIR "${NOME}"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "${CHIAVE_PROGRAMMA}"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME "Cartella"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${CHIAVE_PROGRAMMA}"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "Cartella"
+!define MULTIUSER_USE_PROGRAMFILES64
+!include MultiUser.nsh
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+!include x64.nsh
+
+Name "${NOME}"
+BrandingText "${NOME} ${VERSIONE}"
+OutFile "${USCITA}"
+VIProductVersion "${VERSIONE}.0"
+VIAddVersionKey /LANG=1040 ProductName "${NOME}"
+VIAddVersionKey /LANG=1040 ProductVersion "${VERSIONE}"
+VIAddVersionKey /LANG=1040 FileVersion "${VERSIONE}"
+VIAddVersionKey /LANG=1040 FileDescription "Installazione di ${NOME}"
+VIAddVersionKey /LANG=1040 LegalCopyright "${NOME}"
+
+!define MUI_ICON "${ICONA}"
+!define MUI_UNICON "${ICONA}"
+!define MUI_ABORTWARNING
+!define MUI_COMPONENTSPAGE_SMALLDESC
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_COMPONENTS
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!define MUI_FINISHPAGE_RUN "$INSTDIR\plakera.exe"
+!define MUI_FINISHPAGE_RUN_NOTCHECKED
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "Italian"
+
+; Windows keeps a running program's file from being written.
+!macro SoloSeChiuso
+  ${If} ${FileExists} "$INSTDIR\plakera.exe"
+    riprova:
+    ClearErrors
+    FileOpen $0 "$INSTDIR\plakera.exe" a
+    ${If} ${Errors}
+      MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Plakera è aperto, o il file plakera.exe non si può scrivere.$\r$\nChiudere il programma e riprovare." /SD IDCANCEL IDRETRY riprova
+      SetErrorLevel 5
+      Abort "Plakera è aperto: nulla è stato cambiato."
+    ${Else}
+      FileClose $0
+    ${EndIf}
+  ${EndIf}
+!macroend
+
+!macro RinnovaIcone
+  System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
+!macroend
+
+Section "${NOME}" SezioneProgramma
+  SectionIn RO
+  !insertmacro SoloSeChiuso
+  SetOutPath "$INSTDIR"
+  ClearErrors
+  File "${PROGRAMMA}\plakera.exe"
+  File "${PROGRAMMA}\plakera.com"
+  File "${CARTELLA}\LEGGIMI.txt"
+  SetOutPath "$INSTDIR\XtHelpPdf"
+  File "${PROGRAMMA}\XtHelpPdf\zPlakera-XtHelp.pdf"
+  ; Those of an older version may be others.
+  RMDir /r "$INSTDIR\licenze"
+  SetOutPath "$INSTDIR\licenze"
+  File "${LICENZE}\*"
+  SetOutPath "$INSTDIR"
+  ${If} ${Errors}
+    SetErrorLevel 5
+    Abort "L'installazione non è riuscita: i file non si possono scrivere in $INSTDIR."
+  ${EndIf}
+  WriteUninstaller "$INSTDIR\disinstalla.exe"
+
+  CreateShortcut "$SMPROGRAMS\${NOME}.lnk" "$INSTDIR\plakera.exe"
+  WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "Cartella" "$INSTDIR"
+  WriteRegStr SHCTX "Software\Microsoft\Windows\CurrentVersion\App Paths\plakera.exe" "" "$INSTDIR\plakera.exe"
+
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "DisplayName" "${NOME}"
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "DisplayVersion" "${VERSIONE}"
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "DisplayIcon" "$INSTDIR\plakera.exe"
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "Publisher" "${NOME}"
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "InstallLocation" "$INSTDIR"
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "UninstallString" '"$INSTDIR\disinstalla.exe" /$MultiUser.InstallMode'
+  WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "QuietUninstallString" '"$INSTDIR\disinstalla.exe" /$MultiUser.InstallMode /S'
+  WriteRegDWORD SHCTX "${CHIAVE_DISINSTALLA}" "NoModify" 1
+  WriteRegDWORD SHCTX "${CHIAVE_DISINSTALLA}" "NoRepair" 1
+  ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+  WriteRegDWORD SHCTX "${CHIAVE_DISINSTALLA}" "EstimatedSize" $0
+SectionEnd
+
+; Chosen by nobody unless ticked. What another program has is only taken over where the user says so;
+; without windows nobody is there to say it.
+Section /o "Apri i file .Mod con Plakera" SezioneMod
+  WriteRegStr SHCTX "Software\Classes\${TIPO}" "" "Modello di stampa"
+  WriteRegStr SHCTX "Software\Classes\${TIPO}\DefaultIcon" "" "$INSTDIR\plakera.exe,0"
+  WriteRegStr SHCTX "Software\Classes\${TIPO}\shell\open\command" "" '"$INSTDIR\plakera.exe" "%1"'
+  WriteRegStr SHCTX "Software\Classes\.mod\OpenWithProgids" "${TIPO}" ""
+  ReadRegStr $0 HKCR ".mod" ""
+  ${If} $0 != ""
+  ${AndIf} $0 != "${TIPO}"
+    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "I file .Mod si aprono ora con un altro programma ($0).$\r$\nAprirli con Plakera?" /SD IDNO IDYES prende
+    Goto fatto
+    prende:
+    ReadRegStr $1 SHCTX "Software\Classes\.mod" ""
+    WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}" "$1"
+  ${EndIf}
+  WriteRegStr SHCTX "Software\Classes\.mod" "" "${TIPO}"
+  fatto:
+  !insertmacro RinnovaIcone
+SectionEnd
+
+LangString DescriviProgramma ${LANG_ITALIAN} "Il programma, il suo manuale e le licenze."
+LangString DescriviMod ${LANG_ITALIAN} "Un doppio clic su un modello lo apre con Plakera. Altri programmi che aprono file .Mod restano come sono, se non si risponde Sì quando viene chiesto."
+!insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
+  !insertmacro MUI_DESCRIPTION_TEXT ${SezioneProgramma} $(DescriviProgramma)
+  !insertmacro MUI_DESCRIPTION_TEXT ${SezioneMod} $(DescriviMod)
+!insertmacro MUI_FUNCTION_DESCRIPTION_END
+
+Function .onInit
+  ${IfNot} ${RunningX64}
+    MessageBox MB_OK|MB_ICONSTOP "Plakera richiede Windows a 64 bit." /SD IDOK
+    SetErrorLevel 3
+    Abort
+  ${EndIf}
+  SetRegView 64
+  StrCpy $2 $INSTDIR ; what /D= says, or nothing
+  !insertmacro MULTIUSER_INIT
+  ${If} $2 != ""
+    StrCpy $INSTDIR $2
+  ${EndIf}
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/MOD=" $1
+  ${If} ${Errors}
+    ; An upgrade leaves the choice that was made.
+    ReadRegStr $1 SHCTX "Software\Classes\${TIPO}\shell\open\command" ""
+    ${If} $1 != ""
+      StrCpy $1 1
+    ${EndIf}
+  ${EndIf}
+  ${If} $1 == 1
+    !insertmacro SelectSection ${SezioneMod}
+  ${EndIf}
+FunctionEnd
+
+Function un.onInit
+  SetRegView 64
+  !insertmacro MULTIUSER_UNINIT
+FunctionEnd
+
+Section Uninstall
+  !insertmacro SoloSeChiuso
+  ; What is still ours of the .Mod files goes back to whom it was taken from.
+  ReadRegStr $0 SHCTX "Software\Classes\.mod" ""
+  ${If} $0 == "${TIPO}"
+    ReadRegStr $1 SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}"
+    ${If} $1 == ""
+      DeleteRegValue SHCTX "Software\Classes\.mod" ""
+    ${Else}
+      WriteRegStr SHCTX "Software\Classes\.mod" "" "$1"
+    ${EndIf}
+  ${EndIf}
+  DeleteRegValue SHCTX "Software\Classes\.mod\OpenWithProgids" "${TIPO}"
+  DeleteRegKey /ifempty SHCTX "Software\Classes\.mod\OpenWithProgids"
+  DeleteRegKey /ifempty SHCTX "Software\Classes\.mod"
+  DeleteRegKey SHCTX "Software\Classes\${TIPO}"
+  DeleteRegKey SHCTX "Software\Microsoft\Windows\CurrentVersion\App Paths\plakera.exe"
+  DeleteRegKey SHCTX "${CHIAVE_DISINSTALLA}"
+  DeleteRegKey SHCTX "${CHIAVE_PROGRAMMA}"
+  Delete "$SMPROGRAMS\${NOME}.lnk"
+  ; Only what was installed: the folder may hold files of the user's own.
+  Delete "$INSTDIR\plakera.exe"
+  Delete "$INSTDIR\plakera.com"
+  Delete "$INSTDIR\LEGGIMI.txt"
+  Delete "$INSTDIR\XtHelpPdf\zPlakera-XtHelp.pdf"
+  RMDir "$INSTDIR\XtHelpPdf"
+  RMDir /r "$INSTDIR\licenze"
+  Delete "$INSTDIR\disinstalla.exe"
+  RMDir "$INSTDIR"
+  !insertmacro RinnovaIcone
+SectionEnd

@@ -1,0 +1,267 @@
+#!/usr/bin/env bash
+# Tries the Windows release as a user meets it, under Wine on a screen of its own: installs it, calls it
+# from the command line, works it with mouse and keys, prints through a queue of CUPS and measures the
+# sheet, kills it, upgrades and removes it. Ends with a table and, where a check failed, with status 1.
+#   prova.sh [INSTALLER]      pictures of the windows are left in build/windows/prova
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+radice=$PWD
+qui=$radice/packaging/windows
+dove=$radice/build/windows/prova
+
+if [ -z "${PLAKERA_FOGLI:-}" ]; then
+  cmake/installa.sh build test windows-prova
+  cmake --preset debug > /dev/null
+  cmake --build --preset debug --target coda_di_stampa
+  export LC_ALL=C.UTF-8
+  installazione=$(readlink -f "${1:-$(ls "$radice"/build/windows/uscita/plakera-*-setup.exe | tail -1)}")
+  rm -rf "$dove"
+  mkdir -p "$dove"
+  # Alone on a screen and beside a print server of its own; the paper is A4.
+  exec build/debug/tests/coda_di_stampa xvfb-run -a -s '-screen 0 1920x1080x24 -dpi 96' \
+    "$qui/prova.sh" "$installazione"
+fi
+
+installazione=$1
+export WINEPREFIX=$dove/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' WINEARCH=win64
+export HOME=$dove/casa
+mkdir -p "$HOME"
+riusciti=0 falliti=0
+
+Verifica() { # name command...
+  local nome=$1
+  shift
+  if "$@" > "$dove/ultima.log" 2>&1; then
+    riusciti=$((riusciti + 1))
+    echo "ok       $nome"
+  else
+    falliti=$((falliti + 1))
+    echo "FALLITO  $nome"
+    sed 's/^/         | /' "$dove/ultima.log" | head -12
+  fi
+}
+
+Attende() { # seconds command...: until the command succeeds
+  local fine=$((SECONDS + $1))
+  shift
+  until "$@"; do
+    [ $SECONDS -lt $fine ] || return 1
+    sleep 0.2
+  done
+}
+
+Finestra() { # title, as a regular expression: the active window has it
+  [ -n "$(xdotool getactivewindow getwindowname 2> /dev/null | grep -E "$1")" ]
+}
+SiApre() { Attende 60 Finestra "$1"; }
+Tasti() { xdotool key --clearmodifiers --delay 60 "$@"; }
+Foto() { import -window root "$dove/$1.png"; }
+NessunPlakera() { ! wine tasklist 2> /dev/null | grep -qi plakera.exe; }
+Uccide() { wine taskkill /f /im plakera.exe > /dev/null 2>&1 || true; Attende 30 NessunPlakera; }
+
+# ---------------------------------------------------------------- a computer with Windows
+wineboot -i > /dev/null 2>&1
+wineserver -w
+# Metric-compatible fonts under the names by which models ask for them.
+cp /usr/share/fonts/truetype/liberation/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+for coppia in 'Arial=Liberation Sans' 'Times New Roman=Liberation Serif' 'Courier New=Liberation Mono' \
+  'Segoe UI=Liberation Sans' 'MS Shell Dlg 2=Liberation Sans' 'Tahoma=Liberation Sans'; do
+  wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "${coppia%%=*}" /d "${coppia#*=}" /f > /dev/null
+done
+openbox &
+gestore=$!
+trap 'kill $gestore 2> /dev/null || true; wineserver -k 2> /dev/null || true' EXIT
+
+# The data folder of the host application: on a drive of its own, with accents and blanks in its path.
+dati="$dove/disco/Società di prova & figli/dati"
+mkdir -p "$dati"
+cp -r sample/. "$dati"
+ln -sfn "$dove/disco" "$WINEPREFIX/dosdevices/k:"
+datiWindows='K:\Società di prova & figli\dati'
+modelli="$dati/Contabilita/ini"
+modello="$datiWindows\\Contabilita\\ini\\Fattura_Rossi.Mod"
+file="$modelli/Fattura_Rossi.Mod"
+
+# ---------------------------------------------------------------- the installer
+casa="$WINEPREFIX/drive_c/Programmi di prova/Plakera è qui"
+cartella='C:\Programmi di prova\Plakera è qui'
+Installa() { (cd "$(dirname "$installazione")" && wine cmd /c "$(basename "$installazione") /S $*"); }
+Registro() { wine reg query "$@" 2> /dev/null | tr -d '\r'; }
+Voce='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plakera'
+SiInstalla() {
+  Installa /AllUsers "/D=$cartella" && [ -f "$casa/plakera.exe" ] && [ -f "$casa/plakera.com" ] &&
+    [ -f "$casa/XtHelpPdf/zPlakera-XtHelp.pdf" ] && ls "$casa/licenze" | grep -q LGPL &&
+    grep -q Plakera "$casa/LEGGIMI.txt"
+}
+Verifica "installazione per tutti, percorso con spazi e accenti" SiInstalla
+Verifica "voce nel menu Start" test -f "$WINEPREFIX/drive_c/ProgramData/Microsoft/Windows/Start Menu/Programs/Plakera.lnk"
+Verifica "voce fra i programmi installati" grep -q DisplayVersion <(Registro "$Voce")
+SenzaAssociazione() { ! Registro 'HKLM\Software\Classes\.mod' /s | grep -q Plakera; }
+Verifica "i file .Mod non sono presi senza richiesta" SenzaAssociazione
+Aggiorna() { Installa /AllUsers /MOD=1 && Registro 'HKLM\Software\Classes\.mod' | grep -q Plakera.Modello && [ -f "$casa/plakera.exe" ]; }
+Verifica "aggiornamento nella stessa cartella, .Mod a richiesta" Aggiorna
+Risorse() { wrestool -l "$casa/plakera.exe" | grep -q 'type=16' && wrestool --raw -x -t 24 "$casa/plakera.exe" | grep -q PerMonitorV2; }
+Verifica "versione, icona e manifesto nel programma" Risorse
+
+# ---------------------------------------------------------------- the command line
+Chiama() { wine "$casa/plakera.com" "$@"; } # what a console calls as plakera
+Esito() { # status text command...: an empty text is none at all
+  local stato=0 testo
+  testo=$("${@:3}" 2>&1) || stato=$?
+  echo "status $stato: $testo"
+  [ $stato -eq "$1" ] && if [ -n "$2" ]; then [[ $testo == *"$2"* ]]; else [ -z "$testo" ]; fi
+}
+Verifica "--help: esito 0, accenti interi" Esito 0 'Opzioni:' Chiama --help
+Verifica "--version" Esito 0 'plakera ' Chiama --version
+Verifica "opzione sconosciuta: esito 1" Esito 1 'plakera: ' Chiama --sconosciuta
+Verifica "--controlla, cartella in regola: esito 0" Esito 0 '' Chiama --controlla "$datiWindows\\Contabilita"
+Verifica "--controlla, modello che manca: esito 2" Esito 2 'manca.Mod' Chiama --controlla 'K:\manca.Mod'
+cp "$file" "$dati/prova è.Mod"
+Verifica "--controlla, immagini che mancano: esito 1" Esito 1 'prova è.Mod' Chiama --controlla "$datiWindows\\prova è.Mod"
+rm "$dati/prova è.Mod"
+InPdf() { Chiama --modello "$modello" --pdf "$datiWindows\\foglio è.pdf" && pdftotext -bbox "$dati/foglio è.pdf" - | grep -q '128/A'; }
+Verifica "--pdf con accenti, spazi e &" InPdf
+AlPosto() { # the document's number stands at 104 mm
+  pdftotext -bbox "$dati/foglio è.pdf" - | sed -n 's/.*xMin="\([0-9.]*\)".*>128\/A<.*/\1/p' |
+    awk '{ mm = $1 / 72 * 25.4; print mm; exit !(mm > 103.9 && mm < 104.1) }'
+}
+Verifica "testo del PDF al suo posto (0,1 mm)" AlPosto
+Relativo() { (cd "$modelli" && Chiama --modello Fattura_Rossi.Mod --anteprima fuori.png) && file "$modelli/fuori.png" | grep -q PNG && rm "$modelli/fuori.png"; }
+Verifica "--anteprima, percorsi relativi" Relativo
+lungo=$(printf 'cartella_%.0s' {1..20})
+mkdir -p "$dati/$lungo/$lungo"
+cp "$file" "$dati/$lungo/$lungo/"
+Lungo() { Chiama --modello "$datiWindows\\$lungo\\$lungo\\Fattura_Rossi.Mod" --pdf "$datiWindows\\$lungo\\$lungo\\f.pdf"; [ -s "$dati/$lungo/$lungo/f.pdf" ]; }
+Verifica "percorsi di oltre 260 caratteri" Lungo
+Verifica "PDF con un nome riservato (NUL.pdf): rifiutato o scritto, mai bloccato" timeout 60 bash -c "wine '$casa/plakera.com' --modello '$modello' --pdf 'K:\\NUL.pdf'; true"
+rm -rf "${dati:?}/$lungo" "$dati/foglio è.pdf"
+
+# ---------------------------------------------------------------- the windows
+Avvia() { wine "$casa/plakera.exe" > /dev/null 2>&1 & }
+SenzaImpostazione() {
+  Avvia
+  SiApre '^Plakera$' && Foto senza_impostazione && Tasti Return && Attende 30 NessunPlakera
+}
+Verifica "senza dirtxt: messaggio, e il programma finisce" SenzaImpostazione
+Uccide
+# As the host application's own language writes settings.
+wine reg add 'HKCU\Software\VB and VBA Program Settings\vastrel\INI' /v dirtxt /d "$datiWindows" /f > /dev/null
+ApreInizio() { Avvia; SiApre '^Plakera - Modelli stampa' && Foto inizio; }
+Verifica "finestra iniziale dalla cartella del registro" ApreInizio
+DueVolte() { Avvia; SiApre '^Plakera$' && Foto gia_in_esecuzione && Tasti Return && SiApre '^Plakera - Modelli'; }
+Verifica "una sola istanza" DueVolte
+ApreModello() {
+  local posto
+  posto=$(cd "$modelli" && ls | grep -i '\.mod$' | sort -f | grep -n '^Fattura_Rossi.Mod$' | cut -d: -f1)
+  Tasti End Home
+  for ((i = 1; i < posto; i++)); do Tasti Down; done
+  Tasti alt+a
+  SiApre '^Plakera: Modello Fattura_Rossi' && sleep 2 && Foto modello
+}
+Verifica "apre un modello" ApreModello
+Trascina() { # a field at 9, 79 mm by 20 mm to the right, on the preview at its first scale
+  local id x y
+  id=$(xdotool search --name '^Anteprima Plakera$' | tail -1)
+  xdotool windowactivate --sync "$id"
+  eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^[XY]=')"
+  x=$((X + 25 + 9 * 96 * 10 / 254)) y=$((Y + 25 + 79 * 96 * 10 / 254))
+  xdotool mousemove $((x + 30)) $((y + 8)); sleep 1
+  xdotool mousemove $((x + 31)) $((y + 8)); sleep 1
+  xdotool mousemove $((x + 2)) $((y + 2)) mousedown 1
+  for ((passo = 1; passo <= 10; passo++)); do
+    xdotool mousemove $((x + 2 + passo * 7)) $((y + 2)); sleep 0.1
+  done
+  xdotool mouseup 1
+  sleep 1
+  Foto trascinato
+}
+Editor() { xdotool windowactivate --sync "$(xdotool search --name '^Plakera: Modello' | tail -1)"; SiApre '^Plakera: Modello'; }
+Salva() { Editor && Tasti alt+v && SiApre '^Plakera$' && Tasti alt+s && SiApre '^Plakera: Modello'; }
+TrascinaESalva() {
+  cp "$file" "$dove/prima.Mod"
+  Trascina && Salva && Attende 20 bash -c "! cmp -s '$file' '$dove/prima.Mod'"
+  diff <(tr -d '\r' < "$dove/prima.Mod") <(tr -d '\r' < "$file") || true
+  [ "$(diff <(tr -d '\r' < "$dove/prima.Mod") <(tr -d '\r' < "$file") | grep -c '^>')" -eq 1 ] &&
+    [ "$(tr -dc '\r' < "$file" | wc -c)" -eq "$(wc -l < "$file")" ]
+}
+Verifica "trascina un campo e salva: cambia solo la sua ascissa" TrascinaESalva
+NienteResti() { ! ls -a "$modelli" | grep -q '^\.plakera-'; }
+Verifica "nessun file temporaneo resta" NienteResti
+StampaInCoda() {
+  local prima
+  prima=$(ls "$PLAKERA_FOGLI" | wc -l)
+  Editor && Tasti alt+t && SiApre '^Plakera$' && Foto stampa && Tasti alt+n && SiApre '^Plakera: Modello' &&
+    Attende 60 bash -c "[ \$(ls '$PLAKERA_FOGLI' | wc -l) -gt $prima ]" &&
+    Attende 60 bash -c "[ -z \"\$(lpstat -o)\" ]"
+}
+Verifica "stampa sulla coda predefinita" StampaInCoda
+Riquadri() { # of the ink of a sheet, whole and by quarters, in tenths of a millimetre
+  pdftoppm -r 254 -gray -singlefile "$1" "$dove/foglio"
+  local taglio
+  for taglio in 2100x2970+0+0 1050x990+0+0 1050x990+1050+0 1050x990+0+990 1050x990+1050+990; do
+    convert "$dove/foglio.pgm" -crop $taglio +repage -threshold 60% -bordercolor white -border 1 \
+      -trim -format '%X %Y %w %h\n' info: | tr -d '+'
+  done
+}
+SullaCarta() {
+  local foglio
+  foglio=$(ls -t "$PLAKERA_FOGLI"/* | head -1)
+  cp "$foglio" "$dove/stampato.pdf"
+  Chiama --modello "$modello" --pdf "$datiWindows\\atteso.pdf" && paste <(Riquadri "$dati/atteso.pdf") <(Riquadri "$dove/stampato.pdf") |
+    awk '{ print; for (i = 1; i <= 4; i++) if ($i - $(i + 4) > 1 || $(i + 4) - $i > 1) male = 1 } END { exit male }'
+}
+Verifica "il foglio stampato misura come il PDF (0,1 mm)" SullaCarta
+Caduta() {
+  Trascina
+  Attende 20 eval 'ls "$WINEPREFIX/drive_c/users/"*/AppData/Local/Plakera | grep -v lock' || return 1
+  Uccide
+  Avvia
+  SiApre '^Plakera - Modelli stampa' && ApreModelloCopia
+}
+ApreModelloCopia() {
+  local posto
+  posto=$(cd "$modelli" && ls | grep -i '\.mod$' | sort -f | grep -n '^Fattura_Rossi.Mod$' | cut -d: -f1)
+  Tasti End Home
+  for ((i = 1; i < posto; i++)); do Tasti Down; done
+  Tasti alt+a
+  SiApre '^Plakera$' && Foto copia_offerta && Tasti alt+s && SiApre '^Plakera: Modello Fattura_Rossi'
+}
+Verifica "processo ucciso: la copia di recupero e' offerta" Caduta
+SolaLettura() {
+  wine attrib +r "$modello"
+  cp "$file" "$dove/prima.Mod"
+  Editor && Tasti alt+v && SiApre '^Plakera$' && Tasti alt+s && sleep 2 && SiApre '^Plakera$' &&
+    Foto sola_lettura && Tasti Return && SiApre '^Plakera: Modello' && cmp "$file" "$dove/prima.Mod"
+  local esito=$?
+  wine attrib -r "$modello"
+  return $esito
+}
+Verifica "attributo di sola lettura: detto, e il file resta" SolaLettura
+Uccide
+for dpi in 96 144; do
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $dpi /f > /dev/null
+  wineserver -w
+  Guarda() { Avvia; SiApre '^Plakera - Modelli' && Foto "inizio_$dpi" && ApreModelloACentro && Foto "modello_$dpi"; }
+  ApreModelloACentro() { Tasti Home Down alt+a; SiApre '^Plakera' && sleep 3; }
+  Verifica "le finestre a $dpi punti per pollice (foto da guardare)" Guarda
+  Uccide
+done
+
+# ---------------------------------------------------------------- gone again
+Toglie() {
+  touch "$casa/mio.txt"
+  wine "$casa/disinstalla.exe" /AllUsers /S "_?=$cartella"
+  [ "$(ls "$casa")" = mio.txt ] && [ -z "$(Registro "$Voce")" ] && [ -z "$(Registro 'HKLM\Software\Classes\.mod')" ]
+}
+Verifica "disinstallazione: resta solo cio' che e' dell'utente" Toglie
+Altrui() {
+  wine reg add 'HKLM\Software\Classes\.mod' /ve /d Altro.Programma /f > /dev/null
+  Installa /AllUsers /MOD=1
+  Registro 'HKLM\Software\Classes\.mod' /ve | grep -q Altro.Programma
+}
+Verifica "i .Mod di un altro programma gli restano" Altrui
+PerUtente() { Installa /CurrentUser && ls "$WINEPREFIX/drive_c/users/"*/AppData/Local/Programs/Plakera/plakera.exe; }
+Verifica "installazione per il solo utente" PerUtente
+
+echo "$riusciti passed, $falliti failed"
+[ $falliti -eq 0 ]

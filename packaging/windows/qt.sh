@@ -1,0 +1,110 @@
+#!/usr/bin/env bash
+# Cross-builds Qt for Windows from Debian's own source packages into a folder that is kept outside the
+# tree and used again until the recipe (qt.txt, mingw.cmake), Qt or the compiler changes.
+#   qt.sh              builds what is missing; the folder is the last line on standard output
+#   qt.sh --cartella   only names the folder; fails when Qt is not whole there
+# PLAKERA_CACHE: where it is kept (~/.cache/plakera); PLAKERA_LAVORI: how many compilers at a time.
+set -euo pipefail
+qui=$(cd "$(dirname "$0")" && pwd)
+cache=${PLAKERA_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/plakera}
+
+versione() { dpkg-query -W -f='${source:Version}' "$1" 2>/dev/null; }
+
+qt=$(versione qt6-base-dev) && compilatore=$(versione g++-mingw-w64-x86-64-posix) || {
+  echo "qt.sh: the packages of the group \"windows\" are missing" >&2
+  exit 1
+}
+ricetta=$({ cat "$qui/qt.txt" "$qui/mingw.cmake"; echo "$qt $compilatore"; } | sha256sum | cut -c1-12)
+cartella=$cache/qt-windows-$ricetta
+if [ "${1-}" = --cartella ]; then
+  echo "$cartella"
+  [ -f "$cartella/fatto/qt6-base" ]
+  exit
+fi
+
+lavoro=$cartella.lavoro
+mkdir -p "$cartella/fatto" "$lavoro"
+exec 9> "$cartella/lucchetto"
+flock 9 # another build of the same folder is waited for
+
+# The sources of Debian as this system names its mirrors, without touching the system's own lists.
+PreparaSorgenti() {
+  [ -f "$lavoro/apt.conf" ] && return
+  mkdir -p "$lavoro/fonti" "$lavoro/liste/partial"
+  local file
+  for file in /etc/apt/sources.list.d/*.sources; do
+    [ -e "$file" ] || continue
+    { sed -E 's/^Types:.*/Types: deb-src/' "$file"; echo; } > "$lavoro/fonti/$(basename "$file")"
+  done
+  for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+    [ -e "$file" ] || continue
+    sed -nE 's/^deb(-src)? /deb-src /p' "$file" | sort -u > "$lavoro/fonti/$(basename "$file" .list)-src.list"
+  done
+  mkdir -p "$lavoro/cache/archives/partial"
+  cat > "$lavoro/apt.conf.nuovo" << FINE
+Dir::Etc::sourcelist "/dev/null";
+Dir::Etc::sourceparts "$lavoro/fonti";
+Dir::State::lists "$lavoro/liste";
+Dir::Cache "$lavoro/cache";
+APT::Sandbox::User "";
+FINE
+  APT_CONFIG=$lavoro/apt.conf.nuovo apt-get update -qq >&2
+  mv "$lavoro/apt.conf.nuovo" "$lavoro/apt.conf"
+}
+
+# The version that is installed here, or the archive's last one of the same Qt.
+VersioneDeiSorgenti() { # package
+  local tutte
+  PreparaSorgenti || return
+  tutte=$(APT_CONFIG=$lavoro/apt.conf apt-cache showsrc "$1" | sed -n 's/^Version: //p')
+  grep -Fx "$qt" <<< "$tutte" || grep "^${qt%%+*}" <<< "$tutte" | sort -V | tail -1
+}
+
+# The unpacked source of a package, in $lavoro/<package>.
+Prende() { # package
+  local versione
+  versione=$(VersioneDeiSorgenti "$1") || return
+  rm -rf "${lavoro:?}/$1" "$lavoro/$1.pacco"
+  mkdir "$lavoro/$1.pacco"
+  (cd "$lavoro/$1.pacco" && APT_CONFIG=$lavoro/apt.conf apt-get source -qq --download-only "$1=$versione") >&2 &&
+    dpkg-source -x "$lavoro/$1.pacco/"*.dsc "$lavoro/$1" >&2
+}
+
+argomenti=()
+while IFS= read -r riga; do
+  argomenti+=("$riga")
+done < <(grep '^-' "$qui/qt.txt")
+
+Costruisce() { # package, further arguments of CMake
+  local nome=$1
+  shift
+  cmake -S "$lavoro/$nome" -B "$lavoro/$nome.build" -G Ninja \
+    -DCMAKE_TOOLCHAIN_FILE="$qui/mingw.cmake" -DCMAKE_INSTALL_PREFIX="$cartella" "$@" >&2 &&
+    cmake --build "$lavoro/$nome.build" -j "${PLAKERA_LAVORI:-$(nproc)}" >&2 &&
+    cmake --install "$lavoro/$nome.build" > /dev/null
+}
+
+if [ ! -f "$cartella/fatto/qt6-base" ]; then
+  # A build that was cut short goes on where it stood.
+  [ -f "$lavoro/qt6-base/CMakeLists.txt" ] || Prende qt6-base
+  Costruisce qt6-base "${argomenti[@]}"
+  mkdir -p "$cartella/licenze"
+  cp "$lavoro"/qt6-base/LICENSES/* "$cartella/licenze/"
+  touch "$cartella/fatto/qt6-base"
+  rm -rf "$lavoro/qt6-base" "$lavoro/qt6-base.build" "$lavoro/qt6-base.pacco"
+fi
+# Formats of pictures that can be brought in beyond Qt's own: the program does without any of them.
+for modulo in qt6-svg qt6-imageformats; do
+  [ -f "$cartella/fatto/$modulo" ] && continue
+  if Prende "$modulo" &&
+    Costruisce "$modulo" -DCMAKE_BUILD_TYPE=Release -DQT_WINDOWS="$cartella" -DCMAKE_PREFIX_PATH="$cartella" \
+      -DFEATURE_system_tiff=OFF -DFEATURE_system_webp=OFF -DFEATURE_jasper=OFF -DFEATURE_mng=OFF; then
+    touch "$cartella/fatto/$modulo"
+  else
+    echo "qt.sh: $modulo cannot be had today: its pictures cannot be brought in" >&2
+  fi
+done
+if [ -f "$cartella/fatto/qt6-svg" ] && [ -f "$cartella/fatto/qt6-imageformats" ]; then
+  rm -rf "$lavoro"
+fi
+echo "$cartella"
