@@ -159,17 +159,18 @@ ApreModello() {
   SiApre '^Plakera: Modello Fattura_Rossi' && sleep 2 && Foto modello
 }
 Verifica "apre un modello" ApreModello
-Trascina() { # a field at 9, 79 mm by 20 mm to the right, on the preview at its first scale
+Trascina() { # the field at 9, 79 mm, by 20 mm to the right
   local id x y
   id=$(xdotool search --name '^Anteprima Plakera$' | tail -1)
   xdotool windowactivate --sync "$id"
-  eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^[XY]=')"
-  x=$((X + 25 + 9 * 96 * 10 / 254)) y=$((Y + 25 + 79 * 96 * 10 / 254))
+  x=$(xwininfo -id "$id" | sed -n 's/.*Absolute upper-left X: *//p')
+  y=$(xwininfo -id "$id" | sed -n 's/.*Absolute upper-left Y: *//p')
+  x=$((x + 25 + 9 * 960 / 254)) y=$((y + 25 + 79 * 960 / 254)) # past the rulers
   xdotool mousemove $((x + 30)) $((y + 8)); sleep 1
   xdotool mousemove $((x + 31)) $((y + 8)); sleep 1
   xdotool mousemove $((x + 2)) $((y + 2)) mousedown 1
   for ((passo = 1; passo <= 10; passo++)); do
-    xdotool mousemove $((x + 2 + passo * 7)) $((y + 2)); sleep 0.1
+    xdotool mousemove $((x + 2 + passo * 76 / 10)) $((y + 2)); sleep 0.1
   done
   xdotool mouseup 1
   sleep 1
@@ -212,7 +213,8 @@ SullaCarta() {
 }
 Verifica "il foglio stampato misura come il PDF (0,1 mm)" SullaCarta
 Caduta() {
-  Trascina
+  xdotool windowactivate --sync "$(xdotool search --name '^Anteprima Plakera$' | tail -1)"
+  Tasti Tab Right # an element is chosen and moved
   Attende 20 eval 'ls "$WINEPREFIX/drive_c/users/"*/AppData/Local/Plakera | grep -v lock' || return 1
   Uccide
   Avvia
