@@ -81,7 +81,8 @@ void bench_Anteprima::Riempie()
 {
     for (int k = 0; k < PerGenere; ++k) {
         const double x = k % 10 * 19;
-        const double y = k / 10 * 14;
+        const int decina = k / 10;
+        const double y = decina * 14;
         banco_->Campo(QStringLiteral("campo%1").arg(k), x, y,
                       QStringLiteral("Campo di prova %1").arg(k));
         banco_->Cornice(x, y, 18, 12);
@@ -138,7 +139,8 @@ void bench_Anteprima::PassoDiTrascinamento()
     banco_->Muove(presa);
     banco_->Preme(presa);
     const double passo = MilliSecondi(Passi, [&](int k) {
-        banco_->Muove(presa + QPointF(k % 50, k / 2));
+        const int giu = k / 2;
+        banco_->Muove(presa + QPointF(k % 50, giu));
         QCoreApplication::processEvents();
     });
     banco_->Rilascia(presa);
@@ -156,7 +158,8 @@ double bench_Anteprima::PassoConScelti(const QList<Chiave> &scelti)
     banco_->Muove(presa + QPointF(5, 5)); // the picture of the others is made once
     QCoreApplication::processEvents();
     const double passo = MilliSecondi(Passi, [&](int k) {
-        banco_->Muove(presa + QPointF(5 + k % 20, 5 + k / 5));
+        const int giu = 5 + k / 5;
+        banco_->Muove(presa + QPointF(5 + k % 20, giu));
         QCoreApplication::processEvents();
     });
     QTest::keyClick(banco_->frm.get(), Qt::Key_Escape);
@@ -202,7 +205,8 @@ void bench_Anteprima::RidipinteSoloLeParti()
     Contatore contatore;
     banco_->Vista()->installEventFilter(&contatore);
     for (int k = 0; k < Passi; ++k) {
-        banco_->Muove(presa + QPointF(k % 50, k / 2));
+        const int giu = k / 2;
+        banco_->Muove(presa + QPointF(k % 50, giu));
         QCoreApplication::processEvents();
     }
     banco_->Vista()->removeEventFilter(&contatore);

@@ -233,7 +233,10 @@ void bench_Editor::Riposo()
     QTest::qWait(500);
     constexpr int Attesa = 10'000; // ms
     QEventLoop giro;
-    QTimer::singleShot(Attesa, &giro, &QEventLoop::quit);
+    QTimer fine;
+    fine.setSingleShot(true);
+    connect(&fine, &QTimer::timeout, &giro, &QEventLoop::quit);
+    fine.start(Attesa);
     const double inizio = MilliSecondiCpu();
     giro.exec();
     // None but for the one timer of this loop, which takes a fraction of a millisecond.

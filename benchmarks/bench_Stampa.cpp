@@ -51,8 +51,10 @@ void bench_Stampa::initTestCase()
 {
     for (int i = 0; i < PerGenere; ++i) {
         const double colonna = i % 10 * 20;
-        const double riga = i / 10 * 27;
-        Campo &campo = modello_.Campi[modello_.AggiungeCampo(5 + i % 5 * 40, 5 + i / 5 * 13.5)];
+        const int decina = i / 10;
+        const double riga = decina * 27;
+        const int fila = i / 5;
+        Campo &campo = modello_.Campi[modello_.AggiungeCampo(5 + i % 5 * 40, 5 + fila * 13.5)];
         campo.Testo = QStringLiteral("Testo di prova %1").arg(i);
         campo.Grassetto = i % 2 == 0 ? Falso : Vero;
         campo.Dimensione = static_cast<qint16>(7 + i % 6);

@@ -412,8 +412,9 @@ void tst_Documento::ICampiFuoriRigaSiRicordanoFinoAlSalvataggio()
 void tst_Documento::DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte_data()
 {
     QTest::addColumn<std::function<void(Passo &, const Modello &, int)>>("modifica");
-    const auto riga = [](const char *nome, std::function<void(Passo &, const Modello &, int)> m) {
-        QTest::newRow(nome) << std::move(m);
+    using Modifica = std::function<void(Passo &, const Modello &, int)>;
+    const auto riga = [](const char *nome, const Modifica &modifica) {
+        QTest::newRow(nome) << modifica;
     };
     riga("tutti spostati", [](Passo &passo, const Modello &, int) {
         for (const Genere genere : Generi) {
@@ -450,7 +451,7 @@ void tst_Documento::DuecentoPassiSuTrecentoElementiStannoInDieciMebibyte()
         modifica(passo, banco.documento.Aperto(), k);
     }
     const std::size_t occupati = mallinfo2().uordblks - prima;
-    QVERIFY2(occupati > 0 && occupati < 10 * 1024 * 1024, qPrintable(QString::number(occupati)));
+    QVERIFY2(occupati > 0 && occupati < 10UL * 1024 * 1024, qPrintable(QString::number(occupati)));
     for (int k = 0; k < 200; ++k) {
         QVERIFY(banco.documento.PuoAnnullare());
         banco.documento.Annulla();

@@ -209,13 +209,15 @@ void tst_StampanteRifiuta::serverLento()
 {
     constexpr int Lentezza = 5000; // ms
     QThread altrove;               // this one waits for the printer
-    QObject sveglia;
+    QTimer sveglia;
+    sveglia.setSingleShot(true);
+    sveglia.setInterval(Lentezza);
+    connect(&sveglia, &QTimer::timeout, &sveglia, [this] { coda_->Riprende(); });
     sveglia.moveToThread(&altrove);
     altrove.start();
     const QString errore = ErroreStampando([&] {
         coda_->SiBlocca();
-        QMetaObject::invokeMethod(
-            &sveglia, [&] { QTimer::singleShot(Lentezza, &sveglia, [&] { coda_->Riprende(); }); });
+        QMetaObject::invokeMethod(&sveglia, "start", Qt::QueuedConnection);
     });
     altrove.quit();
     altrove.wait();
