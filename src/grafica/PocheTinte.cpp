@@ -42,7 +42,7 @@ QList<QRgb> Tavolozza(const QHash<QRgb, uchar> &tinte)
 }
 
 /// How many pixels there are of each colour; empty for a picture with shades everywhere.
-QHash<QRgb, qint64> Conto(const QImage &immagine)
+QHash<QRgb, qint64> PixelPerTinta(const QImage &immagine)
 {
     constexpr qsizetype TinteContate = 20'000;
     QHash<QRgb, qint64> conto;
@@ -85,7 +85,7 @@ QHash<QRgb, QRgb> Sostituti(const QHash<QRgb, qint64> &conto, double pixel)
 {
     constexpr double ParteUguale = 0.001; // of the picture: what is no shade
     constexpr double ParteDegliOrli = 0.01;
-    constexpr int ScartoMassimo = 16; // of 255: less than paper shows of a pixel at an edge
+    constexpr int ScartoNegliOrli = 16; // of 255: less than paper shows of a pixel at an edge
     QList<QRgb> tenute;
     QHash<QRgb, QRgb> sostituti;
     double sostituiti = 0; // pixels
@@ -96,7 +96,7 @@ QHash<QRgb, QRgb> Sostituti(const QHash<QRgb, qint64> &conto, double pixel)
             });
         const auto pixelSuoi = double(conto.value(tinta));
         if (vicina == tenute.cend() || pixelSuoi >= ParteUguale * pixel ||
-            Scarto(*vicina, tinta) > ScartoMassimo) {
+            Scarto(*vicina, tinta) > ScartoNegliOrli) {
             tenute.append(tinta);
         } else {
             sostituti.insert(tinta, *vicina);
@@ -113,7 +113,7 @@ QHash<QRgb, QRgb> Sostituti(const QHash<QRgb, qint64> &conto, double pixel)
 
 void PocheTinte::UnisceOrli(QImage &immagine)
 {
-    const QHash<QRgb, qint64> conto = Conto(immagine);
+    const QHash<QRgb, qint64> conto = PixelPerTinta(immagine);
     if (conto.size() <= TinteMassime) {
         return;
     }
