@@ -9,14 +9,20 @@ namespace {
 // Of QFileSystemModel.
 constexpr int ColonnaDimensione = 1;
 constexpr int ColonnaTipo = 2;
+constexpr int ColonnaData = 3;
+
+const QLocale &Italiano()
+{
+    static const QLocale Locale(QLocale::Italian, QLocale::Italy);
+    return Locale;
+}
 
 QString Dimensione(qint64 byte)
 {
     constexpr qint64 Kilobyte = 1024;
-    const QLocale italiano(QLocale::Italian, QLocale::Italy);
     return byte < Kilobyte
                ? QStringLiteral("%1 byte").arg(byte)
-               : italiano.formattedDataSize(byte, 1, QLocale::DataSizeTraditionalFormat);
+               : Italiano().formattedDataSize(byte, 1, QLocale::DataSizeTraditionalFormat);
 }
 
 QString Tipo(const QFileInfo &file)
@@ -30,14 +36,19 @@ QString Tipo(const QFileInfo &file)
 QVariant FileInItaliano::data(const QModelIndex &indice, int ruolo) const
 {
     const auto *file = qobject_cast<const QFileSystemModel *>(sourceModel());
-    const bool nostra = indice.column() == ColonnaDimensione || indice.column() == ColonnaTipo;
-    if (ruolo != Qt::DisplayRole || !nostra || file == nullptr) {
+    if (ruolo != Qt::DisplayRole || file == nullptr) {
         return QIdentityProxyModel::data(indice, ruolo);
     }
     const QModelIndex suo = mapToSource(indice);
-    const QFileInfo informazioni = file->fileInfo(suo);
-    if (!informazioni.isFile()) {
-        return QIdentityProxyModel::data(indice, ruolo);
+    const bool cartella = file->isDir(suo);
+    if (indice.column() == ColonnaData) {
+        return Italiano().toString(file->lastModified(suo), QLocale::ShortFormat);
     }
-    return indice.column() == ColonnaTipo ? Tipo(informazioni) : Dimensione(file->size(suo));
+    if (indice.column() == ColonnaTipo && !cartella) {
+        return Tipo(file->fileInfo(suo));
+    }
+    if (indice.column() == ColonnaDimensione && !cartella) {
+        return Dimensione(file->size(suo));
+    }
+    return QIdentityProxyModel::data(indice, ruolo);
 }

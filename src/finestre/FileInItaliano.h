@@ -2,8 +2,8 @@
 
 #include <QIdentityProxyModel>
 
-/// What stands between a file dialog of Qt's own and its list of files: tells kinds and sizes in
-/// Italian whatever the system speaks.
+/// What stands between a file dialog of Qt's own and its list of files: tells kinds, sizes and
+/// times in Italian whatever the system speaks.
 class FileInItaliano : public QIdentityProxyModel
 {
     Q_OBJECT

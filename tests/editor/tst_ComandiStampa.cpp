@@ -262,6 +262,7 @@ void tst_ComandiStampa::laFinestraDeiFileParlaItaliano()
     Robot robot;
     QStringList testi;
     QHash<QString, QStringList> righe;
+    QStringList date;
     robot.Agisce([&](QDialog *finestra) {
         auto *elenco = Trova<QTreeView>(*finestra, "treeView");
         static_cast<QFileDialog *>(finestra)->setNameFilter(QStringLiteral("Tutti i file (*)"));
@@ -273,6 +274,7 @@ void tst_ComandiStampa::laFinestraDeiFileParlaItaliano()
         for (int riga = 0; riga < 3; ++riga) {
             QTRY_VERIFY(!cella(riga, 2).isEmpty());
             righe[cella(riga, 0)] = {cella(riga, 1), cella(riga, 2)};
+            date.append(cella(riga, 3));
         }
         for (int colonna = 0; colonna < file->columnCount(); ++colonna) {
             testi.append(file->headerData(colonna, Qt::Horizontal).toString());
@@ -297,6 +299,10 @@ void tst_ComandiStampa::laFinestraDeiFileParlaItaliano()
              (QStringList{QStringLiteral("3 byte"), QStringLiteral("File PDF")}));
     QCOMPARE(righe.value(QStringLiteral("due")),
              (QStringList{QStringLiteral("2,9 kB"), QStringLiteral("File")}));
+    const QRegularExpression numeri(QStringLiteral("^\\d\\d/\\d\\d/\\d\\d \\d\\d:\\d\\d$"));
+    for (const QString &data : std::as_const(date)) {
+        QVERIFY2(numeri.match(data).hasMatch(), qPrintable(data));
+    }
     for (const char *testo : {"Nome", "Dimensione", "Tipo", "Data di modifica", "Salva", "Annulla",
                               "Indietro", "Cartella superiore", "Crea nuova cartella", "Cerca in:",
                               "Nome del file:", "Tipo di file:", "Rinomina", "Elimina"}) {
