@@ -33,8 +33,12 @@ QString Casa()
 QString CartellaStato()
 {
 #ifdef Q_OS_WIN
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QStringLiteral("/Plakera");
+    // Where Windows says it, as elsewhere, the environment may name another place.
+    QString radice = QDir::fromNativeSeparators(qEnvironmentVariable("LOCALAPPDATA"));
+    if (!QDir::isAbsolutePath(radice)) {
+        radice = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    }
+    return radice + QStringLiteral("/Plakera");
 #else
     // Qt 6.4 knows no state location.
     QString radice = qEnvironmentVariable("XDG_STATE_HOME");

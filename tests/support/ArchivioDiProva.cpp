@@ -9,7 +9,9 @@ ArchivioDiProva::ArchivioDiProva(const QString &nomeFile)
 {
     QDir(cartella_.path()).mkpath(QStringLiteral("Contabilita/ini"));
     // Safety copies must not land among the user's own.
-    qputenv("XDG_STATE_HOME", QFile::encodeName(CartellaStato()));
+    for (const char *diUnSistema : {"XDG_STATE_HOME", "LOCALAPPDATA"}) {
+        qputenv(diUnSistema, QFile::encodeName(CartellaStato()));
+    }
     stato_.CartellaModelli = cartella_.filePath(QStringLiteral("Contabilita/ini/"));
     stato_.NomeFile = nomeFile;
     modello_.NomeFile = nomeFile;

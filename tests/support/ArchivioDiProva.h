@@ -16,7 +16,8 @@ public:
     Modello Riletto() const;
     QByteArray ByteDelFile() const;
     QString Percorso() const;
-    /// Where the program keeps its safety copies while this object lives (XDG_STATE_HOME).
+    /// Where the program keeps its safety copies while this object lives (XDG_STATE_HOME,
+    /// LOCALAPPDATA).
     QString CartellaStato() const;
 
     /// Three kinds, n of each, spread over the sheet; images get the file name immagine<k>.bmp
