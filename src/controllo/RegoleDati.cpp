@@ -21,6 +21,13 @@ qsizetype Decimali(const QString &testo)
     });
 }
 
+/// Digits before it.
+qsizetype Intere(const QString &testo)
+{
+    const QString intero = testo.section(u',', 0, 0);
+    return std::count_if(intero.begin(), intero.end(), [](QChar c) { return c.isDigit(); });
+}
+
 /// Why the test text is none that the mask would give; empty where it may be one.
 QString Discordanza(const QString &maschera, const QString &testo)
 {
@@ -36,7 +43,15 @@ QString Discordanza(const QString &maschera, const QString &testo)
         return QStringLiteral("il testo di prova contiene lettere mentre la maschera è numerica");
     }
     // The last place of a mask is one more than it prints.
-    const qsizetype stampati = MaschereStampa::Forma(maschera).section(u',', 1).count(u'#');
+    const QString forma = MaschereStampa::Forma(maschera);
+    const qsizetype intereStampate = forma.section(u',', 0, 0).count(u'#');
+    if (Intere(testo) > intereStampate) {
+        return QStringLiteral("il testo di prova ha più cifre intere (%1) di quante ne stampa la "
+                              "maschera (%2)")
+            .arg(Intere(testo))
+            .arg(intereStampate);
+    }
+    const qsizetype stampati = forma.section(u',', 1).count(u'#');
     const qsizetype provati = Decimali(testo);
     return provati <= stampati
                ? QString()

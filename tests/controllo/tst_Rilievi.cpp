@@ -169,6 +169,16 @@ void tst_Rilievi::OgniRilievoEIlSuoGemello_data()
         [](S &m) { m.Aperto.Campi[3].Testo = QStringLiteral("34,505"); },
         [](S &m) { m.Aperto.Campi[3].Testo = QStringLiteral("34,50"); });
     riga(
+        "more whole digits than the mask prints", MascheraETesto, "campo R_Importo",
+        [](S &m) {
+            m.Aperto.Campi[3].Maschera = QStringLiteral("###,###");
+            m.Aperto.Campi[3].Testo = QStringLiteral("12345,6");
+        },
+        [](S &m) {
+            m.Aperto.Campi[3].Maschera = QStringLiteral("###,###");
+            m.Aperto.Campi[3].Testo = QStringLiteral("-345,6");
+        });
+    riga(
         "decimals for a mask without", MascheraETesto, "campo R_Importo",
         [](S &m) {
             m.Aperto.Campi[3].Maschera = QStringLiteral("####,");
