@@ -213,6 +213,7 @@ void Form2::Collegamenti()
         sfondo_->ImpostaImmagineSfondo(false);
     });
     Collega(&stato_.documento, &Documento::Cambiato, this, &Form2::SegueDocumento);
+    Collega(&stato_.documento, &Documento::StoriaCambiata, this, &Form2::RitiraNonSalvati);
 }
 
 void Form2::CollegaPagina(Genere genere, Procedura aggiunge, Procedura modifica,

@@ -71,6 +71,8 @@ public:
     /// Asks when Variato is set, and writes on Yes. False when the writing failed (reported) or the
     /// user would not replace a file that another program changed.
     bool SalvareVariazioni();
+    /// What the strip says of row values that were not saved holds until the next step.
+    void RitiraNonSalvati();
     void Elimina_Click();
     void Stampa_Click();
     void StampaRetino_Click();
@@ -144,6 +146,7 @@ private:
     std::unique_ptr<CartaDellaStampante> carta_;
     std::unique_ptr<DomandeSulModello> domande_;
     std::unique_ptr<ModelloSuFile> file_;
+    QString nonSalvati_;  ///< what the strip says of row values that were not saved
     bool chiude_ = false; ///< the question about unsaved work is open
     bool chiuso_ = false;
     QMargins cornice_; ///< the window manager's, as far as it is known

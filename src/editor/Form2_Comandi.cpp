@@ -12,6 +12,8 @@
 #include "finestre/Messaggi.h"
 #include "preview/Frm1.h"
 
+#include <utility>
+
 void Form2::Salva_Click()
 {
     stato_.documento.SegnaVariato();
@@ -32,10 +34,18 @@ bool Form2::SalvareVariazioni()
     const QStringList nonConfermati = righe_->NonConfermati();
     if (salvato && !nonConfermati.isEmpty()) {
         // The names first: on a narrow strip the end is what is left out.
-        anteprima_->Avverte(nonConfermati.join(QStringLiteral(", ")) +
-                            QStringLiteral(": non confermati, non salvati"));
+        nonSalvati_ = nonConfermati.join(QStringLiteral(", ")) +
+                      QStringLiteral(": non confermati, non salvati");
+        anteprima_->Avverte(nonSalvati_);
     }
     return salvato;
+}
+
+void Form2::RitiraNonSalvati()
+{
+    if (!nonSalvati_.isEmpty()) {
+        anteprima_->RitiraAvviso(std::exchange(nonSalvati_, {}));
+    }
 }
 
 void Form2::Elimina_Click()

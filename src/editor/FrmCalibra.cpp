@@ -8,6 +8,7 @@
 #include "finestre/FuocoInVista.h"
 #include "finestre/Guardia.h"
 #include "grafica/Immagini.h"
+#include "grafica/IntestazioneImmagine.h"
 #include "grafica/LettoreImmagine.h"
 #include "model/Numeri.h"
 #include "preview/SfondoDelModello.h"
@@ -77,7 +78,10 @@ void FrmCalibra::RiempieRisoluzioni()
     if (Risoluzione(punti.height()) != delFile) {
         delFile += QStringLiteral(" x ") + Risoluzione(punti.height());
     }
-    ui_->Risoluzioni->addItem(delFile + QStringLiteral(" (del file)"));
+    // Many a file names none and has the usual one then, which it may as well have named itself.
+    const bool usuale = delFile == Risoluzione(IntestazioneImmagine::PuntiPerPollicePredefiniti);
+    ui_->Risoluzioni->addItem(delFile + (usuale ? QStringLiteral(" (del file, o predefinita)")
+                                                : QStringLiteral(" (del file)")));
     for (const int altra : {75, 100, 150, 200, 240, 300, 400, 600, 1200}) {
         ui_->Risoluzioni->addItem(QString::number(altra));
     }
@@ -178,7 +182,7 @@ std::optional<QSizeF> FrmCalibra::MisuraDaPunti(QString &perche) const
         perche = QStringLiteral("Fare clic su due punti\ndella scansione.");
         return std::nullopt;
     }
-    const std::optional<double> distanza = Numeri::Numerico(ui_->Distanza->text());
+    const std::optional<double> distanza = Numeri::Letto(ui_->Distanza->text());
     if (!distanza || *distanza <= 0) {
         perche = QStringLiteral("Scrivere quanti millimetri\nci sono tra i due punti.");
         return std::nullopt;

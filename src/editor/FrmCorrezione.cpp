@@ -22,12 +22,7 @@ namespace {
 
 std::optional<double> Millimetri(const QLineEdit *casella)
 {
-    // A rule is read with a comma or with a point, whatever the system's own.
-    QString testo = casella->text();
-    if (!testo.contains(u'.')) {
-        testo.replace(u',', u'.');
-    }
-    const std::optional<double> valore = Numeri::Numerico(testo, QLocale::c());
+    const std::optional<double> valore = Numeri::Letto(casella->text());
     return valore && std::abs(*valore) <= MillimetriMassimi ? valore : std::nullopt;
 }
 

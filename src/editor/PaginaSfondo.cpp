@@ -35,11 +35,15 @@ QString TestoNumero(double valore)
     return Numeri::NumeroPiano(valore, QLocale::c());
 }
 
+const QString NonSiVede =
+    QStringLiteral("l'immagine di sfondo non si vede: spuntare Visualizza Immagine di sfondo");
+
 void MostraTesto(QLineEdit *casella, const QString &testo)
 {
     // Filling a box is no edit: the model keeps the text that was read.
     const QSignalBlocker muto(casella);
     MostraDallInizio(casella, testo);
+    Riguarda(casella);
 }
 
 } // namespace
@@ -124,6 +128,9 @@ void PaginaSfondo::RidisegnaSeScritta(const QLineEdit *casella)
 
 void PaginaSfondo::SegueDocumento(const Cambiamento &cambiamento)
 {
+    if (cambiamento.Sfondo && !Nascosta()) {
+        anteprima_.RitiraAvviso(NonSiVede);
+    }
     if (cambiamento.Sfondo && cambiamento.origine == Cambiamento::Origine::Storia) {
         Mostra();
         ImpostaImmagineSfondo(false);
@@ -255,12 +262,16 @@ void PaginaSfondo::SfondoSfoglia_Click()
     AvverteSeNascosta();
 }
 
-void PaginaSfondo::AvverteSeNascosta() const
+bool PaginaSfondo::Nascosta() const
 {
     const ImmagineSfondo &sfondo = stato_.Aperto().Sfondo;
-    if (!sfondo.File.isEmpty() && !SfondoDelModello::Visibile(sfondo)) {
-        anteprima_.Avverte(QStringLiteral("l'immagine di sfondo non si vede: spuntare Visualizza "
-                                          "Immagine di sfondo"));
+    return !sfondo.File.isEmpty() && !SfondoDelModello::Visibile(sfondo);
+}
+
+void PaginaSfondo::AvverteSeNascosta() const
+{
+    if (Nascosta()) {
+        anteprima_.Avverte(NonSiVede);
     }
 }
 

@@ -58,6 +58,7 @@ private:
     void ChiedeDimensione();
     void ScrivePosto(const QRectF &posto);
     /// The strip says that what has been chosen is not shown.
+    bool Nascosta() const; ///< a scan is chosen and not shown
     void AvverteSeNascosta() const;
     const QLineEdit *CasellaDi(QString ImmagineSfondo::*membro) const;
     /// The box holds a number beyond a double; the message names it.

@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QToolTip>
 
+#include <utility>
+
 namespace {
 
 // Black on it stands 15:1 apart.
@@ -41,6 +43,20 @@ void AvvisoCasella::Mostra(const QString &testo)
     }
 }
 
+void AvvisoCasella::Segue(std::function<QString(const QString &)> avviso)
+{
+    avviso_ = std::move(avviso);
+    connect(casella_, &QLineEdit::textChanged, this, &AvvisoCasella::Riguarda);
+    Riguarda();
+}
+
+void AvvisoCasella::Riguarda()
+{
+    if (avviso_) {
+        Mostra(avviso_(casella_->text()));
+    }
+}
+
 void AvvisoCasella::MostraFumetto(const QString &testo) const
 {
     QToolTip::showText(casella_->mapToGlobal(QPoint(0, casella_->height() / 2)),
@@ -73,7 +89,12 @@ bool AvvisoCasella::eventFilter(QObject *oggetto, QEvent *evento)
 void Sorveglia(QLineEdit *casella, const std::function<QString(const QString &)> &avviso)
 {
     auto *segno = new AvvisoCasella(casella);
-    const auto segue = [segno, avviso](const QString &testo) { segno->Mostra(avviso(testo)); };
-    QObject::connect(casella, &QLineEdit::textChanged, segno, segue);
-    segue(casella->text());
+    segno->Segue(avviso);
+}
+
+void Riguarda(const QLineEdit *casella)
+{
+    if (auto *segno = casella->findChild<AvvisoCasella *>()) {
+        segno->Riguarda();
+    }
 }

@@ -20,6 +20,10 @@ public:
 
     /// Empty: no mark.
     void Mostra(const QString &testo);
+    /// From now on shows what avviso has to say of the box's text.
+    void Segue(std::function<QString(const QString &)> avviso);
+    /// Looks at the text again, which somebody has set without the box telling.
+    void Riguarda();
 
 signals:
     void Entrato(); ///< the keyboard has come to the marked box
@@ -34,7 +38,10 @@ private:
     QLineEdit *casella_;
     QPalette tavolozza_; ///< without the mark
     QString testo_;
+    std::function<QString(const QString &)> avviso_;
 };
 
 /// From now on the box says what avviso has to say of its text.
 void Sorveglia(QLineEdit *casella, const std::function<QString(const QString &)> &avviso);
+/// The text of a box has been set with its signals blocked: where it is watched, its mark follows.
+void Riguarda(const QLineEdit *casella);

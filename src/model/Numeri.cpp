@@ -227,6 +227,15 @@ std::optional<double> Numeri::Numerico(const QString &testo, const QLocale &loca
     return valore;
 }
 
+std::optional<double> Numeri::Letto(const QString &testo)
+{
+    QString neutro = testo;
+    if (!neutro.contains(u'.')) {
+        neutro.replace(u',', u'.');
+    }
+    return Numerico(neutro, QLocale::c());
+}
+
 double Numeri::Doppio(const QString &testo, const QLocale &locale)
 {
     const std::optional<double> valore = Numerico(testo, locale);

@@ -34,6 +34,9 @@ double LeggeNumero(QByteArrayView riga);
 /// locale's own separator. Nothing when the text is not a number or is beyond a double.
 std::optional<double> Numerico(const QString &testo, const QLocale &locale = QLocale());
 
+/// What is read from a rule: as Numerico, with a comma or a point whatever the system's own.
+std::optional<double> Letto(const QString &testo);
+
 /// As Numerico, but a text that is no number throws ErroreSistema 13.
 double Doppio(const QString &testo, const QLocale &locale = QLocale());
 

@@ -445,6 +445,9 @@ void tst_FrmCalibra::SceltaConLaSpuntaSpentaLoDice()
     QTest::keyClick(Trova<QLineEdit>(*prova_->editor, "SfondoFileImmagine"), Qt::Key_Return);
     QVERIFY(striscia().contains(QStringLiteral("non si vede")));
     QVERIFY(robot.Soddisfatto());
+    // What is no longer so is no longer said.
+    Preme(*prova_->editor, "VisualizzaImmagineSfondo");
+    QVERIFY(!striscia().contains(QStringLiteral("non si vede")));
 }
 
 QTEST_MAIN(tst_FrmCalibra)

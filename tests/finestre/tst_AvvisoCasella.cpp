@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QTest>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -47,7 +48,25 @@ private slots:
     void IlSuggerimentoProprioResta();
     void ILettoriDiSchermoLoSanno();
     void IlTestoRestaComEScritto();
+    void RiempitaInSilenzioSiRiguarda();
 };
+
+void tst_AvvisoCasella::RiempitaInSilenzioSiRiguarda()
+{
+    QLineEdit casella;
+    Sorveglia(&casella, [](const QString &testo) { return testo == u"7,5" ? testo : QString(); });
+    const auto riempie = [&](const QString &testo) {
+        const QSignalBlocker muta(&casella);
+        casella.setText(testo);
+        Riguarda(&casella);
+    };
+    riempie(QStringLiteral("7,5"));
+    QCOMPARE(casella.accessibleDescription(), QStringLiteral("7,5"));
+    riempie(QStringLiteral("7"));
+    QVERIFY(casella.accessibleDescription().isEmpty());
+    QLineEdit nonSorvegliata;
+    Riguarda(&nonSorvegliata); // has nothing to say
+}
 
 void tst_AvvisoCasella::IlFondoLoMostraESparisce()
 {

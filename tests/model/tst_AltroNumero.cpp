@@ -10,7 +10,30 @@ private slots:
     void init() { QLocale::setDefault(QLocale(QLocale::Italian)); }
     void Avvisi_data();
     void Avvisi();
+    void LettoConVirgolaOPunto_data();
+    void LettoConVirgolaOPunto();
 };
+
+void tst_AltroNumero::LettoConVirgolaOPunto_data()
+{
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<double>("valore"); // 0 = none
+    QTest::newRow("comma") << QStringLiteral("100,5") << 100.5;
+    QTest::newRow("point") << QStringLiteral(" 100.5 ") << 100.5;
+    QTest::newRow("both") << QStringLiteral("1.100,5") << 0.0;
+    QTest::newRow("nothing") << QString() << 0.0;
+    QTest::newRow("words") << QStringLiteral("cento") << 0.0;
+}
+
+void tst_AltroNumero::LettoConVirgolaOPunto()
+{
+    QFETCH(QString, testo);
+    QFETCH(double, valore);
+    for (const QLocale &locale : {QLocale::c(), QLocale(QLocale::Italian)}) {
+        QLocale::setDefault(locale);
+        QCOMPARE(Numeri::Letto(testo).value_or(0), valore);
+    }
+}
 
 void tst_AltroNumero::Avvisi_data()
 {
