@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The Windows release in one command, on Debian 12: installs what is missing, builds Qt once (qt.sh), the
 # program with its manual, and the installer. Everything that is handed out lands in build/windows/uscita.
-# PLAKERA_QT_WINDOWS: a Qt for Windows built otherwise, to be linked instead.
+# PLAKERA_QT_WINDOWS: a Qt for Windows built otherwise, to be linked instead; PLAKERA_MANUALE: the manual,
+# where it has been made already.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 cmake/installa.sh build windows
@@ -12,15 +13,18 @@ fi
 versione=$(sed -n 's/^project(Plakera VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
 # The manual, and nothing else, is made by programs of this computer.
-cmake --preset release > /dev/null
-cmake --build --preset release --target manuale_pdf
+if [ -z "${PLAKERA_MANUALE:-}" ]; then
+  cmake --preset release > /dev/null
+  cmake --build --preset release --target manuale_pdf
+  PLAKERA_MANUALE=$PWD/build/release/bin/XtHelpPdf/zPlakera-XtHelp.pdf
+fi
 
 costruzione=build/windows
 cmake -S . -B $costruzione -G Ninja -DCMAKE_TOOLCHAIN_FILE="$PWD/$qui/programma.cmake" \
   -DQT_WINDOWS="$PLAKERA_QT_WINDOWS" -DCMAKE_PREFIX_PATH="$PLAKERA_QT_WINDOWS" \
-  -DCMAKE_BUILD_TYPE=Release -DPLAKERA_TESTS=OFF \
-  -DPLAKERA_MANUALE="$PWD/build/release/bin/XtHelpPdf/zPlakera-XtHelp.pdf" > /dev/null
-cmake --build $costruzione
+  -DCMAKE_BUILD_TYPE=Release -DPLAKERA_TESTS=OFF -DPLAKERA_UNITY=ON \
+  -DPLAKERA_MANUALE="$PLAKERA_MANUALE" > /dev/null
+cmake --build $costruzione --target plakera plakera_console
 programma=$PWD/$costruzione/programma
 rm -rf "$programma"
 cmake --install $costruzione --strip --prefix "$programma" > /dev/null
