@@ -25,6 +25,16 @@ bool PostoIngombro(const QString &file)
     }
 }
 
+/// As Qt writes it into a lock file: on Windows that is not the name which QSysInfo tells.
+QString QuestaMacchina()
+{
+#ifdef Q_OS_WIN
+    return qEnvironmentVariable("COMPUTERNAME");
+#else
+    return QSysInfo::machineHostName();
+#endif
+}
+
 } // namespace
 
 Lucchetto::Lucchetto(const QString &file)
@@ -50,8 +60,7 @@ Lucchetto::Esito Lucchetto::Prende()
     qint64 processo = 0;
     QString macchina;
     QString programma;
-    if (file_.getLockInfo(&processo, &macchina, &programma) &&
-        macchina != QSysInfo::machineHostName()) {
+    if (file_.getLockInfo(&processo, &macchina, &programma) && macchina != QuestaMacchina()) {
         return Esito::Occupato;
     }
     // Of a process that has died, where the disk has no room for Qt's own way to take its lock
