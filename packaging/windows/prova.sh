@@ -50,13 +50,16 @@ Attende() { # seconds command...: until the command succeeds
   done
 }
 
+# Reads to the end, unlike grep -q: a program that writes into a closed pipe has failed.
+Contiene() { grep "$@" > /dev/null; }
+
 Finestra() { # title, as a regular expression: the active window has it
   [ -n "$(xdotool getactivewindow getwindowname 2> /dev/null | grep -E "$1")" ]
 }
 SiApre() { Attende 60 Finestra "$1"; }
 Tasti() { xdotool key --clearmodifiers --delay 60 "$@"; }
 Foto() { import -window root "$dove/$1.png"; }
-NessunPlakera() { ! wine tasklist 2> /dev/null | grep -qi plakera.exe; }
+NessunPlakera() { ! wine tasklist 2> /dev/null | Contiene -i plakera.exe; }
 Uccide() { wine taskkill /f /im plakera.exe > /dev/null 2>&1 || true; Attende 30 NessunPlakera; }
 
 # ---------------------------------------------------------------- a computer with Windows
@@ -68,6 +71,9 @@ for coppia in 'Arial=Liberation Sans' 'Times New Roman=Liberation Serif' 'Courie
   'Segoe UI=Liberation Sans' 'MS Shell Dlg 2=Liberation Sans' 'Tahoma=Liberation Sans'; do
   wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "${coppia%%=*}" /d "${coppia#*=}" /f > /dev/null
 done
+# As Windows does unless the user wants otherwise.
+wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f > /dev/null
+wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f > /dev/null
 openbox &
 gestore=$!
 trap 'kill $gestore 2> /dev/null || true; wineserver -k 2> /dev/null || true' EXIT
@@ -90,17 +96,17 @@ Registro() { wine reg query "$@" 2> /dev/null | tr -d '\r'; }
 Voce='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plakera'
 SiInstalla() {
   Installa /AllUsers "/D=$cartella" && [ -f "$casa/plakera.exe" ] && [ -f "$casa/plakera.com" ] &&
-    [ -f "$casa/XtHelpPdf/zPlakera-XtHelp.pdf" ] && ls "$casa/licenze" | grep -q LGPL &&
+    [ -f "$casa/XtHelpPdf/zPlakera-XtHelp.pdf" ] && ls "$casa/licenze" | Contiene LGPL &&
     grep -q Plakera "$casa/LEGGIMI.txt"
 }
 Verifica "installazione per tutti, percorso con spazi e accenti" SiInstalla
 Verifica "voce nel menu Start" test -f "$WINEPREFIX/drive_c/ProgramData/Microsoft/Windows/Start Menu/Programs/Plakera.lnk"
 Verifica "voce fra i programmi installati" grep -q DisplayVersion <(Registro "$Voce")
-SenzaAssociazione() { ! Registro 'HKLM\Software\Classes\.mod' /s | grep -q Plakera; }
+SenzaAssociazione() { ! Registro 'HKLM\Software\Classes\.mod' /s | Contiene Plakera; }
 Verifica "i file .Mod non sono presi senza richiesta" SenzaAssociazione
-Aggiorna() { Installa /AllUsers /MOD=1 && Registro 'HKLM\Software\Classes\.mod' | grep -q Plakera.Modello && [ -f "$casa/plakera.exe" ]; }
+Aggiorna() { Installa /AllUsers /MOD=1 && Registro 'HKLM\Software\Classes\.mod' | Contiene Plakera.Modello && [ -f "$casa/plakera.exe" ]; }
 Verifica "aggiornamento nella stessa cartella, .Mod a richiesta" Aggiorna
-Risorse() { wrestool -l "$casa/plakera.exe" | grep -q 'type=16' && wrestool --raw -x -t 24 "$casa/plakera.exe" | grep -q PerMonitorV2; }
+Risorse() { wrestool -l "$casa/plakera.exe" | Contiene 'type=16' && wrestool --raw -x -t 24 "$casa/plakera.exe" | Contiene PerMonitorV2; }
 Verifica "versione, icona e manifesto nel programma" Risorse
 
 # ---------------------------------------------------------------- the command line
@@ -119,14 +125,14 @@ Verifica "--controlla, modello che manca: esito 2" Esito 2 'manca.Mod' Chiama --
 cp "$file" "$dati/prova è.Mod"
 Verifica "--controlla, immagini che mancano: esito 1" Esito 1 'prova è.Mod' Chiama --controlla "$datiWindows\\prova è.Mod"
 rm "$dati/prova è.Mod"
-InPdf() { Chiama --modello "$modello" --pdf "$datiWindows\\foglio è.pdf" && pdftotext -bbox "$dati/foglio è.pdf" - | grep -q '128/A'; }
+InPdf() { Chiama --modello "$modello" --pdf "$datiWindows\\foglio è.pdf" && pdftotext -bbox "$dati/foglio è.pdf" - | Contiene '128/A'; }
 Verifica "--pdf con accenti, spazi e &" InPdf
 AlPosto() { # the document's number stands at 104 mm
   pdftotext -bbox "$dati/foglio è.pdf" - | sed -n 's/.*xMin="\([0-9.]*\)".*>128\/A<.*/\1/p' |
     awk '{ mm = $1 / 72 * 25.4; print mm; exit !(mm > 103.9 && mm < 104.1) }'
 }
 Verifica "testo del PDF al suo posto (0,1 mm)" AlPosto
-Relativo() { (cd "$modelli" && Chiama --modello Fattura_Rossi.Mod --anteprima fuori.png) && file "$modelli/fuori.png" | grep -q PNG && rm "$modelli/fuori.png"; }
+Relativo() { (cd "$modelli" && Chiama --modello Fattura_Rossi.Mod --anteprima fuori.png) && file "$modelli/fuori.png" | Contiene PNG && rm "$modelli/fuori.png"; }
 Verifica "--anteprima, percorsi relativi" Relativo
 lungo=$(printf 'cartella_%.0s' {1..20})
 mkdir -p "$dati/$lungo/$lungo"
@@ -137,7 +143,10 @@ Verifica "PDF con un nome riservato (NUL.pdf): rifiutato o scritto, mai bloccato
 rm -rf "${dati:?}/$lungo" "$dati/foglio è.pdf"
 
 # ---------------------------------------------------------------- the windows
-Avvia() { wine "$casa/plakera.exe" > /dev/null 2>&1 & }
+Avvia() {
+  wine "$casa/plakera.exe" > /dev/null 2>&1 &
+  disown # its end is no news
+}
 SenzaImpostazione() {
   Avvia
   SiApre '^Plakera$' && Foto senza_impostazione && Tasti Return && Attende 30 NessunPlakera
@@ -186,7 +195,7 @@ TrascinaESalva() {
     [ "$(tr -dc '\r' < "$file" | wc -c)" -eq "$(wc -l < "$file")" ]
 }
 Verifica "trascina un campo e salva: cambia solo la sua ascissa" TrascinaESalva
-NienteResti() { ! ls -a "$modelli" | grep -q '^\.plakera-'; }
+NienteResti() { ! ls -a "$modelli" | Contiene '^\.plakera-'; }
 Verifica "nessun file temporaneo resta" NienteResti
 StampaInCoda() {
   local prima
@@ -243,8 +252,8 @@ Uccide
 for dpi in 96 144; do
   wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $dpi /f > /dev/null
   wineserver -w
-  Guarda() { Avvia; SiApre '^Plakera - Modelli' && Foto "inizio_$dpi" && ApreModelloACentro && Foto "modello_$dpi"; }
-  ApreModelloACentro() { Tasti Home Down alt+a; SiApre '^Plakera' && sleep 3; }
+  find "$WINEPREFIX/drive_c/users" -path "*/AppData/Local/Plakera/*" -type f ! -name plakera.lock -delete # no copy to be asked about
+  Guarda() { Avvia; SiApre '^Plakera - Modelli' && sleep 1 && Foto "inizio_$dpi" && ApreModello && Foto "modello_$dpi"; }
   Verifica "le finestre a $dpi punti per pollice (foto da guardare)" Guarda
   Uccide
 done
@@ -259,7 +268,7 @@ Verifica "disinstallazione: resta solo cio' che e' dell'utente" Toglie
 Altrui() {
   wine reg add 'HKLM\Software\Classes\.mod' /ve /d Altro.Programma /f > /dev/null
   Installa /AllUsers /MOD=1
-  Registro 'HKLM\Software\Classes\.mod' /ve | grep -q Altro.Programma
+  Registro 'HKLM\Software\Classes\.mod' /ve | Contiene Altro.Programma
 }
 Verifica "i .Mod di un altro programma gli restano" Altrui
 PerUtente() { Installa /CurrentUser && ls "$WINEPREFIX/drive_c/users/"*/AppData/Local/Programs/Plakera/plakera.exe; }
