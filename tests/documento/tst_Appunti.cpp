@@ -9,7 +9,7 @@
 
 namespace {
 
-const QString Cartella = QStringLiteral("/dati/Contabilità/ini");
+const QString Cartella = QDir::rootPath() + QStringLiteral("dati/Contabilità/ini");
 
 QList<Chiave> TuttiDi(const Modello &modello)
 {
