@@ -21,7 +21,8 @@ inline void Riporta(const QByteArray &figura, double misurato, double meta,
     QVERIFY2(UnGiro() || misurato <= meta, figura.constData());
 }
 
-/// The middle one of several runs (of one, where UnGiro()): what the machine does besides does not count. In milliseconds.
+/// The middle one of several runs (of one, where UnGiro()): what the machine does besides does not
+/// count. In milliseconds.
 template <typename Azione>
 double Mediana(std::size_t prove, Azione &&azione)
 {
