@@ -63,8 +63,8 @@ QByteArray ArchivioDiProva::ByteDelFile() const
 void ArchivioDiProva::Riempie(int n)
 {
     for (int k = 1; k <= n; ++k) {
-        const double x = 10 + (k % 10) * 20;
-        const double y = 10 + (k / 10) * 25;
+        const int x = 10 + (k % 10) * 20;
+        const int y = 10 + (k / 10) * 25;
         AggiungeCampo(QStringLiteral("Campo%1").arg(k), x, y);
         AggiungeCornice(QStringLiteral("Cornice%1").arg(k), x, y + 5, 18, 8);
         AggiungeImmagine(QStringLiteral("immagine%1.bmp").arg(k), x, y + 14, 15, 8);

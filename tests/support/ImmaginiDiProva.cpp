@@ -4,9 +4,11 @@
 #include <QFile>
 #include <QImageWriter>
 #include <QPainter>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <random>
 
 QByteArray ImmaginiDiProva::GifTrasparente()
@@ -58,7 +60,7 @@ QImage ImmaginiDiProva::Disegno(const QSize &pixel, const QString &testo)
     QPainter penna(&disegno);
     const int lato = std::min(pixel.width(), pixel.height());
     const auto tinta = int(qHash(testo) % 360);
-    penna.setPen(QPen(QColor::fromHsv(tinta, 255, 120), lato / 40 + 1));
+    penna.setPen(QPen(QColor::fromHsv(tinta, 255, 120), lato / 40.0 + 1));
     penna.setBrush(QColor::fromHsv(tinta, 120, 255));
     penna.drawEllipse(
         QRect(QPoint(0, 0), pixel).adjusted(lato / 8, lato / 8, -lato / 8, -lato / 8));
@@ -124,13 +126,17 @@ QList<ImmaginiDiProva::Bomba> ImmaginiDiProva::Bombe()
     QList<Bomba> bombe;
     const QByteArray bmp = InFormato(Tinta({8, 8}, 0), "bmp");
     // Width and height stand together.
-    const auto conMisure = [&](const char *nome, const char *misure) {
-        bombe.append({nome, QByteArray(bmp).replace(18, 8, QByteArray(misure, 8))});
+    const auto conMisure = [&](const char *nome, qint32 larga, qint32 alta) {
+        QByteArray misure(8, '\0');
+        qToLittleEndian(larga, misure.data());
+        qToLittleEndian(alta, misure.data() + 4);
+        bombe.append({nome, QByteArray(bmp).replace(18, 8, misure)});
     };
-    conMisure("bmp of 65536 x 65536", "\0\0\1\0\0\0\1\0");
-    conMisure("bmp of 10000 x 10000", "\x10\x27\0\0\x10\x27\0\0");
-    conMisure("bmp of 10000 x -10000", "\x10\x27\0\0\xF0\xD8\xFF\xFF");
-    conMisure("bmp of the largest and smallest number", "\xFF\xFF\xFF\x7F\0\0\0\x80");
+    conMisure("bmp of 65536 x 65536", 65536, 65536);
+    conMisure("bmp of 10000 x 10000", 10000, 10000);
+    conMisure("bmp of 10000 x -10000", 10000, -10000);
+    conMisure("bmp of the largest and smallest number", std::numeric_limits<qint32>::max(),
+              std::numeric_limits<qint32>::min());
 
     QByteArray gif = GifTrasparente();
     gif.replace(6, 4, "\xFF\xFF\xFF\xFF");

@@ -13,13 +13,13 @@ namespace {
 
 constexpr double MillimetriPerPunto = 25.4 / 72;
 constexpr double PixelPerMillimetro = LettorePdf::PuntiPerPollice / 25.4;
-constexpr int AttesaMassima = 60'000;
+constexpr int AttesaDelLettore = 60'000;
 
 QByteArray Esegue(const QString &programma, const QStringList &argomenti)
 {
     QProcess processo;
     processo.start(programma, argomenti);
-    if (!processo.waitForFinished(AttesaMassima) || processo.exitCode() != 0) {
+    if (!processo.waitForFinished(AttesaDelLettore) || processo.exitCode() != 0) {
         qFatal("%s: %s", qPrintable(programma), processo.readAllStandardError().constData());
     }
     return processo.readAllStandardOutput();
