@@ -121,15 +121,16 @@ void tst_ControlloDelModello::UnFileUgualeNonSiRilegge()
 void tst_ControlloDelModello::TrecentoElementiCostanoPoco()
 {
     ModelloSano sano;
+    const auto posto = [](int k) { return QPoint(2 + k % 10 * 19, k / 10 * 25); };
     for (int k = 4; k <= 100; ++k) {
-        sano.Campo(qPrintable(QStringLiteral("Campo%1").arg(k)), 2 + k % 10 * 19, k / 10 * 25,
-                   "prova");
+        const QPoint qui = posto(k);
+        sano.Campo(qPrintable(QStringLiteral("Campo%1").arg(k)), qui.x(), qui.y(), "prova");
     }
     for (int k = 3; k <= 100; ++k) {
-        sano.Cornice(qPrintable(QStringLiteral("Etichetta%1").arg(k)), 2 + k % 10 * 19,
-                     k / 10 * 25 + 8, 18, 8)
+        const QPoint qui = posto(k);
+        sano.Cornice(qPrintable(QStringLiteral("Etichetta%1").arg(k)), qui.x(), qui.y() + 8, 18, 8)
             .Testo = QString::number(k);
-        sano.Immagine("logo.bmp", 2 + k % 10 * 19, k / 10 * 25 + 16, 15, 8);
+        sano.Immagine("logo.bmp", qui.x(), qui.y() + 16, 15, 8);
     }
     Documento documento;
     documento.Prende(sano.Aperto, false);

@@ -315,9 +315,9 @@ void tst_FrmElemento::TestoCheNonENumero_data()
     riga("infinito", Genere::Campo, "X", "1e999", "Posizione X: «1e999» non è un numero");
     const QList<std::pair<const char *, Genere>> conMisure{{"cornice", Genere::Cornice},
                                                            {"immagine", Genere::Immagine}};
-    for (const auto &[nome, genere] : conMisure) {
+    for (const auto &voce : conMisure) {
         const auto unoX = [&](const char *casella, const char *messaggio) {
-            riga(QByteArray(nome) + ", " + casella, genere, casella, "1x", messaggio);
+            riga(QByteArray(voce.first) + ", " + casella, voce.second, casella, "1x", messaggio);
         };
         unoX("X", "Posizione X: «1x» non è un numero");
         unoX("Y", "Posizione Y: «1x» non è un numero");

@@ -105,7 +105,8 @@ void tst_StampaDallEditor::Appesantisce(ArchivioDiProva &archivio)
         const QString nome = QStringLiteral("rumore%1.bmp").arg(i);
         ImmaginiDiProva::Scrive(archivio.Stato().CartellaModelli + nome,
                                 ImmaginiDiProva::InFormato(Rumore(Lato, quint32(i)), "bmp"));
-        archivio.AggiungeImmagine(nome, 5 + 95 * (i % 2), 5 + 95 * (i / 2), 90, 90);
+        const int riga = i / 2;
+        archivio.AggiungeImmagine(nome, 5 + 95 * (i % 2), 5 + 95 * riga, 90, 90);
     }
 }
 

@@ -143,25 +143,24 @@ void tst_ComportamentoFoglio::OltreIBordi()
     Postazione &p = c.Posto;
     ApreAScala(c);
     const QPointF versi[] = {{-900, 0}, {0, -900}, {900, 0}, {0, 900}, {-900, -900}};
-    for (const auto &[genere, i] :
-         {std::pair{Genere::Campo, 1}, std::pair{Genere::Campo, 3}, std::pair{Genere::Cornice, 1},
-          std::pair{Genere::Immagine, 1}}) {
+    for (const auto &elemento : {std::pair{Genere::Campo, 1}, std::pair{Genere::Campo, 3},
+                                 std::pair{Genere::Cornice, 1}, std::pair{Genere::Immagine, 1}}) {
         c.Passo("lo prende", [&] {
-            if (genere == Genere::Campo) {
-                p.Sorvola(p.Mezzo(genere, i));
+            if (elemento.first == Genere::Campo) {
+                p.Sorvola(p.Mezzo(elemento.first, elemento.second));
             } else {
-                p.Clicca(p.Mezzo(genere, i));
+                p.Clicca(p.Mezzo(elemento.first, elemento.second));
             }
         });
         for (const QPointF &verso : versi) {
             c.Passo(QStringLiteral("verso %1 %2").arg(verso.x()).arg(verso.y()), [&] {
                 // As far as the screen lets the pointer go.
-                p.TrascinaManiglia(genere, verso);
-                p.TrascinaManiglia(genere, verso);
-                p.TrascinaManiglia(genere, verso);
+                p.TrascinaManiglia(elemento.first, verso);
+                p.TrascinaManiglia(elemento.first, verso);
+                p.TrascinaManiglia(elemento.first, verso);
             });
         }
-        c.Passo("torna nel mezzo", [&] { p.TrascinaManiglia(genere, {80, 200}); });
+        c.Passo("torna nel mezzo", [&] { p.TrascinaManiglia(elemento.first, {80, 200}); });
     }
     c.Confronta();
 }

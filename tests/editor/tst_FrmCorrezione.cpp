@@ -93,7 +93,7 @@ void tst_FrmCorrezione::diceESposta()
     QCOMPARE(prova.Aperto().Immagini[1].Y, 49.0);
     // The preview follows.
     QCOMPARE(prova.Archivio.Stato().documento.Variato(), true);
-    QCOMPARE(static_cast<Controllo *>(prova.Controllo("C2(1)"))->Posto().x(), 32.0);
+    QCOMPARE(static_cast<class Controllo *>(prova.Controllo("C2(1)"))->Posto().x(), 32.0);
 }
 
 void tst_FrmCorrezione::unSoloPassoEDallaPagina()

@@ -444,7 +444,7 @@ void tst_ImmaginiIncollate::ADiscoPienoNonRestaNiente()
     Robot robot;
     robot.Ok();
     {
-        const LimiteFile limite(64 * 1024);
+        const LimiteFile limite(65536);
         due.Incolla();
     }
     QCOMPARE(robot.Testi().size(), 1);

@@ -1,4 +1,4 @@
-#include "EditoreDiProva.h"
+#include "RecuperoDiProva.h"
 #include "documento/CopiaRecupero.h"
 #include "model/FileModello.h"
 #include "support/FileDiProva.h"
@@ -38,12 +38,6 @@ QString AltroNome(const ArchivioDiProva &prova)
         QTest::qFail("no hard link", __FILE__, __LINE__);
     }
     return altro;
-}
-
-QStringList Copie(const ArchivioDiProva &prova)
-{
-    return QDir(prova.CartellaStato() + QStringLiteral("/plakera"))
-        .entryList({QStringLiteral("*.recupero")}, QDir::Files);
 }
 
 /// Saves while the medium refuses what is forced onto it of the one file.

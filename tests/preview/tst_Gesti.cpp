@@ -165,7 +165,7 @@ void tst_Gesti::AltroBottonePrimaDiRidimensionare()
 void tst_Gesti::MousePerduto_data()
 {
     QTest::addColumn<std::function<void(Banco &)>>("perde");
-    const auto riga = [](const char *nome, std::function<void(Banco &)> perde) {
+    const auto riga = [](const char *nome, const std::function<void(Banco &)> &perde) {
         QTest::newRow(nome) << perde;
     };
     riga("another control takes the mouse", [](Banco &banco) {

@@ -190,7 +190,8 @@ void tst_FigureSuCarta::stessaFiguraUnaVoltaNelDocumento()
     const LettorePdf uno = foglio.Stampa();
     const qint64 sola = QFileInfo(foglio.Pdf()).size();
     for (int i = 1; i < 20; ++i) {
-        foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {i % 5 * 40.0, i / 5 * 40.0, 20.0 + i, 20});
+        const int riga = i / 5;
+        foglio.ConImmagine(QStringLiteral("f.jpg"), {}, {i % 5 * 40.0, riga * 40.0, 20.0 + i, 20});
     }
     foglio.Stampa();
     QVERIFY(QFileInfo(foglio.Pdf()).size() < sola + byte.size() / 4);
@@ -260,9 +261,10 @@ void tst_FigureSuCarta::ripetutaFraMolteLettaUnaVolta()
     foglio.ConImmagine(ripetuta, InFormato(Disegno({300, 300}, QStringLiteral("A")), "bmp"),
                        {5, 5, 20, 20});
     for (int k = 0; k < 60; ++k) {
+        const int riga = k / 8;
         foglio.ConImmagine(QStringLiteral("%1.bmp").arg(k),
                            InFormato(Fotografia({200, 200}, unsigned(k)), "bmp"),
-                           {5.0 + k % 8 * 25, 30.0 + k / 8 * 25, 20, 20});
+                           {5.0 + k % 8 * 25, 30.0 + riga * 25, 20, 20});
     }
     foglio.ConImmagine(ripetuta, {}, {100, 250, 20, 20});
     const Aperture aperture(foglio.Cartella() + ripetuta);

@@ -262,8 +262,8 @@ void tst_Sovrapposizione::stessaImmaginePiuVolte()
     FoglioDiProva foglio;
     const QByteArray byte = Bmp(qRgb(9, 99, 199));
     for (int i = 0; i < 50; ++i) {
-        foglio.ConImmagine(QStringLiteral("a.bmp"), byte,
-                           {(i % 10) * 20.0, (i / 10) * 20.0, 10, 10});
+        const int riga = i / 10;
+        foglio.ConImmagine(QStringLiteral("a.bmp"), byte, {(i % 10) * 20.0, riga * 20.0, 10, 10});
     }
     const LettorePdf pdf = foglio.Stampa();
     QCOMPARE(pdf.Colore(185, 85), qRgb(9, 99, 199));

@@ -109,7 +109,7 @@ void tst_FileTemporaneo::SpazzaIResti()
     QFETCH(bool, resta);
     ScriveFile(File(), Vecchi);
     ScriveFile(In(nome), QByteArray());
-    Invecchia(In(nome), 60 * minuti);
+    Invecchia(In(nome), qint64(minuti) * 60);
 
     Disco::Sostituisce(File(), Nuovi);
 
