@@ -1,12 +1,14 @@
 // Takes the manual's pictures: opens a copy of the sample data in the program's own windows, works
 // them as a user would, and grabs what they show. Needs no screen, no printer and no network.
 //
-// fotografa_finestre CARTELLA_ESEMPIO CARTELLA_LAVORO CARTELLA_FIGURE
+// fotografa_finestre CARTELLA_ESEMPIO CARTELLA_LAVORO CARTELLA_FIGURE INVENTARIO
 //
-// CARTELLA_LAVORO is emptied first; the program's own settings and state go there.
+// CARTELLA_LAVORO is emptied first; the program's own settings and state go there. INVENTARIO is
+// the file that tells the names and keys of all windows.
 
 #include "Fotografia.h"
 #include "Giro.h"
+#include "Inventario.h"
 
 #include "finestre/ComboAccessibile.h"
 #include "finestre/Finestre.h"
@@ -117,12 +119,13 @@ void Rinuncia()
 
 void Fotografa(int argc, char **argv)
 {
-    if (argc != 4) {
-        Fallisce(QStringLiteral("CARTELLA_ESEMPIO CARTELLA_LAVORO CARTELLA_FIGURE"));
+    if (argc != 5) {
+        Fallisce(QStringLiteral("CARTELLA_ESEMPIO CARTELLA_LAVORO CARTELLA_FIGURE INVENTARIO"));
     }
     const QString esempio = QFileInfo(QString::fromLocal8Bit(argv[1])).absoluteFilePath();
     const QString lavoro = QString::fromLocal8Bit(argv[2]);
     const QString figure = QString::fromLocal8Bit(argv[3]);
+    const QString elenco = QString::fromLocal8Bit(argv[4]);
     QDir(lavoro).removeRecursively();
     QDir(figure).removeRecursively();
     if (!QDir().mkpath(lavoro) || !QDir().mkpath(figure)) {
@@ -144,6 +147,7 @@ void Fotografa(int argc, char **argv)
     QApplication::setCursorFlashTime(0); // or two pictures of a box would differ
     ImpostaLingua();
     InstallaComboAccessibili();
+    const Inventario inventario;
 
     // The folder lists name every folder above: a short one that leads to the data.
     const QTemporaryDir radice(QDir::tempPath() + QStringLiteral("/vastrel-XXXXXX"));
@@ -173,6 +177,7 @@ void Fotografa(int argc, char **argv)
                  {temporanea.fileName(), QStringLiteral("vastrel")},
                  {temporanea.dir().dirName(), QStringLiteral("srv")}});
     Giro(corta, foto).Fa();
+    inventario.Scrive(elenco);
 }
 
 } // namespace

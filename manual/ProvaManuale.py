@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
 """Holds the manual against the program and against itself.
 
-ProvaManuale.py CARTELLA_MANUALE CARTELLA_SRC CARTELLA_FIGURE MANUALE.pdf VERSIONE
+ProvaManuale.py CARTELLA_MANUALE CARTELLA_SRC CARTELLA_FIGURE MANUALE.pdf VERSIONE INVENTARIO
 
-- every name of a control and every message that the manual quotes stands in the program;
+- every name of a control that the manual quotes is read in a window of the running program (INVENTARIO is what
+  they had when the pictures were taken), every message stands in the program;
+- the table of keys has every key that a window has or the program listens to, and no other;
 - every text that the program can show in a box stands in the manual's messages, every window, button and tick box in
   its text;
 - every link, bookmark and line of the table of contents leads where it says;
@@ -23,6 +25,20 @@ VARIABILE = "\u2024"  # stands for what changes from case to case
 # What these say is no box: options of the command line, the explanations on the editor's pages.
 SENZA_RIQUADRI = {"LineaDiComando.cpp", "ControlloDaRiga.cpp", "TestiEsplicativi.cpp", "SenzaFinestre.h"}
 FIGURE_MINIME = 15
+# Names that only appear in what the round of the pictures does not come to.
+FUORI_VISTA = {
+    "Cerca in", "ELIMINATO", "Nome del file", "Plakera: Modello", "Salva", "apri", "ripristina stampa campo", "scegli",
+}
+# The keys as the manual calls them, and as Qt does.
+TASTI = {
+    "Maiusc": "Shift", "Canc": "Delete", "Invio": "Return", "Spazio": "Space", "Esc": "Escape",
+    "Pag su": "PageUp", "Pag giù": "PageDown", "Inizio": "Home", "Fine": "End", "↑": "Up", "↓": "Down",
+}
+MODIFICATORI = {"Ctrl", "Control", "Shift", "Alt", "AltGr"}
+DELLA_STORIA = {"Ctrl+Z", "Ctrl+Y", "Ctrl+Shift+Z"}  # no shortcuts: boxes that are typed in have them first
+ALTRI_NOMI = {
+    "Del": "Delete", "Enter": "Return", "Backtab": "Tab", "Esc": "Escape", "PgUp": "PageUp", "PgDown": "PageDown",
+}
 
 
 def stretto(testo):
@@ -53,7 +69,7 @@ class Programma:
     )
     FUGHE = {"n": "\n", "t": "\t", "r": "\r"}
 
-    def __init__(self, src):
+    def __init__(self, src, inventario):
         self.testi = []  # all
         self.messaggi = []  # those that must stand in the manual's messages
         self.bottoni = []  # and in its text: windows and what is pressed
@@ -65,6 +81,18 @@ class Programma:
             elif file.suffix in {".cpp", ".h"}:
                 self._legge(file)
         self.nomi = {nome(testo) for testo in self.testi}
+        self.ascoltati = {
+            ALTRI_NOMI.get(tasto, tasto)
+            for file in src.rglob("*.cpp")
+            for tasto in re.findall(r"Qt::Key_(\w+)", file.read_text("utf-8"))
+        } - MODIFICATORI
+        righe = [riga.split("\t", 1) for riga in inventario.read_text("utf-8").splitlines()]
+        self.in_vista = {nome(testo) for genere, testo in righe if genere == "nome"}
+        self.tasti = {
+            "+".join(ALTRI_NOMI.get(parte, parte) for parte in testo.split("+"))
+            for genere, testo in righe
+            if genere == "tasti" and testo and not re.fullmatch(r"Alt\+\w", testo)  # those are underlined letters
+        }
         self.pezzi = {p for testo in self.testi for p in pezzi(testo)}
 
     def _legge(self, file):
@@ -148,12 +176,41 @@ def composto(pezzo, di):
 
 
 def guasti_dei_nomi(manuale, programma):
-    guasti = [f'no control "{c}"' for c in manuale.comandi if nome(c) not in programma.nomi]
+    guasti = [
+        f'no control "{c}"'
+        for c in manuale.comandi
+        if nome(c) not in programma.in_vista | (FUORI_VISTA & programma.nomi)
+    ]
+    guasti += [f'"{n}" is read in a window now' for n in FUORI_VISTA & programma.in_vista]
     for messaggio in manuale.messaggi:
         for pezzo in pezzi(messaggio):
             if not composto(pezzo, programma.pezzi):
                 guasti.append(f'the program does not say "{pezzo}"')
     return guasti
+
+
+def tasti_scritti(testo):
+    """The keys of the tables' first column, as Qt calls them; a letter alone has the modifiers of the one before."""
+    scritti = set()
+    for riga in re.findall(r"<tr><td>(.*?)</td>", testo, re.S):
+        prima = ""
+        for tasti in re.findall(r"<kbd>(.*?)</kbd>", riga):
+            if len(tasti) == 1 and prima and tasti.isalpha():
+                tasti = f"{prima}+{tasti}"
+            prima = tasti.rpartition("+")[0]
+            scritti.add("+".join(TASTI.get(tasto, tasto) for tasto in tasti.split("+")))
+        if "frecce" in riga:
+            scritti |= {"Left", "Right", "Up", "Down"}
+    return scritti - MODIFICATORI
+
+
+def guasti_dei_tasti(testo, programma):
+    scritti = tasti_scritti(testo)
+    ultimi = {tasti.rpartition("+")[2] for tasti in scritti}
+    veri = programma.tasti | DELLA_STORIA | {t for t in programma.ascoltati if len(t) > 1}
+    guasti = [f"key that the table does not have: {t}" for t in programma.tasti - scritti]
+    guasti += [f"key that the table does not have: {t}" for t in programma.ascoltati - ultimi]
+    return guasti + [f"nothing has the key {t}" for t in scritti if t not in veri and t.rpartition("+")[2] not in veri]
 
 
 def guasti_dei_bottoni(manuale, programma):
@@ -268,6 +325,7 @@ def difetti_non_visti(fonti, programma, altri, figure):
         manuale = Manuale([testo])
         return (
             guasti_dei_nomi(manuale, programma)
+            + guasti_dei_tasti(testo, programma)
             + guasti_dei_bottoni(manuale, programma)
             + guasti_dei_messaggi(manuale, programma, altri)
             + guasti_dei_rinvii(manuale, figure)
@@ -275,6 +333,9 @@ def difetti_non_visti(fonti, programma, altri, figure):
 
     difetti = {
         "a control that is not there": ('<b class="c">Salva modello</b>', '<b class="c">Salva il modello</b>'),
+        "a key that nothing has": ("<kbd>Ctrl+E</kbd>", "<kbd>Ctrl+K</kbd>"),
+        "a key with another modifier": ("<kbd>Ctrl+E</kbd>", "<kbd>Ctrl+M</kbd>"),
+        "a key that is left out": ("<kbd>F7</kbd></td>", "</td>"),
         "a button not explained": ("Rimisura immagine", "Misura"),
         "a message told wrongly": ("salvare le variazioni</q>", "salvare le modifiche</q>"),
         "a message not explained": ("troppi fonts installati", ""),
@@ -295,9 +356,10 @@ def main(parole):
     fonti += [f.read_text("utf-8") for f in sorted((cartella / "capitoli").glob("*.html"))]
     righe = (cartella / "non_messaggi.txt").read_text("utf-8").splitlines()
     altri = {nome(riga) for riga in righe if riga.strip() and not riga.startswith("#")}
-    programma, manuale = Programma(src), Manuale(fonti)
+    programma, manuale = Programma(src, pathlib.Path(parole[6])), Manuale(fonti)
     guasti = (
         guasti_dei_nomi(manuale, programma)
+        + guasti_dei_tasti("".join(fonti), programma)
         + guasti_dei_bottoni(manuale, programma)
         + guasti_dei_messaggi(manuale, programma, altri)
         + guasti_dei_rinvii(manuale, figure)
