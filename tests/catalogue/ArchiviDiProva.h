@@ -3,6 +3,7 @@
 #include "catalogue/SelezioneArchivifrm.h"
 #include "support/Controlli.h"
 #include "support/FileDiProva.h"
+#include "support/ImpostazioniDiProva.h"
 #include "support/Robot.h"
 
 #include <QApplication>
@@ -67,12 +68,7 @@ struct FinestraIniziale
 class ArchiviDiProva : public FinestraIniziale
 {
 public:
-    ArchiviDiProva()
-    {
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(cartella_.path()));
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(cartella_.path()));
-        Crea(QStringLiteral("Contabilita"));
-    }
+    ArchiviDiProva() { Crea(QStringLiteral("Contabilita")); }
 
     QString Dati() const
     {
@@ -96,5 +92,6 @@ public:
     void Carica() { FinestraIniziale::Carica(Dati()); }
 
 private:
+    const ImpostazioniDiProva impostazioni_;
     QTemporaryDir cartella_;
 };

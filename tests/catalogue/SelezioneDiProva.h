@@ -49,13 +49,7 @@ class SelezioneDiProva
 {
 protected:
     /// Once for the program.
-    void PreparaAmbiente()
-    {
-        ambiente_ = std::make_unique<QTemporaryDir>();
-        QVERIFY(ambiente_->isValid());
-        qputenv("XDG_CONFIG_HOME", ambiente_->path().toUtf8());
-        qputenv("XDG_RUNTIME_DIR", ambiente_->path().toUtf8());
-    }
+    void PreparaAmbiente() { impostazioni_ = std::make_unique<ImpostazioniDiProva>(); }
     /// Before each test.
     void Prepara()
     {
@@ -83,11 +77,7 @@ protected:
         return In(QStringLiteral("Contabilita/ini/") + nome);
     }
     /// Makes it the data folder of the settings.
-    void Dirtxt(const QString &cartella) const
-    {
-        ScriveFile(ambiente_->filePath(QStringLiteral("vastrel.ini")),
-                   QStringLiteral("[INI]\ndirtxt=%1\n").arg(cartella).toUtf8());
-    }
+    void Dirtxt(const QString &cartella) const { impostazioni_->Dirtxt(cartella); }
     void Carica() { finestra_->Carica(QString()); }
     QListWidget *Lista(const char *nome) const { return finestra_->Lista(nome); }
     QStringList Voci(const char *nome) const { return finestra_->Voci(nome); }
@@ -97,7 +87,7 @@ protected:
         Controlli::Trova<QRadioButton>(*frm_, opzione)->setChecked(true);
     }
 
-    std::unique_ptr<QTemporaryDir> ambiente_;
+    std::unique_ptr<ImpostazioniDiProva> impostazioni_;
     std::unique_ptr<QTemporaryDir> dati_;
     StatoProgramma *stato_ = nullptr;
     SelezioneArchivifrm *frm_ = nullptr;

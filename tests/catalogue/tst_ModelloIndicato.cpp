@@ -189,6 +189,9 @@ void tst_ModelloIndicato::altraEstensione()
 
 void tst_ModelloIndicato::illeggibileFuori()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     const QString file = Fuori(QStringLiteral("Chiuso.Mod"));
     ScriveFile(file, "chiuso");
     QVERIFY(QFile::setPermissions(fuori_->path(), Permessi::PerTutti));

@@ -230,11 +230,14 @@ void tst_SelezioneArchivifrm::Carica_cartellaDatiMancante()
 
 void tst_SelezioneArchivifrm::Carica_cartellaDatiIlleggibile()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     const QString cartella = In(QStringLiteral("chiusa"));
     QVERIFY(QDir().mkpath(cartella + QStringLiteral("/Contabilita/ini")));
     Dirtxt(cartella);
     QVERIFY(QFile::setPermissions(dati_->path(), Permessi::PerTutti));
-    QVERIFY(QFile::setPermissions(ambiente_->path(),
+    QVERIFY(QFile::setPermissions(impostazioni_->Cartella(),
                                   Permessi::PerTutti | QFile::WriteGroup | QFile::WriteOther));
     QVERIFY(QFile::setPermissions(cartella, Permessi::Nessuno));
     Robot robot;
@@ -385,6 +388,9 @@ void tst_SelezioneArchivifrm::Archivio_senzaIni()
 
 void tst_SelezioneArchivifrm::Archivio_illeggibile()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     QVERIFY(QDir(dati_->path()).mkpath(QStringLiteral("Zeta/ini")));
     QVERIFY(QFile::setPermissions(dati_->path(), Permessi::PerTutti));
     QVERIFY(QFile::setPermissions(In(QStringLiteral("Zeta/ini")), Permessi::Nessuno));

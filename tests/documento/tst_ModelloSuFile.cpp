@@ -319,8 +319,10 @@ void tst_ModelloSuFile::LaCopiaMancataSiDiceUnaVolta()
     QVERIFY(ostacolo.remove());
     apertura.ScriveTipo(QStringLiteral("tre"));
     QCOMPARE(banco.Copie(), 1);
-    QVERIFY(QDir(banco.CartellaCopie()).removeRecursively());
-    QVERIFY(ostacolo.open(QIODevice::WriteOnly));
+    const QDir copie(banco.CartellaCopie());
+    const QString copia = copie.entryList({QStringLiteral("*.recupero")}, QDir::Files).value(0);
+    QVERIFY(QFile::remove(copie.filePath(copia)));
+    QVERIFY(copie.mkdir(copia)); // a folder where the file should be
     apertura.ScriveTipo(QStringLiteral("quattro"));
     QCOMPARE(apertura.Utente.Avvisi.size(), 2); // it had worked again
 }

@@ -1,6 +1,7 @@
 #include "documento/UltimeCorrezioni.h"
 
 #include "base/ErroreSistema.h"
+#include "support/Permessi.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,6 +42,7 @@ class tst_UltimeCorrezioni : public QObject
     Q_OBJECT
 private slots:
     void propostaAlProssimoModello();
+    void soloPerLUtente();
     void maiDueVolteLoStessoModello();
     void unaNuovaValePerTutti();
     void ogniStampanteLaSua();
@@ -60,6 +62,15 @@ void tst_UltimeCorrezioni::propostaAlProssimoModello()
     // Another run of the program.
     QCOMPARE(UltimeCorrezioni(cartella.Percorso()).Proposta(Laser, Due), (Spostamento{2, -1}));
     QVERIFY(!UltimeCorrezioni(cartella.Percorso()).Proposta(Laser, Uno));
+}
+
+void tst_UltimeCorrezioni::soloPerLUtente()
+{
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
+    const Cartella cartella;
+    UltimeCorrezioni(cartella.Percorso()).Ricorda(Laser, Uno, {2, -1});
     QCOMPARE(QFile::permissions(cartella.File()) & (QFile::ReadOther | QFile::ReadGroup),
              QFile::Permissions());
 }

@@ -409,6 +409,9 @@ void tst_ImmaginiIncollate::OrigineSconosciuta()
 
 void tst_ImmaginiIncollate::SenzaDirittiNonSiIncollaNiente()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     DueArchivi due({Logo});
     MetteFile(due.fonte, Logo, Rossa());
     QVERIFY(due.qui.Apre());

@@ -236,6 +236,9 @@ void tst_RecuperoOfferta::UgualeAlFileNonSiOffre()
 
 void tst_RecuperoOfferta::NonLeggibileSiDice()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     LavoroLasciato prova(2);
     const QString file = CopieDi(prova).Cerca().constFirst().file;
     const QString modelli = prova.Stato().CartellaModelli;

@@ -160,7 +160,9 @@ void tst_Finestre::ImpostaLingua_generiDiFile()
     ImpostaLingua();
     const QTemporaryDir cartella;
     const QFileIconProvider icone;
-    QCOMPARE(icone.type(QFileInfo(cartella.path())), QStringLiteral("Cartella"));
+    const QString tipo = icone.type(QFileInfo(cartella.path()));
+    QVERIFY2(tipo == QLatin1String("Cartella") || tipo == QLatin1String("Cartella di file"),
+             qPrintable(tipo)); // the latter on Windows
     QCOMPARE(icone.type(QFileInfo(QDir::rootPath())), QStringLiteral("Unità"));
     // Nothing else takes the place of what is not translated.
     QCOMPARE(QCoreApplication::translate("QAltro", "Folder", "All other platforms"),

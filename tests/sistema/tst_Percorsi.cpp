@@ -249,6 +249,9 @@ void tst_Percorsi::SottoCartelle_mancante()
 
 void tst_Percorsi::SottoCartelle_illeggibile()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     QVERIFY(QDir(cartella_->path()).mkpath(QStringLiteral("chiusa/dentro")));
     QVERIFY(QFile::setPermissions(cartella_->path(), Permessi::PerTutti));
     QVERIFY(QFile::setPermissions(In(QStringLiteral("chiusa")), Permessi::Nessuno));
@@ -318,6 +321,9 @@ void tst_Percorsi::FileConModello_unFile()
 
 void tst_Percorsi::FileConModello_illeggibile()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("chiusa")));
     QVERIFY(QFile::setPermissions(cartella_->path(), Permessi::PerTutti));
     QVERIFY(QFile::setPermissions(In(QStringLiteral("chiusa")), Permessi::Nessuno));
@@ -453,6 +459,9 @@ void tst_Percorsi::Elimina_cartella()
 
 void tst_Percorsi::Elimina_cartellaSenzaDiritti()
 {
+    if (!Permessi::DiOgnuno()) {
+        QSKIP(Permessi::Assenti);
+    }
     QVERIFY(QDir(cartella_->path()).mkdir(QStringLiteral("c")));
     Scrive(QStringLiteral("c/a.Mod"));
     QVERIFY(QFile::setPermissions(cartella_->path(), Permessi::PerTutti));

@@ -6,8 +6,7 @@
 
 #include <memory>
 
-/// Files and limits of the system that tests set up. LimiteFile and UtenteComune are for POSIX
-/// systems alone.
+/// Files and limits of the system that tests set up.
 
 /// The bytes of the file; a failure fails the running test and gives nothing.
 QByteArray ByteDi(const QString &percorso);
@@ -21,7 +20,8 @@ void Invecchia(const QString &percorso, qint64 secondi);
 /// What the lock file of a process on this machine holds that was killed.
 QByteArray LucchettoDiUnMorto();
 
-/// While it lives no file of this process may grow beyond so many bytes.
+/// While it lives no file of this process may grow beyond so many bytes; on Windows it finds the
+/// disk full there.
 class LimiteFile
 {
 public:
@@ -36,7 +36,8 @@ private:
 };
 
 /// While it lives the process has no rights that an ordinary user lacks, even when the tests are
-/// run by the administrator, whom no file refuses itself to.
+/// run by the administrator, whom no file refuses itself to. Nothing on Windows: see
+/// Permessi::DiOgnuno.
 class UtenteComune
 {
 public:
