@@ -131,7 +131,7 @@ QString Percorsi::Risolve(const QString &percorso)
         inizi.append(UltimaBarra(QStringView(nativo).left(esistente)) + 1);
         esistente = SenzaBarreFinali(nativo, inizi.last());
     }
-    QString risolto = nativo.left(esistente);
+    QString risolto = SuDisco::ComeSulDisco(nativo.left(esistente));
     qsizetype scritti = esistente; // characters of nativo that risolto stands for
     while (!inizi.isEmpty()) {
         const qsizetype inizio = inizi.takeLast();

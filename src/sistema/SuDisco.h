@@ -16,6 +16,10 @@ std::error_code UltimoErrore();
 /// Whether the file has further names (hard links).
 bool HaAltriNomi(const QString &percorso);
 
+/// The path of something that is there, its names spelt as their folders spell them. On Windows,
+/// where any case leads to it; elsewhere that is the path itself.
+QString ComeSulDisco(const QString &percorso);
+
 /// Why the folder's names cannot be listed; no error when they can.
 std::error_code SiElenca(const QString &cartella);
 
@@ -34,8 +38,8 @@ std::error_code SincronizzaCartella(const QString &cartella);
 bool TieneProprieta(int descrittore, const QString &vecchio);
 
 /// Moves the file nuovo into the place of vecchio, which may be there or not. On Windows it takes
-/// over the access list and the attributes of the old file; one that another program holds open can
-/// only be rewritten there, and counts as one that the user may not replace.
+/// over the old file's access list and the spelling of its name; one that another program holds
+/// open can only be rewritten there, and counts as one that the user may not replace.
 std::error_code PrendeIlPosto(const QString &nuovo, const QString &vecchio);
 
 /// Makes a write beyond the system's limit for the size of a file (ulimit -f) fail like any other,

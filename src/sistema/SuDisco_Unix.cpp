@@ -138,6 +138,11 @@ bool SuDisco::HaAltriNomi(const QString &percorso)
     return !codice && nomi > 1;
 }
 
+QString SuDisco::ComeSulDisco(const QString &percorso)
+{
+    return percorso;
+}
+
 std::error_code SuDisco::SiElenca(const QString &cartella)
 {
     std::error_code codice;

@@ -16,9 +16,31 @@
 
 namespace {
 
+/// The standard library knows the causes of most errors; those that a failing medium or share gives
+/// besides are named here, so that the user is told the right one.
 std::error_code Codice(DWORD errore)
 {
-    return {static_cast<int>(errore), std::system_category()};
+    constexpr DWORD SpazioDellUtenteFinito = 1295; // the compiler's own headers lack it
+    switch (errore) {
+    case SpazioDellUtenteFinito:
+    case ERROR_NOT_ENOUGH_QUOTA:
+        return std::make_error_code(std::errc::no_space_on_device);
+    case ERROR_WRITE_FAULT:
+    case ERROR_READ_FAULT:
+    case ERROR_GEN_FAILURE:
+    case ERROR_NOT_READY:
+    case ERROR_SEM_TIMEOUT:
+    case ERROR_NETNAME_DELETED:
+    case ERROR_CONNECTION_ABORTED:
+        return std::make_error_code(std::errc::io_error);
+    default:
+        return {static_cast<int>(errore), std::system_category()};
+    }
+}
+
+HANDLE Maniglia(int descrittore)
+{
+    return reinterpret_cast<HANDLE>(_get_osfhandle(descrittore));
 }
 
 struct Libera
@@ -84,6 +106,36 @@ bool TieneListaAccessi(HANDLE nuovo, std::wstring vecchio)
                            nullptr, lista, nullptr) == ERROR_SUCCESS;
 }
 
+/// What a user or the system has marked the old file with. The times stay the new file's own.
+void TieneAttributi(HANDLE nuovo, const std::wstring &vecchio)
+{
+    constexpr DWORD Tenuti =
+        FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    const DWORD attributi = GetFileAttributesW(vecchio.c_str());
+    if (attributi != INVALID_FILE_ATTRIBUTES && (attributi & Tenuti) != 0) {
+        FILE_BASIC_INFO informazioni{};
+        informazioni.FileAttributes = (attributi & Tenuti) | FILE_ATTRIBUTE_ARCHIVE;
+        SetFileInformationByHandle(nuovo, FileBasicInfo, &informazioni, sizeof informazioni);
+    }
+}
+
+/// The path with its last name as the folder spells it: a file that takes the place of another gets
+/// the name that it is given.
+std::wstring ComeSiChiama(const std::wstring &percorso)
+{
+    WIN32_FIND_DATAW trovato{};
+    const HANDLE ricerca = FindFirstFileW(percorso.c_str(), &trovato);
+    if (ricerca == INVALID_HANDLE_VALUE) {
+        return percorso;
+    }
+    FindClose(ricerca);
+    const std::size_t inizio = percorso.find_last_of(L'\\') + 1;
+    // Only that very name: "*" and "?" find others, too.
+    const bool suo = CompareStringOrdinal(percorso.c_str() + inizio, -1, trovato.cFileName, -1,
+                                          TRUE) == CSTR_EQUAL;
+    return suo ? percorso.substr(0, inizio) + trovato.cFileName : percorso;
+}
+
 /// Where ReplaceFile does not take the place, moving does: there is no old file, the file system
 /// knows no such call, or it has left off half way, with the old file out of the way or not.
 bool SiPuoSpostare(DWORD errore)
@@ -127,6 +179,25 @@ bool SuDisco::HaAltriNomi(const QString &percorso)
            informazioni.nNumberOfLinks > 1;
 }
 
+QString SuDisco::ComeSulDisco(const QString &percorso)
+{
+    QString scritto = percorso;
+    qsizetype inizio = 0;
+    while (inizio < scritto.size()) {
+        const qsizetype barra = scritto.indexOf(u'\\', inizio);
+        const qsizetype fine = barra < 0 ? scritto.size() : barra;
+        const std::wstring intero = ComeSiChiama(PerIlSistema(scritto.left(fine)));
+        const QString nome = QString::fromStdWString(intero.substr(intero.find_last_of(L'\\') + 1));
+        // Drives, shares, ".." and short names stay as they are.
+        if (nome.compare(QStringView(scritto).mid(inizio, fine - inizio), Qt::CaseInsensitive) ==
+            0) {
+            scritto.replace(inizio, fine - inizio, nome);
+        }
+        inizio = fine + 1;
+    }
+    return scritto;
+}
+
 std::error_code SuDisco::SiElenca(const QString &cartella)
 {
     const Aperto aperta(CreateFileW(PerIlSistema(cartella).c_str(), FILE_LIST_DIRECTORY, PerTutti,
@@ -136,10 +207,13 @@ std::error_code SuDisco::SiElenca(const QString &cartella)
 
 std::error_code SuDisco::Sincronizza(int descrittore)
 {
-    if (_commit(descrittore) == 0 || errno == EINVAL || errno == ENOSYS) {
+    // Not the C library's way, which does not tell why it failed.
+    if (FlushFileBuffers(Maniglia(descrittore)) != 0) {
         return {};
     }
-    return {errno, std::generic_category()};
+    const DWORD errore = GetLastError();
+    return errore == ERROR_INVALID_FUNCTION || errore == ERROR_NOT_SUPPORTED ? std::error_code()
+                                                                             : Codice(errore);
 }
 
 std::error_code SuDisco::SincronizzaCartella(const QString & /*cartella*/)
@@ -149,12 +223,14 @@ std::error_code SuDisco::SincronizzaCartella(const QString & /*cartella*/)
 
 bool SuDisco::TieneProprieta(int descrittore, const QString &vecchio)
 {
-    const auto nuovo = reinterpret_cast<HANDLE>(_get_osfhandle(descrittore));
+    const HANDLE nuovo = Maniglia(descrittore);
+    const std::wstring percorso = PerIlSistema(vecchio);
+    TieneAttributi(nuovo, percorso);
     // The handle that Qt opened may not be allowed to; a file system without lists has none to
     // keep.
     const Aperto perLaLista(ReOpenFile(nuovo, READ_CONTROL | WRITE_DAC, PerTutti, 0));
     if (perLaLista.get() != INVALID_HANDLE_VALUE) {
-        TieneListaAccessi(perLaLista.get(), PerIlSistema(vecchio));
+        TieneListaAccessi(perLaLista.get(), percorso);
     }
     return true;
 }
@@ -162,7 +238,7 @@ bool SuDisco::TieneProprieta(int descrittore, const QString &vecchio)
 std::error_code SuDisco::PrendeIlPosto(const QString &nuovo, const QString &vecchio)
 {
     const std::wstring da = PerIlSistema(nuovo);
-    const std::wstring a = PerIlSistema(vecchio);
+    const std::wstring a = ComeSiChiama(PerIlSistema(vecchio));
     if (ReplaceFileW(a.c_str(), da.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                      nullptr) != 0) {
         return {};

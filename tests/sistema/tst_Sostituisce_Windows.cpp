@@ -3,6 +3,7 @@
 #include "sistema/Percorsi.h"
 #include "support/Errori.h"
 #include "support/FileDiProva.h"
+#include "support/RestiDiWine_Windows.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -116,7 +117,7 @@ void tst_Sostituisce_Windows::ApertoDaAltri()
     QCOMPARE(trovato, errore);
     QCOMPARE(riscritture, riscritti);
     QCOMPARE(ByteDi(File()), errore == 0 ? Nuovi : Vecchi);
-    QCOMPARE(NomiIn(cartella_->path()).size(), 1);
+    QCOMPARE(NomiSenzaWine(cartella_->path()).size(), 1);
 }
 
 void tst_Sostituisce_Windows::SolaLettura()
