@@ -5,6 +5,10 @@ set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+# For Windows GCC believes that an inline function or template is its own copy of it and leaves in
+# registers what that copy does not touch, though the linker may take the copy of another source, Qt's
+# or ours. So none of that here, and the same optimisation for both, so that the copies are alike.
+set(CMAKE_CXX_FLAGS_INIT -fno-ipa-ra)
 
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES QT_WINDOWS)
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${QT_WINDOWS})

@@ -3,6 +3,7 @@
 # QT_WINDOWS: the folder that qt.sh names.
 include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG" CACHE STRING "As Qt is compiled")
 find_program(WINE NAMES wine64 wine PATHS /usr/lib/wine NO_CMAKE_FIND_ROOT_PATH)
 if(WINE)
   set(CMAKE_CROSSCOMPILING_EMULATOR ${WINE})
