@@ -342,6 +342,7 @@ void tst_SalvataggioGuasti_Windows::RiscrivendoUnaChiamataFallita()
          esito = SalvaConGuasto({Archivio(), chiamata, ++n, causa, modo}, File(), Stato())) {
         QCOMPARE(esito.errore, errore);
         QCOMPARE(ByteDi(File()), Vecchi()); // put back
+        QVERIFY(QDir(Stato()).removeRecursively());
         QCOMPARE(NomiSenzaWine(Archivio()), QStringList{QStringLiteral("Fattura.Mod")});
     }
     QVERIFY2(n > 2, "the file was not rewritten");

@@ -43,6 +43,8 @@ void Invecchia(const QString &percorso, qint64 secondi)
 QByteArray LucchettoDiUnMorto()
 {
     constexpr qint64 MaiEsistito = (qint64(1) << 22) + 1; // beyond what Linux numbers
+    // Qt's name of the machine on Windows.
+    const QString macchina = qEnvironmentVariable("COMPUTERNAME", QSysInfo::machineHostName());
     return QByteArray::number(MaiEsistito) + '\n' + QCoreApplication::applicationName().toUtf8() +
-           '\n' + QSysInfo::machineHostName().toUtf8() + '\n';
+           '\n' + macchina.toUtf8() + '\n';
 }
