@@ -181,16 +181,25 @@ bool SuDisco::HaAltriNomi(const QString &percorso)
 
 QString SuDisco::ComeSulDisco(const QString &percorso)
 {
+    // Nobody writes "..", but a text with thousands of them names a folder that is there: each part
+    // would be looked up.
+    if (percorso.contains(QLatin1String("\\.."))) {
+        return percorso;
+    }
     QString scritto = percorso;
     qsizetype inizio = 0;
     while (inizio < scritto.size()) {
         const qsizetype barra = scritto.indexOf(u'\\', inizio);
         const qsizetype fine = barra < 0 ? scritto.size() : barra;
+        const auto parte = QStringView(scritto).mid(inizio, fine - inizio);
+        if (parte.isEmpty() || parte == u'.') {
+            inizio = fine + 1;
+            continue;
+        }
         const std::wstring intero = ComeSiChiama(PerIlSistema(scritto.left(fine)));
         const QString nome = QString::fromStdWString(intero.substr(intero.find_last_of(L'\\') + 1));
-        // Drives, shares, ".." and short names stay as they are.
-        if (nome.compare(QStringView(scritto).mid(inizio, fine - inizio), Qt::CaseInsensitive) ==
-            0) {
+        // Drives, shares and short names stay as they are.
+        if (nome.compare(parte, Qt::CaseInsensitive) == 0) {
             scritto.replace(inizio, fine - inizio, nome);
         }
         inizio = fine + 1;
