@@ -22,6 +22,9 @@ public:
     /// True where the sheet is looked at, smaller than it is: with its edges smoothed, so that none
     /// vanishes, and with fewer pixels of its pictures.
     virtual bool SulloSchermo() const { return false; }
+    /// True where the device paints pictures onto whole points only, and takes the point at the
+    /// left or above where a place lies between two.
+    virtual bool FigureSuPuntiInteri() const { return false; }
     /// To be called before painting begins. Throws ErroreSistema when nothing could be printed.
     virtual void Prepara() {}
     /// What to throw when painting can be neither begun nor ended.

@@ -185,7 +185,21 @@ void Pagina::DipingeFigura(const QRectF &posto, const FigureInMemoria::Figura &f
 void Pagina::DipingeImmagine(const QRectF &posto, const QImage &immagine, bool senzaPerdita)
 {
     pittore_.setRenderHint(QPainter::LosslessImageRendering, senzaPerdita);
-    pittore_.drawImage(posto, immagine);
+    if (!destinazione_.FigureSuPuntiInteri()) {
+        pittore_.drawImage(posto, immagine);
+        return;
+    }
+    // The nearest points, edge by edge, so that neighbours still meet. A translation of the painter
+    // would take such a device yet another point off, and a size that falls short of a whole number
+    // by the last digit would lose a point.
+    constexpr double UltimaCifra = 1e-6;
+    const QTransform trasformazione = pittore_.transform();
+    const QRectF sulDispositivo = trasformazione.mapRect(posto);
+    const QPoint angolo(qRound(sulDispositivo.left()), qRound(sulDispositivo.top()));
+    const QPoint opposto(qRound(sulDispositivo.right()), qRound(sulDispositivo.bottom()));
+    pittore_.resetTransform();
+    pittore_.drawImage(QRectF(angolo, opposto).adjusted(0, 0, UltimaCifra, UltimaCifra), immagine);
+    pittore_.setTransform(trasformazione);
 }
 
 void Pagina::Dipinge()

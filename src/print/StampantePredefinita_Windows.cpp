@@ -16,6 +16,7 @@ public:
     }
     QPagedPaintDevice &Dispositivo() override { return *stampante_; }
     QString Nome() const override { return stampante_->printerName(); }
+    bool FigureSuPuntiInteri() const override { return true; }
     void Titolo(const QString &titolo) override { stampante_->setDocName(titolo); }
     ErroreSistema Rifiuto() const override
     {

@@ -1,8 +1,41 @@
 #include "FoglioDiProva.h"
 
+#include <QPdfWriter>
 #include <QTest>
 
+#include <cmath>
+
 using namespace ImmaginiDiProva;
+
+namespace {
+
+/// A printer of few points that paints pictures onto whole ones.
+class StampanteAPunti : public Destinazione
+{
+public:
+    static constexpr int PuntiPerPollice = 100;
+
+    explicit StampanteAPunti(const QString &percorso)
+        : scrittore_(percorso)
+    {
+        scrittore_.setResolution(PuntiPerPollice);
+        scrittore_.setPageLayout({QPageSize(QPageSize::A4),
+                                  QPageLayout::Portrait,
+                                  {4.3, 4.9, 4.3, 4.9},
+                                  QPageLayout::Millimeter});
+    }
+    QPagedPaintDevice &Dispositivo() override { return scrittore_; }
+    QString Nome() const override { return {}; }
+    void Titolo(const QString & /*titolo*/) override {}
+    bool FigureSuPuntiInteri() const override { return true; }
+    ErroreSistema Rifiuto() const override { return ErroreSistema(ErroreSistema::Stampante); }
+    void Consegna() override {}
+
+private:
+    QPdfWriter scrittore_;
+};
+
+} // namespace
 
 /// Where the pictures of a model stand on the sheet, and what is said of one that cannot be
 /// printed.
@@ -14,6 +47,7 @@ private slots:
     void immagine();
     void immagineSenzaMisura();
     void immagineMillimetriInteri();
+    void figureSuiPuntiInteriPiuVicini();
     void diagnosi_data();
     void diagnosi();
     void diagnosiTesto();
@@ -62,6 +96,35 @@ void tst_ImmaginiSuCarta::immagineMillimetriInteri()
     QVERIFY2(Vicini(a, QRectF(10, 10, 10, 10)), Testo(a));
     QVERIFY2(Vicini(b, QRectF(112, 12, 10, 12)), Testo(b));
     QVERIFY2(Vicini(c, QRectF(11, 100, 10, 9)), Testo(c));
+}
+
+void tst_ImmaginiSuCarta::figureSuiPuntiInteriPiuVicini()
+{
+    constexpr double Punto = 25.4 / StampanteAPunti::PuntiPerPollice;
+    FoglioDiProva foglio;
+    const QByteArray byte = InFormato(Tinta({3, 3}, 0), "bmp");
+    QList<QRectF> posti;
+    for (int i = 0; i < 5; ++i) {
+        posti.append(QRectF(11 + 31 * i, 12 + 31 * i, 20, 21));
+        foglio.ConImmagine(QStringLiteral("%1.bmp").arg(i), byte, posti.last());
+    }
+    StampanteAPunti stampante(foglio.Pdf());
+    StampaModello(foglio.Aperto, foglio.Cartella(), stampante, false, [](const QString &) {});
+    const LettorePdf pdf(foglio.Pdf());
+    for (const QRectF &posto : posti) {
+        const QRectF sulFoglio = posto.translated(4.3, 4.9);
+        const QRectF visto = pdf.Inchiostro(sulFoglio.adjusted(-3, -3, 3, 3));
+        const QList<std::pair<double, double>> lati{{visto.left(), sulFoglio.left()},
+                                                    {visto.top(), sulFoglio.top()},
+                                                    {visto.right(), sulFoglio.right()},
+                                                    {visto.bottom(), sulFoglio.bottom()}};
+        for (const auto &[lato, voluto] : lati) {
+            const double punti = lato / Punto; // of which a pixel of the reader is a sixth
+            QVERIFY2(std::abs(punti - std::round(punti)) < 0.2, Testo(visto));
+            // The page's origin is rounded as well.
+            QVERIFY2(std::abs(lato - voluto) < 0.75 * Punto, Testo(visto));
+        }
+    }
 }
 
 void tst_ImmaginiSuCarta::diagnosi_data()
