@@ -55,8 +55,11 @@ qt=${pacchetto#*=}
 sed -e "s/@VERSIONE@/$versione/g" -e "s/@QT@/${qt%%[+-]*}/g" -e "s/@PACCHETTO_QT@/$pacchetto/g" \
   -e 's/$/\r/' $qui/LEGGIMI.txt.in > "$costruzione/LEGGIMI.txt"
 
+risorse=$PWD/$costruzione/packaging/windows/risorse
+convert -size 164x314 gradient:'#ffffff-#dfe5f0' "$risorse/plakera_64.png" -gravity north -geometry +0+70 -composite \
+  "BMP3:$risorse/fianco.bmp"
 makensis -V2 -INPUTCHARSET UTF8 -DVERSIONE="$versione" -DPROGRAMMA="$programma" -DLICENZE="$licenze" \
-  -DCARTELLA="$PWD/$costruzione" -DICONA="$PWD/$costruzione/packaging/windows/risorse/plakera.ico" \
+  -DCARTELLA="$PWD/$costruzione" -DICONA="$risorse/plakera.ico" -DFIANCO="$risorse/fianco.bmp" \
   -DUSCITA="$uscita/plakera-$versione-setup.exe" $qui/plakera.nsi
 # What the licence of Qt asks to be handed out beside it.
 if git rev-parse --is-inside-work-tree > /dev/null 2>&1; then

@@ -1,6 +1,7 @@
 ; The installer. costruisci.sh calls makensis with
 ;   VERSIONE  1.0.0            PROGRAMMA  folder with what "cmake --install" put there
 ;   LICENZE   Qt's licences    CARTELLA   this folder     USCITA  the installer to be written
+;   ICONA     the program's    FIANCO     picture beside the first page and the last
 ; Command line: /S without windows, /AllUsers or /CurrentUser, /MOD=1 opens .Mod files with Plakera,
 ; /D=C:\folder (last, without quotes).
 Unicode true
@@ -33,6 +34,8 @@ ManifestSupportedOS Win10
 
 Name "${NOME}"
 BrandingText "${NOME} ${VERSIONE}"
+; NSIS's own word is that of an installation, for removals too.
+CompletedText "Completato"
 OutFile "${USCITA}"
 VIProductVersion "${VERSIONE}.0"
 VIAddVersionKey /LANG=1040 ProductName "${NOME}"
@@ -43,6 +46,7 @@ VIAddVersionKey /LANG=1040 LegalCopyright "${NOME}"
 
 !define MUI_ICON "${ICONA}"
 !define MUI_UNICON "${ICONA}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${FIANCO}"
 !define MUI_ABORTWARNING
 !define MUI_COMPONENTSPAGE_SMALLDESC
 !insertmacro MUI_PAGE_WELCOME
@@ -111,7 +115,7 @@ Section "${NOME}" SezioneProgramma
   WriteRegStr SHCTX "${CHIAVE_DISINSTALLA}" "QuietUninstallString" '"$INSTDIR\disinstalla.exe" /$MultiUser.InstallMode /S'
   WriteRegDWORD SHCTX "${CHIAVE_DISINSTALLA}" "NoModify" 1
   WriteRegDWORD SHCTX "${CHIAVE_DISINSTALLA}" "NoRepair" 1
-  ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+  SectionGetSize ${SezioneProgramma} $0
   WriteRegDWORD SHCTX "${CHIAVE_DISINSTALLA}" "EstimatedSize" $0
 SectionEnd
 
@@ -136,8 +140,9 @@ Section /o "Apri i file .Mod con Plakera" SezioneMod
   !insertmacro RinnovaIcone
 SectionEnd
 
+; Two lines each: the page has room for no more.
 LangString DescriviProgramma ${LANG_ITALIAN} "Il programma, il suo manuale e le licenze."
-LangString DescriviMod ${LANG_ITALIAN} "Un doppio clic su un modello lo apre con Plakera. Altri programmi che aprono file .Mod restano come sono, se non si risponde Sì quando viene chiesto."
+LangString DescriviMod ${LANG_ITALIAN} "Un doppio clic su un modello lo apre con Plakera. Se lo apre già un altro programma, viene chiesto prima."
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
   !insertmacro MUI_DESCRIPTION_TEXT ${SezioneProgramma} $(DescriviProgramma)
   !insertmacro MUI_DESCRIPTION_TEXT ${SezioneMod} $(DescriviMod)
