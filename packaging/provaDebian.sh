@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
 # provaDebian.sh [PACKAGE]: proves the Debian package, by default the one in build/pacchetto/, as root:
 # lintian finds nothing; into a Debian that has nothing but its base it brings along all that it needs;
-# there it starts, opens a model and the manual and prints; and purged it leaves the system as it was.
+# there it starts, opens a model and the manual and prints, and one whole task is done with it; and purged it leaves
+# the system as it was. Pictures of the windows are left in build/provaDebian.
 #
 # The clean Debian is made from the network once and kept as build/radice.tar; remove that for a new one.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 [ "$(id -u)" -eq 0 ] || exec sudo "$(realpath packaging/provaDebian.sh)" "$@"
-cmake/installa.sh provaPacchetto
+if [ -z "${PLAKERA_FOGLI:-}" ]; then
+  cmake/installa.sh provaPacchetto
+  exec packaging/conCoda.sh packaging/provaDebian.sh "$@"
+fi
 export LC_ALL=C.UTF-8
 umask 022
 pacchetti=(build/pacchetto/*.deb)
@@ -17,14 +21,21 @@ radice=$lavoro/radice
 programma=
 schermo=
 gestore=
+dove=$PWD/build/provaDebian
+rm -rf "$dove"
+mkdir -p "$dove"
+. packaging/verifiche.sh
+. packaging/compito.sh
 
+monti() { findmnt -rno TARGET | grep -F "$radice/" || true; }
 finisce() {
-  [ -z "$programma" ] || kill "$programma" 2>/dev/null || true
+  # It is a child of the shell that waits for it.
+  [ -z "$programma" ] || pkill -P "$programma" || true
   [ -z "$gestore" ] || kill "$gestore" 2>/dev/null || true
   [ -z "$schermo" ] || kill "$schermo" 2>/dev/null || true
-  umount "$radice/proc" 2>/dev/null || true
+  monti | while read -r posto; do umount "$posto" || true; done
   # Nothing that is still mounted may be removed with it.
-  mountpoint -q "$radice/proc" || rm -rf "$lavoro"
+  [ -n "$(monti)" ] || rm -rf "$lavoro"
 }
 trap finisce EXIT
 passo() { printf '== %s\n' "$*"; }
@@ -78,6 +89,9 @@ mapfile -t altri < <(dentro apt-get install -s --no-install-recommends /root/pla
   sed -n 's/^Inst \([^ ]*\) .*/\1/p' | grep -vx plakera)
 passo "${#altri[@]} packages of the system that it needs"
 dentro apt-get install -y -qq --no-install-recommends "${altri[@]}" > "$lavoro/apt" 2>&1 ||
+  { tail -5 "$lavoro/apt" >&2; fallisce "apt-get"; }
+# Recommended, and on every desktop: among the Liberation fonts alone windows are set in a typewriter's letters.
+dentro apt-get install -y -qq --no-install-recommends fonts-dejavu-core > "$lavoro/apt" 2>&1 ||
   { tail -5 "$lavoro/apt" >&2; fallisce "apt-get"; }
 # What opens documents: it writes down which.
 printf '#!/bin/sh\necho "$1" >> /tmp/aperti\n' > "$radice/usr/bin/xdg-open"
@@ -159,10 +173,41 @@ manuale() {
 }
 apre '^Plakera - Modelli stampa' manuale
 apre '^Plakera: Modello Fattura_Rossi\.Mod$' true $ini/Fattura_Rossi.Mod
-lasciati=$(cd "$radice/home/prova" && find . -type f -not -path './dati/*' -not -path './.cache/fontconfig/*' -not -name '.bash*' -not -name .profile)
-[ -z "$lasciati" ] || fallisce "the user's folder holds $lasciati"
-[ -z "$(ls -A "$radice/tmp/prova")" ] || fallisce "the lock of the one instance is left"
+nienteInPiu() {
+  local lasciati
+  lasciati=$(cd "$radice/home/prova" && find . -type f -not -path './dati/*' -not -path './.cache/fontconfig/*' -not -name '.bash*' -not -name .profile)
+  [ -z "$lasciati" ] || fallisce "the user's folder holds $lasciati"
+  [ -z "$(ls -A "$radice/tmp/prova")" ] || fallisce "the lock of the one instance is left"
+}
+nienteInPiu
 diff -r sample "$radice/home/prova/dati" || fallisce "the models have changed"
+
+passo "one whole task"
+# The print server's folder stands in there under its own name.
+coda=$(dirname "$CUPS_SERVER")
+mkdir -p "$radice$coda"
+mount --bind "$coda" "$radice$coda"
+utente mkdir /home/prova/.config
+utente cp -r /home/prova/dati /home/prova/lavoro
+printf '[INI]\ndirtxt=/home/prova/lavoro\n' > "$radice/home/prova/.config/vastrel.ini"
+casaUtente=$radice/home/prova
+archivio=$casaUtente/lavoro/Contabilita/ini
+AvviaProgramma() {
+  utente env CUPS_SERVER="$CUPS_SERVER" plakera &
+  programma=$!
+}
+ProgrammaFinito() { ! kill -0 $programma 2>/dev/null; }
+EsportaCompito() {
+  utente plakera --modello /home/prova/lavoro/Contabilita/ini/Compito.Mod --pdf /home/prova/atteso.pdf &&
+    mv "$casaUtente/atteso.pdf" "$dove/"
+}
+Compito
+[ $falliti -eq 0 ] || fallisce "$falliti of $((riusciti + falliti)) checks of the task"
+wait $programma || fallisce "the program ended with $?"
+programma=
+umount "$radice$coda"
+rm -r "$casaUtente/lavoro" "$casaUtente/.config" "$casaUtente/0logo.jpg"
+nienteInPiu
 
 passo "purging"
 dentro apt-get purge -y -qq plakera > "$lavoro/apt" 2>&1 || { tail -5 "$lavoro/apt" >&2; fallisce "apt-get"; }

@@ -10,15 +10,13 @@ qui=$radice/packaging/windows
 dove=$radice/build/windows/prova
 
 if [ -z "${PLAKERA_FOGLI:-}" ]; then
-  cmake/installa.sh build test windows-prova
-  cmake --preset debug > /dev/null
-  cmake --build --preset debug --target coda_di_stampa
+  cmake/installa.sh windows-prova
   export LC_ALL=C.UTF-8
   installazione=$(readlink -f "${1:-$(ls "$radice"/build/windows/uscita/plakera-*-setup.exe | tail -1)}")
   rm -rf "$dove"
   mkdir -p "$dove"
   # Alone on a screen and beside a print server of its own; the paper is A4.
-  exec build/debug/tests/coda_di_stampa xvfb-run -a -s '-screen 0 1920x1080x24 -dpi 96' \
+  exec packaging/conCoda.sh xvfb-run -a -s '-screen 0 1920x1080x24 -dpi 96' \
     "$qui/prova.sh" "$installazione"
 fi
 
@@ -26,39 +24,8 @@ installazione=$1
 export WINEPREFIX=$dove/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' WINEARCH=win64
 export HOME=$dove/casa
 mkdir -p "$HOME"
-riusciti=0 falliti=0
-
-Verifica() { # name command...
-  local nome=$1
-  shift
-  if "$@" > "$dove/ultima.log" 2>&1; then
-    riusciti=$((riusciti + 1))
-    echo "ok       $nome"
-  else
-    falliti=$((falliti + 1))
-    echo "FALLITO  $nome"
-    sed 's/^/         | /' "$dove/ultima.log" | head -12
-  fi
-}
-
-Attende() { # seconds command...: until the command succeeds
-  local fine=$((SECONDS + $1))
-  shift
-  until "$@"; do
-    [ $SECONDS -lt $fine ] || return 1
-    sleep 0.2
-  done
-}
-
-# Reads to the end, unlike grep -q: a program that writes into a closed pipe has failed.
-Contiene() { grep "$@" > /dev/null; }
-
-Finestra() { # title, as a regular expression: the active window has it
-  [ -n "$(xdotool getactivewindow getwindowname 2> /dev/null | grep -E "$1")" ]
-}
-SiApre() { Attende 60 Finestra "$1"; }
-Tasti() { xdotool key --clearmodifiers --delay 60 "$@"; }
-Foto() { import -window root "$dove/$1.png"; }
+. "$radice/packaging/verifiche.sh"
+. "$radice/packaging/compito.sh"
 NessunPlakera() { ! wine tasklist 2> /dev/null | Contiene -i plakera.exe; }
 Uccide() { wine taskkill /f /im plakera.exe > /dev/null 2>&1 || true; Attende 30 NessunPlakera; }
 
@@ -88,10 +55,74 @@ modelli="$dati/Contabilita/ini"
 modello="$datiWindows\\Contabilita\\ini\\Fattura_Rossi.Mod"
 file="$modelli/Fattura_Rossi.Mod"
 
+# ---------------------------------------------------------------- the installer, as it is seen
+solita="$WINEPREFIX/drive_c/Program Files/Plakera"
+Avanti() { # keys: until the screen has changed and stands still
+  local prima ora poi
+  prima=$(import -window root rgb:- | md5sum)
+  Tasti "$@"
+  Attende 60 eval '[ "$(import -window root rgb:- | md5sum)" != "$prima" ]' || return 1
+  for ((i = 0; i < 60; i++)); do
+    ora=$(import -window root rgb:- | md5sum)
+    sleep 0.7
+    poi=$(import -window root rgb:- | md5sum)
+    [ "$ora" != "$poi" ] || return 0
+  done
+  return 1
+}
+FinoAllaCartella() { # what the pictures begin with: up to the last page before anything is written
+  wine "$installazione" > /dev/null 2>&1 &
+  disown
+  SiApre '^Installazione di Plakera' && sleep 2 && Foto "$1_1_benvenuto" && Avanti Return && Foto "$1_2_utenti" &&
+    Avanti Return && Avanti Down space && Foto "$1_3_componenti" && Avanti Return && Foto "$1_4_cartella"
+}
+NessunaFinestra() { [ -z "$(xdotool search --onlyvisible --name '^(Installazione|Disinstallazione)' 2> /dev/null)" ]; }
+ConFinestre() {
+  FinoAllaCartella installa && Avanti Return && Attende 60 test -f "$solita/disinstalla.exe" && sleep 2 &&
+    Foto installa_5_fine && Tasti Return && Attende 30 NessunaFinestra && [ -f "$solita/plakera.exe" ] &&
+    wine reg query 'HKLM\Software\Classes\.mod' | Contiene Plakera.Modello
+}
+Verifica "installazione con le sue finestre, .Mod spuntati" ConFinestre
+MentreGira() { # says so, can be given up, and goes on once the program is closed
+  wine "$solita/plakera.exe" > /dev/null 2>&1 &
+  disown
+  SiApre '^Plakera$' && touch "$dove/prima" || return 1
+  local fine
+  for fine in rinuncia riprova; do
+    FinoAllaCartella "aperto_$fine" && Tasti Return && SiApre '^Installazione di Plakera' && sleep 3 && Foto "aperto_${fine}_5_detto" || return 1
+    if [ $fine = rinuncia ]; then
+      Avanti Escape && Foto aperto_rinuncia_6_fine && [ ! "$solita/LEGGIMI.txt" -nt "$dove/prima" ] || return 1
+    else
+      Uccide && Avanti Return && sleep 2 && Foto aperto_riprova_6_fine || return 1
+    fi
+    Tasti Return && Attende 30 NessunaFinestra || return 1
+  done
+}
+Verifica "installazione mentre il programma e' aperto: detto; annulla, riprova" MentreGira
+DiUnAltro() { # asked, and the answer that is proposed leaves them where they were
+  wine reg add 'HKLM\Software\Classes\.mod' /ve /d Altro.Programma /f > /dev/null
+  wine "$installazione" /MOD=1 > /dev/null 2>&1 &
+  disown
+  SiApre '^Installazione di Plakera' && sleep 2 && Avanti Return && Avanti Return && Avanti Return && Avanti Return &&
+    Foto altrui_chiede && Avanti Return && sleep 2 && Foto altrui_fine && Tasti Return && Attende 30 NessunaFinestra &&
+    wine reg query 'HKLM\Software\Classes\.mod' /ve | Contiene Altro.Programma
+}
+Verifica "installazione con i .Mod di un altro programma: chiesto" DiUnAltro
+ToltoConFinestre() {
+  wine "$solita/disinstalla.exe" > /dev/null 2>&1 &
+  disown
+  SiApre '^Disinstallazione di Plakera' && sleep 2 && Foto disinstalla_1 && Avanti Return && sleep 2 && Foto disinstalla_2 &&
+    Tasti Return && Attende 30 NessunaFinestra && Attende 30 eval '[ ! -e "$solita" ]' &&
+    wine reg query 'HKLM\Software\Classes\.mod' /ve | Contiene Altro.Programma &&
+    wine reg delete 'HKLM\Software\Classes\.mod' /f > /dev/null
+}
+Verifica "disinstallazione con le sue finestre, i .Mod restano ad altri" ToltoConFinestre
+
 # ---------------------------------------------------------------- the installer
 casa="$WINEPREFIX/drive_c/Programmi di prova/Plakera è qui"
 cartella='C:\Programmi di prova\Plakera è qui'
 Installa() { (cd "$(dirname "$installazione")" && wine cmd /c "$(basename "$installazione") /S $*"); }
+NelRegistroManca() { ! wine reg query "$1"; }
 Registro() { wine reg query "$@" 2> /dev/null | tr -d '\r'; }
 Voce='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plakera'
 SiInstalla() {
@@ -159,14 +190,7 @@ ApreInizio() { Avvia; SiApre '^Plakera - Modelli stampa' && Foto inizio; }
 Verifica "finestra iniziale dalla cartella del registro" ApreInizio
 DueVolte() { Avvia; SiApre '^Plakera$' && Foto gia_in_esecuzione && Tasti Return && SiApre '^Plakera - Modelli'; }
 Verifica "una sola istanza" DueVolte
-ApreModello() {
-  local posto
-  posto=$(cd "$modelli" && ls | grep -i '\.mod$' | sort -f | grep -n '^Fattura_Rossi.Mod$' | cut -d: -f1)
-  Tasti End Home
-  for ((i = 1; i < posto; i++)); do Tasti Down; done
-  Tasti alt+a
-  SiApre '^Plakera: Modello Fattura_Rossi' && sleep 2 && Foto modello
-}
+ApreModello() { ScegliModello "$modelli" Fattura_Rossi.Mod && SiApre '^Plakera: Modello Fattura_Rossi' && sleep 2 && Foto modello; }
 Verifica "apre un modello" ApreModello
 Trascina() { # the field at 9, 79 mm, by 20 mm to the right
   local id x y
@@ -185,7 +209,6 @@ Trascina() { # the field at 9, 79 mm, by 20 mm to the right
   sleep 1
   Foto trascinato
 }
-Editor() { xdotool windowactivate --sync "$(xdotool search --name '^Plakera: Modello' | tail -1)"; SiApre '^Plakera: Modello'; }
 Salva() { Editor && Tasti alt+v && SiApre '^Plakera$' && Tasti alt+s && SiApre '^Plakera: Modello'; }
 TrascinaESalva() {
   cp "$file" "$dove/prima.Mod"
@@ -197,28 +220,16 @@ TrascinaESalva() {
 Verifica "trascina un campo e salva: cambia solo la sua ascissa" TrascinaESalva
 NienteResti() { ! ls -a "$modelli" | Contiene '^\.plakera-'; }
 Verifica "nessun file temporaneo resta" NienteResti
-StampaInCoda() {
-  local prima
-  prima=$(ls "$PLAKERA_FOGLI" | wc -l)
-  Editor && Tasti alt+t && SiApre '^Plakera$' && Foto stampa && Tasti alt+n && SiApre '^Plakera: Modello' &&
-    Attende 60 bash -c "[ \$(ls '$PLAKERA_FOGLI' | wc -l) -gt $prima ]" &&
-    Attende 60 bash -c "[ -z \"\$(lpstat -o)\" ]"
-}
-Verifica "stampa sulla coda predefinita" StampaInCoda
-Riquadri() { # of the ink of a sheet, whole and by quarters, in tenths of a millimetre
-  pdftoppm -r 254 -gray -singlefile "$1" "$dove/foglio"
-  local taglio
-  for taglio in 2100x2970+0+0 1050x990+0+0 1050x990+1050+0 1050x990+0+990 1050x990+1050+990; do
-    convert "$dove/foglio.pgm" -crop $taglio +repage -threshold 60% -bordercolor white -border 1 \
-      -trim -format '%X %Y %w %h\n' info: | tr -d '+'
+Verifica "stampa sulla coda predefinita" StampaInCoda stampa
+SullaCarta() { # the ink of its quarters, which the printer's margins move
+  cp "$(UltimoFoglio)" "$dove/stampato.pdf"
+  Chiama --modello "$modello" --pdf "$datiWindows\\atteso.pdf" || return 1
+  local quarto
+  for quarto in "0 0 1050 990" "1050 0 2058 990" "0 990 1050 1980" "1050 990 2058 1980"; do
+    # shellcheck disable=SC2046,SC2086
+    Dista "$(Inchiostro "$dove/stampato.pdf" $(SpostataParte "$quarto"))" \
+      "$(Spostato "$(Inchiostro "$dati/atteso.pdf" $quarto)")" || return 1
   done
-}
-SullaCarta() {
-  local foglio
-  foglio=$(ls -t "$PLAKERA_FOGLI"/* | head -1)
-  cp "$foglio" "$dove/stampato.pdf"
-  Chiama --modello "$modello" --pdf "$datiWindows\\atteso.pdf" && paste <(Riquadri "$dati/atteso.pdf") <(Riquadri "$dove/stampato.pdf") |
-    awk '{ print; for (i = 1; i <= 4; i++) if ($i - $(i + 4) > 1 || $(i + 4) - $i > 1) male = 1 } END { exit male }'
 }
 Verifica "il foglio stampato misura come il PDF (0,1 mm)" SullaCarta
 Caduta() {
@@ -230,11 +241,7 @@ Caduta() {
   SiApre '^Plakera - Modelli stampa' && ApreModelloCopia
 }
 ApreModelloCopia() {
-  local posto
-  posto=$(cd "$modelli" && ls | grep -i '\.mod$' | sort -f | grep -n '^Fattura_Rossi.Mod$' | cut -d: -f1)
-  Tasti End Home
-  for ((i = 1; i < posto; i++)); do Tasti Down; done
-  Tasti alt+a
+  ScegliModello "$modelli" Fattura_Rossi.Mod
   SiApre '^Plakera$' && Foto copia_offerta && Tasti alt+s && SiApre '^Plakera: Modello Fattura_Rossi'
 }
 Verifica "processo ucciso: la copia di recupero e' offerta" Caduta
@@ -249,12 +256,34 @@ SolaLettura() {
 }
 Verifica "attributo di sola lettura: detto, e il file resta" SolaLettura
 Uccide
+
+# ---------------------------------------------------------------- one whole task
+SenzaCopie() { # no copy to be asked about
+  find "$WINEPREFIX/drive_c/users" -path "*/AppData/Local/Plakera/*" -type f ! -name plakera.lock -delete
+}
+SenzaCopie
+archivio=$modelli
+casaUtente=$(ls -d "$WINEPREFIX/drive_c/users/"* | grep -v Public)
+AvviaProgramma() { Avvia; }
+ProgrammaFinito() { NessunPlakera; }
+Compito
+Uccide
+
+# ---------------------------------------------------------------- what it looks like
+Dialoghi() { # dpi: of the first field, frame and image
+  local pagina nomi=(campo righe cornice immagine)
+  for pagina in 0 2 3; do
+    Pagina $pagina && Tasti Home Down alt+m && SiApre '^Modifica impostazioni' && sleep 1 &&
+      Foto "${nomi[$pagina]}_$1" && Tasti Escape && SiApre '^Plakera: Modello' || return 1
+  done
+}
 for dpi in 96 144; do
   wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $dpi /f > /dev/null
   wineserver -w
-  find "$WINEPREFIX/drive_c/users" -path "*/AppData/Local/Plakera/*" -type f ! -name plakera.lock -delete # no copy to be asked about
+  SenzaCopie
   Guarda() { Avvia; SiApre '^Plakera - Modelli' && sleep 1 && Foto "inizio_$dpi" && ApreModello && Foto "modello_$dpi"; }
   Verifica "le finestre a $dpi punti per pollice (foto da guardare)" Guarda
+  Verifica "i tre dialoghi a $dpi punti per pollice (foto da guardare)" Dialoghi $dpi
   Uccide
 done
 
@@ -262,7 +291,7 @@ done
 Toglie() {
   touch "$casa/mio.txt"
   wine "$casa/disinstalla.exe" /AllUsers /S "_?=$cartella"
-  [ "$(ls "$casa")" = mio.txt ] && [ -z "$(Registro "$Voce")" ] && [ -z "$(Registro 'HKLM\Software\Classes\.mod')" ]
+  [ "$(ls "$casa")" = mio.txt ] && NelRegistroManca "$Voce" && NelRegistroManca 'HKLM\Software\Classes\.mod'
 }
 Verifica "disinstallazione: resta solo cio' che e' dell'utente" Toglie
 Altrui() {

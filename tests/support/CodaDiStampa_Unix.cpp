@@ -120,8 +120,9 @@ void CodaDiStampa::Prepara()
     istanza_ = QStringLiteral("plakera-") + QString::number(getpid()) + QLatin1Char('-') +
                QFileInfo(radice).fileName().right(6);
     impostazioni_ = QStringLiteral("/etc/cups/cups-pdf-%1.conf").arg(istanza_);
-    Scrive(impostazioni_, QStringLiteral("Out %1/fogli\nAnonDirName %1/fogli\nSpool %1/pdf\n"
-                                         "Log %1/log\nLabel 1\n")
+    // Programs in a system of their own print as users that this one does not know.
+    Scrive(impostazioni_, QStringLiteral("Out %1/fogli\nAnonDirName %1/fogli\nAnonUser root\n"
+                                         "Spool %1/pdf\nLog %1/log\nLabel 1\n")
                               .arg(radice));
 }
 
