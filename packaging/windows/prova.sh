@@ -288,10 +288,11 @@ for dpi in 96 144; do
 done
 
 # ---------------------------------------------------------------- gone again
-Toglie() {
+Toglie() { # a copy of it goes on, when it has ended itself
   touch "$casa/mio.txt"
-  wine "$casa/disinstalla.exe" /AllUsers /S "_?=$cartella"
-  [ "$(ls "$casa")" = mio.txt ] && NelRegistroManca "$Voce" && NelRegistroManca 'HKLM\Software\Classes\.mod'
+  wine "$casa/disinstalla.exe" /AllUsers /S
+  Attende 60 eval '[ "$(ls "$casa")" = mio.txt ]' && NelRegistroManca "$Voce" &&
+    NelRegistroManca 'HKLM\Software\Classes\.mod'
 }
 Verifica "disinstallazione: resta solo cio' che e' dell'utente" Toglie
 Altrui() {
