@@ -20,7 +20,8 @@ if [ -z "${PLAKERA_MANUALE:-}" ]; then
 fi
 
 costruzione=build/windows
-cmake -S . -B $costruzione -G Ninja -DCMAKE_TOOLCHAIN_FILE="$PWD/$qui/programma.cmake" \
+# Afresh, or CMake would go on with the Qt that it found the last time.
+cmake --fresh -S . -B $costruzione -G Ninja -DCMAKE_TOOLCHAIN_FILE="$PWD/$qui/programma.cmake" \
   -DQT_WINDOWS="$PLAKERA_QT_WINDOWS" -DCMAKE_PREFIX_PATH="$PLAKERA_QT_WINDOWS" \
   -DCMAKE_BUILD_TYPE=Release -DPLAKERA_TESTS=OFF -DPLAKERA_UNITY=ON \
   -DPLAKERA_MANUALE="$PLAKERA_MANUALE" > /dev/null
