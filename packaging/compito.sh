@@ -10,7 +10,7 @@
 compitoModello=Compito.Mod
 
 # What is made of ten fields: which one it was, name, test text, font, size, bold, x, y. The first word of each text
-# is on no other sheet. Row fields stand where the rows begin; the last field is a new one.
+# is measured on paper. Row fields stand where the rows begin; the last field is a new one.
 compitoInizioRighe=102 compitoFineRighe=210
 compitoCampi="Ditta_RagSoc|Ditta_RagSoc|Falegnameria Prova|Courier New|14|-1|84|3
 Ditta_Indirizzo|Ditta_Indirizzo|Viottolo Corto, 3|Arial|10|0|84|10
@@ -114,7 +114,7 @@ CorniceEdEtichetta() {
     NuovaFoto cornice_ed_etichetta
 }
 
-# The logo: 40 x 20 mm of one colour, brought in from the user's folder.
+# The logo: 40 x 20 mm of one colour, brought in from the user's folder. Its name is the first in the lists.
 Logo() {
   convert -size 400x200 xc:'rgb(10,120,60)' -units PixelsPerInch -density 254 -quality 100 "$casaUtente/0logo.jpg"
   Pagina 3 && Tasti alt+a && SiApre '^Modifica impostazioni Immagine$' && Tasti alt+m && SiApre '^Sfoglia$' || return 1

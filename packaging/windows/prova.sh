@@ -277,6 +277,10 @@ Dialoghi() { # dpi: of the first field, frame and image
       Foto "${nomi[$pagina]}_$1" && Tasti Escape && SiApre '^Plakera: Modello' || return 1
   done
 }
+PagineInstallazione() { # dpi: given up on the last page before anything is written
+  FinoAllaCartella "installa_$1" && Avanti Escape && Foto "installa_$1_5_rinuncia" && Tasti Return &&
+    Attende 30 NessunaFinestra
+}
 for dpi in 96 144; do
   wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $dpi /f > /dev/null
   wineserver -w
@@ -285,6 +289,7 @@ for dpi in 96 144; do
   Verifica "le finestre a $dpi punti per pollice (foto da guardare)" Guarda
   Verifica "i tre dialoghi a $dpi punti per pollice (foto da guardare)" Dialoghi $dpi
   Uccide
+  Verifica "le pagine dell'installazione a $dpi punti per pollice (foto da guardare)" PagineInstallazione $dpi
 done
 
 # ---------------------------------------------------------------- gone again
