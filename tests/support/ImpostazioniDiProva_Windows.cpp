@@ -8,8 +8,8 @@
 
 namespace {
 
-const wchar_t *const Chiave = L"Software\\VB and VBA Program Settings\\vastrel\\INI";
-const wchar_t *const Voce = L"dirtxt";
+const wchar_t *const ChiaveDelDato = L"Software\\VB and VBA Program Settings\\vastrel\\INI";
+const wchar_t *const VoceDati = L"dirtxt";
 
 } // namespace
 
@@ -28,12 +28,12 @@ ImpostazioniDiProva::~ImpostazioniDiProva()
 void ImpostazioniDiProva::Dirtxt(const QString &cartella) const
 {
     if (cartella.isEmpty()) {
-        RegDeleteKeyValueW(HKEY_CURRENT_USER, Chiave, Voce); // there need not be any
+        RegDeleteKeyValueW(HKEY_CURRENT_USER, ChiaveDelDato, VoceDati); // there need not be any
         return;
     }
     // As the host application's own language writes settings.
     const std::wstring testo = cartella.toStdWString();
-    QCOMPARE(RegSetKeyValueW(HKEY_CURRENT_USER, Chiave, Voce, REG_SZ, testo.c_str(),
+    QCOMPARE(RegSetKeyValueW(HKEY_CURRENT_USER, ChiaveDelDato, VoceDati, REG_SZ, testo.c_str(),
                              DWORD((testo.size() + 1) * sizeof(wchar_t))),
              ERROR_SUCCESS);
 }
