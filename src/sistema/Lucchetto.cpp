@@ -1,5 +1,8 @@
 #include "sistema/Lucchetto.h"
 
+#include "base/ErroreSistema.h"
+#include "sistema/FileTemporaneo.h"
+
 #include <QFileInfo>
 #include <QSysInfo>
 
@@ -35,6 +38,27 @@ QString QuestaMacchina()
 #endif
 }
 
+/// Whether Qt may try to write a lock. On Windows it leaves one that it cannot write in its place,
+/// and open for as long as the program runs: to everybody, this process too, somebody holds it.
+bool SiPuoScrivere(const QString &file)
+{
+#ifdef Q_OS_WIN
+    constexpr int ByteDiLucchetto = 512; // no lock has more
+    FileTemporaneo prova{QFileInfo(file)};
+    if (prova.Apre(FileTemporaneo::Per::Utente)) {
+        return false;
+    }
+    try {
+        prova.Scrive(QByteArray(ByteDiLucchetto, ' '));
+    } catch (const ErroreSistema &) {
+        return false; // that is the answer
+    }
+#else
+    Q_UNUSED(file)
+#endif
+    return true;
+}
+
 } // namespace
 
 Lucchetto::Lucchetto(const QString &file)
@@ -51,26 +75,35 @@ Lucchetto::Esito Lucchetto::Prende()
     if (PostoIngombro(file_.fileName())) {
         return Esito::Impossibile;
     }
+    if (!SiPuoScrivere(file_.fileName())) {
+        return !QFileInfo::exists(file_.fileName()) || ToglieRimasto() ? Esito::Impossibile
+                                                                       : Esito::Occupato;
+    }
     if (file_.tryLock(0)) {
         return Esito::Preso;
     }
     if (file_.error() != QLockFile::LockFailedError) {
         return Esito::Impossibile;
     }
-    qint64 processo = 0;
-    QString macchina;
-    QString programma;
-    if (file_.getLockInfo(&processo, &macchina, &programma) && macchina != QuestaMacchina()) {
-        return Esito::Occupato;
-    }
     // Of a process that has died, where the disk has no room for Qt's own way to take its lock
-    // over; or of a machine that died while the lock was being written, and names no process. The
-    // removal itself fails while a living process holds the file.
-    if (!file_.removeStaleLockFile()) {
+    // over; or of a machine that died while the lock was being written, and names no process.
+    if (!ToglieRimasto()) {
         return Esito::Occupato;
     }
     if (file_.tryLock(0)) {
         return Esito::Preso;
     }
     return file_.error() == QLockFile::LockFailedError ? Esito::Occupato : Esito::Impossibile;
+}
+
+bool Lucchetto::ToglieRimasto()
+{
+    qint64 processo = 0;
+    QString macchina;
+    QString programma;
+    if (file_.getLockInfo(&processo, &macchina, &programma) && macchina != QuestaMacchina()) {
+        return false;
+    }
+    // Fails while a living process holds the file.
+    return file_.removeStaleLockFile();
 }

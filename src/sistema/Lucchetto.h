@@ -20,5 +20,8 @@ public:
     Esito Prende();
 
 private:
+    /// Removes the lock file in the place; false where a process may be alive that holds it.
+    bool ToglieRimasto();
+
     QLockFile file_;
 };

@@ -3,6 +3,7 @@
 #include "support/FileDiProva.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QList>
 #include <QLockFile>
@@ -20,6 +21,8 @@ private slots:
     void ColNumeroDiUnVivo();
     void DiUnAltraMacchina();
     void Vuoto();
+    void ADiscoPieno_data();
+    void ADiscoPieno();
 
 private:
     QString File() const { return cartella_.filePath(QStringLiteral("prova.lock")); }
@@ -70,6 +73,30 @@ void tst_LucchettoRimasto::Vuoto()
 {
     ScriveFile(File(), QByteArray());
     QCOMPARE(Lucchetto(File()).Prende(), Esito::Preso);
+}
+
+void tst_LucchettoRimasto::ADiscoPieno_data()
+{
+    QTest::addColumn<QByteArray>("rimasto");
+    QTest::newRow("nobody's") << QByteArray();
+    QTest::newRow("of a dead process") << LucchettoDiUnMorto();
+}
+
+void tst_LucchettoRimasto::ADiscoPieno()
+{
+    QFETCH(QByteArray, rimasto);
+    if (!rimasto.isEmpty()) {
+        ScriveFile(File(), rimasto);
+    }
+    {
+        const LimiteFile niente(0);
+        for (int volta = 0; volta < 2; ++volta) {
+            QCOMPARE(Lucchetto(File()).Prende(), Esito::Impossibile);
+        }
+    }
+    // As soon as there is room, nothing of the attempts is in the way.
+    QCOMPARE(Lucchetto(File()).Prende(), Esito::Preso);
+    QCOMPARE(QDir(cartella_.path()).entryList(QDir::Files), QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_LucchettoRimasto)
