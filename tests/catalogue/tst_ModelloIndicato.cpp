@@ -4,6 +4,12 @@
 
 #include <QFileInfo>
 
+namespace {
+
+constexpr const char *Scorciatoie = "here Qt makes shortcuts, through which no path leads";
+
+} // namespace
+
 /// A model file that is named on the command line: which archive it is of, what the start window
 /// makes of it, and what is told of one from elsewhere.
 class tst_ModelloIndicato : public QObject
@@ -104,6 +110,14 @@ void tst_ModelloIndicato::inUnArchivio()
     QVERIFY(QFile::link(archivi_->In(QStringLiteral("Altro/ini/Gamma.MOD")),
                         Fuori(QStringLiteral("collegamento"))));
     QVERIFY(QFile::link(archivi_->Ini(), Fuori(QStringLiteral("cartella"))));
+    if (indicato.startsWith(QLatin1String("%FUORI")) &&
+        !QFileInfo(Fuori(QStringLiteral("cartella"))).isSymbolicLink()) {
+        QSKIP(Scorciatoie);
+    }
+    if (scelto == QLatin1String("BETA") &&
+        ByteDi(archivi_->Ini(QStringLiteral("Beta.mod"))) != QByteArrayLiteral("Beta.mod")) {
+        QSKIP("here both names are one file");
+    }
     QVERIFY(QDir::setCurrent(archivi_->Dati()));
     const Robot robot;
     Indica(indicato.replace(QLatin1String("%DATI"), archivi_->Dati())
@@ -119,6 +133,9 @@ void tst_ModelloIndicato::collegamentoNellArchivio()
     // A model of the archive, with the archive's pictures, wherever its bytes are.
     const QString collegamento = archivi_->Ini(QStringLiteral("Comune.Mod"));
     QVERIFY(QFile::link(Fuori(QStringLiteral("Alfa.Mod")), collegamento));
+    if (!QFileInfo(collegamento).isSymbolicLink()) {
+        QSKIP(Scorciatoie);
+    }
     const Robot robot;
     Indica(collegamento);
     QVERIFY(robot.Soddisfatto());
@@ -128,11 +145,15 @@ void tst_ModelloIndicato::collegamentoNellArchivio()
 
 void tst_ModelloIndicato::collegamentoRotto()
 {
-    QVERIFY(QFile::link(Fuori(QStringLiteral("Manca.Mod")), Fuori(QStringLiteral("rotto.Mod"))));
+    const QString rotto = Fuori(QStringLiteral("rotto.Mod"));
+    QVERIFY(QFile::link(Fuori(QStringLiteral("Manca.Mod")), rotto));
+    if (!QFileInfo(rotto).isSymbolicLink()) {
+        QSKIP(Scorciatoie);
+    }
     const Robot robot;
-    Indica(Fuori(QStringLiteral("rotto.Mod")));
+    Indica(rotto);
     QVERIFY(robot.Soddisfatto()); // the editor will tell
-    QCOMPARE(Aperto(), Fuori(QStringLiteral("rotto.Mod")));
+    QCOMPARE(Aperto(), rotto);
 }
 
 void tst_ModelloIndicato::mancanteNellArchivio()
@@ -156,7 +177,7 @@ void tst_ModelloIndicato::fuoriDaOgniArchivio()
                             "sottocartella di\n%1\n\nVastrel non lo trova quando stampa e la "
                             "finestra iniziale non lo elenca.\nSi apre lo stesso, con le immagini "
                             "della sua cartella:\n%2")
-                 .arg(archivi_->Dati(), fuori_->path() + QDir::separator()));
+                 .arg(archivi_->Dati(), QDir::toNativeSeparators(fuori_->path() + u'/')));
     QCOMPARE(Aperto(), Fuori(QStringLiteral("Alfa.Mod")));
 }
 
