@@ -142,11 +142,11 @@ void tst_FrmElementoCaselle::INumeriLunghiMostranoLInizio()
     const Prova p(genere);
     int lunghi = 0;
     for (auto *casella : p.dialogo->findChildren<QLineEdit *>()) {
-        if (!casella->text().contains(u'E')) {
+        if (!casella->text().contains(QLatin1String("E+"))) {
             continue;
         }
         ++lunghi;
-        QVERIFY(MostraLInizio(*casella));
+        QVERIFY2(MostraLInizio(*casella), qPrintable(casella->objectName() + casella->text()));
     }
     QVERIFY(lunghi >= 2);
 }
