@@ -17,7 +17,7 @@
 
 namespace {
 
-/// What the model calls its rows and columns.
+/// What the model calls its columns.
 QStringList Intestazioni(const QAbstractItemModel &modello)
 {
     QStringList nomi;

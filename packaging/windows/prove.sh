@@ -14,7 +14,8 @@ if [ -z "${PLAKERA_SCHERMO_DI_WINE:-}" ]; then
     PLAKERA_QT_WINDOWS=$("$qui/qt.sh")
   fi
   # Stripped: each program has Qt in it.
-  cmake -S . -B "$dove" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$qui/programma.cmake" -DQT_WINDOWS="$PLAKERA_QT_WINDOWS" \
+  # Afresh, or CMake would go on with the Qt that it found the last time.
+  cmake --fresh -S . -B "$dove" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$qui/programma.cmake" -DQT_WINDOWS="$PLAKERA_QT_WINDOWS" \
     -DCMAKE_PREFIX_PATH="$PLAKERA_QT_WINDOWS" -DCMAKE_BUILD_TYPE=Release -DPLAKERA_UNITY=ON \
     -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s > /dev/null
   if [ $# -eq 0 ]; then

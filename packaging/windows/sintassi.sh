@@ -11,7 +11,8 @@ if qt=$($qui/qt.sh --cartella); then
   echo "compiling for Windows against $qt"
   lancia=()
   ! command -v ccache > /dev/null || lancia=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-  cmake -S . -B build/windows-ci -G Ninja -DCMAKE_TOOLCHAIN_FILE="$PWD/$qui/programma.cmake" \
+  # Afresh, or CMake would go on with the Qt that it found the last time.
+  cmake --fresh -S . -B build/windows-ci -G Ninja -DCMAKE_TOOLCHAIN_FILE="$PWD/$qui/programma.cmake" \
     -DQT_WINDOWS="$qt" -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_BUILD_TYPE=Debug \
     -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DPLAKERA_TESTS=OFF -DPLAKERA_UNITY=ON \
     -DPLAKERA_WERROR=ON "${lancia[@]}" > /dev/null
