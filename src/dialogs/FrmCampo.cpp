@@ -5,7 +5,6 @@
 #include "finestre/Finestre.h"
 #include "finestre/Guardia.h"
 #include "finestre/Messaggi.h"
-#include "model/FileModelloRighe.h"
 #include "model/Numeri.h"
 
 #include <QFontDatabase>
@@ -130,14 +129,6 @@ void FrmCampo::ControllaLunghezzaTesto() const
     }
 }
 
-void FrmCampo::ControllaNomeLibero() const
-{
-    // In the file the name of the next field and the mark of their end share a line.
-    if (ui_->Nome->text() == QLatin1String(FileModello::FineCampi)) {
-        throw Rifiuto{QStringLiteral("Nome: FINECAMPI è riservato"), ui_->Nome};
-    }
-}
-
 void FrmCampo::PConfemaCampo_Click()
 {
     Tenta([this] {
@@ -145,7 +136,6 @@ void FrmCampo::PConfemaCampo_Click()
         const int n = Indice();
         ControllaNomeUnico(n, QStringLiteral("nome già esistente"));
         ControllaNomeScritto();
-        ControllaNomeLibero();
         const Posto posto = PostoScritto();
         const Carattere carattere = CarattereScelto();
 

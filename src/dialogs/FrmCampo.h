@@ -49,7 +49,6 @@ private:
     void Maschera_Change();
     void ControllaLunghezzaTesto() const;
     /// Refuses the name that would end the fields in the file.
-    void ControllaNomeLibero() const;
 
     std::unique_ptr<Ui::FrmCampo> ui_;
     SorgenteCasuale casuale_;

@@ -2,6 +2,7 @@
 
 #include "dialogs/DialogoDiProva.h"
 #include "dialogs/Mnemonici.h"
+#include "model/FileModello.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -76,7 +77,7 @@ private slots:
     void LaDidascaliaSegueLaMaschera();
 
     void ConfermaScriveTuttiIValori();
-    void FineDeiCampiNonEUnNome();
+    void UnMarcatoreEUnNomeComeGliAltri();
     void TestoLungoQuantoLaMaschera();
     void TestoPiuLungoDellaMaschera_data();
     void TestoPiuLungoDellaMaschera();
@@ -245,19 +246,18 @@ void tst_FrmCampo::ConfermaScriveTuttiIValori()
     QVERIFY(p.robot.Soddisfatto());
 }
 
-void tst_FrmCampo::FineDeiCampiNonEUnNome()
+void tst_FrmCampo::UnMarcatoreEUnNomeComeGliAltri()
 {
+    // The reader looks for the end of the fields where a field's block opens, not at its name.
     Prova p;
-    const Modello prima = p.stato.Aperto();
-    p.robot.Ok();
     Digita(p.dialogo, "Nome", QStringLiteral("FINECAMPI"));
     Preme(p.dialogo, "PConfemaCampo");
-    QCOMPARE(p.robot.Testi(), QStringList({QStringLiteral("Nome: FINECAMPI è riservato")}));
-    QVERIFY(p.stato.Aperto() == prima && p.dialogo.isVisible());
-    // The reader tells capitals apart.
-    Digita(p.dialogo, "Nome", QStringLiteral("Finecampi"));
-    Preme(p.dialogo, "PConfemaCampo");
-    QCOMPARE(p.Secondo().Nome, QStringLiteral("Finecampi"));
+    QCOMPARE(p.dialogo.result(), int(QDialog::Accepted));
+    QCOMPARE(p.Secondo().Nome, QStringLiteral("FINECAMPI"));
+    Modello riletto;
+    FileModello::Analizza(FileModello::Componi(p.stato.Aperto()), riletto);
+    QCOMPARE(riletto.NumCampi, p.stato.Aperto().NumCampi);
+    QVERIFY(riletto.Campi[2] == p.Secondo());
 }
 
 void tst_FrmCampo::TestoLungoQuantoLaMaschera()
