@@ -34,7 +34,12 @@ void ManiSulFoglio::Preme(const EventoMouse &evento)
     if (gesto_ && (bottone_ == Qt::LeftButton || evento.bottone != Qt::LeftButton)) {
         return; // a second button while the first one is held
     }
-    Prende(gesto_ ? preso_ : mira_.Sotto(evento.punto), evento);
+    if (gesto_) {
+        Prende(preso_, evento);
+        return;
+    }
+    const bool sinistro = evento.bottone == Qt::LeftButton;
+    Prende(sinistro ? mira_.DaPrendere(evento.punto) : mira_.Sotto(evento.punto), evento);
 }
 
 void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
@@ -51,7 +56,8 @@ void ManiSulFoglio::PremeDueVolte(const EventoMouse &evento)
     // Of two quick drags of a handle the second begins like a double click. The properties wait for
     // the release: until then the pointer may still leave, and the first press must not have moved
     // the element.
-    Prende(bersaglio, evento, precedenteHaTrascinato_ ? std::nullopt : std::optional(evento.punto));
+    Prende(mira_.DaPrendere(evento.punto), evento,
+           precedenteHaTrascinato_ ? std::nullopt : std::optional(evento.punto));
 }
 
 void ManiSulFoglio::Prende(const Bersaglio &bersaglio, const EventoMouse &evento,
@@ -105,7 +111,7 @@ void ManiSulFoglio::Muove(const EventoMouse &evento)
         gesto->Muove(evento);
     } else {
         // A button that is still held has no gesture any more: nothing takes it up.
-        PuntamentoFoglio(contesto_, mira_.Sotto(evento.punto)).Muove(evento);
+        PuntamentoFoglio(contesto_, mira_.DaPrendere(evento.punto)).Muove(evento);
     }
 }
 

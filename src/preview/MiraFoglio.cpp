@@ -25,6 +25,16 @@ MiraFoglio::MiraFoglio(const StatoProgramma &stato, const GeometriaAnteprima &ge
 
 Bersaglio MiraFoglio::Sotto(QPointF punto) const
 {
+    return Cerca(punto, Margine::Nessuno);
+}
+
+Bersaglio MiraFoglio::DaPrendere(QPointF punto) const
+{
+    return Cerca(punto, Margine::Fuori);
+}
+
+Bersaglio MiraFoglio::Cerca(QPointF punto, Margine margine) const
+{
     for (const Genere genere : Generi) {
         const Maniglia &maniglia = elementi_.ManigliaDi(genere);
         if (elementi_.ManigliaIn(punto) == &maniglia) {
@@ -39,7 +49,7 @@ Bersaglio MiraFoglio::Sotto(QPointF punto) const
     // Pointing at a frame sends it behind the others, so the edge of the selected one must be found
     // wherever the stack has put it: otherwise nobody could grip a frame that lies in another.
     for (const Genere genere : {Genere::Cornice, Genere::Immagine}) {
-        if (SulBordoSelezionato(genere, punto)) {
+        if (SulBordoSelezionato(genere, punto, margine)) {
             return {Bersaglio::Cosa::Elemento, {genere, stato_.selezione.Attivo(genere)}};
         }
     }
@@ -80,13 +90,16 @@ Presa MiraFoglio::PresaDi(Chiave chiave, QPointF dentro) const
         geometria_.Millimetri(ZonaBordo), geometria_.LarghezzaFoglio());
 }
 
-bool MiraFoglio::SulBordoSelezionato(Genere genere, QPointF punto) const
+bool MiraFoglio::SulBordoSelezionato(Genere genere, QPointF punto, Margine margine) const
 {
     const int i = stato_.selezione.Attivo(genere);
     if (i == 0 || !Ridimensionabile({genere, i})) {
         return false;
     }
     const QRectF &posto = elementi_.Elemento(genere, i).Posto();
+    if (margine == Margine::Nessuno && !posto.contains(punto)) {
+        return false;
+    }
     const double lato = elementi_.ManigliaDi(genere).Posto().width();
     // On an element that its handle covers, the edges can still be gripped past the handle.
     const double fuori =

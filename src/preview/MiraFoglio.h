@@ -28,7 +28,12 @@ public:
     MiraFoglio(const StatoProgramma &stato, const GeometriaAnteprima &geometria,
                const ElementiFoglio &elementi);
 
+    /// What opens, is clicked or explains itself there.
     Bersaglio Sotto(QPointF punto) const;
+    /// What a press of the left button takes hold of, and the pointer announces: as Sotto, but the
+    /// edges of the selected frame or image can be gripped from a little outside too, whatever lies
+    /// there.
+    Bersaglio DaPrendere(QPointF punto) const;
     /// Null for the bare sheet.
     Controllo *ControlloDi(const Bersaglio &bersaglio) const;
     /// True for the selected frame or image, unless its border forbids it.
@@ -38,7 +43,10 @@ public:
     Presa PresaDi(Chiave chiave, QPointF dentro) const;
 
 private:
-    bool SulBordoSelezionato(Genere genere, QPointF punto) const;
+    enum class Margine { Nessuno, Fuori };
+
+    Bersaglio Cerca(QPointF punto, Margine margine) const;
+    bool SulBordoSelezionato(Genere genere, QPointF punto, Margine margine) const;
 
     const StatoProgramma &stato_;
     const GeometriaAnteprima &geometria_;

@@ -33,6 +33,7 @@ Ridimensione::Ridimensione(const ContestoGesto &contesto, Chiave chiave, Presa p
                            const EventoMouse &pressione)
     : PuntamentoFoglio(contesto, {Bersaglio::Cosa::Elemento, chiave}, pressione)
     , presa_(presa)
+    , pressione_(pressione)
     , cartaPrima_(Carta())
     , attrazione_(contesto, chiave)
     , passo_(contesto.stato, chiave, QLatin1String("ridimensiona"))
@@ -127,6 +128,14 @@ void Ridimensione::Conclude(std::optional<QPointF> rilascio)
     }
     PuntamentoFoglio::Conclude(rilascio);
     passo_.Conclude();
+    const ContestoGesto &contesto = Contesto();
+    if (!avviata_ && rilascio &&
+        !contesto.elementi.Elemento(Puntato().genere, Puntato().indice)
+             .Posto()
+             .contains(*rilascio)) {
+        // Pressed beside the element and not moved: the click is that of what lies there.
+        PuntamentoFoglio(contesto, contesto.mira.Sotto(*rilascio), pressione_).Conclude(rilascio);
+    }
 }
 
 void Ridimensione::MisuraDiCornice()

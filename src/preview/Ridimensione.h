@@ -7,7 +7,8 @@
 #include <QSizeF>
 
 /// Resizing a frame or an image by an edge that was gripped at the press. Where it ends on the
-/// element it is a click besides, as any press on it.
+/// element it is a click besides, as any press on it; beside it, and not moved, a click on what
+/// lies there.
 class Ridimensione : public PuntamentoFoglio
 {
 public:
@@ -30,6 +31,7 @@ private:
     void ImpostaElastico(bool elastico);
 
     Presa presa_;
+    EventoMouse pressione_;
     QPointF partenza_;     // of the pointer, from the element's corner, mm of screen
     QSizeF misura_;        // of the control at the press, mm of screen
     QSizeF cartaPrima_;    // of the element at the press, mm of the sheet

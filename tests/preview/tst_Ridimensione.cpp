@@ -38,6 +38,7 @@ private slots:
     void PremutoAlCentroNonRidimensiona();
     void CorniceDentroUnAltraSiRidimensiona();
     void PiccolaSiRidimensionaOltreLaManiglia();
+    void AccantoAlBordoRispondeCioCheCE();
     void MisuraModelloUgualeAlControllo_data() { RigheDiZoom(); }
     void MisuraModelloUgualeAlControllo();
     // Past the sheet
@@ -296,6 +297,45 @@ void tst_Ridimensione::PiccolaSiRidimensionaOltreLaManiglia()
     QVERIFY(banco.modello.Cornici[1].Larghezza > 25);
     QVERIFY(banco.modello.Cornici[1].Altezza > 25);
     QCOMPARE(banco.modello.Cornici[1].X, 60.0);
+}
+
+void tst_Ridimensione::AccantoAlBordoRispondeCioCheCE()
+{
+    // The grip reaches a little past the selected image: what lies there opens and is clicked all
+    // the same, and where nothing does, nothing opens.
+    Banco banco;
+    banco.Immagine(50, 50, 20, 20);
+    banco.Cornice(20, 20, 30.4, 100);
+    const QString dellImmagine =
+        QStringLiteral("RichiestaProprieta %1 1").arg(static_cast<int>(Genere::Immagine));
+    const QString dellaCornice =
+        QStringLiteral("RichiestaProprieta %1 1").arg(static_cast<int>(Genere::Cornice));
+    banco.Cornice(70.2, 20, 60, 60);
+    const QString dellaSeconda =
+        QStringLiteral("RichiestaProprieta %1 2").arg(static_cast<int>(Genere::Cornice));
+    banco.frm->SelezionaImmagine(1);
+    const QPointF sullaSeconda(70.6, 60);
+    const QPointF sulFoglio(60, 70.5);
+    QVERIFY(!banco.C3(1)->Posto().contains(sullaSeconda));
+
+    for (const QPointF punto : {sulFoglio, sullaSeconda}) {
+        banco.Preme(punto, Qt::RightButton);
+        banco.Rilascia(punto, Qt::RightButton);
+    }
+    QCOMPARE(banco.segnali.count(dellImmagine), 0);
+    QCOMPARE(banco.segnali.count(dellaSeconda), 1);
+    banco.frm->SelezionaImmagine(1);
+    banco.CliccaDueVolte(sullaSeconda);
+    QCOMPARE(banco.segnali.count(dellImmagine), 0);
+    QCOMPARE(banco.segnali.count(dellaSeconda), 2);
+    QCOMPARE(banco.segnali.count(dellaCornice), 0);
+
+    banco.frm->SelezionaCornice(1);
+    banco.Clicca(sullaSeconda);
+    QCOMPARE(banco.stato.selezione.Attivo(Genere::Cornice), 2);
+    QVERIFY(!banco.stato.documento.Variato());
+    banco.Trascina(sullaSeconda, sullaSeconda + QPointF(10, 0));
+    QVERIFY(qAbs(banco.modello.Immagini[1].Larghezza - 30) < 0.3); // a pixel
 }
 
 void tst_Ridimensione::MisuraModelloUgualeAlControllo()
