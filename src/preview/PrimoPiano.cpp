@@ -10,14 +10,15 @@
 namespace {
 
 constexpr int CifreArea = 30;
-constexpr double AreaMassima = 9.9e29;
+constexpr double AreaMassima = 9.9e28; // with its sign it still fits
 
 } // namespace
 
 QString PrimoPiano::Chiave(double area, int indice)
 {
-    const double mostrabile = std::isnan(area) ? 0 : std::clamp(area, 0.0, AreaMassima);
-    const QString cifre = QString::number(Numeri::PariPiuVicino(mostrabile), 'f', 0);
+    const double mostrabile = std::isnan(area) ? 0 : std::clamp(area, -AreaMassima, AreaMassima);
+    // Added to nothing, a zero loses its sign.
+    const QString cifre = QString::number(Numeri::PariPiuVicino(mostrabile) + 0.0, 'f', 0);
     return cifre.rightJustified(CifreArea, u'0') + u'-' + QString::number(indice);
 }
 

@@ -6,8 +6,9 @@
 /// The order in which the elements of a kind lie on each other: by area, the smallest on top.
 namespace PrimoPiano {
 
-/// Sort key: the area as a whole number (halves to even) in 30 digits, "-" and the index. An area
-/// that is negative, no number or too large for 30 digits becomes the nearest that fits.
+/// Sort key: the area as a whole number (halves to even) padded with "0" to 30 characters, "-" and
+/// the index. The sign of a negative area stands behind the padding, so it comes before 0. An area
+/// that is no number is 0, one that is too large for the 30 characters the largest that fits.
 QString Chiave(double area, int indice);
 
 /// Indices of the elements in the order in which each is to be brought to the front; aree[k] is the

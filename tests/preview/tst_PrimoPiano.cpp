@@ -11,6 +11,7 @@ private slots:
     void MezziAlPari();
     void AreaImpossibile_data();
     void AreaImpossibile();
+    void AreaNegativa();
     void LaPiuPiccolaSopra();
     void AreeUgualiPerTestoDellIndice();
     void AreeMinimePerTestoDellIndice();
@@ -45,7 +46,6 @@ void tst_PrimoPiano::MezziAlPari()
 void tst_PrimoPiano::AreaImpossibile_data()
 {
     QTest::addColumn<double>("area");
-    QTest::newRow("negative") << -5.0;
     QTest::newRow("1e300") << 1e300;
     QTest::newRow("infinite") << qInf();
     QTest::newRow("no number") << qQNaN();
@@ -60,6 +60,15 @@ void tst_PrimoPiano::AreaImpossibile()
     QCOMPARE(chiave.mid(31), QStringLiteral("42"));
     const QString cifre = chiave.left(30);
     QVERIFY(std::all_of(cifre.begin(), cifre.end(), [](QChar c) { return c.isDigit(); }));
+}
+
+void tst_PrimoPiano::AreaNegativa()
+{
+    // Of a frame whose height is below zero.
+    QCOMPARE(PrimoPiano::Chiave(-100, 2), QStringLiteral("00000000000000000000000000-100-2"));
+    QCOMPARE(PrimoPiano::Chiave(-0.2, 2), PrimoPiano::Chiave(0, 2));
+    QCOMPARE(PrimoPiano::Chiave(-1e300, 42).size(), 33);
+    QCOMPARE(PrimoPiano::Ordine({0, -100, 1}), QList<int>({3, 1, 2}));
 }
 
 void tst_PrimoPiano::LaPiuPiccolaSopra()
