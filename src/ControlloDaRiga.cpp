@@ -1,5 +1,7 @@
 #include "ControlloDaRiga.h"
 
+#include "UscitaStandard.h"
+
 #include "base/ErroreSistema.h"
 #include "controllo/ControlloDelModello.h"
 #include "documento/Documento.h"
@@ -15,7 +17,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -102,8 +103,7 @@ private:
     void Racconta(const QString &file, const QList<Rilievo> &rilievi)
     {
         for (const Rilievo &rilievo : rilievi) {
-            const QString riga = file + QStringLiteral(": ") + rilievo.SuUnaLinea() + u'\n';
-            std::fputs(qUtf8Printable(riga), stdout);
+            UscitaStandard::Scrive(file + QStringLiteral(": ") + rilievo.SuUnaLinea() + u'\n');
             stato_ = std::max(stato_, ControlloDaRiga::ConRilievi);
         }
     }
@@ -123,10 +123,6 @@ int ControlloDaRiga::Esegue(const QStringList &percorsi)
             giro.Illeggibile();
         }
     }
-    if (std::fflush(stdout) != 0) {
-        // Findings that nobody gets are no "none".
-        Messaggi::Mostra(nullptr, ErroreSistema(ErroreSistema::DiscoPieno).Messaggio());
-        return Illeggibile;
-    }
-    return giro.Stato();
+    // Findings that nobody gets are no "none".
+    return UscitaStandard::Consegnata() ? giro.Stato() : Illeggibile;
 }

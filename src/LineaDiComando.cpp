@@ -49,7 +49,8 @@ struct Opzioni
         QStringLiteral("controlla"),
         QStringLiteral("Controlla i modelli indicati, o tutti quelli di una cartella, e scrive una "
                        "riga per ogni rilievo. Esito 0: nessun rilievo, 1: rilievi, 2: un modello "
-                       "che non si legge.")};
+                       "non si legge, una cartella non ne contiene, un argomento è sbagliato o "
+                       "i rilievi non si possono scrivere.")};
 };
 
 /// What follows the options in the help.

@@ -1,6 +1,7 @@
 #include "ControlloDaRiga.h"
 #include "LineaDiComando.h"
 #include "Plakera.h"
+#include "UscitaStandard.h"
 #include "finestre/ComboAccessibile.h"
 #include "finestre/Finestre.h"
 #include "finestre/ScalaSchermo.h"
@@ -44,8 +45,12 @@ int main(int argc, char *argv[])
     SuDisco::FallisceOltreIlLimite();
     const LetturaArgomenti lettura = LeggeArgomentiDi(argc, argv);
     if (!lettura.richieste) {
-        std::fputs(qUtf8Printable(lettura.testo), lettura.stato == 0 ? stdout : stderr);
-        return lettura.stato;
+        if (lettura.stato != 0) {
+            std::fputs(qUtf8Printable(lettura.testo), stderr);
+            return lettura.stato;
+        }
+        UscitaStandard::Scrive(lettura.testo);
+        return UscitaStandard::Consegnata() ? 0 : 1;
     }
     if (lettura.richieste->SenzaFinestre()) {
         SenzaFinestre();

@@ -17,6 +17,7 @@ class tst_RigaDiComando : public QObject, private SenzaSchermo
 private slots:
     void init() { CopiaIlCampione(); }
     void aiuto();
+    void aiutoNonConsegnato();
     void versione();
     void stampaInPdf();
     void stampaConINomi();
@@ -40,13 +41,29 @@ void tst_RigaDiComando::aiuto()
     const Esito esito = Esegue({QStringLiteral("--help")});
     QCOMPARE(esito.stato, 0);
     QCOMPARE(esito.errori, QString());
-    QVERIFY(esito.uscita.contains(QStringLiteral("Opzioni:")));
+    for (const char *italiano : {"Utilizzo: ", "Opzioni:", "Parametri:", "[opzioni]"}) {
+        QVERIFY2(esito.uscita.contains(QString::fromLatin1(italiano)), italiano);
+    }
+    for (const char *inglese : {"Usage", "options", "Options", "Arguments", "Displays"}) {
+        QVERIFY2(!esito.uscita.contains(QString::fromLatin1(inglese)), inglese);
+    }
     for (const char *opzione : {"[modello...]", "uno solo", "Esito: 0", "dirtxt", "--help",
                                 "--version", "--dati <cartella>", "--modello <file>",
                                 "--pdf <file>", "--anteprima <file>", "--nomi", "--controlla"}) {
         QVERIFY2(esito.uscita.contains(QString::fromLatin1(opzione)), opzione);
     }
     QVERIFY(esito.uscita.contains(QStringLiteral("Modello da stampare senza aprire finestre.")));
+}
+
+void tst_RigaDiComando::aiutoNonConsegnato()
+{
+    QProcess programma;
+    programma.setProcessEnvironment(Ambiente());
+    programma.setStandardOutputFile(QStringLiteral("/dev/full"));
+    programma.start(QStringLiteral(PROGRAMMA), {QStringLiteral("--help")});
+    QVERIFY(programma.waitForFinished(60'000));
+    QCOMPARE(programma.exitCode(), 1);
+    QVERIFY(QString::fromUtf8(programma.readAllStandardError()).startsWith(u"errore 61 "));
 }
 
 void tst_RigaDiComando::versione()

@@ -72,7 +72,7 @@ QString Violazione(const QString &stanza, const QString &inclusa)
                      [&](const QString &modulo) { return DelModulo(modulo, inclusa); })) {
         return QStringLiteral("%1 may use Qt %2 only").arg(stanza, questa.moduli.join(u' '));
     }
-    if (inclusa == QLatin1String("Plakera.h") || inclusa == QLatin1String("LineaDiComando.h")) {
+    if (QFileInfo::exists(QStringLiteral(CARTELLA_SORGENTI "/") + inclusa)) {
         return QStringLiteral("a room may not know the program");
     }
     return {};
