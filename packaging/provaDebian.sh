@@ -6,16 +6,19 @@
 #
 # The clean Debian is made from the network once and kept as build/radice.tar; remove that for a new one.
 set -euo pipefail
+pacchetto=${1:+$(realpath -e "$1")}
 cd "$(dirname "$0")/.."
-[ "$(id -u)" -eq 0 ] || exec sudo "$(realpath packaging/provaDebian.sh)" "$@"
+if [ -z "$pacchetto" ]; then
+  pacchetto=$(find "$PWD/build/pacchetto" -name '*.deb' 2> /dev/null | sort -V | tail -1 || true)
+  [ -n "$pacchetto" ] || { echo "provaDebian.sh: no package there: run packaging/debian.sh first" >&2; exit 1; }
+fi
+[ "$(id -u)" -eq 0 ] || exec sudo "$(realpath packaging/provaDebian.sh)" "$pacchetto"
 if [ -z "${PLAKERA_FOGLI:-}" ]; then
   cmake/installa.sh provaPacchetto
-  exec packaging/conCoda.sh packaging/provaDebian.sh "$@"
+  exec packaging/conCoda.sh packaging/provaDebian.sh "$pacchetto"
 fi
 export LC_ALL=C.UTF-8
 umask 022
-pacchetti=(build/pacchetto/*.deb)
-pacchetto=$(realpath "${1:-${pacchetti[0]}}")
 lavoro=$(mktemp -d /var/tmp/provaDebian.XXXXXX)
 radice=$lavoro/radice
 programma=
