@@ -3,7 +3,6 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
-#include <ctime>
 
 /// Limits of time in tests hold for the program as it is shipped; a build without the optimiser, or
 /// one that checks every access, is slower by about this much.
@@ -23,10 +22,7 @@ public:
     TempoDiLavoro() { orologio_.start(); }
 
     /// Processor time.
-    double MilliSecondi() const
-    {
-        return 1000.0 * static_cast<double>(std::clock() - inizio_) / CLOCKS_PER_SEC;
-    }
+    double MilliSecondi() const { return Processore() - inizio_; }
     /// True while less than the given milliseconds, widened by Lentezza, have been used, and no
     /// more than five times as long, or five seconds, has passed with waiting: a hang is none
     /// either when the processor rests.
@@ -39,6 +35,9 @@ public:
     }
 
 private:
+    /// What the process has used since it began, ms.
+    static double Processore();
+
     QElapsedTimer orologio_;
-    std::clock_t inizio_ = std::clock();
+    double inizio_ = Processore();
 };
