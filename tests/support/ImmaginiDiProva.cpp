@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 #include <QtEndian>
@@ -110,6 +111,16 @@ QByteArray ImmaginiDiProva::InFormato(const QImage &immagine, const char *format
         qFatal("cannot write a test picture");
     }
     return byte;
+}
+
+bool ImmaginiDiProva::Manca(const QByteArray &formato)
+{
+#ifdef Q_OS_WIN
+    return !QImageReader::supportedImageFormats().contains(formato);
+#else
+    Q_UNUSED(formato);
+    return false;
+#endif
 }
 
 QString ImmaginiDiProva::Scrive(const QString &percorso, const QByteArray &byte)

@@ -33,6 +33,10 @@ struct Bomba
 };
 QList<Bomba> Bombe();
 
+/// Whether Qt has no reader for the format: Qt for Windows is built with what sources there are. On
+/// other systems the packages bring every format, so that there a missing one is a failure.
+bool Manca(const QByteArray &formato);
+
 /// Writes the bytes and returns the path. Ends the test program when the disk refuses.
 QString Scrive(const QString &percorso, const QByteArray &byte);
 
