@@ -5,6 +5,7 @@
 #include "sistema/Disco.h"
 #include "sistema/Percorsi.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,9 +19,10 @@ bool StessaCartella(const QString &una, const QString &altra)
     if (una.isEmpty()) {
         return false;
     }
+    // Windows finds no folder by a name that ends with a separator; QDir takes it away.
     std::error_code codice;
-    return std::filesystem::equivalent(QFileInfo(una).filesystemFilePath(),
-                                       QFileInfo(altra).filesystemFilePath(), codice) &&
+    return std::filesystem::equivalent(QDir(una).filesystemPath(), QDir(altra).filesystemPath(),
+                                       codice) &&
            !codice;
 }
 

@@ -2,6 +2,7 @@
 #include "support/Permessi.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -171,6 +172,10 @@ void tst_ImmaginiIncollate::UnAltroModelloDellaStessaCartella()
     MetteFile(due.fonte, Logo, Rossa());
     QVERIFY(QFile::link(QStringLiteral("ini"),
                         Cartella(due.fonte) + QStringLiteral("../collegamento")));
+    if (come.contains(QLatin1String("collegamento")) &&
+        !QFileInfo(Cartella(due.fonte) + QStringLiteral("../collegamento")).isSymbolicLink()) {
+        QSKIP("here Qt makes shortcuts, through which no path leads");
+    }
     due.qui.Archivio.Stato().CartellaModelli = Cartella(due.fonte) + come;
     due.qui.Archivio.Stato().NomeFile = QStringLiteral("Secondo.Mod");
     due.Incolla();
