@@ -41,6 +41,19 @@ QString SenzaOra(QString testo)
     return testo.replace(Nuova, QStringLiteral("Nuova<ora>"));
 }
 
+/// Paths below the folder, as the system writes them, as they are in the records.
+QString ConBarre(QString testo, const QString &cartella)
+{
+    for (qsizetype i = testo.indexOf(cartella); i >= 0; i = testo.indexOf(cartella, i)) {
+        testo.replace(i, cartella.size(), QStringLiteral("<archivio>"));
+        static const QRegularExpression Fine(QStringLiteral("[:»\r\n]"));
+        qsizetype fine = testo.indexOf(Fine, i);
+        fine = fine < 0 ? testo.size() : fine;
+        testo.replace(i, fine - i, QDir::fromNativeSeparators(testo.mid(i, fine - i)));
+    }
+    return testo;
+}
+
 /// What opening makes of the model.
 QByteArray Riaperto(Modello modello)
 {
@@ -171,6 +184,7 @@ QString Copione::Pulito(QString testo) const
     const QString cartella =
         QDir::cleanPath(Posto.Archivio.Stato().CartellaModelli + QStringLiteral("../.."));
     testo.replace(cartella, QStringLiteral("<archivio>"));
+    testo = ConBarre(testo, QDir::toNativeSeparators(cartella));
     testo.replace(u'\r', QStringLiteral("\\r")).replace(u'\n', QStringLiteral("\\n"));
     return SenzaOra(testo);
 }

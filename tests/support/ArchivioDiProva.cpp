@@ -12,7 +12,8 @@ ArchivioDiProva::ArchivioDiProva(const QString &nomeFile)
     for (const char *diUnSistema : {"XDG_STATE_HOME", "LOCALAPPDATA"}) {
         qputenv(diUnSistema, QFile::encodeName(CartellaStato()));
     }
-    stato_.CartellaModelli = cartella_.filePath(QStringLiteral("Contabilita/ini/"));
+    stato_.CartellaModelli =
+        QDir::toNativeSeparators(cartella_.filePath(QStringLiteral("Contabilita/ini/")));
     stato_.NomeFile = nomeFile;
     modello_.NomeFile = nomeFile;
     modello_.Righe = {100, 200, 5, 4, Modello::SeguePagPredefinito};
