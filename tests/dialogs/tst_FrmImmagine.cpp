@@ -203,7 +203,9 @@ void tst_FrmImmagine::NomeCheIlModelloNonPuoContenere_data()
     QTest::newRow("accento staccato")
         << QStringLiteral("Pero\u0300.bmp") << QStringLiteral("U+0300");
     QTest::newRow("faccina") << QStringLiteral("\U0001F600.bmp") << QStringLiteral("U+1F600");
+#ifndef Q_OS_WIN // whose disks know no such name
     QTest::newRow("a capo") << QStringLiteral("a\rb.bmp") << QStringLiteral("U+000D");
+#endif
 }
 
 void tst_FrmImmagine::NomeCheIlModelloNonPuoContenere()
@@ -226,7 +228,7 @@ void tst_FrmImmagine::NomeCheIlModelloNonPuoContenere()
              qPrintable(detto));
     QVERIFY(p.stato.Aperto() == prima);
     QCOMPARE(Testo(p.dialogo, "Nome"), QStringLiteral("vecchia2.bmp"));
-    QVERIFY(elenco->currentItem() == nullptr);
+    QVERIFY(elenco->selectedItems().isEmpty());
     QVERIFY(p.chiamante->Ignaro());
     p.Aggiunge("Però €.bmp", Figura("bmp", 15, 25));
     p.Clicca("Però €.bmp");
