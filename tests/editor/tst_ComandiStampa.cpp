@@ -6,6 +6,7 @@
 #include "support/LettorePdf.h"
 #include "support/Rettangoli.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -85,6 +86,7 @@ private slots:
     void sostituisceSoloSeSiVuole();
     void maiUnModello_data();
     void maiUnModello();
+    void cartellaNonScrivibile_data();
     void cartellaNonScrivibile();
     void cartellaSparitaQuellaSopra();
     void laFinestraDeiFileParlaItaliano();
@@ -224,16 +226,30 @@ void tst_ComandiStampa::maiUnModello()
     QCOMPARE(QFile::exists(file), esiste);
 }
 
+void tst_ComandiStampa::cartellaNonScrivibile_data()
+{
+    // Refused to the administrator too.
+    QTest::addColumn<QString>("cartella");
+#ifndef Q_OS_WIN
+    QTest::newRow("a folder of the system's") << QStringLiteral("/proc");
+#endif
+    QTest::newRow("a file in its place") << QStringLiteral("%MODELLO");
+}
+
 void tst_ComandiStampa::cartellaNonScrivibile()
 {
+    QFETCH(QString, cartella);
     const Prova prova;
+    const QString uscita = cartella.replace(QStringLiteral("%MODELLO"), prova.Archivio.Percorso()) +
+                           QDir::separator() + QStringLiteral("uscita.pdf");
     Robot robot;
-    robot.Agisce(Salva(QStringLiteral("/proc/uscita.pdf")))
-        .Ok(); // refused to the administrator too
+    robot.Agisce(Salva(uscita)).Ok();
     prova.Esporta();
     QVERIFY(robot.Soddisfatto());
-    QVERIFY(robot.Testi().constLast().contains(
-        QStringLiteral("impossibile scrivere /proc/uscita.pdf: ")));
+    QVERIFY2(
+        robot.Testi().constLast().contains(
+            QStringLiteral("impossibile scrivere %1: ").arg(QDir::fromNativeSeparators(uscita))),
+        qPrintable(robot.Testi().constLast()));
     QCOMPARE(prova.Striscia(), QString());
 }
 
