@@ -61,11 +61,14 @@ void tst_Suggerimenti::SuggerimentoConAltraFinestraAttiva()
 {
     Banco banco;
     banco.Cornice(60, 50, 30, 20);
+    // Beside the element, with the screen's own pointer upon it: real moves say what these do.
     QWidget altra;
+    altra.setGeometry(QRect(banco.Vista()->mapToGlobal(banco.Pixel({120, 100})), QSize(200, 100)));
     altra.show();
     altra.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&altra));
     QVERIFY(!banco.frm->isActiveWindow());
+    QCursor::setPos(banco.Vista()->mapToGlobal(banco.Pixel({75, 60})));
     banco.Muove({75, 60});
     QTRY_COMPARE(QToolTip::text(), banco.C2(1)->toolTip());
     QVERIFY(QToolTip::isVisible());
