@@ -48,11 +48,8 @@ QByteArray Postazione::DaSalvare() const
 
 void Postazione::Attiva(QWidget &finestra) const
 {
-    if (!finestra.isActiveWindow()) {
-        finestra.activateWindow();
-        if (!QTest::qWaitForWindowActive(&finestra)) {
-            qFatal("the window does not become active");
-        }
+    if (!RendeAttiva(finestra)) {
+        qFatal("the window does not become active");
     }
 }
 

@@ -51,8 +51,7 @@ public:
     /// The key reaches whatever has the focus in the window.
     static void Tasto(QWidget &finestra, Qt::Key tasto, Qt::KeyboardModifiers modi = {})
     {
-        finestra.activateWindow();
-        if (!QTest::qWaitForWindowActive(&finestra)) {
+        if (!RendeAttiva(finestra)) {
             qFatal("the window does not become active");
         }
         QTest::keyClick(finestra.windowHandle(), tasto, modi);

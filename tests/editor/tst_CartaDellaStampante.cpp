@@ -109,8 +109,7 @@ void tst_CartaDellaStampante::TastiDallaFinestraDiLavoro()
     EditoreDiProva prova;
     QVERIFY(prova.Apre());
     QTRY_VERIFY(Contorno(*prova.Editor, "ContornoA4")->isVisible());
-    prova.Editor->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    QVERIFY(RendeAttiva(*prova.Editor));
     QTest::keyClick(prova.Editor.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     QVERIFY(!Contorno(*prova.Editor, "ContornoA4")->isVisible());
     auto *casella = Trova<QLineEdit>(*prova.Editor, "Tipo");

@@ -192,8 +192,7 @@ void tst_CaselleEditor::LaSelezioneAllEntrataMostraLInizio()
     prova.Archivio.DaAprire().Sfondo.Ximmagine = lungo;
     QVERIFY(prova.Apre());
     Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(5);
-    prova.Editor->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    QVERIFY(RendeAttiva(*prova.Editor));
     auto *casella = Trova<QLineEdit>(*prova.Editor, "SfondoXimmagine");
     casella->setFocus();
     QTRY_COMPARE(casella->selectedText(), lungo);
@@ -205,8 +204,7 @@ void tst_CaselleEditor::EntrandoDaTastieraSiVedeLInizio()
     EditoreDiProva prova;
     prova.Archivio.DaAprire().Tipo = QString(200, u'T');
     QVERIFY(prova.Apre());
-    prova.Editor->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    QVERIFY(RendeAttiva(*prova.Editor));
     auto *casella = Trova<QLineEdit>(*prova.Editor, "Tipo");
     Trova<QWidget>(*prova.Editor, "StampaRetino")->setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -353,8 +351,7 @@ void tst_CaselleEditor::IlFuocoNascondeLaManigliaDelGenere()
     EditoreDiProva prova;
     prova.Archivio.Riempie(1);
     QVERIFY(prova.Apre());
-    prova.Editor->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(prova.Editor.get()));
+    QVERIFY(RendeAttiva(*prova.Editor));
     Trova<QTabWidget>(*prova.Editor, "SSTab1")->setCurrentIndex(pagina);
     Trova<QLineEdit>(*prova.Editor, "Tipo")->setFocus();
     Frm1 &anteprima = *prova.Editor->Anteprima();

@@ -67,8 +67,7 @@ void tst_CioCheENelModello::CtrlSSalvaComeIlBottone()
     prova.editor->Anteprima()->show();
     for (QWidget *finestra : {static_cast<QWidget *>(prova.editor.get()),
                               static_cast<QWidget *>(prova.editor->Anteprima())}) {
-        finestra->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(finestra));
+        QVERIFY(RendeAttiva(*finestra));
         Robot robot;
         robot.No();
         QTest::keyClick(finestra->windowHandle(), Qt::Key_S, Qt::ControlModifier);
@@ -81,8 +80,7 @@ void tst_CioCheENelModello::CtrlSNelMezzoDiUnGestoTace()
 {
     PagineDiProva prova;
     prova.editor->show();
-    prova.editor->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(prova.editor.get()));
+    QVERIFY(RendeAttiva(*prova.editor));
     Robot robot;
     {
         const Passo gesto(prova.prova.Stato().documento, QStringLiteral("sposta"));

@@ -259,8 +259,7 @@ void tst_Form2Elementi::FuocoSulComboNascondeLaManiglia()
     EditorAperto prova(2);
     Form2 &editor = prova.Editor();
     editor.show();
-    editor.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&editor));
+    QVERIFY(RendeAttiva(editor));
     Trova<QPushButton>(editor, "Salva")->setFocus();
     editor.Anteprima()->SelezionaCampo(2);
     QVERIFY(Controllo(editor, QStringLiteral("S1"))->isVisible());

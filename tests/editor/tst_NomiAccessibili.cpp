@@ -87,8 +87,7 @@ bool DiQt(const QWidget *controllo)
 /// that the keyboard has come to a control.
 void GiraColTabulatore(QWidget &finestra)
 {
-    finestra.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&finestra));
+    QVERIFY(RendeAttiva(finestra));
     QSet<QWidget *> visti;
     for (QWidget *prima = nullptr;;) {
         QTest::keyClick(finestra.windowHandle(), Qt::Key_Tab);

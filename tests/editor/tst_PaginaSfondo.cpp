@@ -179,8 +179,7 @@ void tst_PaginaSfondo::SfondoFuocoSelezionaTutto()
     QFETCH(const QByteArray, casella);
     PagineDiProva e;
     e.editor->show();
-    e.editor->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(e.editor.get()));
+    QVERIFY(RendeAttiva(*e.editor));
     Trova<QTabWidget>(*e.editor, "SSTab1")->setCurrentIndex(5);
     auto *riga = Trova<QLineEdit>(*e.editor, casella.constData());
     riga->setText(QStringLiteral("210"));

@@ -38,8 +38,7 @@ void tst_TastiTrascinando::IlTrascinamentoVaComeSenza()
     senza.Anteprima().Seleziona(Genere::Campo, 1);
     senza.Trascina(Da, A);
     const StoriaDiProva con;
-    con.Anteprima().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&con.Anteprima()));
+    QVERIFY(RendeAttiva(con.Anteprima()));
     con.Anteprima().Seleziona(Genere::Campo, 1);
     Robot robot;
     con.Afferra(Da, (Da + A) / 2);

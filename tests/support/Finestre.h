@@ -8,6 +8,7 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QStringList>
+#include <QTest>
 #include <QWidget>
 
 using Controlli::Trova;
@@ -26,6 +27,20 @@ inline QStringList Voci(QWidget &finestra, const char *nome)
         voci.append(combo->itemText(i));
     }
     return voci;
+}
+
+/// Makes a window that shows the active one; false when it does not become that. A real screen may
+/// yet activate another that was shown before it: then it is asked again.
+inline bool RendeAttiva(QWidget &finestra)
+{
+    constexpr int Volte = 5;
+    constexpr int Attesa = 1000; // ms
+    bool attiva = finestra.isActiveWindow();
+    for (int i = 0; i < Volte && !attiva; ++i) {
+        finestra.activateWindow();
+        attiva = QTest::qWaitForWindowActive(&finestra, Attesa);
+    }
+    return attiva;
 }
 
 /// The element, handle or guide line of the preview with that object name; null when there is none.
