@@ -38,6 +38,8 @@ export WINEPREFIX=$dove/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' W
 # Wine hands variables of Qt's on to programs only under such names. Its own windows, not Qt's "offscreen", which
 # knows none of the system's fonts.
 export WINEQT_QPA_PLATFORM=windows WINEQT_FORCE_STDERR_LOGGING=1
+# As many sequences of random work as fit into two minutes: all of them would not end within five.
+export PLAKERA_SEQUENZE_SECONDI=${PLAKERA_SEQUENZE_SECONDI:-120}
 if [ ! -d "$WINEPREFIX" ]; then
   wineboot -i > /dev/null 2>&1
   wineserver -w
