@@ -1,6 +1,6 @@
 ; The installer. costruisci.sh calls makensis with
-;   VERSIONE  1.0.0            PROGRAMMA  folder with what "cmake --install" put there
-;   LICENZE   Qt's licences    CARTELLA   this folder     USCITA  the installer to be written
+;   VERSIONE  1.0.0            PROGRAMMA  folder with all that is installed
+;   TOGLIE    a list of commands that remove it, file by file     USCITA  the installer to be written
 ;   ICONA     the program's    FIANCO     picture beside the first page and the last
 ; Command line: /S without windows, /AllUsers or /CurrentUser, /MOD=1 opens .Mod files with Plakera,
 ; /D=C:\folder (last, without quotes).
@@ -16,6 +16,8 @@ ManifestSupportedOS Win10
 !define TIPO "Plakera.Modello"
 ; What .Mod files were opened with before the user gave them to Plakera.
 !define PRIMA "AltroProgramma"
+; What was installed, a line each, for the version that comes after.
+!define ELENCO "installati.txt"
 
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_MUI
@@ -30,6 +32,7 @@ ManifestSupportedOS Win10
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include TextFunc.nsh
 !include x64.nsh
 
 Name "${NOME}"
@@ -81,21 +84,41 @@ VIAddVersionKey /LANG=1040 LegalCopyright "${NOME}"
   System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 !macroend
 
+; The licences of an older version may be others. Only what that version put there, never what is not known:
+; a name is found as it is written only if it is that of a file in that folder.
+Function TogliLicenzeDiPrima
+  ClearErrors
+  FileOpen $0 "$INSTDIR\${ELENCO}" r
+  ${If} ${Errors}
+    Return
+  ${EndIf}
+  ${Do}
+    ClearErrors
+    FileRead $0 $1
+    ${If} ${Errors}
+      ${ExitDo}
+    ${EndIf}
+    ${TrimNewLines} $1 $1
+    StrCpy $2 $1 8
+    StrCpy $1 $1 "" 8
+    ${If} $2 == "licenze\"
+      FindFirst $2 $3 "$INSTDIR\licenze\$1"
+      FindClose $2
+      ${If} $3 == $1
+        Delete "$INSTDIR\licenze\$1"
+      ${EndIf}
+    ${EndIf}
+  ${Loop}
+  FileClose $0
+FunctionEnd
+
 Section "${NOME}" SezioneProgramma
   SectionIn RO
   !insertmacro SoloSeChiuso
+  Call TogliLicenzeDiPrima
   SetOutPath "$INSTDIR"
   ClearErrors
-  File "${PROGRAMMA}\plakera.exe"
-  File "${PROGRAMMA}\plakera.com"
-  File "${CARTELLA}\LEGGIMI.txt"
-  SetOutPath "$INSTDIR\XtHelpPdf"
-  File "${PROGRAMMA}\XtHelpPdf\zPlakera-XtHelp.pdf"
-  ; Those of an older version may be others.
-  RMDir /r "$INSTDIR\licenze"
-  SetOutPath "$INSTDIR\licenze"
-  File "${LICENZE}\*"
-  SetOutPath "$INSTDIR"
+  File /r "${PROGRAMMA}\*"
   ${If} ${Errors}
     SetErrorLevel 5
     Abort "L'installazione non è riuscita: i file non si possono scrivere in $INSTDIR."
@@ -201,12 +224,7 @@ Section Uninstall
   DeleteRegKey SHCTX "${CHIAVE_PROGRAMMA}"
   Delete "$SMPROGRAMS\${NOME}.lnk"
   ; Only what was installed: the folder may hold files of the user's own.
-  Delete "$INSTDIR\plakera.exe"
-  Delete "$INSTDIR\plakera.com"
-  Delete "$INSTDIR\LEGGIMI.txt"
-  Delete "$INSTDIR\XtHelpPdf\zPlakera-XtHelp.pdf"
-  RMDir "$INSTDIR\XtHelpPdf"
-  RMDir /r "$INSTDIR\licenze"
+  !include "${TOGLIE}"
   Delete "$INSTDIR\disinstalla.exe"
   RMDir "$INSTDIR"
   !insertmacro RinnovaIcone

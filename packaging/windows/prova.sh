@@ -2,27 +2,37 @@
 # Tries the Windows release as a user meets it, under Wine on a screen of its own: installs it, calls it
 # from the command line, works it with mouse and keys, prints through a queue of CUPS and measures the
 # sheet, kills it, upgrades and removes it. Ends with a table and, where a check failed, with status 1.
-#   prova.sh [INSTALLER]      pictures of the windows are left in build/windows/prova
+#   prova.sh [INSTALLER]      as root or with sudo; pictures of the windows are left in build/windows/prova
 set -euo pipefail
+installazione=${1:+$(realpath -e "$1")}
 cd "$(dirname "$0")/../.."
 radice=$PWD
 qui=$radice/packaging/windows
 dove=$radice/build/windows/prova
 
 if [ -z "${PLAKERA_FOGLI:-}" ]; then
+  if [ -z "$installazione" ]; then
+    installazione=$(find "$radice/build/windows/uscita" -name 'plakera-*-setup.exe' 2> /dev/null | sort -V | tail -1 || true)
+    [ -n "$installazione" ] || { echo "prova.sh: no installer there: run packaging/windows/costruisci.sh first" >&2; exit 1; }
+  fi
+  # A print server wants it.
+  [ "$(id -u)" -eq 0 ] || exec sudo "$qui/prova.sh" "$installazione"
   cmake/installa.sh windows-prova
   export LC_ALL=C.UTF-8
-  installazione=$(readlink -f "${1:-$(ls "$radice"/build/windows/uscita/plakera-*-setup.exe | tail -1)}")
   rm -rf "$dove"
-  mkdir -p "$dove"
+  mkdir -p "$dove/aiuti"
+  for aiuto in SenzaDiritti Annota; do
+    x86_64-w64-mingw32-g++-posix -std=c++20 -O2 -static -s -municode "$qui/$aiuto.cpp" -o "$dove/aiuti/$aiuto.exe"
+  done
   # Alone on a screen and beside a print server of its own; the paper is A4.
   exec packaging/conCoda.sh xvfb-run -a -s '-screen 0 1920x1080x24 -dpi 96' \
     "$qui/prova.sh" "$installazione"
 fi
 
-installazione=$1
+versione=$(basename "$installazione" | sed 's/plakera-\(.*\)-setup.exe/\1/')
+aiuti=$dove/aiuti
 export WINEPREFIX=$dove/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' WINEARCH=win64
-export HOME=$dove/casa
+export WINEPATH="Z:$aiuti" HOME=$dove/casa
 mkdir -p "$HOME"
 . "$radice/packaging/verifiche.sh"
 . "$radice/packaging/compito.sh"
@@ -31,6 +41,7 @@ Uccide() { wine taskkill /f /im plakera.exe > /dev/null 2>&1 || true; Attende 30
 
 # ---------------------------------------------------------------- a computer with Windows
 wineboot -i > /dev/null 2>&1
+winecfg -v win10 > /dev/null 2>&1 # Wine 8.0 begins with a Windows that is too old
 wineserver -w
 # Metric-compatible fonts under the names by which models ask for them.
 cp /usr/share/fonts/truetype/liberation/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
@@ -55,90 +66,11 @@ modelli="$dati/Contabilita/ini"
 modello="$datiWindows\\Contabilita\\ini\\Fattura_Rossi.Mod"
 file="$modelli/Fattura_Rossi.Mod"
 
-# ---------------------------------------------------------------- the installer, as it is seen
-solita="$WINEPREFIX/drive_c/Program Files/Plakera"
-Avanti() { # keys: until the screen has changed and stands still
-  local prima ora poi
-  prima=$(import -window root rgb:- | md5sum)
-  Tasti "$@"
-  Attende 60 eval '[ "$(import -window root rgb:- | md5sum)" != "$prima" ]' || return 1
-  for ((i = 0; i < 60; i++)); do
-    ora=$(import -window root rgb:- | md5sum)
-    sleep 0.7
-    poi=$(import -window root rgb:- | md5sum)
-    [ "$ora" != "$poi" ] || return 0
-  done
-  return 1
-}
-FinoAllaCartella() { # what the pictures begin with: up to the last page before anything is written
-  wine "$installazione" > /dev/null 2>&1 &
-  disown
-  SiApre '^Installazione di Plakera' && sleep 2 && Foto "$1_1_benvenuto" && Avanti Return && Foto "$1_2_utenti" &&
-    Avanti Return && Avanti Down space && Foto "$1_3_componenti" && Avanti Return && Foto "$1_4_cartella"
-}
-NessunaFinestra() { [ -z "$(xdotool search --onlyvisible --name '^(Installazione|Disinstallazione)' 2> /dev/null)" ]; }
-ConFinestre() {
-  FinoAllaCartella installa && Avanti Return && Attende 60 test -f "$solita/disinstalla.exe" && sleep 2 &&
-    Foto installa_5_fine && Tasti Return && Attende 30 NessunaFinestra && [ -f "$solita/plakera.exe" ] &&
-    wine reg query 'HKLM\Software\Classes\.mod' | Contiene Plakera.Modello
-}
-Verifica "installazione con le sue finestre, .Mod spuntati" ConFinestre
-MentreGira() { # says so, can be given up, and goes on once the program is closed
-  wine "$solita/plakera.exe" > /dev/null 2>&1 &
-  disown
-  SiApre '^Plakera$' && touch "$dove/prima" || return 1
-  local fine
-  for fine in rinuncia riprova; do
-    FinoAllaCartella "aperto_$fine" && Tasti Return && SiApre '^Installazione di Plakera' && sleep 3 && Foto "aperto_${fine}_5_detto" || return 1
-    if [ $fine = rinuncia ]; then
-      Avanti Escape && Foto aperto_rinuncia_6_fine && [ ! "$solita/LEGGIMI.txt" -nt "$dove/prima" ] || return 1
-    else
-      Uccide && Avanti Return && sleep 2 && Foto aperto_riprova_6_fine || return 1
-    fi
-    Tasti Return && Attende 30 NessunaFinestra || return 1
-  done
-}
-Verifica "installazione mentre il programma e' aperto: detto; annulla, riprova" MentreGira
-DiUnAltro() { # asked, and the answer that is proposed leaves them where they were
-  wine reg add 'HKLM\Software\Classes\.mod' /ve /d Altro.Programma /f > /dev/null
-  wine "$installazione" /MOD=1 > /dev/null 2>&1 &
-  disown
-  SiApre '^Installazione di Plakera' && sleep 2 && Avanti Return && Avanti Return && Avanti Return && Avanti Return &&
-    Foto altrui_chiede && Avanti Return && sleep 2 && Foto altrui_fine && Tasti Return && Attende 30 NessunaFinestra &&
-    wine reg query 'HKLM\Software\Classes\.mod' /ve | Contiene Altro.Programma
-}
-Verifica "installazione con i .Mod di un altro programma: chiesto" DiUnAltro
-ToltoConFinestre() {
-  wine "$solita/disinstalla.exe" > /dev/null 2>&1 &
-  disown
-  SiApre '^Disinstallazione di Plakera' && sleep 2 && Foto disinstalla_1 && Avanti Return && sleep 2 && Foto disinstalla_2 &&
-    Tasti Return && Attende 30 NessunaFinestra && Attende 30 eval '[ ! -e "$solita" ]' &&
-    wine reg query 'HKLM\Software\Classes\.mod' /ve | Contiene Altro.Programma &&
-    wine reg delete 'HKLM\Software\Classes\.mod' /f > /dev/null
-}
-Verifica "disinstallazione con le sue finestre, i .Mod restano ad altri" ToltoConFinestre
-
 # ---------------------------------------------------------------- the installer
-casa="$WINEPREFIX/drive_c/Programmi di prova/Plakera è qui"
-cartella='C:\Programmi di prova\Plakera è qui'
-Installa() { (cd "$(dirname "$installazione")" && wine cmd /c "$(basename "$installazione") /S $*"); }
-NelRegistroManca() { ! wine reg query "$1"; }
-Registro() { wine reg query "$@" 2> /dev/null | tr -d '\r'; }
-Voce='HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plakera'
-SiInstalla() {
-  Installa /AllUsers "/D=$cartella" && [ -f "$casa/plakera.exe" ] && [ -f "$casa/plakera.com" ] &&
-    [ -f "$casa/XtHelpPdf/zPlakera-XtHelp.pdf" ] && ls "$casa/licenze" | Contiene LGPL &&
-    grep -q Plakera "$casa/LEGGIMI.txt"
-}
-Verifica "installazione per tutti, percorso con spazi e accenti" SiInstalla
-Verifica "voce nel menu Start" test -f "$WINEPREFIX/drive_c/ProgramData/Microsoft/Windows/Start Menu/Programs/Plakera.lnk"
-Verifica "voce fra i programmi installati" grep -q DisplayVersion <(Registro "$Voce")
-SenzaAssociazione() { ! Registro 'HKLM\Software\Classes\.mod' /s | Contiene Plakera; }
-Verifica "i file .Mod non sono presi senza richiesta" SenzaAssociazione
-Aggiorna() { Installa /AllUsers /MOD=1 && Registro 'HKLM\Software\Classes\.mod' | Contiene Plakera.Modello && [ -f "$casa/plakera.exe" ]; }
-Verifica "aggiornamento nella stessa cartella, .Mod a richiesta" Aggiorna
-Risorse() { wrestool -l "$casa/plakera.exe" | Contiene 'type=16' && wrestool --raw -x -t 24 "$casa/plakera.exe" | Contiene PerMonitorV2; }
-Verifica "versione, icona e manifesto nel programma" Risorse
+installazioneWindows=$(winepath -w "$installazione" 2> /dev/null)
+. "$qui/provaInstallazione.sh"
+InstallazioneConFinestre
+InstallazioneSenzaFinestre
 
 # ---------------------------------------------------------------- the command line
 Chiama() { wine "$casa/plakera.com" "$@"; } # what a console calls as plakera
@@ -170,7 +102,19 @@ mkdir -p "$dati/$lungo/$lungo"
 cp "$file" "$dati/$lungo/$lungo/"
 Lungo() { Chiama --modello "$datiWindows\\$lungo\\$lungo\\Fattura_Rossi.Mod" --pdf "$datiWindows\\$lungo\\$lungo\\f.pdf"; [ -s "$dati/$lungo/$lungo/f.pdf" ]; }
 Verifica "percorsi di oltre 260 caratteri" Lungo
-Verifica "PDF con un nome riservato (NUL.pdf): rifiutato o scritto, mai bloccato" timeout 60 bash -c "wine '$casa/plakera.com' --modello '$modello' --pdf 'K:\\NUL.pdf'; true"
+Riservato() { # a file as any other where the system takes the name, else said; and nothing else is left
+  local prima stato=0
+  prima=$(ls -A "$dove/disco")
+  timeout 60 wine "$casa/plakera.com" --modello "$modello" --pdf 'K:\NUL.pdf' > "$dove/detto.txt" 2>&1 || stato=$?
+  echo "status $stato: $(cat "$dove/detto.txt")"
+  if [ $stato -eq 0 ]; then
+    pdftotext "$dove/disco/NUL.pdf" - | Contiene '128/A' && rm "$dove/disco/NUL.pdf" || return 1
+  else
+    [ $stato -eq 1 ] && Contiene NUL.pdf "$dove/detto.txt" || return 1
+  fi
+  [ "$(ls -A "$dove/disco")" = "$prima" ]
+}
+Verifica "PDF con un nome riservato (NUL.pdf): scritto intero o rifiutato" Riservato
 rm -rf "${dati:?}/$lungo" "$dati/foglio è.pdf"
 
 # ---------------------------------------------------------------- the windows
@@ -188,6 +132,19 @@ Uccide
 wine reg add 'HKCU\Software\VB and VBA Program Settings\vastrel\INI' /v dirtxt /d "$datiWindows" /f > /dev/null
 ApreInizio() { Avvia; SiApre '^Plakera - Modelli stampa' && Foto inizio; }
 Verifica "finestra iniziale dalla cartella del registro" ApreInizio
+AiutoDallInizio() { # for PDFs there is a reader that writes down what it is given
+  local lettore="$WINEPREFIX/drive_c/Lettore di prova/lettore.exe" atteso="$cartella\\XtHelpPdf\\zPlakera-XtHelp.pdf"
+  mkdir -p "$(dirname "$lettore")"
+  cp "$aiuti/Annota.exe" "$lettore"
+  wine reg add 'HKLM\Software\Classes\.pdf' /ve /d Lettore.Prova /f > /dev/null
+  wine reg add 'HKLM\Software\Classes\Lettore.Prova\shell\open\command' /ve \
+    /d '"C:\Lettore di prova\lettore.exe" "%1"' /f > /dev/null
+  Tasti F1
+  Attende 30 test -s "$lettore.txt" || return 1
+  echo "$(cat "$lettore.txt") should be $atteso"
+  [ "$(cat "$lettore.txt")" = "$atteso" ] && SiApre '^Plakera - Modelli stampa'
+}
+Verifica "F1 nella finestra iniziale: il manuale installato" AiutoDallInizio
 DueVolte() { Avvia; SiApre '^Plakera$' && Foto gia_in_esecuzione && Tasti Return && SiApre '^Plakera - Modelli'; }
 Verifica "una sola istanza" DueVolte
 ApreModello() { ScegliModello "$modelli" Fattura_Rossi.Mod && SiApre '^Plakera: Modello Fattura_Rossi' && sleep 2 && Foto modello; }
@@ -278,7 +235,7 @@ Dialoghi() { # dpi: of the first field, frame and image
   done
 }
 PagineInstallazione() { # dpi: given up on the last page before anything is written
-  FinoAllaCartella "installa_$1" && Avanti Escape && Foto "installa_$1_5_rinuncia" && Tasti Return &&
+  FinoAllaCartella "installa_$1" "$Spunta" && Avanti Escape && Foto "installa_$1_5_rinuncia" && Tasti Return &&
     Attende 30 NessunaFinestra
 }
 for dpi in 96 144; do
@@ -293,21 +250,7 @@ for dpi in 96 144; do
 done
 
 # ---------------------------------------------------------------- gone again
-Toglie() { # a copy of it goes on, when it has ended itself
-  touch "$casa/mio.txt"
-  wine "$casa/disinstalla.exe" /AllUsers /S
-  Attende 60 eval '[ "$(ls "$casa")" = mio.txt ]' && NelRegistroManca "$Voce" &&
-    NelRegistroManca 'HKLM\Software\Classes\.mod'
-}
-Verifica "disinstallazione: resta solo cio' che e' dell'utente" Toglie
-Altrui() {
-  wine reg add 'HKLM\Software\Classes\.mod' /ve /d Altro.Programma /f > /dev/null
-  Installa /AllUsers /MOD=1
-  Registro 'HKLM\Software\Classes\.mod' /ve | Contiene Altro.Programma
-}
-Verifica "i .Mod di un altro programma gli restano" Altrui
-PerUtente() { Installa /CurrentUser && ls "$WINEPREFIX/drive_c/users/"*/AppData/Local/Programs/Plakera/plakera.exe; }
-Verifica "installazione per il solo utente" PerUtente
+Rimozione
 
 echo "$riusciti passed, $falliti failed"
 [ $falliti -eq 0 ]
