@@ -75,6 +75,21 @@ DettoNo() { # the answer that is proposed
   AltroInstallato
   Chiede altrui_no Return && DiAltro
 }
+AllaFineEsegue() { # by Explorer, whose place one takes that writes down what it is called with
+  local esploratore="$WINEPREFIX/drive_c/windows/explorer.exe" esito
+  mv "$esploratore" "$dove/explorer.exe"
+  cp "$aiuti/Annota.exe" "$esploratore"
+  FinoAllaCartella esegue '' && Avanti Return && sleep 2 && Avanti space && Foto esegue_5_fine && Tasti Return &&
+    Attende 30 NessunaFinestra && Attende 30 test -s "$esploratore.txt" && cat "$esploratore.txt" &&
+    [ "$(cat "$esploratore.txt")" = 'C:\Program Files\Plakera\plakera.exe' ] && NessunPlakera
+  esito=$?
+  rm -f "$esploratore.txt"
+  mv "$dove/explorer.exe" "$esploratore"
+  [ $esito -eq 0 ] || return 1
+  wine 'C:\windows\explorer.exe' 'C:\Program Files\Plakera\plakera.exe' > /dev/null 2>&1 &
+  disown
+  SiApre '^Plakera$' && Uccide
+}
 ToltoConFinestre() {
   wine "$solita/disinstalla.exe" > /dev/null 2>&1 &
   disown
@@ -142,6 +157,7 @@ InstallazioneConFinestre() {
   Verifica "installazione con le sue finestre, .Mod spuntati" ConFinestre
   Verifica "installazione mentre il programma e' aperto: detto; annulla, riprova" MentreGira
   Verifica "installazione con i .Mod di un altro programma: chiesto, No" DettoNo
+  Verifica "il programma si avvia dall'ultima pagina, attraverso Explorer" AllaFineEsegue
   Verifica "disinstallazione con le sue finestre, i .Mod restano ad altri" ToltoConFinestre
 }
 InstallazioneSenzaFinestre() {
