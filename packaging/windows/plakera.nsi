@@ -3,7 +3,8 @@
 ;   TOGLIE    a list of commands that remove it, file by file     USCITA  the installer to be written
 ;   ICONA     the program's    FIANCO     picture beside the first page and the last
 ; Command line: /S without windows, /AllUsers or /CurrentUser, /MOD=1 opens .Mod files with Plakera,
-; /D=C:\folder (last, without quotes).
+; /D=C:\folder (last, without quotes). Exit status, beside those of NSIS: 3 Windows is too old,
+; 4 rights are missing, 5 files cannot be written.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -28,11 +29,14 @@ ManifestSupportedOS Win10
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${CHIAVE_PROGRAMMA}"
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "Cartella"
 !define MULTIUSER_USE_PROGRAMFILES64
+!define MULTIUSER_INIT_TEXT_ALLUSERSNOTPOSSIBLE \
+  "Per installare o togliere Plakera per tutti gli utenti servono i diritti di amministratore."
 !include MultiUser.nsh
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
 !include TextFunc.nsh
+!include WinVer.nsh
 !include x64.nsh
 
 Name "${NOME}"
@@ -84,6 +88,24 @@ VIAddVersionKey /LANG=1040 LegalCopyright "${NOME}"
 
 !macro RinnovaIcone
   System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
+!macroend
+
+; MultiUser.nsh says so too, but in a box that waits for somebody also where there are no windows, and then
+; ends as if all were well.
+!macro SoloConDiritti
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/AllUsers" $1
+  ${IfNot} ${Errors}
+    UserInfo::GetAccountType
+    Pop $1
+    ${If} $1 != "Admin"
+    ${AndIf} $1 != "Power"
+      MessageBox MB_OK|MB_ICONSTOP "${MULTIUSER_INIT_TEXT_ALLUSERSNOTPOSSIBLE}" /SD IDOK
+      SetErrorLevel 4
+      Quit
+    ${EndIf}
+  ${EndIf}
 !macroend
 
 ; The licences of an older version may be others. Only what that version put there, never what is not known:
@@ -175,11 +197,14 @@ LangString DescriviMod ${LANG_ITALIAN} "Un doppio clic su un modello lo apre con
 
 Function .onInit
   ${IfNot} ${RunningX64}
-    MessageBox MB_OK|MB_ICONSTOP "Plakera richiede Windows a 64 bit." /SD IDOK
+  ${OrIfNot} ${AtLeastWin10}
+  ${OrIfNot} ${AtLeastBuild} 17763
+    MessageBox MB_OK|MB_ICONSTOP "Plakera richiede Windows 10 (versione 1809) o uno più recente, a 64 bit." /SD IDOK
     SetErrorLevel 3
-    Abort
+    Quit
   ${EndIf}
   SetRegView 64
+  !insertmacro SoloConDiritti
   StrCpy $2 $INSTDIR ; what /D= says, or nothing
   !insertmacro MULTIUSER_INIT
   ${If} $2 != ""
@@ -202,6 +227,7 @@ FunctionEnd
 
 Function un.onInit
   SetRegView 64
+  !insertmacro SoloConDiritti
   !insertmacro MULTIUSER_UNINIT
 FunctionEnd
 

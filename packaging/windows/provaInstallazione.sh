@@ -10,6 +10,13 @@ Registro() { wine reg query "$@" 2> /dev/null | tr -d '\r'; }
 NelRegistroManca() { ! wine reg query "$@"; }
 # From its own folder: a command line of Windows is wanted, so that /D= comes last and without quotes.
 Installa() { (cd "$(dirname "$installazione")" && wine cmd /c "$(basename "$installazione") /S $*"); }
+SenzaDiritti() { (cd "$(dirname "$installazione")" && wine "$aiuti/SenzaDiritti.exe" "$@"); }
+ConEsito() { # status command...
+  local stato=0
+  "${@:2}" || stato=$?
+  echo "status $stato, should be $1"
+  [ $stato -eq "$1" ]
+}
 DiPlakera() { Registro "$Classi\\.mod" /ve | Contiene 'Plakera\.Modello' && Registro "$Classi\\Plakera.Modello\\shell\\open\\command" | Contiene plakera.exe; }
 NonDiPlakera() { ! Registro "$Classi\\.mod" /s | Contiene Plakera && NelRegistroManca "$Classi\\Plakera.Modello"; }
 DiAltro() { Registro "$Classi\\.mod" /ve | Contiene 'Altro\.Programma'; }
@@ -18,6 +25,7 @@ AltroInstallato() { # another program that opens .Mod files
   wine reg add "$Classi\\.mod" /ve /d Altro.Programma /f > /dev/null
 }
 AltroTolto() { wine reg delete "$Classi\\Altro.Programma" /f > /dev/null; }
+NienteSulDisco() { [ ! -e "$solita" ] && NelRegistroManca "$Voce" && NelRegistroManca 'HKLM\Software\Plakera'; }
 
 Avanti() { # keys: until the screen has changed and stands still
   local prima ora poi
@@ -44,6 +52,31 @@ FinoAllaCartella() { # what the pictures begin with, keys for the page with .Mod
 Spunta='Down space'
 QuanteFinestre() { xdotool search --onlyvisible --name '^(Installazione|Disinstallazione)' 2> /dev/null | wc -l; }
 NessunaFinestra() { [ "$(QuanteFinestre)" -eq 0 ]; }
+
+# ---------------------------------------------------------------- whom it refuses
+WindowsVecchio() {
+  local chiave="HKCU\\Software\\Wine\\AppDefaults\\$(basename "$installazione")" esito
+  wine reg add "$chiave" /v Version /d win7 /f > /dev/null
+  wine "$installazione" > /dev/null 2>&1 &
+  disown
+  SiApre '^Installazione di Plakera' && Foto rifiuta_windows && Tasti Return && Attende 30 NessunaFinestra &&
+    ConEsito 3 Installa /AllUsers
+  esito=$?
+  wine reg delete "$chiave" /f > /dev/null
+  [ $esito -eq 0 ] && NienteSulDisco
+}
+PerTuttiSenzaDiritti() {
+  SenzaDiritti "$(basename "$installazione")" /AllUsers > /dev/null 2>&1 &
+  disown
+  SiApre '^Installazione di Plakera' && Foto rifiuta_diritti && Tasti Return && Attende 30 NessunaFinestra &&
+    ConEsito 4 timeout 60 wine "$aiuti/SenzaDiritti.exe" "$installazioneWindows" /S /AllUsers && NienteSulDisco
+}
+SoloPerSeSenzaDiritti() {
+  local sua
+  ConEsito 0 SenzaDiritti "$(basename "$installazione")" /S && NienteSulDisco &&
+    sua=$(ls -d "$WINEPREFIX/drive_c/users/"*/AppData/Local/Programs/Plakera) && [ -f "$sua/plakera.exe" ] &&
+    wine "$sua/disinstalla.exe" /CurrentUser /S && Attende 60 test ! -e "$sua"
+}
 
 # ---------------------------------------------------------------- with its windows
 ConFinestre() {
@@ -132,6 +165,10 @@ Aggiorna() { # over older files, among them a licence that is not packed any mor
   printf 'licenze\\%s\r\n' vecchia.txt '..\mio.txt' '../mio.txt' 'mia.tx?' '*' >> "$casa/installati.txt"
   Installa /AllUsers /MOD=1 && diff -r "$nuovi" "$casa" && [ ! -e "$solita" ] && DiPlakera
 }
+ToglieSenzaDiritti() { # run where it stands, or it would end at once and go on elsewhere
+  (cd "$casa" && ConEsito 4 timeout 60 wine cmd /c "SenzaDiritti disinstalla.exe /AllUsers /S _?=$cartella") &&
+    [ -f "$casa/plakera.exe" ] && Registro "$Voce" | Contiene DisplayVersion
+}
 Risorse() {
   wrestool -l "$casa/plakera.exe" | Contiene 'type=16' &&
     wrestool --raw -x -t 24 "$casa/plakera.exe" | Contiene PerMonitorV2 &&
@@ -154,6 +191,9 @@ PerUtente() {
 }
 
 InstallazioneConFinestre() {
+  Verifica "Windows troppo vecchio: detto, esito 3" WindowsVecchio
+  Verifica "per tutti senza esserne amministratori: detto, esito 4 senza finestre" PerTuttiSenzaDiritti
+  Verifica "per se' soli senza essere amministratori" SoloPerSeSenzaDiritti
   Verifica "installazione con le sue finestre, .Mod spuntati" ConFinestre
   Verifica "installazione mentre il programma e' aperto: detto; annulla, riprova" MentreGira
   Verifica "installazione con i .Mod di un altro programma: chiesto, No" DettoNo
@@ -167,6 +207,7 @@ InstallazioneSenzaFinestre() {
   Verifica "voce fra i programmi installati" grep -q DisplayVersion <(Registro "$Voce")
   Verifica "i file .Mod non sono presi senza richiesta" SenzaAssociazione
   Verifica "aggiornamento nella stessa cartella, .Mod a richiesta" Aggiorna
+  Verifica "disinstallazione per tutti senza esserne amministratori: esito 4" ToglieSenzaDiritti
   Verifica "versione, icona e manifesto nel programma" Risorse
 }
 Rimozione() {
