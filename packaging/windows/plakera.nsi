@@ -2,8 +2,8 @@
 ;   VERSIONE  1.0.0            PROGRAMMA  folder with all that is installed
 ;   TOGLIE    a list of commands that remove it, file by file     USCITA  the installer to be written
 ;   ICONA     the program's    FIANCO     picture beside the first page and the last
-; Command line: /S without windows, /AllUsers or /CurrentUser, /MOD=1 opens .Mod files with Plakera,
-; /D=C:\folder (last, without quotes). Exit status, beside those of NSIS: 3 Windows is too old,
+; Command line: /S without windows, /AllUsers or /CurrentUser, /MOD=1 opens .Mod files with Plakera, /MOD=0
+; no longer, /D=C:\folder (last, without quotes). Exit status, beside those of NSIS: 3 Windows is too old,
 ; 4 rights are missing, 5 files cannot be written.
 Unicode true
 Target amd64-unicode
@@ -17,6 +17,8 @@ ManifestSupportedOS Win10
 !define TIPO "Plakera.Modello"
 ; What .Mod files were opened with before the user gave them to Plakera.
 !define PRIMA "AltroProgramma"
+; Whether they are Plakera's: the last answer, 1 or 0.
+!define RISPOSTA "Mod"
 ; What was installed, a line each, for the version that comes after.
 !define ELENCO "installati.txt"
 
@@ -29,12 +31,14 @@ ManifestSupportedOS Win10
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${CHIAVE_PROGRAMMA}"
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "Cartella"
 !define MULTIUSER_USE_PROGRAMFILES64
+!define MULTIUSER_INSTALLMODE_FUNCTION UtentiScelti
 !define MULTIUSER_INIT_TEXT_ALLUSERSNOTPOSSIBLE \
   "Per installare o togliere Plakera per tutti gli utenti servono i diritti di amministratore."
 !include MultiUser.nsh
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include Sections.nsh
 !include TextFunc.nsh
 !include WinVer.nsh
 !include x64.nsh
@@ -69,6 +73,10 @@ VIAddVersionKey /LANG=1040 LegalCopyright "${NOME}"
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "Italian"
+
+; What the command line says, or nothing.
+Var CartellaDetta
+Var ModDetto
 
 ; Windows keeps a running program's file from being written.
 !macro SoloSeChiuso
@@ -106,6 +114,29 @@ VIAddVersionKey /LANG=1040 LegalCopyright "${NOME}"
       Quit
     ${EndIf}
   ${EndIf}
+!macroend
+
+; What is still ours of the .Mod files goes back to whom it was taken from, if he is still there.
+!macro LasciaMod
+  ReadRegStr $0 SHCTX "Software\Classes\.mod" ""
+  ${If} $0 == "${TIPO}"
+    ReadRegStr $1 SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}"
+    ${If} $1 != ""
+      EnumRegKey $0 HKCR "$1" 0
+    ${Else}
+      StrCpy $0 ""
+    ${EndIf}
+    ${If} $0 == ""
+      DeleteRegValue SHCTX "Software\Classes\.mod" ""
+    ${Else}
+      WriteRegStr SHCTX "Software\Classes\.mod" "" "$1"
+    ${EndIf}
+  ${EndIf}
+  DeleteRegValue SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}"
+  DeleteRegValue SHCTX "Software\Classes\.mod\OpenWithProgids" "${TIPO}"
+  DeleteRegKey /ifempty SHCTX "Software\Classes\.mod\OpenWithProgids"
+  DeleteRegKey /ifempty SHCTX "Software\Classes\.mod"
+  DeleteRegKey SHCTX "Software\Classes\${TIPO}"
 !macroend
 
 ; The licences of an older version may be others. Only what that version put there, never what is not known:
@@ -169,22 +200,42 @@ SectionEnd
 ; Chosen by nobody unless ticked. What another program has is only taken over where the user says so;
 ; without windows nobody is there to say it.
 Section /o "Apri i file .Mod con Plakera" SezioneMod
+  ; Of those for whom it is installed: what a user has for himself goes before what is there for all.
+  ReadRegStr $1 SHCTX "Software\Classes\.mod" ""
+  StrCpy $0 $1
+  ${If} $0 == ""
+  ${AndIf} $MultiUser.InstallMode == "CurrentUser"
+    ReadRegStr $0 HKLM "Software\Classes\.mod" ""
+  ${EndIf}
+  ${If} $0 != ""
+  ${AndIf} $0 != "${TIPO}"
+    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "I file .Mod si aprono ora con un altro programma ($0).$\r$\nAprirli con Plakera?" /SD IDNO IDYES prende
+    !insertmacro LasciaMod
+    WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "${RISPOSTA}" "0"
+    Goto fatto
+    prende:
+  ${EndIf}
+  ${If} $1 == ""
+    DeleteRegValue SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}"
+  ${ElseIf} $1 != "${TIPO}"
+    WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}" "$1"
+  ${EndIf}
   WriteRegStr SHCTX "Software\Classes\${TIPO}" "" "Modello di stampa"
   WriteRegStr SHCTX "Software\Classes\${TIPO}\DefaultIcon" "" "$INSTDIR\plakera.exe,0"
   WriteRegStr SHCTX "Software\Classes\${TIPO}\shell\open\command" "" '"$INSTDIR\plakera.exe" "%1"'
   WriteRegStr SHCTX "Software\Classes\.mod\OpenWithProgids" "${TIPO}" ""
-  ReadRegStr $0 HKCR ".mod" ""
-  ${If} $0 != ""
-  ${AndIf} $0 != "${TIPO}"
-    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "I file .Mod si aprono ora con un altro programma ($0).$\r$\nAprirli con Plakera?" /SD IDNO IDYES prende
-    Goto fatto
-    prende:
-    ReadRegStr $1 SHCTX "Software\Classes\.mod" ""
-    WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}" "$1"
-  ${EndIf}
   WriteRegStr SHCTX "Software\Classes\.mod" "" "${TIPO}"
+  WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "${RISPOSTA}" "1"
   fatto:
   !insertmacro RinnovaIcone
+SectionEnd
+
+Section "-SenzaMod"
+  ${IfNot} ${SectionIsSelected} ${SezioneMod}
+    !insertmacro LasciaMod
+    WriteRegStr SHCTX "${CHIAVE_PROGRAMMA}" "${RISPOSTA}" "0"
+    !insertmacro RinnovaIcone
+  ${EndIf}
 SectionEnd
 
 ; Two lines each: the page has room for no more.
@@ -194,6 +245,23 @@ LangString DescriviMod ${LANG_ITALIAN} "Un doppio clic su un modello lo apre con
   !insertmacro MUI_DESCRIPTION_TEXT ${SezioneProgramma} $(DescriviProgramma)
   !insertmacro MUI_DESCRIPTION_TEXT ${SezioneMod} $(DescriviMod)
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
+
+; Called whenever it is known for whom it is installed, and again when the user says otherwise.
+Function UtentiScelti
+  ${If} $CartellaDetta != ""
+    StrCpy $INSTDIR $CartellaDetta
+  ${EndIf}
+  ; An upgrade leaves the choice that was made.
+  StrCpy $0 $ModDetto
+  ${If} $0 == ""
+    ReadRegStr $0 SHCTX "${CHIAVE_PROGRAMMA}" "${RISPOSTA}"
+  ${EndIf}
+  ${If} $0 == 1
+    !insertmacro SelectSection ${SezioneMod}
+  ${Else}
+    !insertmacro UnselectSection ${SezioneMod}
+  ${EndIf}
+FunctionEnd
 
 Function .onInit
   ${IfNot} ${RunningX64}
@@ -205,24 +273,11 @@ Function .onInit
   ${EndIf}
   SetRegView 64
   !insertmacro SoloConDiritti
-  StrCpy $2 $INSTDIR ; what /D= says, or nothing
-  !insertmacro MULTIUSER_INIT
-  ${If} $2 != ""
-    StrCpy $INSTDIR $2
-  ${EndIf}
+  StrCpy $CartellaDetta $INSTDIR
   ${GetParameters} $0
   ClearErrors
-  ${GetOptions} $0 "/MOD=" $1
-  ${If} ${Errors}
-    ; An upgrade leaves the choice that was made.
-    ReadRegStr $1 SHCTX "Software\Classes\${TIPO}\shell\open\command" ""
-    ${If} $1 != ""
-      StrCpy $1 1
-    ${EndIf}
-  ${EndIf}
-  ${If} $1 == 1
-    !insertmacro SelectSection ${SezioneMod}
-  ${EndIf}
+  ${GetOptions} $0 "/MOD=" $ModDetto
+  !insertmacro MULTIUSER_INIT
 FunctionEnd
 
 Function un.onInit
@@ -233,20 +288,7 @@ FunctionEnd
 
 Section Uninstall
   !insertmacro SoloSeChiuso
-  ; What is still ours of the .Mod files goes back to whom it was taken from.
-  ReadRegStr $0 SHCTX "Software\Classes\.mod" ""
-  ${If} $0 == "${TIPO}"
-    ReadRegStr $1 SHCTX "${CHIAVE_PROGRAMMA}" "${PRIMA}"
-    ${If} $1 == ""
-      DeleteRegValue SHCTX "Software\Classes\.mod" ""
-    ${Else}
-      WriteRegStr SHCTX "Software\Classes\.mod" "" "$1"
-    ${EndIf}
-  ${EndIf}
-  DeleteRegValue SHCTX "Software\Classes\.mod\OpenWithProgids" "${TIPO}"
-  DeleteRegKey /ifempty SHCTX "Software\Classes\.mod\OpenWithProgids"
-  DeleteRegKey /ifempty SHCTX "Software\Classes\.mod"
-  DeleteRegKey SHCTX "Software\Classes\${TIPO}"
+  !insertmacro LasciaMod
   DeleteRegKey SHCTX "Software\Microsoft\Windows\CurrentVersion\App Paths\plakera.exe"
   DeleteRegKey SHCTX "${CHIAVE_DISINSTALLA}"
   DeleteRegKey SHCTX "${CHIAVE_PROGRAMMA}"

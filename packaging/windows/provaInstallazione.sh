@@ -106,7 +106,24 @@ Chiede() { # pictures, key for the answer
 }
 DettoNo() { # the answer that is proposed
   AltroInstallato
-  Chiede altrui_no Return && DiAltro
+  Chiede altrui_no Return && DiAltro && NonDiPlakera
+}
+DopoIlNo() { # nobody has them any more, and nobody was asked
+  wine reg delete "$Classi\\.mod" /f > /dev/null
+  Installa /AllUsers && NonDiPlakera
+}
+DettoSi() {
+  AltroInstallato
+  Chiede altrui_si alt+y && DiPlakera && Registro 'HKLM\Software\Plakera' /v AltroProgramma | Contiene 'Altro\.Programma'
+}
+GiaNostri() { # what one user has for himself is no reason to ask whose those of all are
+  wine reg add 'HKCU\Software\Classes\.mod' /ve /d Altro.Diverso /f > /dev/null
+  FinoAllaCartella nostri '' && Avanti Return && sleep 2 && Foto nostri_5_fine && [ "$(QuanteFinestre)" -eq 1 ] &&
+    Tasti Return && Attende 30 NessunaFinestra && DiPlakera &&
+    Registro 'HKLM\Software\Plakera' /v AltroProgramma | Contiene 'Altro\.Programma'
+  local esito=$?
+  wine reg delete 'HKCU\Software\Classes\.mod' /f > /dev/null
+  return $esito
 }
 AllaFineEsegue() { # by Explorer, whose place one takes that writes down what it is called with
   local esploratore="$WINEPREFIX/drive_c/windows/explorer.exe" esito
@@ -127,7 +144,11 @@ ToltoConFinestre() {
   wine "$solita/disinstalla.exe" > /dev/null 2>&1 &
   disown
   SiApre '^Disinstallazione di Plakera' && sleep 2 && Foto disinstalla_1 && Avanti Return && sleep 2 && Foto disinstalla_2 &&
-    Tasti Return && Attende 30 NessunaFinestra && Attende 30 eval '[ ! -e "$solita" ]' && DiAltro
+    Tasti Return && Attende 30 NessunaFinestra && Attende 30 eval '[ ! -e "$solita" ]' && DiAltro && NonDiPlakera
+}
+AltroTornatoVia() { # whom they were taken from is gone by then
+  Chiede altrui_via alt+y && DiPlakera && AltroTolto && wine "$solita/disinstalla.exe" /AllUsers /S &&
+    Attende 60 eval '[ ! -e "$solita" ]' && NelRegistroManca "$Classi\\.mod"
 }
 
 # ---------------------------------------------------------------- without windows
@@ -165,6 +186,8 @@ Aggiorna() { # over older files, among them a licence that is not packed any mor
   printf 'licenze\\%s\r\n' vecchia.txt '..\mio.txt' '../mio.txt' 'mia.tx?' '*' >> "$casa/installati.txt"
   Installa /AllUsers /MOD=1 && diff -r "$nuovi" "$casa" && [ ! -e "$solita" ] && DiPlakera
 }
+SenzaDirlo() { Installa /AllUsers && DiPlakera; }
+Lasciati() { Installa /AllUsers /MOD=0 && NonDiPlakera && Installa /AllUsers && NonDiPlakera; }
 ToglieSenzaDiritti() { # run where it stands, or it would end at once and go on elsewhere
   (cd "$casa" && ConEsito 4 timeout 60 wine cmd /c "SenzaDiritti disinstalla.exe /AllUsers /S _?=$cartella") &&
     [ -f "$casa/plakera.exe" ] && Registro "$Voce" | Contiene DisplayVersion
@@ -183,7 +206,7 @@ Toglie() { # a copy of it goes on, when it has ended itself
 }
 Altrui() {
   AltroInstallato
-  Installa /AllUsers /MOD=1 && DiAltro
+  Installa /AllUsers /MOD=1 && DiAltro && NonDiPlakera
 }
 PerUtente() {
   Installa /CurrentUser /MOD=1 && ls "$WINEPREFIX/drive_c/users/"*/AppData/Local/Programs/Plakera/plakera.exe &&
@@ -196,9 +219,14 @@ InstallazioneConFinestre() {
   Verifica "per se' soli senza essere amministratori" SoloPerSeSenzaDiritti
   Verifica "installazione con le sue finestre, .Mod spuntati" ConFinestre
   Verifica "installazione mentre il programma e' aperto: detto; annulla, riprova" MentreGira
+  Verifica "la spunta tolta in un aggiornamento: i .Mod non si aprono piu' con Plakera" NonDiPlakera
   Verifica "installazione con i .Mod di un altro programma: chiesto, No" DettoNo
+  Verifica "dopo un No gli aggiornamenti non li prendono" DopoIlNo
+  Verifica "installazione con i .Mod di un altro programma: chiesto, Si'" DettoSi
+  Verifica "aggiornamento con i .Mod gia' nostri: non chiesto, si sa a chi renderli" GiaNostri
   Verifica "il programma si avvia dall'ultima pagina, attraverso Explorer" AllaFineEsegue
-  Verifica "disinstallazione con le sue finestre, i .Mod restano ad altri" ToltoConFinestre
+  Verifica "disinstallazione con le sue finestre, i .Mod tornano ad altri" ToltoConFinestre
+  Verifica "disinstallazione dopo che l'altro programma e' sparito: .Mod di nessuno" AltroTornatoVia
 }
 InstallazioneSenzaFinestre() {
   Verifica "installazione per tutti, percorso con spazi e accenti, fra file dell'utente" SiInstalla
@@ -207,6 +235,8 @@ InstallazioneSenzaFinestre() {
   Verifica "voce fra i programmi installati" grep -q DisplayVersion <(Registro "$Voce")
   Verifica "i file .Mod non sono presi senza richiesta" SenzaAssociazione
   Verifica "aggiornamento nella stessa cartella, .Mod a richiesta" Aggiorna
+  Verifica "aggiornamento che non dice nulla dei .Mod: restano" SenzaDirlo
+  Verifica "aggiornamento con /MOD=0: lasciati, e non ripresi dal seguente" Lasciati
   Verifica "disinstallazione per tutti senza esserne amministratori: esito 4" ToglieSenzaDiritti
   Verifica "versione, icona e manifesto nel programma" Risorse
 }
