@@ -83,6 +83,12 @@ void Prepara(QFileDialog &finestra)
             combo->setAccessibleName(nome);
         }
     }
+    // Styles put the frame of the focus within a button; as Qt measures these, Windows' lies below
+    // the icon.
+    constexpr QSize Intorno(6, 6);
+    for (auto *bottone : finestra.findChildren<QToolButton *>()) {
+        bottone->setFixedSize(bottone->sizeHint().expandedTo(bottone->minimumSize()) + Intorno);
+    }
     MostraFuoco(&finestra);
 }
 
@@ -222,7 +228,7 @@ QString ComandiStampa::ChiedeFile()
     finestra.selectFile(QFileInfo(stato_.NomeFile).completeBaseName() + QStringLiteral(".pdf"));
     ImpostaHelp(&finestra);
     while (finestra.exec() == QDialog::Accepted) {
-        const QString file = finestra.selectedFiles().value(0);
+        const QString file = QDir::toNativeSeparators(finestra.selectedFiles().value(0));
         stato_.CartellaEsportazione = QFileInfo(file).absolutePath();
         if (!QFileInfo::exists(file) ||
             Messaggi::Domanda(Davanti(),

@@ -22,12 +22,21 @@ const auto SenzaStampante =
     QStringLiteral("errore 482 Nessuna stampante predefinita è impostata.\nSceglierne una nelle "
                    "impostazioni del sistema, alla voce Stampanti, e ripetere.");
 
+#ifdef Q_OS_WIN // as the system's own windows have it
+constexpr const char *TipoDiCartella = "Cartella di file";
+#else
+constexpr const char *TipoDiCartella = "Cartella";
+#endif
+
 /// An editor, and a folder for the files that it writes.
 class Prova : public StoriaDiProva
 {
 public:
     QString Striscia() const { return Trova<QLabel>(Anteprima(), "Text1")->text(); }
-    QString In(const QString &nome) const { return cartella_.filePath(nome); }
+    QString In(const QString &nome) const
+    {
+        return QDir::toNativeSeparators(cartella_.filePath(nome));
+    }
     void Esporta() const { Bottone("EsportaPdf")->click(); }
     /// What the command line, and the printer, would put on the same page.
     LettorePdf Atteso(bool StampaNome = false) const
@@ -247,8 +256,7 @@ void tst_ComandiStampa::cartellaNonScrivibile()
     prova.Esporta();
     QVERIFY(robot.Soddisfatto());
     QVERIFY2(
-        robot.Testi().constLast().contains(
-            QStringLiteral("impossibile scrivere %1: ").arg(QDir::fromNativeSeparators(uscita))),
+        robot.Testi().constLast().contains(QStringLiteral("impossibile scrivere %1: ").arg(uscita)),
         qPrintable(robot.Testi().constLast()));
     QCOMPARE(prova.Striscia(), QString());
 }
@@ -310,7 +318,7 @@ void tst_ComandiStampa::laFinestraDeiFileParlaItaliano()
     prova.Esporta();
     QVERIFY(robot.Soddisfatto());
     QCOMPARE(righe.value(QStringLiteral("sotto")),
-             (QStringList{QString(), QStringLiteral("Cartella")}));
+             (QStringList{QString(), QLatin1String(TipoDiCartella)}));
     QCOMPARE(righe.value(QStringLiteral("uno.pdf")),
              (QStringList{QStringLiteral("3 byte"), QStringLiteral("File PDF")}));
     QCOMPARE(righe.value(QStringLiteral("due")),
