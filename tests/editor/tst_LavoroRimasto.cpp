@@ -2,6 +2,7 @@
 #include "editor/FrmLavoroRimasto.h"
 #include "editor/LavoroRimasto.h"
 #include "model/FileModello.h"
+#include "sistema/CartellaStato.h"
 #include "support/ArchivioDiProva.h"
 #include "support/FileDiProva.h"
 #include "support/Finestre.h"
@@ -239,7 +240,7 @@ void tst_LavoroRimasto::DanneggiataSiDice()
 {
     ArchivioDiProva prova;
     Lascia(prova, 77);
-    const QString copia = Copie(prova) + u'/' + NomiIn(Copie(prova)).constFirst();
+    const QString copia = ::CartellaStato() + u'/' + NomiIn(Copie(prova)).constFirst();
     ScriveFile(copia, ByteDi(copia).chopped(1));
     Robot robot;
     Sceglie(robot, Tieni);
