@@ -56,11 +56,13 @@ fi
 openbox > /dev/null 2>&1 &
 gestore=$!
 trap 'kill $gestore; wineserver -k || true' EXIT
+diario=$dove/Testing/Temporary/LastTest.log
+rm -f "$diario" # where ctest cannot start, the one before tells nothing of this run
 ctest --test-dir "$dove" --timeout 300 "$@" > "$dove/ctest.log" 2>&1 || true
 
 # A line for each program; then what failed, as wine.txt has it, with an asterisk for a program that did not
 # end by itself.
-tr -d '\r' < "$dove/Testing/Temporary/LastTest.log" | LC_ALL=C awk -v noti="$qui/wine.txt" -v falliti="$dove/falliti.txt" '
+tr -d '\r' < "$diario" | LC_ALL=C awk -v noti="$qui/wine.txt" -v falliti="$dove/falliti.txt" '
   BEGIN {
     while ((getline riga < noti) > 0) if (riga !~ /^#/ && split(riga, parola, " ") > 1) noto[parola[1] " " parola[2]] = 1
     printf "" > falliti
@@ -75,16 +77,20 @@ tr -d '\r' < "$dove/Testing/Temporary/LastTest.log" | LC_ALL=C awk -v noti="$qui
   /^(FAIL!|XPASS) / { nome = $0; sub(/^[^:]*: [^:]*::/, "", nome); sub(/\(.*/, "", nome); Fallisce(programma " " nome) }
   /^Totals: / { totali = $0; sub(/^Totals: /, "", totali) }
   /^Test time = / {
+    tutti++
     if (totali == "") Fallisce(programma " *")
     printf "%-34s %8.1f s  %s\n", programma, $4, totali == "" ? "did not end by itself" : totali
   }
+  # Nothing failed, and yet it ended with a status of its own: after its last line.
+  /^Test Failed/ && totali ~ / 0 failed,/ { Fallisce(programma " *") }
   END {
     for (che in noto) {
       split(che, parola, " ")
       if (parola[1] in provati && !(che in visto)) print "passes now: " che
     }
     print nuovi + 0 " failures that wine.txt does not name"
-    exit nuovi > 0
+    if (!tutti) print "no program was run"
+    exit nuovi > 0 || !tutti
   }' && stato=0 || stato=$?
 echo "--- failed:"
 sort "$dove/falliti.txt"
