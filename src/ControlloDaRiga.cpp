@@ -1,7 +1,6 @@
 #include "ControlloDaRiga.h"
 
 #include "UscitaStandard.h"
-
 #include "base/ErroreSistema.h"
 #include "controllo/ControlloDelModello.h"
 #include "documento/Documento.h"

@@ -48,7 +48,6 @@ private:
     void NonStampaCampo_Click();
     void Maschera_Change();
     void ControllaLunghezzaTesto() const;
-    /// Refuses the name that would end the fields in the file.
 
     std::unique_ptr<Ui::FrmCampo> ui_;
     SorgenteCasuale casuale_;
