@@ -26,6 +26,7 @@ private slots:
     void CampineriSpegneICampi();
     void PrimoPianoPerSuperficie();
     void PrimoPianoCampiMisuratiSulloSchermo();
+    void PrimoPianoCampiMinimiPerTestoDellIndice();
     void PrimoPianoSenzaElementi();
     void RigheSimulateDavantiATutto();
     void RigheFuoriFoglioTralasciate();
@@ -256,6 +257,24 @@ void tst_ElementiFoglio::PrimoPianoCampiMisuratiSulloSchermo()
     banco.frm->ImpostazioniCampo(1);
     banco.frm->PrimoPianoCampi();
     QVERIFY(banco.C1(1)->zValue() > banco.C1(2)->zValue());
+}
+
+void tst_ElementiFoglio::PrimoPianoCampiMinimiPerTestoDellIndice()
+{
+    // At zoom 3 the areas of short texts round to the same: the text of the index decides.
+    Banco banco;
+    banco.stato.zoom = 3;
+    for (int k = 1; k <= 10; ++k) {
+        banco.Campo(QStringLiteral("c%1").arg(k), 10, 10, QStringLiteral("i"));
+        banco.Cambia([k](Modello &modello) { modello.Campi[k].Dimensione = 6; });
+        banco.frm->ImpostazioniCampo(k);
+        const QSizeF misura = banco.C1(k)->Posto().size();
+        QVERIFY(misura.width() * misura.height() < 1.5);
+    }
+    banco.frm->PrimoPianoCampi();
+    QVERIFY(banco.C1(1)->zValue() > banco.C1(10)->zValue());
+    QVERIFY(banco.C1(10)->zValue() > banco.C1(2)->zValue());
+    QVERIFY(banco.C1(2)->zValue() > banco.C1(3)->zValue());
 }
 
 void tst_ElementiFoglio::PrimoPianoSenzaElementi()
